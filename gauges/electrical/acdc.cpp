@@ -1,0 +1,113 @@
+/// AC/DC meters (overhead): on the left amperes and volts of the selected DC source, on the right load
+/// and volts of the selected AC source. Without DC power every meter falls to 0. A meter whose source
+/// gives no reading keeps its last one.
+#include "module/catalogue.h"
+#include "module/controls.h"
+#include "module/host.h"
+#include "module/numbers.h"
+
+namespace tarnvale {
+namespace {
+
+constexpr u32 position_off = 0;
+constexpr u32 position_apu = 1;       // of the AC selector
+constexpr u32 position_external = 7;  // of the AC selector
+constexpr u32 position_tie = 4;       // of the DC selector: fed by external power where connected
+
+/// The last reading of each meter.
+constinit i32 dc_load, dc_voltage, ac_load, ac_voltage;
+
+bool external_power() { return aircraft.ext_power_switch == 1; }
+
+/// The source's reading at each selector position differs a little, as no two shunts are alike.
+f64 selected_dc_load(f64 amperes) {
+  constexpr f64 offset[] = {0, 0, -2, 6, -15, 8, -3, 4};
+  const u32 position = aircraft.dc_meter_selector;
+  if (position == position_off) return 0;
+  if (position == position_tie && external_power()) return amperes;
+  return amperes + offset[position];
+}
+
+f64 show_dc_load(Element*) {
+  dc_load = aircraft.dc_power_on == 0 ? 0 : whole_i32(selected_dc_load(read(token::dc_amperes)));
+  return dc_load;
+}
+
+/// The voltmeter's source is read from above and from below the middle of its scale; exactly at the
+/// middle it gives nothing new.
+i32 selected_dc_voltage(f64 source) {
+  constexpr f64 middle = 66;
+  constexpr f64 above[] = {0, -18, -20, -19, 0, -18, -20, -19};
+  constexpr f64 below[] = {0, 5, 4, 3, 0, 2, 3, 6};
+  const u32 position = aircraft.dc_meter_selector;
+  if (position == position_off) return 0;
+  if (position == position_tie) return whole_i32(source - (external_power() ? 18 : 20));
+  if (source > middle) return whole_i32(source + above[position]);
+  if (source < middle) return whole_i32(source + below[position]);
+  return dc_voltage < 90 ? dc_voltage : 90;
+}
+
+f64 show_dc_voltage(Element*) {
+  dc_voltage = aircraft.dc_power_on == 0 ? 0 : selected_dc_voltage(read(token::dc_volts));
+  return dc_voltage;
+}
+
+f64 selected_ac_voltage() {
+  constexpr f64 offset[] = {0, 89, 92, 90, 91, 88, 90, 0};
+  const u32 position = aircraft.ac_meter_selector;
+  if (position == position_off) return 0;
+  if (position == position_external) return external_power() ? 270 : 0;
+  if (position == position_apu && aircraft.apu_gen_switch != 1) return 0;
+  return read(position <= 4 ? token::gen1_meter : token::gen2_meter) + offset[position];
+}
+
+f64 show_ac_voltage(Element*) {
+  ac_voltage = aircraft.dc_power_on == 0 ? 0 : whole_i32(selected_ac_voltage());
+  return ac_voltage;
+}
+
+/// The APU's generator carries a little more when the engines turn and their pumps run.
+i32 apu_load() {
+  constexpr f64 turning_percent = 10.0;
+  if (aircraft.apu_gen_switch == 0) return 0;
+  const f64 eng1 = read(token::eng1_core_speed);
+  const f64 eng2 = read(token::eng2_core_speed);
+  if (aircraft.apu_gen_switch == 1 && eng1 > turning_percent && eng2 > turning_percent) return 22;
+  if (aircraft.apu_gen_switch == 1 && eng1 < turning_percent && eng2 < turning_percent) return 20;
+  return ac_load < 360 ? ac_load : 360;
+}
+
+i32 selected_ac_load() {
+  constexpr f64 offset[] = {0, 0, 5, 2, 3, 2, 6, 0};
+  const u32 position = aircraft.ac_meter_selector;
+  if (position == position_off) return 0;
+  if (position == position_apu) return apu_load();
+  if (position == position_external) return external_power() ? 18 : 0;
+  return whole_i32(read(position <= 4 ? token::gen1_load : token::gen2_load) + offset[position]);
+}
+
+f64 show_ac_load(Element*) {
+  ac_load = aircraft.dc_power_on == 0 ? 0 : selected_ac_load();
+  return ac_load;
+}
+
+constexpr PanelPoint pivot{4, 1};
+constexpr Scale<3> dc_load_scale{{{12, 16}, -120}, {{37, 5}, 0}, {{61, 16}, 120}};
+constexpr Scale<4> dc_voltage_scale{{{9, 95}, 0}, {{11, 92}, 45}, {{49, 83}, 66}, {{60, 92}, 90}};
+constexpr Scale<3> ac_voltage_scale{{{94, 96}, 0}, {{135, 85}, 270}, {{145, 93}, 360}};
+constexpr Scale<4> ac_load_scale{{{95, 16}, 0}, {{119, 4}, 20}, {{144, 16}, 40}, {{144, 17}, 360}};
+
+}  // namespace
+
+constinit Gauge<11, 0> acdc{
+    Face{.name = "Acdc", .width_mm = 157, .background = 340},
+    {
+        lighting_overlay(360),
+        needle(350, {37, 38}, pivot, dc_load_scale, show_dc_load),
+        needle(350, {36, 112}, pivot, dc_voltage_scale, show_dc_voltage),
+        needle(350, {121, 112}, pivot, ac_voltage_scale, show_ac_voltage),
+        needle(350, {120, 37}, pivot, ac_load_scale, show_ac_load),
+    },
+};
+
+}  // namespace tarnvale

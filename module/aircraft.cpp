@@ -1,0 +1,7 @@
+#include "module/aircraft.h"
+
+namespace tarnvale {
+
+constinit Aircraft aircraft{};
+
+}  // namespace tarnvale

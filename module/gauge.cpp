@@ -1,0 +1,45 @@
+#include "module/gauge.h"
+
+#include "module/host.h"
+
+namespace tarnvale {
+namespace {
+
+/// By day the lit copy is hidden. A light that reads as no number counts as dark.
+void switch_day_and_night(const GaugeFrame& gauge) {
+  if (gauge.lit == nullptr) return;
+  const f64 light = read(gauge.light_token);
+  if (light != 0.0 && light == light) {
+    gauge.lit->image_flags &= ~IMAGE_HIDE_CHAIN;
+  } else {
+    gauge.lit->image_flags |= IMAGE_HIDE_CHAIN;
+  }
+}
+
+void call(void (*routine)()) {
+  if (routine != nullptr) routine();
+}
+
+}  // namespace
+
+void serve(const GaugeHeader* header, u32 service_id, uintptr_t extra_data) {
+  // The header is the first field of its gauge.
+  const GaugeFrame& gauge = *reinterpret_cast<const GaugeFrame*>(header);
+  switch (service_id) {
+    case SERVICE_START:
+      if (gauge.services.start != nullptr) gauge.services.start(extra_data);
+      break;
+    case SERVICE_SET_UP: return call(gauge.services.set_up);
+    case SERVICE_TICK: switch_day_and_night(gauge); return call(gauge.services.tick);
+    case SERVICE_AFTER_VALUES: return call(gauge.services.after_values);
+    case SERVICE_BEFORE_DRAW: return call(gauge.services.before_draw);
+    case SERVICE_END: return call(gauge.services.end);
+  }
+}
+
+f64 lighting_image(Element*) {
+  const u32 level = aircraft.instrument_light_level;
+  return level <= 2 ? level : 0;
+}
+
+}  // namespace tarnvale
