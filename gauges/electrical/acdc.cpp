@@ -1,5 +1,5 @@
-/// AC/DC meters (overhead): on the left amperes and volts of the selected DC source, on the right load
-/// and volts of the selected AC source. Without DC power every meter falls to 0. A meter whose source
+/// AC/DC meters (overhead): on the left amperes and volts of the selected DC source, on the right
+/// frequency and volts of the selected AC source. Without DC power every meter falls to 0. A meter whose source
 /// gives no reading keeps its last one.
 #include "module/catalogue.h"
 #include "module/controls.h"
@@ -15,7 +15,7 @@ constexpr u32 position_external = 7;  // of the AC selector
 constexpr u32 position_tie = 4;       // of the DC selector: fed by external power where connected
 
 /// The last reading of each meter.
-constinit i32 dc_load, dc_voltage, ac_load, ac_voltage;
+constinit i32 dc_load, dc_voltage, ac_frequency, ac_voltage;
 
 bool external_power() { return aircraft.ext_power_switch == 1; }
 
@@ -66,36 +66,37 @@ f64 show_ac_voltage(Element*) {
   return ac_voltage;
 }
 
-/// The APU's generator carries a little more when the engines turn and their pumps run.
-i32 apu_load() {
+/// The frequency meter's scale runs from 380 to 420 hertz as 0 to 40. The APU's governor holds 400, and
+/// a little above once both engines turn and take the load off it.
+i32 apu_frequency() {
   constexpr f64 turning_percent = 10.0;
   if (aircraft.apu_gen_switch == 0) return 0;
   const f64 eng1 = read(token::eng1_core_speed);
   const f64 eng2 = read(token::eng2_core_speed);
   if (aircraft.apu_gen_switch == 1 && eng1 > turning_percent && eng2 > turning_percent) return 22;
   if (aircraft.apu_gen_switch == 1 && eng1 < turning_percent && eng2 < turning_percent) return 20;
-  return ac_load < 360 ? ac_load : 360;
+  return ac_frequency < 360 ? ac_frequency : 360;
 }
 
-i32 selected_ac_load() {
+i32 selected_ac_frequency() {
   constexpr f64 offset[] = {0, 0, 5, 2, 3, 2, 6, 0};
   const u32 position = aircraft.ac_meter_selector;
   if (position == position_off) return 0;
-  if (position == position_apu) return apu_load();
+  if (position == position_apu) return apu_frequency();
   if (position == position_external) return external_power() ? 18 : 0;
   return whole_i32(read(position <= 4 ? token::gen1_load : token::gen2_load) + offset[position]);
 }
 
-f64 show_ac_load(Element*) {
-  ac_load = aircraft.dc_power_on == 0 ? 0 : selected_ac_load();
-  return ac_load;
+f64 show_ac_frequency(Element*) {
+  ac_frequency = aircraft.dc_power_on == 0 ? 0 : selected_ac_frequency();
+  return ac_frequency;
 }
 
 constexpr PanelPoint pivot{4, 1};
 constexpr Scale<3> dc_load_scale{{{12, 16}, -120}, {{37, 5}, 0}, {{61, 16}, 120}};
 constexpr Scale<4> dc_voltage_scale{{{9, 95}, 0}, {{11, 92}, 45}, {{49, 83}, 66}, {{60, 92}, 90}};
 constexpr Scale<3> ac_voltage_scale{{{94, 96}, 0}, {{135, 85}, 270}, {{145, 93}, 360}};
-constexpr Scale<4> ac_load_scale{{{95, 16}, 0}, {{119, 4}, 20}, {{144, 16}, 40}, {{144, 17}, 360}};
+constexpr Scale<4> ac_frequency_scale{{{95, 16}, 0}, {{119, 4}, 20}, {{144, 16}, 40}, {{144, 17}, 360}};
 
 }  // namespace
 
@@ -106,7 +107,7 @@ constinit Gauge<11, 0> acdc{
         needle(350, {37, 38}, pivot, dc_load_scale, show_dc_load),
         needle(350, {36, 112}, pivot, dc_voltage_scale, show_dc_voltage),
         needle(350, {121, 112}, pivot, ac_voltage_scale, show_ac_voltage),
-        needle(350, {120, 37}, pivot, ac_load_scale, show_ac_load),
+        needle(350, {120, 37}, pivot, ac_frequency_scale, show_ac_frequency),
     },
 };
 

@@ -199,7 +199,7 @@ class Meters : public Electrics {
   f64 dc_load() { return meters.value_at({37, 38}); }
   f64 dc_volts() { return meters.value_at({36, 112}); }
   f64 ac_volts() { return meters.value_at({121, 112}); }
-  f64 ac_load() { return meters.value_at({120, 37}); }
+  f64 ac_frequency() { return meters.value_at({120, 37}); }
   void SetUp() override { power(true); }
 };
 
@@ -253,20 +253,20 @@ TEST_F(Meters, AcMetersReadTheSelectedSource) {
   aircraft.apu_gen_switch = 1;
   aircraft.ext_power_switch = 1;
   const f64 volts[] = {0, 269, 272, 270, 271, 258, 260, 270};
-  const f64 load[] = {0, 20, 17, 14, 15, 16, 20, 18};
+  const f64 frequency[] = {0, 20, 17, 14, 15, 16, 20, 18};
   for (u32 position = 0; position < 8; ++position) {
     aircraft.ac_meter_selector = position;
     meters.frame();
     EXPECT_EQ(ac_volts(), volts[position]) << position;
-    EXPECT_EQ(ac_load(), load[position]) << position;
+    EXPECT_EQ(ac_frequency(), frequency[position]) << position;
   }
   aircraft.ext_power_switch = 0;
   meters.frame();
   EXPECT_EQ(ac_volts(), 0) << "external power switched off";
-  EXPECT_EQ(ac_load(), 0);
+  EXPECT_EQ(ac_frequency(), 0);
 }
 
-TEST_F(Meters, ApuLoadKeepsItsReadingWhileTheEnginesDisagree) {
+TEST_F(Meters, ApuFrequencyKeepsItsReadingWhileTheEnginesDisagree) {
   aircraft.ac_meter_selector = 1;
   aircraft.apu_gen_switch = 1;
   struct Row {
@@ -277,11 +277,11 @@ TEST_F(Meters, ApuLoadKeepsItsReadingWhileTheEnginesDisagree) {
     host.tokens[token::eng1_core_speed] = row.eng1;
     host.tokens[token::eng2_core_speed] = row.eng2;
     meters.frame();
-    EXPECT_EQ(ac_load(), row.load) << row.eng1 << "/" << row.eng2;
+    EXPECT_EQ(ac_frequency(), row.load) << row.eng1 << "/" << row.eng2;
   }
   aircraft.apu_gen_switch = 0;
   meters.frame();
-  EXPECT_EQ(ac_load(), 0);
+  EXPECT_EQ(ac_frequency(), 0);
 }
 
 TEST_F(Meters, EverythingRestsWithoutDcPower) {
@@ -291,7 +291,7 @@ TEST_F(Meters, EverythingRestsWithoutDcPower) {
   }
   power(false);
   meters.frame();
-  EXPECT_EQ(dc_load() + dc_volts() + ac_volts() + ac_load(), 0);
+  EXPECT_EQ(dc_load() + dc_volts() + ac_volts() + ac_frequency(), 0);
 }
 
 TEST_F(Electrics, LoadAndDriveMetersNeedTheirSwitches) {

@@ -1,0 +1,94 @@
+#include "host/simulation/aircraft_model.h"
+
+#include <cmath>
+#include <map>
+#include <set>
+#include <vector>
+
+#include "host/simulation/aircraft.h"
+#include "host/simulation/table.h"
+
+namespace host {
+namespace {
+
+/// The rows without their functions, for listings.
+template <typename Row>
+std::vector<TableRow> names_of(std::span<const Row> table) {
+  std::vector<TableRow> rows;
+  for (const Row& row : table) rows.push_back(row.row);
+  return rows;
+}
+
+}  // namespace
+
+struct AircraftModel::Systems {
+  simulation::Aircraft aircraft;
+  double pending_steps = 0.0;
+  std::map<std::uint32_t, double> held;
+  std::set<std::uint32_t> failed;
+};
+
+AircraftModel::AircraftModel() : systems_(std::make_unique<Systems>()) {}
+
+AircraftModel::AircraftModel(StartCondition condition) : AircraftModel() {
+  if (condition == StartCondition::ready) systems_->aircraft.make_ready();
+}
+
+AircraftModel::~AircraftModel() = default;
+
+void AircraftModel::advance(double seconds) {
+  if (!std::isfinite(seconds) || seconds <= 0.0) return;
+  // Time arrives in slices that are rarely a whole number of steps and never quite exact: a
+  // millionth of a step is forgiven, so that three thirds of a second are a second.
+  constexpr double forgiven_steps = 1e-6;
+  systems_->pending_steps += seconds * simulation::steps_per_second;
+  const double due = std::floor(systems_->pending_steps + forgiven_steps);
+  systems_->pending_steps -= due;
+  for (double done = 0.0; done < due; ++done) systems_->aircraft.step();
+}
+
+double AircraftModel::seconds() const { return systems_->aircraft.clock.elapsed_s(); }
+
+bool AircraftModel::key_event(std::uint32_t number, std::uint32_t value) {
+  const simulation::EventRow* row = simulation::find_event(number);
+  if (row == nullptr) return false;
+  row->apply(systems_->aircraft, value);
+  return true;
+}
+
+double AircraftModel::token(std::uint32_t number) const {
+  const auto held = systems_->held.find(number);
+  if (held != systems_->held.end()) return held->second;
+  const simulation::TokenRow* row = simulation::find_token(number);
+  return row != nullptr ? row->read(systems_->aircraft) : 0.0;
+}
+
+void AircraftModel::set_failed(std::uint32_t key, bool failed) {
+  if (failed) {
+    systems_->failed.insert(key);
+  } else {
+    systems_->failed.erase(key);
+  }
+}
+
+bool AircraftModel::failed(std::uint32_t key) const { return systems_->failed.contains(key); }
+
+void AircraftModel::hold_token(std::uint32_t number, std::optional<double> value) {
+  if (value) {
+    systems_->held[number] = *value;
+  } else {
+    systems_->held.erase(number);
+  }
+}
+
+std::span<const TableRow> AircraftModel::tokens() {
+  static const std::vector<TableRow> rows = names_of(simulation::token_table());
+  return rows;
+}
+
+std::span<const TableRow> AircraftModel::events() {
+  static const std::vector<TableRow> rows = names_of(simulation::event_table());
+  return rows;
+}
+
+}  // namespace host

@@ -1,0 +1,66 @@
+#include <cmath>
+#include <limits>
+
+#include "tests/simulation/aircraft_rig.h"
+
+namespace host {
+namespace {
+
+TEST(Switches, Each_event_flips_its_own_token_and_no_other_switch) {
+  struct Pair {
+    std::uint32_t event, token;
+    double on;
+  };
+  constexpr Pair pairs[] = {
+      {0x100D6, 10, 1},  {0x10018, 11, 1},  {0x100D7, 14, 1},  {0x102BF, 368, 1},
+      {0x102C0, 369, 1}, {0x1034B, 619, 1}, {0x10348, 620, 1}, {0x10346, 364, 1},
+      {0x102F5, 740, 1}, {0x103BE, 895, 1}, {0x103BF, 896, 1}, {0x100D8, 323, 32767},
+  };
+  for (const Pair& pressed : pairs) {
+    AircraftModel aircraft;
+    aircraft.key_event(pressed.event, 0);
+    for (const Pair& other : pairs) {
+      EXPECT_EQ(aircraft.token(other.token), other.event == pressed.event ? other.on : 0.0)
+          << std::hex << pressed.event << " and token " << std::dec << other.token;
+    }
+    aircraft.key_event(pressed.event, 0);
+    EXPECT_EQ(aircraft.token(pressed.token), 0.0) << "twice " << std::hex << pressed.event;
+  }
+}
+
+TEST(Switches, A_parked_aircraft_stands_still_on_the_field) {
+  AircraftModel aircraft;
+  aircraft.advance(30.0);
+  EXPECT_NEAR(reading(aircraft, "indicated_altitude"), 364.0, 0.01);
+  EXPECT_NEAR(reading(aircraft, "outside_air_temperature"), 14.28, 0.01);
+  EXPECT_NEAR(reading(aircraft, "pressure_setting_inches"), 29.92, 0.005);
+  EXPECT_EQ(reading(aircraft, "on_ground"), 1.0);
+  for (const char* name : {"vertical_speed", "indicated_airspeed", "radio_altitude"}) {
+    EXPECT_EQ(reading(aircraft, name), 0.0) << name;
+  }
+}
+
+TEST(HeldTokens, Show_any_value_until_let_go_and_leave_the_aircraft_alone) {
+  AircraftModel aircraft;
+  send(aircraft, "battery_toggle");
+  constexpr std::uint32_t battery = 364;
+  constexpr std::uint32_t nobodys = 4'000'000'000;
+  for (double value : {0.99, -1e300, std::numeric_limits<double>::infinity()}) {
+    aircraft.hold_token(battery, value);
+    aircraft.hold_token(nobodys, value);
+    aircraft.advance(1.0);
+    EXPECT_EQ(aircraft.token(battery), value);
+    EXPECT_EQ(aircraft.token(nobodys), value);
+  }
+  aircraft.hold_token(battery, std::nan(""));
+  EXPECT_TRUE(std::isnan(aircraft.token(battery)));
+  EXPECT_LT(reading(aircraft, "dc_amperes"), -10.0) << "the real battery is still on";
+
+  aircraft.hold_token(battery, std::nullopt);
+  aircraft.hold_token(nobodys, std::nullopt);
+  EXPECT_EQ(aircraft.token(battery), 1.0);
+  EXPECT_EQ(aircraft.token(nobodys), 0.0);
+}
+
+}  // namespace
+}  // namespace host
