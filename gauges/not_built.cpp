@@ -4,31 +4,6 @@
 
 namespace tarnvale {
 
-// ---- Air
-constinit Gauge<1, 0> bleedair{Face{.name = "Bleedair", .width_mm = 215, .background = 130}};
-constinit Gauge<1, 0> tempcon{Face{.name = "Tempcon", .width_mm = 180, .background = 170}};
-constinit Gauge<1, 0> tempset{Face{.name = "Tempset", .width_mm = 183, .background = 210}};
-constinit Gauge<1, 0> apu{Face{.name = "Apu", .width_mm = 180, .background = 240}};
-constinit Gauge<1, 0> engstart{Face{.name = "Engstart", .width_mm = 179, .background = 250}};
-constinit Gauge<1, 0> ductc{Face{.name = "Ductc", .width_mm = 158, .background = 270}};
-constinit Gauge<1, 0> cabc{Face{.name = "Cabc", .width_mm = 71, .background = 310}};
-constinit Gauge<1, 0> apuins{Face{.name = "Apuins", .width_mm = 77, .background = 460}};
-constinit Gauge<1, 0> windshield{Face{.name = "Windshield", .width_mm = 95, .background = 490}};
-constinit Gauge<1, 0> pitot{Face{.name = "Pitot", .width_mm = 71, .background = 1050}};
-constinit Gauge<1, 0> grdpsi{Face{.name = "Grdpsi", .width_mm = 70, .background = 1060}};
-constinit Gauge<1, 0> icepsi{Face{.name = "Icepsi", .width_mm = 149, .background = 1090}};
-constinit Gauge<1, 0> airfoil{Face{.name = "Airfoil", .width_mm = 162, .background = 1130}};
-constinit Gauge<1, 0> antiice{Face{.name = "Antiice", .width_mm = 69, .background = 1160}};
-constinit Gauge<1, 0> aimain{Face{.name = "Aimain", .width_mm = 189, .background = 1190}};
-constinit Gauge<1, 0> diffpress{Face{.name = "Diffpress", .width_mm = 116, .background = 1270}};
-constinit Gauge<1, 0> ramair{Face{.name = "Ramair", .width_mm = 141, .background = 1310}};
-constinit Gauge<1, 0> cabvs{Face{.name = "Cabvs", .width_mm = 77, .background = 1360}};
-constinit Gauge<1, 0> spdrive{Face{.name = "Spdrive", .width_mm = 125, .background = 1390}};
-constinit Gauge<1, 0> mancon{Face{.name = "Mancon", .width_mm = 56, .background = 1430}};
-constinit Gauge<1, 0> cabalt{Face{.name = "Cabalt", .width_mm = 163, .background = 1460}};
-constinit Gauge<1, 0> hydp{Face{.name = "Hydp", .width_mm = 208, .background = 3270}};
-constinit Gauge<1, 0> apulg{Face{.name = "Apulg", .width_mm = 25, .background = 13360}};
-
 // ---- Sound
 constinit Gauge<1, 0> stewcall{Face{.name = "Stewcall", .width_mm = 82, .background = 1030}};
 constinit Gauge<1, 0> hvsnd{Face{.name = "Hvsnd", .width_mm = 20, .background = 10}};

@@ -116,19 +116,25 @@ struct Guarded {
   u32 position = 0;  ///< 0 off, 1..last
 };
 
-template <Guarded& control>
+/// A guarded switch that other gauges read, so that its position is part of the shared state.
+struct GuardedShared {
+  u32 open = 0;
+  u32& position;
+};
+
+template <auto& control>
 f64 guard_image(Element*) {
   return control.open;
 }
 
 /// The switch under its guard, which forces it to rest whenever it is closed.
-template <Guarded& control>
+template <auto& control>
 f64 guarded_image(Element*) {
   if (control.open == 0) control.position = 0;
   return control.position;
 }
 
-template <Guarded& control>
+template <auto& control>
 i32 moves_guard(PanelPoint, u32) {
   control.open = control.open == 0;
   request(toggle_click_sound_request);
@@ -136,7 +142,7 @@ i32 moves_guard(PanelPoint, u32) {
 }
 
 /// One step on while the guard is open, from the last position and under a closed guard to rest.
-template <Guarded& control, u32 last = 1>
+template <auto& control, u32 last = 1>
 i32 works_guarded(PanelPoint, u32) {
   control.position = control.open != 0 && control.position < last ? control.position + 1 : 0;
   request(toggle_click_sound_request);

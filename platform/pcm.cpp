@@ -1,0 +1,43 @@
+#include "platform/pcm.h"
+
+#include <algorithm>
+
+namespace platform {
+namespace {
+
+std::int16_t sample_8(const BYTE* at) { return static_cast<std::int16_t>((*at - 128) * 256); }
+
+std::int16_t sample_16(const BYTE* at) { return static_cast<std::int16_t>(at[0] | at[1] << 8); }
+
+}  // namespace
+
+bool is_playable(const WAVEFORMATEX& format) {
+  const bool layout = (format.nChannels == 1 || format.nChannels == 2) &&
+                      (format.wBitsPerSample == 8 || format.wBitsPerSample == 16) &&
+                      format.nBlockAlign == format.nChannels * format.wBitsPerSample / 8;
+  const bool rate = format.nSamplesPerSec >= DSBFREQUENCY_MIN &&
+                    format.nSamplesPerSec <= DSBFREQUENCY_MAX;
+  return format.wFormatTag == WAVE_FORMAT_PCM && layout && rate;
+}
+
+void clear(Pcm& pcm) {
+  const BYTE silence = pcm.format.wBitsPerSample == 8 ? 0x80 : 0;
+  std::ranges::fill(pcm.bytes, silence);
+  ++pcm.version;
+}
+
+std::vector<std::int16_t> to_stereo(const Pcm& pcm) {
+  const std::size_t frame_size = pcm.format.nBlockAlign;
+  const std::size_t right_offset = pcm.format.nChannels == 2 ? frame_size / 2 : 0;
+  const auto sample = pcm.format.wBitsPerSample == 8 ? sample_8 : sample_16;
+  const std::size_t frames = pcm.bytes.size() / frame_size;
+  std::vector<std::int16_t> stereo(frames * 2);
+  for (std::size_t frame = 0; frame < frames; ++frame) {
+    const BYTE* at = pcm.bytes.data() + frame * frame_size;
+    stereo[frame * 2] = sample(at);
+    stereo[frame * 2 + 1] = sample(at + right_offset);
+  }
+  return stereo;
+}
+
+}  // namespace platform

@@ -1,0 +1,41 @@
+/// What a host asks of the platform layer: windows it owns, messages it wants, sound it takes.
+/// The module never includes this; it knows only the operating system's own calls.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+#if defined(__cplusplus)
+extern "C" {
+#endif
+
+/// Makes a window known to FindWindowA under `window_class`. A null `window` takes the class away.
+void platform_register_window(const char* window_class, void* window);
+
+/// Where MessageBoxA goes instead of a window or standard error. A null routine restores the default.
+typedef void (*PlatformMessageRoutine)(const char* text, const char* caption, void* context);
+void platform_on_message(PlatformMessageRoutine routine, void* context);
+
+/// Where sound goes. Chosen before the first DirectSoundCreate; later calls change nothing until all
+/// sound objects are released.
+enum PlatformAudio {
+  PLATFORM_AUDIO_DEVICE,    ///< the machine's default device, opened again when it is lost
+  PLATFORM_AUDIO_RENDERED,  ///< no device: platform_render_audio takes the mix in simulated time
+  PLATFORM_AUDIO_NONE       ///< DirectSoundCreate fails, as on a machine without sound
+};
+void platform_choose_audio(enum PlatformAudio audio);
+
+/// The format of the rendered mix.
+#define PLATFORM_AUDIO_RATE 44100
+#define PLATFORM_AUDIO_CHANNELS 2
+
+/// Takes the next `frames` stereo frames of the mix, signed 16 bit interleaved. Silence while nothing
+/// plays. Only with PLATFORM_AUDIO_RENDERED.
+void platform_render_audio(int16_t* samples, size_t frames);
+
+/// Marks every playing or idle sound buffer as lost, as a device that goes away does.
+void platform_lose_audio(void);
+
+#if defined(__cplusplus)
+}
+#endif

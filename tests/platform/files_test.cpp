@@ -1,0 +1,147 @@
+// Paths and mapped files: what the module opens by backslashed names in whatever letter case.
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <windows.h>
+
+#include <array>
+
+#include "tests/platform/temp_folder.h"
+
+namespace {
+
+HANDLE open_file(const char* path) {
+  return CreateFileA(path, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL,
+                     nullptr);
+}
+
+HANDLE map_file(HANDLE file) { return CreateFileMappingA(file, nullptr, PAGE_READONLY, 0, 0, nullptr); }
+
+/// The whole contents by way of a mapping; "-" if there is none.
+std::string contents(const char* path) {
+  const HANDLE file = open_file(path);
+  if (file == INVALID_HANDLE_VALUE) return "-";
+  const DWORD size = GetFileSize(file, nullptr);
+  const HANDLE mapping = map_file(file);
+  EXPECT_TRUE(CloseHandle(file));
+  const void* view = MapViewOfFile(mapping, FILE_MAP_READ, 0, 0, 0);
+  EXPECT_TRUE(CloseHandle(mapping));
+  const std::string read(static_cast<const char*>(view), size);
+  EXPECT_TRUE(UnmapViewOfFile(view));
+  return read;
+}
+
+std::string current_directory() {
+  std::array<char, 4096> path{};
+  EXPECT_LT(GetCurrentDirectoryA(path.size(), path.data()), path.size());
+  return path.data();
+}
+
+class Files : public testing::Test {
+ protected:
+  void SetUp() override {
+    before_ = current_directory();
+    folder_.write("Sound/Ground/Bell.wav", "bell");
+    folder_.write("click.wav", "lower");
+    folder_.write("Click.wav", "Upper");
+    folder_.write("empty.wav", "");
+    ASSERT_TRUE(SetCurrentDirectoryA(folder_.path().c_str()));
+  }
+  void TearDown() override { SetCurrentDirectoryA(before_.c_str()); }
+
+  TempFolder folder_;
+  std::string before_;
+};
+
+TEST_F(Files, PathsAreFoundWhateverTheirSlashesAndCase) {
+  const struct {
+    const char* path;
+    const char* contents;
+  } cases[] = {
+      {R"(Sound\Ground\Bell.wav)", "bell"},
+      {R"(sOUND\GROUND\bELL.WAV)", "bell"},
+      {"sound/ground/bell.wav", "bell"},
+      {R"(.\Sound\\Ground\..\ground/Bell.wav)", "bell"},
+      {"click.wav", "lower"},  // the exact name before any other
+      {"Click.wav", "Upper"},
+      {"CLICK.WAV", "Upper"},  // of several others always the same
+      {R"(Sound\Ground\Bells.wav)", "-"},
+      {R"(Sound\Ground)", "-"},  // a folder is no file
+      {R"(Sound\Missing\Bell.wav)", "-"},
+      {R"(click.wav\Bell.wav)", "-"},
+      {"", "-"},
+  };
+  for (const auto& test : cases) EXPECT_EQ(contents(test.path), test.contents) << test.path;
+  std::string absolute = (folder_.path() / "SOUND/ground/BELL.wav").native();
+  EXPECT_EQ(contents(absolute.c_str()), "bell");
+  std::replace(absolute.begin(), absolute.end(), '/', '\\');
+  EXPECT_EQ(contents(absolute.c_str()), "bell");
+}
+
+TEST_F(Files, TheCurrentDirectoryIsNotThePosixOne) {
+  const auto posix = std::filesystem::current_path();
+  EXPECT_TRUE(SetCurrentDirectoryA(R"(sound\.)"));
+  EXPECT_EQ(contents(R"(Ground\Bell.wav)"), "bell");
+  EXPECT_FALSE(SetCurrentDirectoryA("nowhere"));
+  EXPECT_FALSE(SetCurrentDirectoryA(R"(Ground\Bell.wav)"));
+  EXPECT_EQ(contents(R"(Ground\Bell.wav)"), "bell") << "a refused directory changes nothing";
+  EXPECT_EQ(std::filesystem::current_path(), posix);
+}
+
+TEST_F(Files, TheCurrentDirectoryIsGivenOnlyWhereItFits) {
+  const auto length = static_cast<DWORD>(folder_.path().native().size());
+  std::string path(length + 1, '?');
+  EXPECT_EQ(GetCurrentDirectoryA(length, path.data()), length + 1);
+  EXPECT_EQ(path.front(), '?');
+  EXPECT_EQ(GetCurrentDirectoryA(length + 1, path.data()), length);
+  EXPECT_STREQ(path.c_str(), folder_.path().c_str());
+}
+
+TEST_F(Files, OnlyOrdinaryFilesAreOpenedAndOnlyForReading) {
+  EXPECT_EQ(CreateFileA("click.wav", 0x40000000, 0, nullptr, OPEN_EXISTING, 0, nullptr),
+            INVALID_HANDLE_VALUE);
+  EXPECT_EQ(CreateFileA("new.wav", GENERIC_READ, 0, nullptr, 1, 0, nullptr), INVALID_HANDLE_VALUE);
+  ASSERT_EQ(mkfifo((folder_.path() / "pipe.wav").c_str(), 0600), 0);
+  EXPECT_EQ(open_file("pipe.wav"), INVALID_HANDLE_VALUE) << "and nobody waits for its other end";
+  EXPECT_EQ(open_file(nullptr), INVALID_HANDLE_VALUE);
+}
+
+TEST_F(Files, AnEmptyFileCannotBeMapped) {
+  const HANDLE file = open_file("empty.wav");
+  ASSERT_NE(file, INVALID_HANDLE_VALUE);
+  EXPECT_EQ(GetFileSize(file, nullptr), 0u);
+  EXPECT_EQ(map_file(file), nullptr);
+  EXPECT_EQ(map_file(INVALID_HANDLE_VALUE), nullptr);
+  EXPECT_TRUE(CloseHandle(file));
+}
+
+TEST_F(Files, HandlesAreGoodForOneCloseAndOneKind) {
+  const HANDLE file = open_file("click.wav");
+  const HANDLE mapping = map_file(file);
+  EXPECT_EQ(MapViewOfFile(file, FILE_MAP_READ, 0, 0, 0), nullptr);
+  EXPECT_EQ(GetFileSize(mapping, nullptr), INVALID_FILE_SIZE);
+  EXPECT_TRUE(CloseHandle(file));
+  EXPECT_FALSE(CloseHandle(file));
+  EXPECT_EQ(map_file(file), nullptr);
+  EXPECT_TRUE(CloseHandle(mapping));
+  EXPECT_FALSE(UnmapViewOfFile(mapping));
+}
+
+TEST_F(Files, AViewCanBeAPartOfTheFile) {
+  std::string long_file(0x10000, 'a');
+  long_file += "tail";
+  folder_.write("long.bin", long_file);
+  const HANDLE file = open_file("long.bin");
+  const HANDLE mapping = map_file(file);
+  const void* tail = MapViewOfFile(mapping, FILE_MAP_READ, 0, 0x10000, 0);
+  ASSERT_NE(tail, nullptr);
+  EXPECT_EQ(std::string_view(static_cast<const char*>(tail), 4), "tail");
+  EXPECT_EQ(MapViewOfFile(mapping, FILE_MAP_READ, 0, 0x1000, 0), nullptr) << "granularity";
+  EXPECT_EQ(MapViewOfFile(mapping, FILE_MAP_READ, 0, 0x10000, 5), nullptr) << "beyond the end";
+  EXPECT_EQ(MapViewOfFile(mapping, FILE_MAP_READ, 1, 0, 0), nullptr) << "beyond the end";
+  EXPECT_TRUE(UnmapViewOfFile(tail));
+  EXPECT_TRUE(CloseHandle(mapping));
+  EXPECT_TRUE(CloseHandle(file));
+}
+
+}  // namespace

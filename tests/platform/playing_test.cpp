@@ -1,0 +1,159 @@
+// What is heard: samples at the right moment, level and pitch.
+#include <cmath>
+#include <numbers>
+#include <numeric>
+
+#include "tests/platform/rendered_sound.h"
+
+namespace {
+
+using Playing = RenderedSound;
+
+/// Frames in which both sides have the same samples.
+std::vector<Frame> both(const std::vector<std::int16_t>& samples) {
+  std::vector<Frame> frames;
+  for (const int sample : samples) frames.push_back({sample, sample});
+  return frames;
+}
+
+std::vector<Frame> operator+(std::vector<Frame> first, const std::vector<Frame>& second) {
+  first.insert(first.end(), second.begin(), second.end());
+  return first;
+}
+
+const std::vector<std::int16_t> steps = {1000, -2000, 3000, -32768, 32767, 1};
+
+TEST_F(Playing, StartsAtTheVeryFrameAndEndsInSilence) {
+  const Buffer buffer = mono_16(steps);
+  EXPECT_EQ(render(1500), silence(1500));
+  EXPECT_EQ(status(*buffer), 0u);
+  EXPECT_EQ(buffer->Play(0, 0, 0), DS_OK);
+  EXPECT_EQ(status(*buffer), DSBSTATUS_PLAYING);
+  EXPECT_EQ(render(2000), both(steps) + silence(1994));
+  EXPECT_EQ(status(*buffer), 0u);
+  EXPECT_EQ(buffer->Play(0, 0, 0), DS_OK);
+  EXPECT_EQ(render(6), both(steps)) << "a second playing starts over";
+}
+
+TEST_F(Playing, StartsBetweenPullsOfAnySize) {
+  const Buffer buffer = mono_16(steps);
+  buffer->Play(0, 0, 0);
+  std::vector<Frame> heard;
+  for (const std::size_t count : {1u, 2u, 4u, 3000u}) heard = heard + render(count);
+  EXPECT_EQ(heard, both(steps) + silence(3001));
+}
+
+TEST_F(Playing, EveryFormatKeepsItsLevelAndSides) {
+  const Buffer stereo_16 =
+      buffer_of<std::int16_t>(pcm_format(2, 16, PLATFORM_AUDIO_RATE), {100, -200, 300, -400});
+  stereo_16->Play(0, 0, 0);
+  EXPECT_EQ(render(3), (std::vector<Frame>{{100, -200}, {300, -400}, {}}));
+
+  const Buffer mono_8 =
+      buffer_of<BYTE>(pcm_format(1, 8, PLATFORM_AUDIO_RATE), {0x80, 0xFF, 0x00, 0x81});
+  mono_8->Play(0, 0, 0);
+  EXPECT_EQ(render(5), both({0, 32512, -32768, 256, 0}));
+
+  const Buffer stereo_8 =
+      buffer_of<BYTE>(pcm_format(2, 8, PLATFORM_AUDIO_RATE), {0x00, 0xFF, 0x80, 0x80, 0x55});
+  stereo_8->Play(0, 0, 0);
+  EXPECT_EQ(render(3), (std::vector<Frame>{{-32768, 32512}, {}, {}})) << "half a frame at the end";
+}
+
+TEST_F(Playing, OtherRatesKeepPitchLevelAndLength) {
+  for (const DWORD rate : {8000u, 11025u, 22050u, 48000u, 96000u}) {
+    std::vector<std::int16_t> tone(rate);
+    for (std::size_t i = 0; i < tone.size(); ++i) {
+      const double phase = 2 * std::numbers::pi * 441 * static_cast<double>(i) / rate;
+      tone[i] = static_cast<std::int16_t>(std::lround(20000 * std::sin(phase)));
+    }
+    const Buffer buffer = mono_16(tone, rate);
+    buffer->Play(0, 0, 0);
+    const auto heard = render(PLATFORM_AUDIO_RATE);
+    int rises = 0;
+    double power = 0;
+    for (std::size_t i = 1; i < heard.size(); ++i) {
+      rises += heard[i - 1].left < 0 && heard[i].left >= 0;
+      power += static_cast<double>(heard[i].left) * heard[i].left;
+    }
+    EXPECT_NEAR(rises, 441, 1) << rate;
+    EXPECT_NEAR(std::sqrt(2 * power / PLATFORM_AUDIO_RATE), 20000, 100) << rate;
+    render(64);
+    EXPECT_EQ(status(*buffer), 0u) << rate;
+  }
+}
+
+TEST_F(Playing, SoundsAddUpAndAreCutOffAtFullLevel) {
+  const Buffer first = mono_16({100, 30000, -30000});
+  const Buffer second = mono_16({11, 30000, -30000});
+  first->Play(0, 0, 0);
+  second->Play(0, 0, 0);
+  EXPECT_EQ(render(4), both({111, 32767, -32768, 0}));
+}
+
+TEST_F(Playing, VolumeIsInHundredthsOfADecibel) {
+  const Buffer buffer = mono_16(std::vector<std::int16_t>(20000, 10000));
+  const struct {
+    LONG volume;
+    int level;
+  } cases[] = {{-2000, 1000}, {-600, 5012}, {DSBVOLUME_MIN, 0}, {DSBVOLUME_MAX, 10000}};
+  for (const auto& test : cases) {
+    EXPECT_EQ(buffer->SetVolume(test.volume), DS_OK);
+    buffer->SetCurrentPosition(0);
+    buffer->Play(0, 0, 0);
+    EXPECT_NEAR(render(3000).back().left, test.level, 2) << test.volume;
+  }
+  EXPECT_EQ(buffer->SetVolume(1), DSERR_INVALIDPARAM);
+}
+
+TEST_F(Playing, LoopsUntilStopped) {
+  const Buffer buffer = mono_16({1, 2, 3, 4});
+  buffer->Play(0, 0, DSBPLAY_LOOPING);
+  EXPECT_EQ(status(*buffer), DSBSTATUS_PLAYING | DSBSTATUS_LOOPING);
+  EXPECT_EQ(render(10), both({1, 2, 3, 4, 1, 2, 3, 4, 1, 2}));
+  buffer->Stop();
+  EXPECT_EQ(render(3), silence(3));
+  EXPECT_EQ(status(*buffer), 0u);
+}
+
+TEST_F(Playing, GoesOnWhereItWasStoppedOrPut) {
+  std::vector<std::int16_t> numbered(4000);
+  std::iota(numbered.begin(), numbered.end(), std::int16_t{0});
+  const Buffer buffer = mono_16(numbered);
+  const auto last_of = [](std::size_t frames) { return render(frames).back().left; };
+  buffer->Play(0, 0, 0);
+  EXPECT_EQ(last_of(1000), 999);
+  EXPECT_EQ(position(*buffer), 2000u);
+  buffer->Stop();
+  EXPECT_EQ(position(*buffer), 2000u);
+  EXPECT_EQ(last_of(1), 0);
+  buffer->Play(0, 0, 0);
+  render(499);  // a start in the middle fades in
+  EXPECT_EQ(last_of(1), 1499);
+  EXPECT_EQ(buffer->SetCurrentPosition(2 * 3000), DS_OK);
+  EXPECT_EQ(last_of(1000), 3999);
+  EXPECT_EQ(last_of(1), 0);
+  buffer->SetCurrentPosition(2 * 3500);
+  buffer->Play(0, 0, 0);
+  buffer->Play(0, 0, 0);  // plays already: no new start
+  render(499);
+  EXPECT_EQ(last_of(2), 0);
+  EXPECT_EQ(position(*buffer), 0u) << "at the end, ready to play again";
+  buffer->Play(0, 0, 0);
+  EXPECT_EQ(last_of(1000), 999);
+  EXPECT_EQ(buffer->SetCurrentPosition(8000), DSERR_INVALIDPARAM);
+}
+
+TEST_F(Playing, ADuplicateHasTheSamplesButItsOwnTime) {
+  const Buffer buffer = mono_16({10, 20, 30, 40});
+  IDirectSoundBuffer* second = nullptr;
+  ASSERT_EQ(sound_->DuplicateSoundBuffer(buffer.get(), &second), DS_OK);
+  const Buffer duplicate(second);
+  buffer->Play(0, 0, 0);
+  EXPECT_EQ(render(1), both({10}));
+  EXPECT_EQ(status(*duplicate), 0u);
+  duplicate->Play(0, 0, 0);
+  EXPECT_EQ(render(4), both({30, 50, 70, 40}));
+}
+
+}  // namespace

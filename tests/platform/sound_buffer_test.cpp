@@ -1,0 +1,157 @@
+// Sound buffers as objects: what they accept, how they are written, how they are lost.
+#include "tests/platform/rendered_sound.h"
+
+namespace {
+
+using SoundBuffers = RenderedSound;
+
+struct Locked {
+  HRESULT result = DS_OK;
+  void* part1 = nullptr;
+  void* part2 = nullptr;
+  DWORD bytes1 = 77;
+  DWORD bytes2 = 77;
+};
+
+Locked lock(IDirectSoundBuffer& buffer, DWORD offset, DWORD bytes, DWORD flags = 0) {
+  Locked locked;
+  locked.result = buffer.Lock(offset, bytes, &locked.part1, &locked.bytes1, &locked.part2,
+                              &locked.bytes2, flags);
+  return locked;
+}
+
+TEST_F(SoundBuffers, OnlyPlayableDescriptionsAreAccepted) {
+  WAVEFORMATEX compressed = pcm_format(1, 16, 44100);
+  compressed.wFormatTag = 2;
+  WAVEFORMATEX misaligned = pcm_format(2, 16, 44100);
+  misaligned.nBlockAlign = 3;
+  const struct {
+    const char* what;
+    WAVEFORMATEX format;
+    DWORD bytes;
+    HRESULT result;
+  } cases[] = {
+      {"ordinary", pcm_format(2, 16, 48000), 1000, DS_OK},
+      {"smallest", pcm_format(1, 8, 100), 4, DS_OK},
+      {"too small", pcm_format(1, 8, 44100), 3, DSERR_INVALIDPARAM},
+      {"empty", pcm_format(1, 8, 44100), 0, DSERR_INVALIDPARAM},
+      {"too large", pcm_format(1, 8, 44100), DSBSIZE_MAX + 1, DSERR_INVALIDPARAM},
+      {"compressed", compressed, 1000, DSERR_BADFORMAT},
+      {"misaligned", misaligned, 1000, DSERR_BADFORMAT},
+      {"24 bit", pcm_format(1, 24, 44100), 1000, DSERR_BADFORMAT},
+      {"six channels", pcm_format(6, 16, 44100), 1000, DSERR_BADFORMAT},
+      {"no channel", pcm_format(0, 16, 44100), 1000, DSERR_BADFORMAT},
+      {"no rate", pcm_format(1, 16, 0), 1000, DSERR_BADFORMAT},
+      {"no format", {}, 1000, DSERR_BADFORMAT},
+  };
+  for (const auto& test : cases) {
+    Buffer buffer;
+    EXPECT_EQ(create(test.format, test.bytes, buffer), test.result) << test.what;
+    EXPECT_EQ(buffer != nullptr, test.result == DS_OK) << test.what;
+  }
+}
+
+TEST_F(SoundBuffers, NeedACooperativeLevelOfAWindowThatExists) {
+  IDirectSound* other = nullptr;
+  ASSERT_EQ(DirectSoundCreate(nullptr, &other, nullptr), DS_OK);
+  sound_.reset(other);
+  EXPECT_TRUE(FAILED(sound_->SetCooperativeLevel(nullptr, DSSCL_NORMAL)));
+  EXPECT_TRUE(FAILED(sound_->SetCooperativeLevel(reinterpret_cast<HWND>(&other), DSSCL_NORMAL)));
+  EXPECT_TRUE(FAILED(sound_->SetCooperativeLevel(FindWindowA("Main", nullptr), 0)));
+  Buffer buffer;
+  EXPECT_EQ(create(pcm_format(1, 16, 44100), 100, buffer), DSERR_PRIOLEVELNEEDED);
+}
+
+TEST_F(SoundBuffers, AreLockedInTwoPartsAcrossTheEnd) {
+  const Buffer buffer = mono_16({0, 0, 0, 0, 0});
+  const Locked whole = lock(*buffer, 0, 10);
+  auto* start = static_cast<std::byte*>(whole.part1);
+  EXPECT_EQ(whole.bytes1, 10u);
+  EXPECT_EQ(whole.part2, nullptr);
+  EXPECT_EQ(whole.bytes2, 0u);
+
+  const Locked wrapped = lock(*buffer, 6, 8);
+  EXPECT_EQ(wrapped.part1, start + 6);
+  EXPECT_EQ(wrapped.bytes1, 4u);
+  EXPECT_EQ(wrapped.part2, start);
+  EXPECT_EQ(wrapped.bytes2, 4u);
+  const std::int16_t samples[] = {4, 5, 1, 2};
+  std::memcpy(wrapped.part1, samples, 4);
+  std::memcpy(wrapped.part2, samples + 2, 4);
+  EXPECT_EQ(buffer->Unlock(wrapped.part1, 4, wrapped.part2, 4), DS_OK);
+  buffer->Play(0, 0, 0);
+  EXPECT_EQ(render(6), (std::vector<Frame>{{1, 1}, {2, 2}, {}, {4, 4}, {5, 5}, {}}));
+
+  EXPECT_EQ(lock(*buffer, 10, 1).result, DSERR_INVALIDPARAM);
+  EXPECT_EQ(lock(*buffer, 0, 11).result, DSERR_INVALIDPARAM);
+  EXPECT_EQ(lock(*buffer, 0, 0).result, DSERR_INVALIDPARAM);
+  EXPECT_EQ(lock(*buffer, 0, 0, DSBLOCK_ENTIREBUFFER).bytes1, 10u);
+  EXPECT_EQ(buffer->Unlock(start + 10, 1, nullptr, 0), DSERR_INVALIDPARAM);
+}
+
+TEST_F(SoundBuffers, AreLostWithTheDeviceUntilRestoredAndWrittenAgain) {
+  const std::vector<std::int16_t> samples = {7, 8, 9, 10};
+  const Buffer playing = mono_16(samples);
+  const Buffer idle = mono_16(samples);
+  playing->Play(0, 0, 0);
+  render(1);
+  platform_lose_audio();
+  EXPECT_EQ(render(4), silence(4));
+  for (const Buffer* buffer : {&playing, &idle}) {
+    EXPECT_EQ(status(**buffer), DSBSTATUS_BUFFERLOST);
+    EXPECT_EQ((*buffer)->Play(0, 0, 0), DSERR_BUFFERLOST);
+    EXPECT_EQ(lock(**buffer, 0, 4).result, DSERR_BUFFERLOST);
+    IDirectSoundBuffer* duplicate = nullptr;
+    EXPECT_EQ(sound_->DuplicateSoundBuffer(buffer->get(), &duplicate), DSERR_BUFFERLOST);
+  }
+
+  EXPECT_EQ(playing->Restore(), DS_OK);
+  EXPECT_EQ(status(*playing), 0u);
+  EXPECT_EQ(status(*idle), DSBSTATUS_BUFFERLOST) << "each is restored for itself";
+  playing->Play(0, 0, 0);
+  EXPECT_EQ(render(5), silence(5)) << "restored, but not yet written";
+  fill(*playing, samples);
+  playing->Play(0, 0, 0);
+  EXPECT_EQ(render(5), (std::vector<Frame>{{7, 7}, {8, 8}, {9, 9}, {10, 10}, {}}));
+  EXPECT_EQ(playing->Restore(), DS_OK) << "nothing to do";
+  playing->Play(0, 0, 0);
+  EXPECT_EQ(render(1), (std::vector<Frame>{{7, 7}}));
+}
+
+TEST_F(SoundBuffers, KeepTheirVolumeWhenRestored) {
+  const Buffer buffer = mono_16(std::vector<std::int16_t>(2000, 10000));
+  buffer->SetVolume(-2000);
+  platform_lose_audio();
+  ASSERT_EQ(buffer->Restore(), DS_OK);
+  fill(*buffer, std::vector<std::int16_t>(2000, 10000));
+  buffer->Play(0, 0, 0);
+  EXPECT_NEAR(render(1500).back().left, 1000, 2);
+}
+
+TEST_F(SoundBuffers, OutliveTheSoundObjectAndALostDevice) {
+  Buffer buffer = mono_16({1, 2, 3, 4});
+  sound_.reset();
+  EXPECT_EQ(buffer->Play(0, 0, 0), DS_OK);
+  EXPECT_EQ(render(1).front().left, 1);
+  platform_lose_audio();
+  platform_choose_audio(PLATFORM_AUDIO_NONE);  // takes effect only when nothing uses the device
+  EXPECT_EQ(buffer->Restore(), DS_OK);
+  buffer.reset();
+  IDirectSound* sound = nullptr;
+  EXPECT_EQ(DirectSoundCreate(nullptr, &sound, nullptr), DSERR_NODRIVER);
+  EXPECT_EQ(sound, nullptr);
+}
+
+TEST_F(SoundBuffers, GiveTheirInterfacesAndCountReferences) {
+  const Buffer buffer = mono_16({1, 2, 3, 4});
+  void* object = nullptr;
+  EXPECT_EQ(buffer->QueryInterface(IID_IDirectSoundBuffer, &object), DS_OK);
+  EXPECT_EQ(object, buffer.get());
+  EXPECT_EQ(buffer->AddRef(), 3u);
+  EXPECT_EQ(buffer->Release(), 2u);
+  EXPECT_EQ(buffer->Release(), 1u);
+  EXPECT_EQ(sound_->QueryInterface(IID_IDirectSoundBuffer, &object), DSERR_NOINTERFACE);
+  EXPECT_EQ(object, nullptr);
+}
+
+}  // namespace

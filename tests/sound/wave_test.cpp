@@ -1,0 +1,122 @@
+// WAV images as they come from a disk: odd ones are understood, damaged ones are never read beyond
+// their end.
+#include "sound/wave.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <memory>
+
+#include "tests/sound/wav_bytes.h"
+
+namespace {
+
+using tarnvale::Bytes;
+using tarnvale::parse_wave;
+
+/// An image in memory of exactly its size, so that the sanitizer sees a step beyond it.
+struct Image {
+  explicit Image(std::string_view contents)
+      : memory(new std::byte[contents.size()]), bytes(memory.get(), contents.size()) {
+    std::memcpy(memory.get(), contents.data(), contents.size());
+  }
+  std::unique_ptr<std::byte[]> memory;
+  Bytes bytes;
+};
+
+std::string text(Bytes bytes) {
+  return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
+}
+
+const std::string format = mono_format();
+const std::string fmt = chunk("fmt ", format);
+
+TEST(Wave, FormatAndSamplesAreFoundOrTheImageIsRefused) {
+  const struct {
+    const char* what;
+    std::string image;
+    bool found;
+    std::string samples = "abcd";
+  } cases[] = {
+      {"ordinary", riff(fmt + chunk("data", "abcd")), true},
+      {"another chunk first", riff(chunk("LIST", "INFO") + fmt + chunk("data", "abcd")), true},
+      {"an odd chunk between", riff(fmt + chunk("fact", "odd") + chunk("data", "abcd")), true},
+      {"an odd number of samples", riff(fmt + chunk("data", "abc")), true, "abc"},
+      {"samples before the format", riff(chunk("data", "abcd") + fmt), true},
+      {"the first of two", riff(fmt + chunk("data", "abcd") + chunk("data", "efgh")), true},
+      {"an empty chunk between", riff(fmt + chunk("junk", "") + chunk("data", "abcd")), true},
+      {"no samples at all", riff(fmt + chunk("data", "")), true, ""},
+      {"bytes after the end", riff(fmt + chunk("data", "abcd")) + "tail", true},
+      {"long format", riff(chunk("fmt ", format + "xy") + chunk("data", "abcd")), true},
+      {"samples cut off", riff(fmt + lying_chunk("data", 4000, "abcd")), true},
+      {"samples of a huge size", riff(fmt + lying_chunk("data", 0xFFFFFFFF, "abcd")), true},
+      {"riff size beyond the file", lying_riff(0xFFFFFFFF, fmt + chunk("data", "abcd")), true},
+      {"riff ends before the samples", lying_riff(28, fmt + chunk("data", "abcd")), false},
+      {"riff ends in the samples", lying_riff(29, fmt + chunk("data", "abcd")), true},
+      {"riff size 0", lying_riff(0, fmt + chunk("data", "abcd")), false},
+      {"format of 13 bytes", riff(chunk("fmt ", format.substr(0, 13)) + chunk("data", "abcd")), false},
+      {"format of 12 bytes", riff(chunk("fmt ", format.substr(0, 12)) + chunk("data", "abcd")), false},
+      {"format cut off", riff(chunk("data", "abcd") + lying_chunk("fmt ", 16, "short")), false},
+      {"huge chunk before", riff(lying_chunk("junk", 0xFFFFFFFF, "") + fmt + chunk("data", "abcd")), false},
+      {"no format", riff(chunk("data", "abcd")), false},
+      {"no samples", riff(fmt), false},
+      {"header cut off", riff(fmt + "data" + number(4, 3)), false},
+      {"no chunks", riff(""), false},
+      {"only the first words", "RIFF" + number(4, 4), false},
+      {"empty", "", false},
+      {"another kind of RIFF", "RIFF" + number(40, 4) + "AVI " + fmt + chunk("data", "abcd"), false},
+      {"no RIFF", "RIFX" + number(40, 4) + "WAVE" + fmt + chunk("data", "abcd"), false},
+  };
+  for (const auto& test : cases) {
+    const Image image(test.image);
+    Bytes found_format;
+    Bytes found_samples;
+    EXPECT_EQ(parse_wave(image.bytes, &found_format, &found_samples), test.found) << test.what;
+    if (!test.found) continue;
+    EXPECT_EQ(text(found_format).substr(0, 16), format) << test.what;
+    EXPECT_EQ(text(found_samples), test.samples) << test.what;
+  }
+}
+
+TEST(Wave, AFormatHasAtLeastFourteenBytes) {
+  const Image image(riff(chunk("fmt ", format.substr(0, 14)) + chunk("data", "abcd")));
+  Bytes found;
+  EXPECT_TRUE(parse_wave(image.bytes, &found, nullptr));
+  EXPECT_EQ(text(found), format.substr(0, 14));
+}
+
+TEST(Wave, OnlyWhatIsAskedForIsLookedAt) {
+  const Image bad_format(riff(chunk("fmt ", "short") + chunk("data", "abcd")));
+  Bytes found;
+  EXPECT_TRUE(parse_wave(bad_format.bytes, nullptr, &found));
+  EXPECT_EQ(text(found), "abcd");
+  EXPECT_FALSE(parse_wave(bad_format.bytes, &found, nullptr));
+  EXPECT_TRUE(found.empty()) << "what was there before is cleared";
+}
+
+/// Whether all of `part` lies in `image`.
+bool inside(Bytes image, Bytes part) {
+  return part.empty() || (part.data() >= image.data() &&
+                          part.data() + part.size() <= image.data() + image.size());
+}
+
+TEST(Wave, NoDamageLeadsOutsideTheImage) {
+  const std::string whole = riff(chunk("junk", "odd") + fmt + chunk("data", "abcd") + chunk("end ", "xy"));
+  const auto check = [](const std::string& contents) {
+    const Image image(contents);
+    Bytes found_format;
+    Bytes found_samples;
+    parse_wave(image.bytes, &found_format, &found_samples);
+    EXPECT_TRUE(inside(image.bytes, found_format) && inside(image.bytes, found_samples)) << contents;
+  };
+  for (std::size_t size = 0; size < whole.size(); ++size) check(whole.substr(0, size));
+  for (std::size_t at = 0; at < whole.size(); ++at) {
+    for (const char damage : {'\0', '\x01', '\x7F', '\xFF'}) {
+      std::string contents = whole;
+      contents[at] = damage;
+      check(contents);
+    }
+  }
+}
+
+}  // namespace
