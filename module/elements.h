@@ -66,9 +66,10 @@ constexpr Element lamp(i32 resource, PanelPoint at, ValueRoutine value, u32 imag
 f64 lighting_image(Element*);
 
 /// The instrument lighting over a whole face: off, dim, bright. As the first element of a gauge it
-/// makes the lit copy start hidden, so that an unlit cockpit opens unlit.
+/// makes the lit copy start hidden, so that an unlit cockpit opens unlit: the hide bit is the copy's.
 constexpr Element lighting_overlay(i32 resource) {
-  return icon(resource, {0, 0}, 3, lighting_image, {.failures = failure::dark});
+  return icon(resource, {0, 0}, 3, lighting_image,
+              {.failures = failure::dark, .flags = image_flag::transparent | IMAGE_HIDE_CHAIN});
 }
 
 /// The points between which a needle moves: `{background pixel, value}`, in ascending order of value.

@@ -1,5 +1,6 @@
 #include "platform/file_handles.h"
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <map>
@@ -31,6 +32,12 @@ std::optional<int> descriptor_of(HANDLE handle, HandleKind kind) {
   const auto found = open_handles().find(reinterpret_cast<std::uintptr_t>(handle));
   if (found == open_handles().end() || found->second.kind != kind) return std::nullopt;
   return found->second.descriptor;
+}
+
+std::int64_t file_size(int descriptor) {
+  struct stat status {};
+  if (fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode)) return -1;
+  return status.st_size;
 }
 
 }  // namespace platform

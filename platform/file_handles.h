@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include <cstdint>
 #include <optional>
 
 namespace platform {
@@ -14,5 +15,8 @@ HANDLE new_handle(HandleKind kind, int descriptor);
 
 /// The descriptor behind a handle; nothing if it is not open or of another kind.
 std::optional<int> descriptor_of(HANDLE handle, HandleKind kind);
+
+/// The size of an ordinary file in bytes; -1 for anything else.
+std::int64_t file_size(int descriptor);
 
 }  // namespace platform

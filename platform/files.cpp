@@ -1,26 +1,15 @@
 #include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 #include <windows.h>
 
 #include "platform/file_handles.h"
 #include "platform/paths.h"
 
+using platform::file_size;
 using platform::HandleKind;
 
-namespace {
-
-/// The size of an ordinary file, or -1.
-off_t file_size(int descriptor) {
-  struct stat status {};
-  if (fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode)) return -1;
-  return status.st_size;
-}
-
-}  // namespace
-
-HANDLE CreateFileA(LPCSTR path, DWORD access, DWORD, LPSECURITY_ATTRIBUTES, DWORD disposition, DWORD,
-                   HANDLE) {
+HANDLE CreateFileA(LPCSTR path, DWORD access, DWORD, LPSECURITY_ATTRIBUTES, DWORD disposition,
+                   DWORD, HANDLE) {
   if (path == nullptr || access != GENERIC_READ || disposition != OPEN_EXISTING) {
     return INVALID_HANDLE_VALUE;
   }
@@ -38,7 +27,7 @@ HANDLE CreateFileA(LPCSTR path, DWORD access, DWORD, LPSECURITY_ATTRIBUTES, DWOR
 
 DWORD GetFileSize(HANDLE file, LPDWORD high) {
   const auto descriptor = platform::descriptor_of(file, HandleKind::file);
-  const off_t size = descriptor ? file_size(*descriptor) : -1;
+  const std::int64_t size = descriptor ? file_size(*descriptor) : -1;
   if (size < 0) return INVALID_FILE_SIZE;
   if (high != nullptr) *high = static_cast<DWORD>(size >> 32);
   return static_cast<DWORD>(size);

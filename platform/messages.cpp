@@ -33,7 +33,7 @@ bool has_display() {
 
 /// Shows a message window. The window library is loaded only now: most runs never need it.
 bool show_window(const char* text, const char* caption) {
-  using ShowMessage = int (*)(std::uint32_t flags, const char* title, const char* message, void* parent);
+  using ShowMessage = int (*)(std::uint32_t flags, const char* title, const char* text, void* owner);
   constexpr std::uint32_t warning_icon = 0x20;
   void* library = dlopen("libSDL2-2.0.so.0", RTLD_NOW | RTLD_LOCAL);
   if (library == nullptr) return false;

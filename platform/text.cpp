@@ -44,7 +44,8 @@ void put_field(Text& text, const Field& field, std::string_view sign, std::strin
   if (field.left) text.fill(' ', missing);
 }
 
-void put_number(Text& text, const Field& field, ULONG magnitude, bool negative, int base, bool upper) {
+void put_number(Text& text, const Field& field, ULONG magnitude, bool negative, int base,
+                bool upper) {
   std::array<char, 16> digits{};
   const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), magnitude, base).ptr;
   if (upper) {

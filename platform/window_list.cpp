@@ -24,7 +24,8 @@ std::vector<Window>& windows() {
 }  // namespace
 
 bool window_exists(HWND window) {
-  return window != nullptr && std::ranges::find(windows(), window, &Window::handle) != windows().end();
+  const auto is_it = [=](const Window& known) { return known.handle == window; };
+  return window != nullptr && std::ranges::any_of(windows(), is_it);
 }
 
 }  // namespace platform

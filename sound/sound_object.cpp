@@ -46,8 +46,9 @@ IDirectSoundBuffer* filled_buffer(IDirectSound* direct_sound, SoundObject& sound
 IDirectSoundBuffer* further_buffer(IDirectSound* direct_sound, SoundObject& sound) {
   IDirectSoundBuffer* first = sound.buffers.front();
   IDirectSoundBuffer* buffer = nullptr;
-  if (first != nullptr && SUCCEEDED(direct_sound->DuplicateSoundBuffer(first, &buffer))) return buffer;
-  return filled_buffer(direct_sound, sound);
+  const bool doubled =
+      first != nullptr && SUCCEEDED(direct_sound->DuplicateSoundBuffer(first, &buffer));
+  return doubled ? buffer : filled_buffer(direct_sound, sound);
 }
 
 /// Takes over what the source holds. A short format is filled up with zeros.

@@ -10,8 +10,8 @@
 
 namespace tarnvale {
 
-/// The samples are a copy of the file's: a buffer that is lost with its device can be filled again at
-/// any time, whatever has become of the file.
+/// The samples are a copy of the file's: a buffer that is lost with its device can be filled again
+/// at any time, whatever has become of the file.
 struct SoundObject {
   WAVEFORMATEX format{};            ///< all zeros if the file has none that can be used
   std::vector<std::byte> samples;
@@ -20,9 +20,9 @@ struct SoundObject {
 };
 
 /// Loads the sound under `path`, a resource of `module` or else a file, into `buffer_count` buffers
-/// (at least one), so that it can play that many times at once. Null, after a message, if there is no
-/// such sound; null if a buffer besides the first cannot be made. A sound whose first buffer cannot be
-/// made is there, but never plays.
+/// (at least one), so that it can play that many times at once. Null, after a message, if there is
+/// no such sound; null if a buffer besides the first cannot be made. A sound whose first buffer
+/// cannot be made is there, but never plays.
 SoundObject* create_sound(IDirectSound* direct_sound, const char* path, i32 buffer_count,
                           HMODULE module);
 

@@ -17,7 +17,8 @@ bool find_resource(HMODULE module, const char* path, WaveSource& source) {
   const HGLOBAL loaded = LoadResource(module, resource);
   const void* image = loaded != nullptr ? LockResource(loaded) : nullptr;
   if (image == nullptr) return false;
-  return read_image({static_cast<const std::byte*>(image), SizeofResource(module, resource)}, source);
+  const std::size_t size = SizeofResource(module, resource);
+  return read_image({static_cast<const std::byte*>(image), size}, source);
 }
 
 /// Maps a whole file for reading; null if that is not possible.

@@ -13,7 +13,7 @@
 namespace host {
 namespace {
 
-static_assert(std::endian::native == std::endian::little, "samples are written as they lie in memory");
+static_assert(std::endian::native == std::endian::little, "samples are written as they lie");
 
 constexpr std::uint32_t header_size = 44;
 constexpr std::uint16_t pcm = 1;

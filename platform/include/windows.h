@@ -106,16 +106,17 @@ WINBASEAPI BOOL SetCurrentDirectoryA(LPCSTR path);
 /// Returns the length without the final zero, or the size needed when `size` is too small.
 WINBASEAPI DWORD GetCurrentDirectoryA(DWORD size, LPSTR path);
 
-/// Opens an ordinary file for reading, or gives INVALID_HANDLE_VALUE. Either slash, any letter case.
-WINBASEAPI HANDLE CreateFileA(LPCSTR path, DWORD access, DWORD share, LPSECURITY_ATTRIBUTES security,
-                              DWORD disposition, DWORD attributes, HANDLE pattern);
+/// Opens an ordinary file for reading; either slash, any letter case. Else INVALID_HANDLE_VALUE.
+WINBASEAPI HANDLE CreateFileA(LPCSTR path, DWORD access, DWORD share,
+                              LPSECURITY_ATTRIBUTES security, DWORD disposition, DWORD attributes,
+                              HANDLE pattern);
 /// The size in bytes, its upper half in `high` unless null; INVALID_FILE_SIZE for no file.
 WINBASEAPI DWORD GetFileSize(HANDLE file, LPDWORD high);
 
 /// A read-only mapping of the whole file, or null. An empty file cannot be mapped.
 WINBASEAPI HANDLE CreateFileMappingA(HANDLE file, LPSECURITY_ATTRIBUTES security, DWORD protection,
                                      DWORD size_high, DWORD size_low, LPCSTR name);
-/// The mapping's bytes from an offset (a multiple of 64 KiB), `length` of them or all; or null.
+/// The bytes of the whole file (offset and length 0), or null.
 WINBASEAPI LPVOID MapViewOfFile(HANDLE mapping, DWORD access, DWORD offset_high, DWORD offset_low,
                                 SIZE_T length);
 WINBASEAPI BOOL UnmapViewOfFile(LPCVOID view);

@@ -90,13 +90,14 @@ TEST_F(AirControls, AGuardHoldsItsSwitchAtRest) {
     i32 guard_bitmap, switch_bitmap;
     int nth;
     f64 last;
+    PanelPoint light = {};  // that follows the switch, where there is one
   };
   const Row rows[] = {
       {"Tempcon", {78, 145}, {78, 148}, 2160, 2150, 0, 1},
       {"Ramair", {72, 24}, {72, 27}, 1320, 1330, 0, 1},
       {"Ramair", {102, 24}, {102, 27}, 1340, 1350, 0, 3},
-      {"Spdrive", {92, 106}, {92, 109}, 2180, 2170, 0, 1},
-      {"Spdrive", {7, 107}, {7, 110}, 2180, 2170, 1, 1},
+      {"Spdrive", {92, 106}, {92, 109}, 2180, 2170, 0, 1, {99, 12}},
+      {"Spdrive", {7, 107}, {7, 110}, 2180, 2170, 1, 1, {56, 12}},
       {"Aimain", {109, 85}, {109, 88}, 2160, 2220, 0, 3},
       {"Aimain", {53, 85}, {53, 88}, 2160, 2220, 1, 3},
   };
@@ -106,8 +107,12 @@ TEST_F(AirControls, AGuardHoldsItsSwitchAtRest) {
     const auto clicked = [&](PanelPoint at) {
       panel.click(at.x, at.y);
       EXPECT_TRUE(rig::heard(toggle_click_sound_request));
-      panel.frame();
-      return std::pair(panel.value(row.guard_bitmap, row.nth), panel.value(row.switch_bitmap, row.nth));
+      panel.frame(2);
+      const f64 position = panel.value(row.switch_bitmap, row.nth);
+      if (row.light.x != 0) {
+        EXPECT_EQ(panel.value_at(row.light), position);
+      }
+      return std::pair(panel.value(row.guard_bitmap, row.nth), position);
     };
     panel.frame();
     if (panel.value(row.guard_bitmap, row.nth) == 1) clicked(row.guard);

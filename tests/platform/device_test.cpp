@@ -15,7 +15,8 @@ using namespace std::chrono_literals;
 class Device : public RenderedSound {
  protected:
   void SetUp() override {
-    const std::string settings = "[general]\ndrivers=wave\nsample-type=int16\n[wave]\nfile=" + recording() + "\n";
+    const std::string settings =
+        "[general]\ndrivers=wave\nsample-type=int16\n[wave]\nfile=" + recording() + "\n";
     setenv("ALSOFT_CONF", folder_.write("openal.conf", settings).c_str(), 1);
     platform_choose_audio(PLATFORM_AUDIO_DEVICE);
     platform_register_window("Main", this);

@@ -144,16 +144,4 @@ TEST_F(Playing, GoesOnWhereItWasStoppedOrPut) {
   EXPECT_EQ(buffer->SetCurrentPosition(8000), DSERR_INVALIDPARAM);
 }
 
-TEST_F(Playing, ADuplicateHasTheSamplesButItsOwnTime) {
-  const Buffer buffer = mono_16({10, 20, 30, 40});
-  IDirectSoundBuffer* second = nullptr;
-  ASSERT_EQ(sound_->DuplicateSoundBuffer(buffer.get(), &second), DS_OK);
-  const Buffer duplicate(second);
-  buffer->Play(0, 0, 0);
-  EXPECT_EQ(render(1), both({10}));
-  EXPECT_EQ(status(*duplicate), 0u);
-  duplicate->Play(0, 0, 0);
-  EXPECT_EQ(render(4), both({30, 50, 70, 40}));
-}
-
 }  // namespace

@@ -45,7 +45,9 @@ TEST(Text, NumbersFillTheirField) {
       {"50%", 0, "50"},
       {"%0", 0, ""},
   };
-  for (const auto& test : cases) EXPECT_EQ(formatted(test.format, test.value), test.text) << test.format;
+  for (const auto& test : cases) {
+    EXPECT_EQ(formatted(test.format, test.value), test.text) << test.format;
+  }
 }
 
 TEST(Text, WordsAndCharacters) {

@@ -1,4 +1,4 @@
-// The sound gauge: what is heard for which requests, and what the user is told when something fails.
+// The sound gauge: what is heard for which requests, and what is told when something fails.
 #include "tests/rig/rig.h"
 #include "tests/sound/sound_folder.h"
 
@@ -42,7 +42,9 @@ class SoundGauge : public SoundFolder {
 TEST_F(SoundGauge, EveryRequestPlaysItsOwnSound) {
   start();
   EXPECT_TRUE(messages_.empty());
-  for (std::size_t i = 0; i < sound_request_count; ++i) EXPECT_EQ(heard_on_request(i), level_of(i)) << i;
+  for (std::size_t i = 0; i < sound_request_count; ++i) {
+    EXPECT_EQ(heard_on_request(i), level_of(i)) << i;
+  }
   EXPECT_EQ(heard_after_frame(), 0);
 }
 
@@ -98,7 +100,8 @@ TEST_F(SoundGauge, AMissingFileSilencesItAndAllAfterIt) {
 }
 
 TEST_F(SoundGauge, AFileWithoutSamplesIsMissing) {
-  for (const std::string& contents : {std::string(), std::string("no sound"), riff(chunk("fmt ", mono_format()))}) {
+  const std::string only_format = riff(chunk("fmt ", mono_format()));
+  for (const std::string& contents : {std::string(), std::string("no sound"), only_format}) {
     messages_.clear();
     folder_.write(file_of(a2500_sound_request), contents);
     start();

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cctype>
 #include <string>
 #include <vector>
 
@@ -41,7 +42,9 @@ class SoundFolder : public testing::Test {
   /// Where a sound lies: on a disk that somebody has unpacked with lower-case names.
   std::string file_of(std::size_t sound) const {
     std::string path = tarnvale::sound_files[sound].path;
-    std::ranges::transform(path, path.begin(), [](char c) { return c == '\\' ? '/' : std::tolower(c); });
+    std::ranges::transform(path, path.begin(), [](char c) {
+      return c == '\\' ? '/' : static_cast<char>(std::tolower(c));
+    });
     return path;
   }
 
@@ -51,7 +54,9 @@ class SoundFolder : public testing::Test {
     }
   }
 
-  void remove_sound(std::size_t sound) const { std::filesystem::remove(folder_.path() / file_of(sound)); }
+  void remove_sound(std::size_t sound) const {
+    std::filesystem::remove(folder_.path() / file_of(sound));
+  }
 
   /// The levels of the next frames of the mix; both sides must be alike.
   static std::vector<int> listen(std::size_t frames) {
@@ -66,7 +71,9 @@ class SoundFolder : public testing::Test {
   }
 
   /// `count` frames of one level.
-  static std::vector<int> steady(int level, std::size_t count) { return std::vector<int>(count, level); }
+  static std::vector<int> steady(int level, std::size_t count) {
+    return std::vector<int>(count, level);
+  }
 
   std::array<char, 4096> before_{};
   TempFolder folder_;

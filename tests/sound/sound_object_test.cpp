@@ -33,13 +33,6 @@ class SoundObjects : public SoundFolder {
   SoundObject* sound_ = nullptr;
 };
 
-TEST_F(SoundObjects, ACountBelowOneMeansOneBuffer) {
-  ASSERT_TRUE(load(-3));
-  EXPECT_EQ(sound_->buffers.size(), 1u);
-  EXPECT_TRUE(play_sound(sound_, 0));
-  EXPECT_FALSE(play_sound(sound_, 0)) << "the only one plays";
-}
-
 TEST_F(SoundObjects, TwoBuffersPlayTwiceAtOnceAndThenStartOver) {
   ASSERT_TRUE(load(2));
   EXPECT_TRUE(play_sound(sound_, 0));
@@ -55,15 +48,15 @@ TEST_F(SoundObjects, OnlyASingleBufferLoops) {
   ASSERT_TRUE(load(2));
   EXPECT_FALSE(play_sound(sound_, DSBPLAY_LOOPING));
   destroy_sound(sound_);
-  ASSERT_TRUE(load(1));
+  ASSERT_TRUE(load(-3)) << "at least one";
   EXPECT_TRUE(play_sound(sound_, DSBPLAY_LOOPING));
   EXPECT_EQ(listen(3 * sound_length), steady(100, 3 * sound_length));
   EXPECT_FALSE(play_sound(nullptr, 0));
 }
 
 TEST_F(SoundObjects, WhatCannotPlayIsThereOnlyWithoutFurtherBuffers) {
-  const std::string short_format = riff(chunk("fmt ", mono_format().substr(0, 12)) + chunk("data", "abcd"));
-  folder_.write("short.wav", short_format);
+  const std::string short_format = mono_format().substr(0, 12);
+  folder_.write("short.wav", riff(chunk("fmt ", short_format) + chunk("data", "abcd")));
   EXPECT_FALSE(load(2, "short.wav"));
   ASSERT_TRUE(load(1, "short.wav"));
   EXPECT_FALSE(play_sound(sound_, 0));

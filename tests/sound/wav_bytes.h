@@ -33,7 +33,8 @@ inline std::string riff(std::string_view chunks) {
 
 /// The 16 bytes of a format: PCM, 16 bit, mono, 44.1 kHz.
 inline std::string mono_format() {
-  return number(1, 2) + number(1, 2) + number(44100, 4) + number(88200, 4) + number(2, 2) + number(16, 2);
+  return number(1, 2) + number(1, 2) + number(44100, 4) + number(88200, 4) + number(2, 2) +
+         number(16, 2);
 }
 
 inline std::string samples(const std::vector<std::int16_t>& values) {
