@@ -1,0 +1,257 @@
+// Listens with figures to the finished sounds: the files as they lie beside the module.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <numbers>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+const fs::path sound_folder = fs::path{COCKPIT_DIR} / "Sound/Halvery_Tarnjet";
+constexpr double rate = 44100;
+
+enum Kind { click, lever, chime, tone, warning, machinery, word, announcement };
+
+struct PeakRange {
+  double low_db, high_db;
+};
+
+// By kind: warnings stand above all, clicks stay under the voices.
+constexpr PeakRange peak_ranges[] = {
+    {-10, -5.5},  // click
+    {-7, -3},     // lever
+    {-7, -5},     // chime
+    {-9, -3},     // tone
+    {-2, -0.9},   // warning
+    {-5, -3.5},   // machinery
+    {-8, -1},     // word
+    {-8, -1},     // announcement
+};
+
+struct Sound {
+  const char* file;
+  Kind kind;
+  double shortest_s, longest_s;
+};
+
+constexpr Sound sounds[] = {
+    {"Tarv_kippclick.wav", click, 0.06, 0.08},
+    {"Tarv_a2500.wav", word, 1.0, 2.0},
+    {"Tarv_a1000.wav", word, 0.6, 1.4},
+    {"Tarv_a500.wav", word, 0.5, 1.1},
+    {"Tarv_a400.wav", word, 0.5, 1.1},
+    {"Tarv_a300.wav", word, 0.5, 1.1},
+    {"Tarv_a200.wav", word, 0.5, 1.1},
+    {"Tarv_a100.wav", word, 0.5, 1.1},
+    // The last five follow one another within a second.
+    {"Tarv_a50.wav", word, 0.3, 0.6},
+    {"Tarv_a40.wav", word, 0.3, 0.6},
+    {"Tarv_a30.wav", word, 0.3, 0.6},
+    {"Tarv_a20.wav", word, 0.3, 0.6},
+    {"Tarv_a10.wav", word, 0.25, 0.6},
+    {"Tarv_altalert.wav", tone, 0.7, 1.2},
+    {"Tarv_click.wav", click, 0.03, 0.05},
+    {"Tarv_radalt.wav", tone, 1.5, 2.5},
+    {"Tarv_stall.wav", warning, 1.2, 2},
+    {"Tarv_signs.wav", chime, 0.8, 1.8},
+    {"Tarv_fire.wav", warning, 1.3, 1.8},
+    {"Tarv_stewcall.wav", chime, 1.2, 2.2},
+    {"Tarv_apu.wav", machinery, 5, 8},
+    {"Tarv_gpws.wav", warning, 1.1, 2},
+    {"Tarv_pbrake.wav", lever, 0.15, 0.5},
+    {"Tarv_sbrake.wav", lever, 0.4, 0.9},
+    {"Tarv_cabwarn.wav", warning, 1.2, 2},
+    {"Ground/Tarv_extpwr.wav", word, 1, 2.5},
+    {"Ground/Tarv_extpwrdis.wav", word, 1, 2.5},
+    {"Ground/Tarv_gndwarn.wav", warning, 1.2, 2},
+    {"FlightAttend/Tarv_cctaxi.wav", announcement, 6, 15},
+    {"FlightAttend/Tarv_ccsaftey.wav", announcement, 6, 15},
+    {"FlightAttend/Tarv_ccclimb.wav", announcement, 6, 15},
+    {"FlightAttend/Tarv_ccdescent.wav", announcement, 6, 15},
+    {"FlightAttend/Tarv_ccfinal.wav", announcement, 6, 15},
+    {"FlightAttend/Tarv_ccrollout.wav", announcement, 6, 15},
+    {"FlightAttend/Tarv_ccwelcome.wav", announcement, 6, 15},
+    {"FirstOfficer/Tarv_gearu.wav", word, 0.4, 1},
+    {"FirstOfficer/Tarv_geard.wav", word, 0.4, 1.2},
+    {"FirstOfficer/Tarv_flaps00.wav", word, 0.7, 1.8},
+    {"FirstOfficer/Tarv_flaps06.wav", word, 0.7, 1.8},
+    {"FirstOfficer/Tarv_flaps11.wav", word, 0.7, 1.8},
+    {"FirstOfficer/Tarv_flaps18.wav", word, 0.7, 1.8},
+    {"FirstOfficer/Tarv_flaps25.wav", word, 0.7, 1.8},
+    {"FirstOfficer/Tarv_flaps42.wav", word, 0.7, 1.8},
+    {"FirstOfficer/Tarv_80kts.wav", word, 0.5, 1.2},
+    {"FirstOfficer/Tarv_v1.wav", word, 0.4, 1},
+    {"FirstOfficer/Tarv_rotate.wav", word, 0.4, 1},
+};
+static_assert(std::size(sounds) == 46);
+
+bool is_speech(const Sound& sound) { return sound.kind == word || sound.kind == announcement; }
+
+std::string contents(const fs::path& path) {
+  std::ifstream in{path, std::ios::binary};
+  return {std::istreambuf_iterator<char>{in}, {}};
+}
+
+// What stands before the samples of any file of this form, in full.
+std::string expected_header(std::uint32_t file_size) {
+  const std::uint32_t words[] = {file_size - 8, 0x45564157, 0x20746d66, 16,         0x00010001, 44100,
+                                 88200,         0x00100002, 0x61746164, file_size - 44};
+  return "RIFF" + std::string{reinterpret_cast<const char*>(words), sizeof words};
+}
+
+std::vector<double> samples(const std::string& file) {
+  const auto bytes = contents(sound_folder / file);
+  std::vector<double> wave;
+  for (std::size_t at = 44; at + 1 < bytes.size(); at += 2) {
+    std::int16_t sample;
+    std::memcpy(&sample, &bytes[at], 2);
+    wave.push_back(sample / 32768.0);
+  }
+  return wave;
+}
+
+double decibels(double amplitude) { return 20 * std::log10(amplitude + 1e-9); }
+
+double peak(const std::vector<double>& wave) {
+  double most = 0;
+  for (const double v : wave) most = std::max(most, std::abs(v));
+  return most;
+}
+
+// Mean level of the parts that sound: 20 ms frames within 25 dB of the loudest.
+double level_db(const std::vector<double>& wave) {
+  constexpr std::size_t frame = 882;
+  std::vector<double> powers;
+  for (std::size_t at = 0; at + frame <= wave.size(); at += frame) {
+    double sum = 0;
+    for (std::size_t i = at; i < at + frame; ++i) sum += wave[i] * wave[i];
+    powers.push_back(sum / frame);
+  }
+  const double floor = *std::max_element(powers.begin(), powers.end()) * std::pow(10, -2.5);
+  double sum = 0, count = 0;
+  for (const double power : powers)
+    if (power > floor) sum += power, ++count;
+  return 10 * std::log10(sum / count);
+}
+
+// Amplitude of one frequency between two times (Goertzel).
+double at_pitch(const std::vector<double>& wave, double hertz, double from_s, double to_s) {
+  const double turn = 2 * std::cos(2 * std::numbers::pi * hertz / rate);
+  double last = 0, before = 0;
+  const auto begin = static_cast<std::size_t>(from_s * rate);
+  const auto end = std::min(wave.size(), static_cast<std::size_t>(to_s * rate));
+  for (std::size_t i = begin; i < end; ++i) {
+    const double now = wave[i] + turn * last - before;
+    before = last;
+    last = now;
+  }
+  return std::sqrt(std::max(0.0, last * last + before * before - turn * last * before)) * 2 / (end - begin);
+}
+
+TEST(SoundFiles, AreExactlyThoseTheAircraftAsksFor) {
+  std::set<std::string> wanted, found;
+  for (const Sound& sound : sounds) wanted.insert(sound.file);
+  for (const auto& entry : fs::recursive_directory_iterator{sound_folder})
+    if (entry.is_regular_file()) found.insert(entry.path().lexically_relative(sound_folder).generic_string());
+  EXPECT_EQ(found, wanted);
+}
+
+TEST(SoundFiles, AreMono16BitWithThePlainHeader) {
+  for (const Sound& sound : sounds) {
+    const auto bytes = contents(sound_folder / sound.file);
+    ASSERT_GT(bytes.size(), 44u) << sound.file;
+    EXPECT_EQ(bytes.substr(0, 44), expected_header(static_cast<std::uint32_t>(bytes.size()))) << sound.file;
+  }
+}
+
+TEST(SoundFiles, HaveTheirLengthAndPeak) {
+  for (const Sound& sound : sounds) {
+    const auto wave = samples(sound.file);
+    const double seconds = wave.size() / rate, peak_db = decibels(peak(wave));
+    EXPECT_TRUE(seconds >= sound.shortest_s && seconds <= sound.longest_s) << sound.file << ": " << seconds << " s";
+    const auto [low, high] = peak_ranges[sound.kind];
+    EXPECT_TRUE(peak_db >= low && peak_db <= high) << sound.file << ": " << peak_db << " dB";
+  }
+}
+
+TEST(SoundFiles, BeginAndEndWithoutSilenceOrSteps) {
+  for (const Sound& sound : sounds) {
+    const auto wave = samples(sound.file);
+    ASSERT_FALSE(wave.empty()) << sound.file;
+    const auto sounding = [quiet = peak(wave) / 100](double v) { return std::abs(v) > quiet; };
+    const auto lead = std::find_if(wave.begin(), wave.end(), sounding) - wave.begin();
+    const auto tail = std::find_if(wave.rbegin(), wave.rend(), sounding) - wave.rbegin();
+    EXPECT_LT(lead / rate, 0.030) << sound.file;
+    EXPECT_LT(tail / rate, 0.030) << sound.file;
+    EXPECT_LT(std::abs(wave.front()), 0.002) << sound.file;
+    EXPECT_LT(std::abs(wave.back()), 0.002) << sound.file;
+  }
+}
+
+TEST(SoundFiles, SpeakAtOneLoudnessAndWarnAboveIt) {
+  double sum = 0, count = 0;
+  for (const Sound& sound : sounds)
+    if (is_speech(sound)) sum += level_db(samples(sound.file)), ++count;
+  const double mean = sum / count;
+  for (const Sound& sound : sounds) {
+    if (is_speech(sound)) {
+      EXPECT_NEAR(level_db(samples(sound.file)), mean, 1.5) << sound.file;
+    } else if (sound.kind == warning) {
+      EXPECT_GT(level_db(samples(sound.file)), mean + 3) << sound.file;
+    }
+  }
+}
+
+TEST(SoundFiles, ChimesAreInTune) {
+  const double B4 = 493.88, D5 = 587.33, C6 = 1046.50, E6 = 1318.51, G6 = 1567.98;
+  const struct {
+    const char* file;
+    double pitch, from_s, to_s;
+  } notes[] = {
+      {"Tarv_signs.wav", B4, 0.05, 0.6},
+      {"Tarv_stewcall.wav", D5, 0.05, 0.48},
+      {"Tarv_stewcall.wav", B4, 0.55, 1.1},
+      {"FlightAttend/Tarv_ccwelcome.wav", B4, 0.02, 0.36},
+      {"FlightAttend/Tarv_ccwelcome.wav", D5, 0.42, 0.8},
+      {"Tarv_altalert.wav", C6, 0.1, 0.8},
+      {"Tarv_altalert.wav", E6, 0.1, 0.8},
+      {"Tarv_altalert.wav", G6, 0.1, 0.8},
+      {"Tarv_radalt.wav", 1000, 1.0, 1.9},
+  };
+  const double semitone = std::pow(2, 1 / 12.0);
+  for (const auto& note : notes) {
+    const auto wave = samples(note.file);
+    const double tuned = at_pitch(wave, note.pitch, note.from_s, note.to_s);
+    EXPECT_GT(tuned, 0.02) << note.file << " at " << note.pitch << " Hz";
+    for (const double off : {note.pitch * semitone, note.pitch / semitone})
+      EXPECT_GT(tuned, 3 * at_pitch(wave, off, note.from_s, note.to_s)) << note.file << " at " << off << " Hz";
+  }
+}
+
+TEST(SoundFiles, MakingOneAgainGivesTheSameBytes) {
+  const auto beside = fs::path{COCKPIT_DIR}.parent_path();
+  const auto again = beside / "made_again.wav", cue = beside / "made_again.cue";
+  const std::string maker = SOURCE_DIR "/aircraft/sound/make_sound.sh";
+  std::ifstream sheet{SOURCE_DIR "/aircraft/sound/recipes.txt"};
+  for (std::string line; std::getline(sheet, line);) {
+    const auto file = line.substr(0, line.find(' '));
+    if (file != "Tarv_stall.wav" && file != "FlightAttend/Tarv_ccfinal.wav") continue;
+    std::ofstream{cue} << line << '\n';
+    ASSERT_EQ(std::system(("bash '" + maker + "' '" + cue.string() + "' '" + again.string() + "'").c_str()), 0) << file;
+    EXPECT_TRUE(contents(again) == contents(sound_folder / file)) << file;
+  }
+}
+
+}  // namespace
