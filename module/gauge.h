@@ -111,9 +111,11 @@ struct Gauge : GaugeFrame {
     for (std::size_t i = 0; i < parts; ++i) {
       chain[1 + parts + i] = chain[1 + i];
       chain[1 + parts + i].image_flags |= image_flag::luminous;
-      chain[1 + i].image_flags &= ~IMAGE_HIDE_CHAIN;
     }
     lit = &chain[1 + parts];
+    for (Element& element : chain) {
+      if (&element != lit) element.image_flags &= ~IMAGE_HIDE_CHAIN;
+    }
     header.service = serve;
   }
 
