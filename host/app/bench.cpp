@@ -1,0 +1,88 @@
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <cstring>
+#include <functional>
+
+#include "host/app/commands.h"
+#include "host/app/installation.h"
+#include "host/panel/panel_picture.h"
+#include "host/panel/panel_scene.h"
+
+namespace host {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+// Microseconds that one call takes: the median of some rounds, which other programs do not disturb.
+double microseconds(const std::function<void()>& work) {
+  std::vector<double> rounds;
+  for (int round = 0; round < 51; ++round) {
+    const Clock::time_point start = Clock::now();
+    work();
+    rounds.push_back(std::chrono::duration<double, std::micro>(Clock::now() - start).count());
+  }
+  std::ranges::nth_element(rounds, rounds.begin() + 25);
+  return rounds[25];
+}
+
+// All open windows at their own size.
+class Pictures {
+ public:
+  explicit Pictures(const Cockpit& cockpit) {
+    for (std::size_t window : open_windows(cockpit)) pictures_.emplace_back(cockpit, window, 1.0);
+  }
+
+  void draw() {
+    changed_.clear();
+    for (PanelPicture& picture : pictures_) picture.draw(1.0, changed_);
+  }
+
+  void draw_all() {
+    for (PanelPicture& picture : pictures_) picture.invalidate();
+    draw();
+  }
+
+  void copy() {
+    for (const PanelPicture& picture : pictures_) {
+      copies_.resize(std::max(copies_.size(), picture.canvas().pixels.size()));
+      std::memcpy(copies_.data(), picture.canvas().pixels.data(), picture.canvas().pixels.size() * 4);
+    }
+  }
+
+ private:
+  std::vector<PanelPicture> pictures_;
+  std::vector<Rect> changed_;
+  std::vector<std::uint32_t> copies_;
+};
+
+void print_frame(double frame, double rate) {
+  std::printf("frame of the cockpit      %10.1f us   %.2f %% of a core at %.0f a second\n", frame,
+              frame * rate / 1e4, rate);
+}
+
+}  // namespace
+
+int bench(const CockpitOptions& given) {
+  const CockpitOptions options = located(given);
+  GaugeModule module(options.module);
+  prepare_platform(options, PLATFORM_AUDIO_NONE);
+  platform_on_message([](const char*, const char*, void*) {}, nullptr);
+  Cockpit cockpit(module, read_panel_config(options.panel), options.rate);
+  cockpit.frame();
+  Pictures pictures(cockpit);
+  pictures.draw();
+
+  const double frame = microseconds([&] { cockpit.frame(); });
+  const double unchanged = microseconds([&] { pictures.draw(); });
+  const double whole = microseconds([&] { pictures.draw_all(); });
+  const double copy = microseconds([&] { pictures.copy(); });
+  print_frame(frame, options.rate);
+  std::printf("drawing, nothing changed  %10.1f us   frame and drawing are %.2f times the frame\n",
+              unchanged, (frame + unchanged) / frame);
+  std::printf("drawing, all changed      %10.1f us   %.2f times a plain copy of the pixels (%.1f us)\n",
+              whole, whole / copy, copy);
+  return exit_fine;
+}
+
+}  // namespace host

@@ -1,0 +1,129 @@
+#include <CLI/CLI.hpp>
+
+#include <cstdio>
+#include <functional>
+
+#include "host/app/commands.h"
+
+namespace host {
+namespace {
+
+// The commands' options, and what to run when the line has been read.
+class CommandLine {
+ public:
+  CommandLine() {
+    app_.require_subcommand(1);
+    app_.failure_message(CLI::FailureMessage::help);
+    add_fly();
+    add_run();
+    add_show();
+    add_list();
+    add_check();
+    add_bench();
+  }
+
+  int run(int argc, char** argv) {
+    try {
+      app_.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+      const bool asked_for_help = error.get_exit_code() == 0;
+      app_.failure_message(CLI::FailureMessage::simple);
+      app_.exit(error);
+      return asked_for_help ? exit_fine : exit_usage;
+    }
+    return command_();
+  }
+
+ private:
+  template <typename Options>
+  CLI::App* add(const char* name, const char* what, Options& options, int (*command)(const Options&)) {
+    CLI::App* sub = app_.add_subcommand(name, what);
+    sub->callback([this, &options, command] { command_ = [&options, command] { return command(options); }; });
+    return sub;
+  }
+
+  static void add_cockpit(CLI::App* sub, CockpitOptions& options) {
+    sub->add_option("--module", options.module, "The gauge module; else the one beside this program");
+    sub->add_option("--panel", options.panel, "The panel configuration; else the one beside this program");
+    sub->add_option("--rate", options.rate, "Gauge frames a second")
+        ->check(CLI::Range(1.0, 240.0))
+        ->capture_default_str();
+  }
+
+  void add_fly() {
+    CLI::App* sub = add("fly", "Sit in the cockpit: opens a window", fly_, fly);
+    add_cockpit(sub, fly_.cockpit);
+    sub->add_option("--scale", fly_.scale, "Scale of the desktop, 1 is 96 dots an inch; else its own setting")
+        ->check(CLI::Range(0.5, 8.0));
+    sub->add_option("--zoom", fly_.zoom, "Size of the panels, 1 is their own; else what fits the screen")
+        ->check(CLI::Range(0.1, 8.0));
+    sub->add_option("--open", fly_.open, "Windows to open at once, by their idents");
+    sub->add_option("--pictures", fly_.pictures, "Folder for screenshots")->capture_default_str();
+    sub->add_option("--record", fly_.record, "Write your inputs to this file, as a flow that can be run again");
+    sub->add_option("--exit-after", fly_.exit_after, "Leave after so many seconds")
+        ->check(CLI::NonNegativeNumber);
+    sub->add_flag("--mute", fly_.mute, "Fly without sound");
+  }
+
+  void add_run() {
+    CLI::App* sub = add("run", "Fly a flow without a window", run_, run_flow);
+    add_cockpit(sub, run_.cockpit);
+    sub->add_option("flow", run_.flow, "A flow file, or the name of one beside this program")
+        ->capture_default_str();
+    sub->add_option("--png", run_.pictures, "Folder for the flow's pictures");
+    sub->add_option("--wav", run_.sound, "File for the flow's sound");
+    sub->add_flag("--realtime", run_.realtime, "As slow as a clock, not as fast as possible");
+  }
+
+  void add_show() {
+    CLI::App* sub = add("show", "Draw gauges, in a window or into a file", show_, show);
+    add_cockpit(sub, show_.cockpit);
+    sub->add_option("gauges", show_.gauges, "Names of gauges")->required();
+    sub->add_option("--zoom", show_.zoom, "Size, 1 is the gauges' own")->check(CLI::Range(0.1, 8.0));
+    sub->add_option("--scale", show_.scale, "Scale of the desktop")->check(CLI::Range(0.5, 8.0));
+    sub->add_flag("--areas", show_.areas, "Outline the click areas");
+    sub->add_flag("--night", show_.night, "With the panel lights on");
+    sub->add_option("--set", show_.readings, "token=value, by name or number: hold a token variable");
+    sub->add_option("--png", show_.picture, "Write a picture to this file instead of opening a window");
+  }
+
+  void add_list() {
+    CLI::App* sub = add("list", "List what the cockpit has", list_, list);
+    add_cockpit(sub, list_.cockpit);
+    sub->add_option("what", list_.what, "gauges, windows, tokens, events or sounds")
+        ->required()
+        ->check(CLI::IsMember({"gauges", "windows", "tokens", "events", "sounds"}));
+  }
+
+  void add_check() {
+    CLI::App* sub = add("check", "Check every record of a module", check_, check);
+    sub->add_option("module", check_.module, "The gauge module; else the one beside this program");
+  }
+
+  void add_bench() {
+    CLI::App* sub = add("bench", "Measure the cockpit's frame and its drawing", bench_, bench);
+    add_cockpit(sub, bench_);
+  }
+
+  CLI::App app_{"The cockpit of a twin-jet airliner", "tarnvale"};
+  FlyOptions fly_;
+  RunOptions run_;
+  ShowOptions show_;
+  ListOptions list_;
+  CockpitOptions check_;
+  CockpitOptions bench_;
+  std::function<int()> command_;
+};
+
+}  // namespace
+
+int run_command_line(int argc, char** argv) {
+  try {
+    return CommandLine().run(argc, argv);
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "tarnvale: %s\n", error.what());
+    return exit_failed;
+  }
+}
+
+}  // namespace host

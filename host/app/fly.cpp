@@ -1,0 +1,23 @@
+#include "host/app/commands.h"
+#include "host/app/flight_deck.h"
+#include "host/app/installation.h"
+
+namespace host {
+
+int fly(const FlyOptions& options) {
+  const CockpitOptions cockpit_options = located(options.cockpit);
+  GaugeModule module(cockpit_options.module);
+  // A muted cockpit plays into a mix that nobody takes, so that its sound engine finds all well.
+  prepare_platform(cockpit_options, options.mute ? PLATFORM_AUDIO_RENDERED : PLATFORM_AUDIO_DEVICE);
+  Cockpit cockpit(module, read_panel_config(cockpit_options.panel), cockpit_options.rate);
+  for (std::uint32_t ident : options.open) {
+    if (!cockpit.panels().find(ident))
+      throw std::runtime_error("--open: there is no window " + std::to_string(ident));
+    cockpit.panels().open(ident);
+  }
+  FlightDeck deck(cockpit, options);
+  deck.fly();
+  return exit_fine;
+}
+
+}  // namespace host

@@ -1,0 +1,136 @@
+#include <algorithm>
+#include <cstdio>
+#include <fstream>
+#include <map>
+#include <vector>
+
+#include "host/app/columns.h"
+#include "host/app/commands.h"
+#include "host/app/installation.h"
+#include "host/panel/text.h"
+
+namespace host {
+namespace {
+
+namespace fs = std::filesystem;
+
+void print(const Columns& columns) { std::fputs(columns.text().c_str(), stdout); }
+
+int count_elements(const GaugeHeader& gauge) {
+  int count = 0;
+  for (const Element* element = gauge.element_list[0]; element; ++count)
+    element = element->next ? element->next[0] : nullptr;
+  return count;
+}
+
+std::string windows_with(const PanelConfig& panel, std::string_view gauge) {
+  std::string titles;
+  for (const WindowConfig& window : panel.windows)
+    if (std::ranges::any_of(window.gauges, [&](auto& place) { return same_name(place.gauge, gauge); }))
+      titles += (titles.empty() ? "" : ", ") + window.title;
+  return titles;
+}
+
+void list_gauges(const CockpitOptions& options) {
+  const GaugeModule module(options.module);
+  const PanelConfig panel = read_panel_config(options.panel);
+  Columns columns({"#", "gauge", "width", "height", "elements", "areas", "windows"});
+  int number = 0;
+  for (const GaugeHeader* gauge : module.gauges()) {
+    const PanelSize size = gauge_size(*gauge, module.bitmaps());
+    columns.add({std::to_string(++number), gauge->name, std::to_string(size.width),
+                 std::to_string(size.height), std::to_string(count_elements(*gauge)),
+                 std::to_string(HotAreas(gauge->mouse_areas).areas().size()),
+                 windows_with(panel, gauge->name)});
+  }
+  print(columns);
+}
+
+std::string ident_text(std::uint32_t ident) { return ident ? std::to_string(ident) : ""; }
+
+void list_windows(const CockpitOptions& options) {
+  Columns columns({"ident", "day", "night", "title", "width", "height", "gauges", "at start"});
+  for (const WindowConfig& window : read_panel_config(options.panel).windows)
+    columns.add({ident_text(window.ident), ident_text(window.day_ident), ident_text(window.night_ident),
+                 window.title, std::to_string(window.width), std::to_string(window.height),
+                 std::to_string(window.gauges.size()),
+                 !window.drawn ? "runs unseen" : window.visible ? "open" : "closed"});
+  print(columns);
+}
+
+void list_rows(std::span<const TableRow> rows) {
+  Columns columns({"number", "hex", "name", "unit"});
+  for (const TableRow& row : rows) {
+    char hex[16];
+    std::snprintf(hex, sizeof hex, "0x%X", row.number);
+    columns.add({std::to_string(row.number), hex, std::string(row.name), std::string(row.unit)});
+  }
+  print(columns);
+}
+
+// Length and format of a WAV file, from its chunks.
+struct WavFacts {
+  std::uint32_t rate = 0;
+  std::uint16_t channels = 0;
+  std::uint16_t bits = 0;
+  double seconds = 0;
+};
+
+template <typename Number>
+Number number_at(const std::vector<char>& bytes, std::size_t offset) {
+  Number number = 0;
+  for (std::size_t i = 0; i < sizeof(Number) && offset + i < bytes.size(); ++i)
+    number |= static_cast<Number>(static_cast<Number>(static_cast<unsigned char>(bytes[offset + i])) << 8 * i);
+  return number;
+}
+
+WavFacts read_facts(const fs::path& file) {
+  std::ifstream stream(file, std::ios::binary);
+  const std::vector<char> bytes{std::istreambuf_iterator<char>(stream), {}};
+  WavFacts facts;
+  for (std::size_t at = 12; at + 8 <= bytes.size();) {
+    const std::string id(bytes.data() + at, 4);
+    const auto size = number_at<std::uint32_t>(bytes, at + 4);
+    if (id == "fmt ") {
+      facts.channels = number_at<std::uint16_t>(bytes, at + 10);
+      facts.rate = number_at<std::uint32_t>(bytes, at + 12);
+      facts.bits = number_at<std::uint16_t>(bytes, at + 22);
+    } else if (id == "data") {
+      const double frame = facts.rate * facts.channels * (facts.bits / 8.0);
+      facts.seconds = frame > 0 ? size / frame : 0;
+    }
+    at += 8 + std::size_t(size) + size % 2;
+  }
+  return facts;
+}
+
+void list_sounds(const CockpitOptions& options) {
+  const fs::path folder = options.module.parent_path() / "Sound";
+  if (!fs::is_directory(folder)) throw std::runtime_error(folder.string() + ": there is no such folder");
+  std::map<std::string, WavFacts> sounds;
+  for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder))
+    if (entry.is_regular_file() && lower(entry.path().extension().string()) == ".wav")
+      sounds[fs::relative(entry.path(), folder).string()] = read_facts(entry.path());
+  Columns columns({"seconds", "rate", "bits", "channels", "file"});
+  for (const auto& [name, facts] : sounds) {
+    char seconds[32];
+    std::snprintf(seconds, sizeof seconds, "%.2f", facts.seconds);
+    columns.add({seconds, std::to_string(facts.rate), std::to_string(facts.bits),
+                 std::to_string(facts.channels), name});
+  }
+  print(columns);
+}
+
+}  // namespace
+
+int list(const ListOptions& options) {
+  const CockpitOptions cockpit = located(options.cockpit);
+  if (options.what == "gauges") list_gauges(cockpit);
+  if (options.what == "windows") list_windows(cockpit);
+  if (options.what == "tokens") list_rows(AircraftModel::tokens());
+  if (options.what == "events") list_rows(AircraftModel::events());
+  if (options.what == "sounds") list_sounds(cockpit);
+  return exit_fine;
+}
+
+}  // namespace host

@@ -1,0 +1,3 @@
+#include "host/app/commands.h"
+
+int main(int argc, char** argv) { return host::run_command_line(argc, argv); }

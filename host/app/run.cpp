@@ -1,0 +1,105 @@
+#include <chrono>
+#include <cmath>
+#include <cstdio>
+#include <memory>
+#include <thread>
+
+#include "host/app/commands.h"
+#include "host/app/installation.h"
+#include "host/app/progress.h"
+#include "host/script/flow_api.h"
+#include "host/script/soundtrack.h"
+
+namespace host {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+// Keeps simulated time from running ahead of the clock.
+class Pacer {
+ public:
+  void advance(double seconds) {
+    due_ += std::chrono::duration_cast<Clock::duration>(std::chrono::duration<double>(seconds));
+    std::this_thread::sleep_until(due_);
+  }
+
+ private:
+  Clock::time_point due_ = Clock::now();
+};
+
+// A headless cockpit with a flow at its controls.
+class FlowRun {
+ public:
+  explicit FlowRun(const RunOptions& options)
+      : options_(options),
+        cockpit_options_(located(options.cockpit)),
+        flow_(find_flow(options.flow)),
+        module_(cockpit_options_.module),
+        cockpit_(module_, read_panel_config(cockpit_options_.panel), cockpit_options_.rate),
+        session_(cockpit_, surroundings()) {
+    if (!options.pictures.empty()) prepare_folder(options.pictures);
+    if (!options.sound.empty()) sound_ = std::make_unique<Soundtrack>(options.sound.string());
+    prepare_platform(cockpit_options_, PLATFORM_AUDIO_RENDERED);
+    platform_on_message(take_message, this);
+  }
+
+  ~FlowRun() { platform_on_message(nullptr, nullptr); }
+
+  void fly() {
+    LuaRunner runner;
+    bind_flow_api(runner, session_);
+    session_.frame();  // the cockpit stands before the person takes a seat
+    runner.run(flow_);
+    sound_->finish();
+  }
+
+  void report() const {
+    std::printf("%s: fine, %.1f s flown at %.0f times real time\n", flow_.c_str(), session_.seconds(),
+                progress_.speed(session_.seconds()));
+  }
+
+ private:
+  FlowSurroundings surroundings() {
+    return {options_.pictures, [this](double seconds) { after_frame(seconds); },
+            [this](double seconds) { return sound_->level(seconds); },
+            [this](const std::string& text) { progress_.say(text, cockpit_.seconds()); }};
+  }
+
+  void after_frame(double seconds) {
+    sound_->advance(seconds);
+    if (options_.realtime) pacer_.advance(seconds);
+    progress_.tick(cockpit_.seconds());
+  }
+
+  static void take_message(const char* text, const char* caption, void* context) {
+    auto* run = static_cast<FlowRun*>(context);
+    run->session_.messages.emplace_back(text);
+    run->progress_.note(std::string(caption) + ": " + text);
+  }
+
+  RunOptions options_;
+  CockpitOptions cockpit_options_;
+  std::filesystem::path flow_;
+  Progress progress_;
+  Pacer pacer_;
+  std::unique_ptr<Soundtrack> sound_ = std::make_unique<Soundtrack>();
+  GaugeModule module_;
+  Cockpit cockpit_;
+  FlowSession session_;
+};
+
+}  // namespace
+
+int run_flow(const RunOptions& options) {
+  FlowRun run(options);
+  try {
+    run.fly();
+  } catch (const FlowError& error) {
+    std::fprintf(stderr, "\n%s\n", error.what());
+    return exit_failed;
+  }
+  run.report();
+  return exit_fine;
+}
+
+}  // namespace host

@@ -1,0 +1,63 @@
+/// A window of the desktop with a picture in memory: only what changed goes to the screen.
+#pragma once
+
+#include <SDL.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "host/drawing/painter.h"
+
+namespace host {
+
+/// Opens the desktop's window system and closes it again. Throws std::runtime_error when there is
+/// no display.
+class Desktop {
+ public:
+  Desktop();
+  ~Desktop();
+  Desktop(const Desktop&) = delete;
+  Desktop& operator=(const Desktop&) = delete;
+
+  /// What texts and borders are scaled by on this desktop, pixel density of its windows aside.
+  static double scale();
+
+  /// The room for a window on the first screen, in the desktop's units.
+  static PanelSize usable_size();
+};
+
+/// One window. All sizes and places are pixels.
+class ScreenWindow {
+ public:
+  /// `width` and `height` in the desktop's units.
+  ScreenWindow(const std::string& title, int width, int height);
+
+  Uint32 id() const { return SDL_GetWindowID(window_.get()); }
+  PanelSize size() const { return {canvas_.width, canvas_.height}; }
+
+  /// Pixels per unit of the desktop: above 1 on dense displays of systems that count in points.
+  double density() const;
+
+  /// Takes the window's present size. Returns whether it has changed.
+  bool take_size();
+
+  /// Asks for another size in pixels.
+  void resize(int width, int height);
+  void toggle_full_screen();
+
+  /// What the window shows; present() brings the changed parts to the screen.
+  Canvas& canvas() { return canvas_; }
+  const Canvas& canvas() const { return canvas_; }
+  void present(const std::vector<Rect>& changed);
+
+ private:
+  struct Close {
+    void operator()(SDL_Window* window) const { SDL_DestroyWindow(window); }
+  };
+
+  std::unique_ptr<SDL_Window, Close> window_;
+  Canvas canvas_;
+};
+
+}  // namespace host

@@ -1,0 +1,30 @@
+#include "host/app/x11_scale.h"
+
+#include <X11/Xlib.h>
+
+#include <cstdlib>
+#include <memory>
+#include <string>
+
+#include "host/panel/text.h"
+
+namespace host {
+
+std::optional<double> scale_in_resources(std::string_view resources) {
+  for (std::string_view line : split(resources, '\n')) {
+    const std::size_t colon = line.find(':');
+    if (colon == std::string_view::npos || trimmed(line.substr(0, colon)) != "Xft.dpi") continue;
+    const double dpi = std::strtod(std::string(trimmed(line.substr(colon + 1))).c_str(), nullptr);
+    if (dpi >= 48 && dpi <= 768) return dpi / 96;
+  }
+  return std::nullopt;
+}
+
+double x11_scale() {
+  const std::unique_ptr<Display, int (*)(Display*)> display(XOpenDisplay(nullptr), XCloseDisplay);
+  if (!display) return 1.0;
+  const char* resources = XResourceManagerString(display.get());
+  return resources ? scale_in_resources(resources).value_or(1.0) : 1.0;
+}
+
+}  // namespace host

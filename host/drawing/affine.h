@@ -1,0 +1,31 @@
+/// Draws pictures turned and shifted by parts of a pixel.
+#pragma once
+
+#include "host/drawing/pixels.h"
+
+namespace host {
+
+/// Where the point (x, y) of a picture goes: (xx x + xy y + dx, yx x + yy y + dy). Whole numbers are
+/// the corners of pixels.
+struct Affine {
+  double xx = 1, xy = 0, dx = 0;
+  double yx = 0, yy = 1, dy = 0;
+};
+
+Affine shifted_by(double x, double y);
+Affine scaled_by(double x, double y);
+
+/// Clockwise, as y points down.
+Affine turned_by(double degrees);
+
+/// `second` after `first`.
+Affine operator*(const Affine& second, const Affine& first);
+
+/// The whole pixels around a picture of that size.
+Rect bounds_of(const Affine& map, int width, int height);
+
+/// Lays a picture over the target. Its outermost pixels must be clear: edges are smoothed into them.
+/// Where the map is a shift by whole pixels, pixels are blended exactly.
+void blend_turned(Surface target, const Rect& clip, PixelView picture, const Affine& map);
+
+}  // namespace host

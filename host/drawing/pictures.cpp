@@ -1,0 +1,115 @@
+#include "host/drawing/pictures.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "host/drawing/resample.h"
+
+namespace host {
+namespace {
+
+constexpr double farthest = 1e6;     // canvas pixels
+constexpr int greatest_side = 16384;
+
+bool row_is_clear(const Bitmap& bitmap, int y) {
+  const std::uint32_t* row = bitmap.pixels.data() + std::size_t(y) * bitmap.width;
+  return std::all_of(row, row + bitmap.width, [](auto pixel) { return pixel >> 24 == 0; });
+}
+
+bool column_is_clear(const Bitmap& bitmap, int x, int top, int bottom) {
+  for (int y = top; y < bottom; ++y)
+    if (bitmap.pixels[std::size_t(y) * bitmap.width + x] >> 24 != 0) return false;
+  return true;
+}
+
+Rect visible_part(const Bitmap& bitmap) {
+  if (bitmap.opaque) return {0, 0, bitmap.width, bitmap.height};
+  int top = 0, bottom = bitmap.height, left = 0, right = bitmap.width;
+  while (top < bottom && row_is_clear(bitmap, top)) ++top;
+  while (bottom > top && row_is_clear(bitmap, bottom - 1)) --bottom;
+  if (top == bottom) return {};
+  while (column_is_clear(bitmap, left, top, bottom)) ++left;
+  while (column_is_clear(bitmap, right - 1, top, bottom)) --right;
+  return {left, top, right - left, bottom - top};
+}
+
+PixelView part_of(const Bitmap& bitmap, const Rect& part) {
+  return {bitmap.pixels.data() + std::size_t(part.y) * bitmap.width + part.x, part.width, part.height,
+          bitmap.width};
+}
+
+Bitmap with_clear_edges(const PixelView& source) {
+  Bitmap padded{source.width + 2, source.height + 2, false, false, {}};
+  padded.pixels.resize(std::size_t(padded.width) * padded.height);
+  for (int y = 0; y < source.height; ++y)
+    std::copy_n(source.at(0, y), source.width, &padded.pixels[std::size_t(y + 1) * padded.width + 1]);
+  return padded;
+}
+
+}  // namespace
+
+int scaled_edge(double at, double scale) {
+  return static_cast<int>(std::floor(std::clamp(at * scale, -farthest, farthest) + 0.5));
+}
+
+Rect scaled_place(PanelPoint position, PanelSize size, Scale scale) {
+  const int left = scaled_edge(position.x, scale.x), top = scaled_edge(position.y, scale.y);
+  const int right = scaled_edge(double(position.x) + size.width, scale.x);
+  const int bottom = scaled_edge(double(position.y) + size.height, scale.y);
+  return {left, top, std::max(1, right - left), std::max(1, bottom - top)};
+}
+
+PanelSize Pictures::size(std::int64_t id, BitmapUse use) const {
+  const Bitmap* bitmap = id < 0 ? nullptr : bitmaps_.find(static_cast<std::uint32_t>(id), use);
+  if (bitmap == nullptr) return {0, 0};
+  return {bitmap->width, bitmap->height};
+}
+
+// The smallest that need not be enlarged, else the largest there is.
+const Bitmap* Pictures::best(std::uint32_t id, BitmapUse use, double needed) const {
+  const Bitmap* found = nullptr;
+  for (const int density : bitmaps_.densities()) {
+    if (const Bitmap* bitmap = bitmaps_.find(id, use, density)) found = bitmap;
+    if (found != nullptr && density >= needed - 0.01) break;
+  }
+  return found;
+}
+
+const Bitmap& Pictures::whole(const Key& key, const Bitmap& source) {
+  const auto [id, use, width, height] = key;
+  if (source.width == width && source.height == height) return source;
+  const auto kept = resampled_.find(key);
+  if (kept != resampled_.end()) return kept->second;
+  return resampled_.emplace(key, resampled(source, width, height)).first->second;
+}
+
+const Picture* Pictures::at_size(std::int64_t id, BitmapUse use, int width, int height) {
+  const PanelSize own = size(id, use);
+  if (own.width <= 0 || own.height <= 0) return nullptr;
+  const Key key{static_cast<std::uint32_t>(id), use, std::clamp(width, 1, greatest_side),
+                std::clamp(height, 1, greatest_side)};
+  auto kept = pictures_.find(key);
+  if (kept == pictures_.end()) {
+    const double needed = std::max(1.0 * width / own.width, 1.0 * height / own.height);
+    const Bitmap& bitmap = whole(key, *best(std::get<0>(key), use, needed));
+    const Rect visible = visible_part(bitmap);
+    kept = pictures_.emplace(key, Picture{visible, bitmap.opaque, part_of(bitmap, visible)}).first;
+  }
+  return is_empty(kept->second.visible) ? nullptr : &kept->second;
+}
+
+const TurningPicture* Pictures::turning(std::int64_t id) {
+  const PanelSize own = size(id, BitmapUse::image);
+  const Rect place = scaled_place({0, 0}, own, scale_);
+  const Picture* picture = at_size(id, BitmapUse::image, place.width, place.height);
+  if (picture == nullptr) return nullptr;
+  const auto kept = turning_.find(static_cast<std::uint32_t>(id));
+  if (kept != turning_.end()) return &kept->second;
+  const Affine to_whole = shifted_by(picture->visible.x - 1, picture->visible.y - 1);
+  const Affine to_image = scaled_by(1.0 * own.width / place.width, 1.0 * own.height / place.height);
+  return &turning_.emplace(static_cast<std::uint32_t>(id),
+                           TurningPicture{with_clear_edges(picture->pixels), {place.width, place.height},
+                                          to_whole, to_image * to_whole}).first->second;
+}
+
+}  // namespace host

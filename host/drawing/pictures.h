@@ -1,0 +1,75 @@
+/// A module's bitmaps at the size at which one gauge shows them.
+#pragma once
+
+#include <map>
+#include <tuple>
+
+#include "host/drawing/affine.h"
+#include "host/loader/bitmap.h"
+
+namespace host {
+
+/// Canvas pixels per pixel of the gauge's background.
+struct Scale {
+  double x = 1;
+  double y = 1;
+};
+
+/// A picture at its final size, without the clear pixels around it.
+struct Picture {
+  Rect visible;  ///< what is left, in pixels of the whole picture
+  bool opaque = false;
+  PixelView pixels;  ///< of the visible part
+};
+
+/// The visible part of a picture with a clear edge around it, ready to be turned or shifted by parts
+/// of a pixel, and the ways back from its pixels.
+struct TurningPicture {
+  Bitmap pixels;
+  PanelSize whole;   ///< the whole picture's size, canvas pixels
+  Affine to_whole;   ///< to the pixels of the whole picture
+  Affine to_image;   ///< to those of the module's own bitmap
+
+  PixelView view() const {
+    return {pixels.pixels.data(), pixels.width, pixels.height, pixels.width};
+  }
+};
+
+/// The edge of a background pixel in canvas pixels; far outside for values that no canvas reaches.
+int scaled_edge(double at, double scale);
+
+/// The canvas pixels of an image of `size` that stands at `position`; edges that meet on the
+/// background meet on the canvas.
+Rect scaled_place(PanelPoint position, PanelSize size, Scale scale);
+
+class Pictures {
+ public:
+  /// The store must outlive the pictures.
+  Pictures(const BitmapStore& bitmaps, Scale scale) : bitmaps_(bitmaps), scale_(scale) {}
+
+  Scale scale() const { return scale_; }
+
+  /// The module's own size of a bitmap; {0, 0} if there is none.
+  PanelSize size(std::int64_t id, BitmapUse use) const;
+
+  /// The bitmap at the size of `width` x `height` canvas pixels; null if there is none or if nothing
+  /// of it can be seen. Stays valid as long as the pictures.
+  const Picture* at_size(std::int64_t id, BitmapUse use, int width, int height);
+
+  /// The image at this scale; null as above.
+  const TurningPicture* turning(std::int64_t id);
+
+ private:
+  using Key = std::tuple<std::uint32_t, BitmapUse, int, int>;
+
+  const Bitmap* best(std::uint32_t id, BitmapUse use, double needed) const;
+  const Bitmap& whole(const Key& key, const Bitmap& source);
+
+  const BitmapStore& bitmaps_;
+  Scale scale_;
+  std::map<Key, Bitmap> resampled_;
+  std::map<Key, Picture> pictures_;
+  std::map<std::uint32_t, TurningPicture> turning_;
+};
+
+}  // namespace host

@@ -1,0 +1,64 @@
+/// Copying and blending rows of pixels: premultiplied ARGB32, top row first.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+#include "host/drawing/painter.h"
+
+namespace host {
+
+/// The part that two rectangles share; {0, 0, 0, 0} if none.
+Rect intersection(const Rect& a, const Rect& b);
+
+/// The smallest rectangle around both; an empty one adds nothing.
+Rect around(const Rect& a, const Rect& b);
+
+inline bool is_empty(const Rect& rect) { return rect.width <= 0 || rect.height <= 0; }
+
+/// Pixels of somebody else's, to draw on, in coordinates of a gauge whose corner stands at (left, top)
+/// and may lie outside.
+struct Surface {
+  std::uint32_t* pixels = nullptr;
+  std::ptrdiff_t stride = 0;  ///< pixels from row to row
+  int left = 0;
+  int top = 0;
+  std::uint32_t* at(int x, int y) const { return pixels + (y + top) * stride + (x + left); }
+};
+
+/// Pixels of somebody else's, to draw from.
+struct PixelView {
+  const std::uint32_t* pixels = nullptr;
+  int width = 0;
+  int height = 0;
+  std::ptrdiff_t stride = 0;
+  const std::uint32_t* at(int x, int y) const { return pixels + y * stride + x; }
+};
+
+/// Lays `count` source pixels over the target's.
+void over_row(std::uint32_t* target, const std::uint32_t* source, std::size_t count);
+
+/// Multiplies `count` pixels by the opacity of as many mask pixels.
+void mask_row(std::uint32_t* target, const std::uint32_t* mask, std::size_t count);
+
+/// One channel-wise product: `pixel` times `opacity` / 255, rounded.
+constexpr std::uint32_t faded(std::uint32_t pixel, std::uint32_t opacity) {
+  std::uint32_t even = (pixel & 0xFF00FF) * opacity + 0x800080;
+  std::uint32_t odd = (pixel >> 8 & 0xFF00FF) * opacity + 0x800080;
+  even = (even + (even >> 8 & 0xFF00FF)) >> 8 & 0xFF00FF;
+  odd = (odd + (odd >> 8 & 0xFF00FF)) & 0xFF00FF00;
+  return odd | even;
+}
+
+/// One pixel over another.
+constexpr std::uint32_t over(std::uint32_t target, std::uint32_t source) {
+  return source + faded(target, 255 - (source >> 24));
+}
+
+/// Copies `source`, whose first pixel goes to (x, y), as far as it lies in `clip`.
+void copy_pixels(Surface target, const Rect& clip, PixelView source, int x, int y);
+
+/// The same, laid over what is there.
+void blend_pixels(Surface target, const Rect& clip, PixelView source, int x, int y);
+
+}  // namespace host

@@ -1,0 +1,149 @@
+#include "host/drawing/text.h"
+
+#include <pango/pangocairo.h>
+#include <strings.h>
+
+#include <algorithm>
+#include <cctype>
+#include <string>
+
+#if defined(__SANITIZE_ADDRESS__)
+// Fontconfig keeps its caches behind pointers that the leak checker cannot follow.
+extern "C" const char* __lsan_default_suppressions() { return "leak:libfontconfig\nleak:libpango\n"; }
+#endif
+
+namespace host {
+namespace {
+
+constexpr double trial_size = 100;       // pixels; sizes are measured at it and then scaled
+constexpr double segment_height = 0.78;  // of the box's height
+constexpr double narrowest = 0.6;        // a text longer than this allows is clipped
+
+template <auto destroy>
+struct Destroyer {
+  template <typename Object>
+  void operator()(Object* object) const { destroy(object); }
+};
+using SurfacePtr = std::unique_ptr<cairo_surface_t, Destroyer<cairo_surface_destroy>>;
+using ContextPtr = std::unique_ptr<cairo_t, Destroyer<cairo_destroy>>;
+using LayoutPtr = std::unique_ptr<PangoLayout, Destroyer<g_object_unref>>;
+using FontPtr = std::unique_ptr<PangoFontDescription, Destroyer<pango_font_description_free>>;
+
+bool is_segment_display(const char* font) { return ::strcasecmp(font, "quartz") == 0; }
+
+FontPtr font_of(const StringPart& part) {
+  const char* name = part.font == nullptr ? "" : part.font;
+  const bool arial = ::strcasecmp(name, "arial") == 0;
+  FontPtr font(pango_font_description_new());
+  pango_font_description_set_family(font.get(), is_segment_display(name) ? "DSEG14 Classic, DSEG7 Classic, monospace"
+                                                : arial ? "Liberation Sans, Arial, sans-serif" : name);
+  pango_font_description_set_weight(font.get(), static_cast<PangoWeight>(std::clamp(part.weight, 100u, 900u)));
+  return font;
+}
+
+// The same glyphs on every screen: smooth, and placed where the size puts them.
+void steady_rendering(cairo_t* cr) {
+  cairo_font_options_t* options = cairo_font_options_create();
+  cairo_font_options_set_antialias(options, CAIRO_ANTIALIAS_GRAY);
+  cairo_font_options_set_hint_style(options, CAIRO_HINT_STYLE_SLIGHT);
+  cairo_font_options_set_hint_metrics(options, CAIRO_HINT_METRICS_OFF);
+  cairo_set_font_options(cr, options);
+  cairo_font_options_destroy(options);
+}
+
+void set_colour(cairo_t* cr, u32 colour) {
+  cairo_set_source_rgb(cr, (colour & 255) / 255.0, (colour >> 8 & 255) / 255.0, (colour >> 16 & 255) / 255.0);
+}
+
+// In segment fonts a space is narrow and "!" is a digit with all segments off.
+std::string display_text(std::string_view text, bool segments) {
+  std::string shown;
+  for (const char c : text.substr(0, 256)) {
+    const bool printable = c >= ' ' && c <= '~';
+    const char letter = printable ? c : '?';
+    shown += !segments ? letter : letter == ' ' ? '!' : static_cast<char>(std::toupper(letter));
+  }
+  return shown;
+}
+
+struct Extent {
+  double width;   // of one figure, with its share of space
+  double top;     // of what has to stand in the middle of the box
+  double height;
+};
+
+// In pixels at the layout's font size.
+Extent extent(PangoLayout* layout, bool segments) {
+  PangoRectangle ink, logical;
+  pango_layout_set_text(layout, "8", 1);
+  pango_layout_get_extents(layout, &ink, &logical);
+  const PangoRectangle& tall = segments ? ink : logical;
+  const auto pixels = [](int units) { return units / static_cast<double>(PANGO_SCALE); };
+  return {pixels(logical.width), pixels(tall.y), std::max(1.0, pixels(tall.height))};
+}
+
+}  // namespace
+
+struct TextSetter::Setting {
+  bool segments;
+  SurfacePtr surface;
+  ContextPtr cr;
+  LayoutPtr layout;
+  double top = 0;
+  PanelSize box;
+
+  Setting(const StringPart& part, PanelSize size);
+  void choose_size(FontPtr font, u32 longest);
+};
+
+TextSetter::Setting::Setting(const StringPart& part, PanelSize size)
+    : segments(part.font != nullptr && is_segment_display(part.font)),
+      surface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, size.width, size.height)),
+      cr(cairo_create(surface.get())), layout(pango_cairo_create_layout(cr.get())), box(size) {
+  steady_rendering(cr.get());
+  pango_cairo_update_layout(cr.get(), layout.get());
+  pango_layout_set_single_paragraph_mode(layout.get(), true);
+  set_colour(cr.get(), part.foreground);
+  choose_size(font_of(part), part.max_characters);
+}
+
+void TextSetter::Setting::choose_size(FontPtr font, u32 longest) {
+  const auto use = [&](double pixels) {
+    pango_font_description_set_absolute_size(font.get(), pixels * PANGO_SCALE);
+    pango_layout_set_font_description(layout.get(), font.get());
+    return extent(layout.get(), segments);
+  };
+  const Extent trial = use(trial_size);
+  const double high = box.height * (segments ? segment_height : 1.0) / trial.height;
+  const double wide = box.width / std::max(1.0, trial.width * std::max(1u, longest));
+  const Extent fitted = use(trial_size * std::clamp(wide, high * narrowest, high));
+  top = (box.height - fitted.height) / 2 - fitted.top;
+}
+
+TextSetter::TextSetter(const StringPart& part, PanelSize box)
+    : setting_(std::make_unique<Setting>(part, box)) {}
+
+TextSetter::~TextSetter() = default;
+
+bool TextSetter::set(std::string_view text) {
+  cairo_t* cr = setting_->cr.get();
+  cairo_save(cr);
+  cairo_set_operator(cr, CAIRO_OPERATOR_CLEAR);
+  cairo_paint(cr);
+  cairo_restore(cr);
+  const std::string shown = display_text(text, setting_->segments);
+  pango_layout_set_text(setting_->layout.get(), shown.c_str(), static_cast<int>(shown.size()));
+  cairo_move_to(cr, 0, setting_->top);
+  pango_cairo_show_layout(cr, setting_->layout.get());
+  cairo_surface_flush(setting_->surface.get());
+  return text.find_first_not_of(' ') != std::string_view::npos;
+}
+
+PixelView TextSetter::pixels() const {
+  cairo_surface_t* surface = setting_->surface.get();
+  const auto* data = reinterpret_cast<const std::uint32_t*>(cairo_image_surface_get_data(surface));
+  return {data, setting_->box.width, setting_->box.height,
+          cairo_image_surface_get_stride(surface) / static_cast<int>(sizeof *data)};
+}
+
+}  // namespace host

@@ -1,0 +1,33 @@
+/// What needles, sliders and sprites share: one image, drawn through a map that the look gives.
+#pragma once
+
+#include "host/drawing/motion.h"
+
+namespace host {
+
+class TurningPainter : public ElementPainter {
+ public:
+  /// The picture must outlive the painter.
+  explicit TurningPainter(const TurningPicture& picture) : picture_(picture) {}
+
+  Rect bounds(const Look& look) const final {
+    return bounds_of(map(look), picture_.pixels.width, picture_.pixels.height);
+  }
+
+  void paint(Surface target, const Rect& clip, const Look& look) const final {
+    blend_turned(target, clip, picture_.view(), map(look));
+  }
+
+  bool moves() const final { return true; }
+
+ protected:
+  /// From the picture's pixels to canvas pixels relative to the gauge.
+  virtual Affine map(const Look& look) const = 0;
+
+  const TurningPicture& picture() const { return picture_; }
+
+ private:
+  const TurningPicture& picture_;
+};
+
+}  // namespace host

@@ -1,0 +1,41 @@
+/// Pictures as the drawing code takes them, and the store that hands them out.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace host {
+
+/// A picture in memory: premultiplied ARGB32 in native byte order, top row first, no row padding.
+struct Bitmap {
+  int width = 0;
+  int height = 0;
+  bool opaque = false;  ///< every pixel has full opacity
+  bool empty = false;   ///< no pixel shows anything
+  std::vector<std::uint32_t> pixels;
+};
+
+/// How a bitmap is used decides what its black pixels mean.
+enum class BitmapUse {
+  background,  ///< a static image: every pixel is drawn
+  image,       ///< any other: pure black is not drawn, palette opacities count
+};
+
+/// The bitmaps of one module and of the denser artwork that lies beside it.
+class BitmapStore {
+ public:
+  virtual ~BitmapStore() = default;
+
+  /// The bitmap `id` at `density` times the module's own pixels (1, 2 or 3); null if there is none.
+  /// The pointer stays valid as long as the store.
+  virtual const Bitmap* find(std::uint32_t id, BitmapUse use, int density = 1) const = 0;
+
+  /// The densities that are loaded, ascending; the first is always 1.
+  virtual std::vector<int> densities() const = 0;
+};
+
+}  // namespace host

@@ -1,0 +1,47 @@
+/// The bitmaps that a module carries, and the denser ones in the files beside it.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "host/loader/mapped_file.h"
+#include "host/loader/resource_section.h"
+
+namespace host {
+
+class ModuleBitmaps final : public BitmapStore {
+ public:
+  /// Takes the module's own section, which must outlive the store, and looks for the files
+  /// `module` + ".2x" and ".3x". Throws ResourceError for a section without a directory.
+  ModuleBitmaps(Bytes section, const std::filesystem::path& module);
+
+  /// Bitmaps are converted when they are first asked for, and kept.
+  const Bitmap* find(std::uint32_t id, BitmapUse use, int density = 1) const override;
+
+  std::vector<int> densities() const override;
+
+  /// The module's own bitmap; null if there is none. Unlike find() this converts nothing.
+  const Dib* own(std::uint32_t id) const { return sets_.front().section.find(id); }
+
+  /// Damaged bitmaps and files that are left out, a line for each.
+  const std::vector<std::string>& notes() const { return notes_; }
+
+ private:
+  struct DensitySet {
+    int density;
+    std::optional<MappedFile> file;  // none for the module's own
+    ResourceSection section;
+    mutable std::map<std::pair<std::uint32_t, BitmapUse>, Bitmap> pictures;
+  };
+
+  void add_dense(int density, const std::filesystem::path& file);
+  const DensitySet* set_of(int density) const;
+  const Dib* dib(const DensitySet& set, std::uint32_t id) const;
+
+  std::vector<DensitySet> sets_;
+  std::vector<std::string> notes_;
+};
+
+}  // namespace host

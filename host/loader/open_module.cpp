@@ -1,0 +1,131 @@
+#include "host/loader/open_module.h"
+
+#include <dlfcn.h>
+
+#include <algorithm>
+#include <system_error>
+
+#include "host/loader/record_checks.h"
+
+namespace host {
+namespace {
+
+constexpr const char* linkage_name = "Linkage";
+constexpr const char* imports_name = "ImportTable";
+
+}  // namespace
+
+OpenModule::OpenModule(const std::filesystem::path& file) : file_(file) { open(); }
+
+OpenModule::~OpenModule() {
+  if (connected_ && linkage_->deinit != nullptr) linkage_->deinit();
+  if (library_ != nullptr) ::dlclose(library_);
+}
+
+void OpenModule::note(Finding::Severity severity, const std::string& text) {
+  findings_.push_back({severity, file_.filename().string() + ": " + text});
+}
+
+void OpenModule::open() {
+  using Step = void (OpenModule::*)();
+  for (const Step step : {&OpenModule::read_file, &OpenModule::load_library,
+                          &OpenModule::look_at_records, &OpenModule::look_at_artwork}) {
+    (this->*step)();
+    if (has_errors(findings_)) return;
+  }
+}
+
+void OpenModule::read_file() {
+  try {
+    mapped_ = std::make_unique<MappedFile>(file_);
+    const ElfFile elf(mapped_->bytes());
+    check_exports(elf);
+    read_bitmaps(elf);
+  } catch (const ElfError& error) {
+    note(Finding::Severity::error, error.what());
+  } catch (const std::system_error& error) {
+    note(Finding::Severity::error, "cannot be read: " + error.code().message());
+  }
+}
+
+void OpenModule::check_exports(const ElfFile& elf) {
+  if (elf.exports().empty()) {
+    note(Finding::Severity::error, "has no symbols; a module exports Linkage and ImportTable");
+    return;
+  }
+  check_export(elf, linkage_name, sizeof(LinkageRecord));
+  check_export(elf, imports_name, sizeof(ImportTableRecord));
+  for (const ExportedSymbol& symbol : elf.exports())
+    if (symbol.name != linkage_name && symbol.name != imports_name)
+      note(Finding::Severity::warning, "exports " + symbol.name + " beside Linkage and ImportTable");
+}
+
+void OpenModule::check_export(const ElfFile& elf, const char* name, std::size_t size) {
+  const auto symbol = std::ranges::find(elf.exports(), name, &ExportedSymbol::name);
+  if (symbol == elf.exports().end()) {
+    note(Finding::Severity::error, std::string("does not export ") + name);
+  } else if (symbol->size != 0 && symbol->size < size) {
+    note(Finding::Severity::error, std::string(name) + " has " + std::to_string(symbol->size) +
+                                       " bytes, not " + std::to_string(size));
+  }
+}
+
+void OpenModule::read_bitmaps(const ElfFile& elf) {
+  const auto section = elf.section(PANEL_RESOURCE_SECTION);
+  if (!section) {
+    note(Finding::Severity::error, "has no section " PANEL_RESOURCE_SECTION " and so no bitmaps");
+    return;
+  }
+  try {
+    bitmaps_ = std::make_unique<ModuleBitmaps>(*section, file_);
+    for (const std::string& line : bitmaps_->notes()) note(Finding::Severity::warning, line);
+  } catch (const ResourceError& error) {
+    note(Finding::Severity::error, std::string("section " PANEL_RESOURCE_SECTION " ") + error.what());
+  }
+}
+
+void OpenModule::load_library() {
+  // A bare name would be looked for along the system's library path.
+  library_ = ::dlopen(std::filesystem::absolute(file_).c_str(), RTLD_NOW | RTLD_LOCAL);
+  if (library_ == nullptr) {
+    const char* reason = ::dlerror();
+    note(Finding::Severity::error, std::string("cannot be loaded: ") + (reason ? reason : "no reason given"));
+    return;
+  }
+  linkage_ = static_cast<LinkageRecord*>(::dlsym(library_, linkage_name));
+  imports_ = static_cast<ImportTableRecord*>(::dlsym(library_, imports_name));
+  if (linkage_ == nullptr || imports_ == nullptr)
+    note(Finding::Severity::error, "cannot be loaded: its symbols are not found");
+}
+
+void OpenModule::look_at_records() {
+  const MemoryMap memory;
+  check_records(*linkage_, *imports_, Inspector(memory, findings_, file_.filename().string()));
+}
+
+void OpenModule::look_at_artwork() {
+  const MemoryMap memory;
+  const Inspector file(memory, findings_, file_.filename().string());
+  for (std::size_t i = 0; linkage_->gauges[i] != nullptr; ++i) {
+    const GaugeHeader& gauge = *linkage_->gauges[i];
+    check_artwork(gauge, *bitmaps_, file.first(gauge_place(i, gauge.name)));
+  }
+}
+
+void OpenModule::connect(const PanelServices& services) {
+  imports_->entries[0].pointer = &services;
+  if (!connected_ && linkage_->init != nullptr) linkage_->init();
+  connected_ = true;
+}
+
+bool has_errors(const std::vector<Finding>& findings) {
+  return std::ranges::any_of(findings, [](const Finding& finding) {
+    return finding.severity == Finding::Severity::error;
+  });
+}
+
+std::vector<Finding> check_module(const std::filesystem::path& file) {
+  return OpenModule(file).findings();
+}
+
+}  // namespace host

@@ -1,0 +1,47 @@
+#include "host/panel/area_marks.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace host {
+namespace {
+
+std::uint32_t color_of(const HotArea& area) {
+  if (area.cursor == CURSOR_INCREASE) return 0xFF35E07Au;
+  if (area.cursor == CURSOR_DECREASE) return 0xFFFF5B50u;
+  if (area.flags & MOUSE_DRAG) return 0xFFD07BFFu;
+  if (!(area.flags & MOUSE_LEFT)) return 0xFF54A8FFu;
+  return 0xFFFFD84Au;
+}
+
+void fill(Canvas& canvas, int x0, int y0, int x1, int y1, std::uint32_t color) {
+  x0 = std::max(x0, 0);
+  x1 = std::min(x1, canvas.width);
+  for (int y = std::max(y0, 0); y < std::min(y1, canvas.height); ++y)
+    for (int x = x0; x < x1; ++x) canvas.pixels[std::size_t(y) * canvas.width + x] = color;
+}
+
+void outline(Canvas& canvas, const Rect& box, int line, std::uint32_t color) {
+  const int right = box.x + box.width, bottom = box.y + box.height;
+  fill(canvas, box.x, box.y, right, box.y + line, color);
+  fill(canvas, box.x, bottom - line, right, bottom, color);
+  fill(canvas, box.x, box.y, box.x + line, bottom, color);
+  fill(canvas, right - line, box.y, right, bottom, color);
+}
+
+}  // namespace
+
+void draw_area_marks(Canvas& canvas, const HotAreas& areas, PanelSize gauge, const Rect& place) {
+  const double zoom = static_cast<double>(place.width) / std::max(1, gauge.width);
+  const auto pixels = [&](std::int64_t length) {
+    return static_cast<int>(std::lround(static_cast<double>(length) * zoom));
+  };
+  const int line = std::max(1, static_cast<int>(zoom));
+  for (const HotArea& area : areas.areas())
+    outline(canvas,
+            {place.x + pixels(area.box.x), place.y + pixels(area.box.y), pixels(area.box.width),
+             pixels(area.box.height)},
+            line, color_of(area));
+}
+
+}  // namespace host

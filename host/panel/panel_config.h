@@ -1,0 +1,78 @@
+/// The panel configuration: which windows a cockpit has, and which gauges stand where in them.
+///
+///     [Window Titles]
+///     Window00=Overhead
+///
+///     [Window00]
+///     ident=502                         // the number by which gauges open and close it
+///     size_mm=1280,900                  // its plate, in panel pixels
+///     position=1                        // where it likes to stand, 0 upper left ... 8 lower right
+///     visible=1                         // open from the start
+///     gauge00=Tarnvale!Masterbat, 20,30 // x,y and, where it is scaled, its width,height
+///
+/// Further entries of a window: `ident_day` and `ident_night`, two numbers that show its day or its
+/// night face; `background` and `background_night`, PNG files beside the configuration;
+/// `background_color=r,g,b` for the plate without one; `drawn=0` for a window whose gauges run all
+/// the time and are never seen.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace host {
+
+/// A configuration that cannot be used; what() is "file:line: what is wrong".
+struct ConfigError : std::runtime_error {
+  using std::runtime_error::runtime_error;
+};
+
+/// One gauge in a window.
+struct Placement {
+  std::string module;  ///< the module's file name without its extension
+  std::string gauge;
+  int x = 0;           ///< panel pixels from the window's upper left corner
+  int y = 0;
+  int width = 0;       ///< 0: the size of the gauge's own background
+  int height = 0;
+  int line = 0;        ///< where the configuration says so
+};
+
+/// One window of the panel.
+struct WindowConfig {
+  int number = 0;
+  int line = 0;
+  std::string title;
+  std::uint32_t ident = 0;        ///< 0: none
+  std::uint32_t day_ident = 0;
+  std::uint32_t night_ident = 0;
+  int width = 0;                  ///< panel pixels
+  int height = 0;
+  int position = 4;               ///< 0 upper left ... 8 lower right
+  bool visible = false;
+  bool drawn = true;
+  std::string background;         ///< empty: a plate in `color`
+  std::string night_background;   ///< empty: as by day
+  std::uint32_t color = 0xFF2B2E33u;
+  std::vector<Placement> gauges;
+};
+
+/// A panel with its windows in ascending order of their numbers.
+struct PanelConfig {
+  std::filesystem::path file;
+  std::vector<WindowConfig> windows;
+};
+
+/// Reads a configuration. `file` is named in errors and kept. Throws ConfigError.
+PanelConfig parse_panel_config(std::string_view text, const std::filesystem::path& file);
+
+/// Reads a configuration file. Throws ConfigError, also when the file cannot be read.
+PanelConfig read_panel_config(const std::filesystem::path& file);
+
+/// "file:line: message", the form of every configuration error.
+std::string at_line(const std::filesystem::path& file, int line, const std::string& message);
+
+}  // namespace host

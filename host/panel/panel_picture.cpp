@@ -1,0 +1,106 @@
+#include "host/panel/panel_picture.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "host/panel/area_marks.h"
+#include "host/panel/plate.h"
+
+namespace host {
+namespace {
+
+constexpr double greatest_side = 16384;  // canvas pixels
+
+// Both edges are rounded, so that neighbours at any zoom still touch.
+Rect scaled(const Rect& rect, double zoom) {
+  const auto edge = [&](int at) { return static_cast<int>(std::lround(at * zoom)); };
+  return {edge(rect.x), edge(rect.y), std::max(1, edge(rect.x + rect.width) - edge(rect.x)),
+          std::max(1, edge(rect.y + rect.height) - edge(rect.y))};
+}
+
+double limited_zoom(const WindowConfig& window, double zoom) {
+  const double side = std::max({window.width, window.height, 1});
+  return std::clamp(zoom, 0.05, greatest_side / side);
+}
+
+int whole_part(std::int64_t value, std::int64_t divisor) {
+  return static_cast<int>(value >= 0 ? value / divisor : -((-value + divisor - 1) / divisor));
+}
+
+}  // namespace
+
+PanelPoint gauge_point(const Rect& place, PanelSize size, int x, int y) {
+  return {whole_part(std::int64_t(x - place.x) * size.width, std::max(1, place.width)),
+          whole_part(std::int64_t(y - place.y) * size.height, std::max(1, place.height))};
+}
+
+bool overlap(const Rect& a, const Rect& b) {
+  return a.x < b.x + b.width && b.x < a.x + a.width && a.y < b.y + b.height && b.y < a.y + a.height;
+}
+
+PanelPicture::PanelPicture(const Cockpit& cockpit, std::size_t window, double zoom)
+    : cockpit_(cockpit), window_(window), zoom_(limited_zoom(config(), zoom)) {
+  const Rect size = scaled({0, 0, config().width, config().height}, zoom_);
+  canvas_ = Canvas(size.width, size.height);
+  for (const PlacedGauge& placed : cockpit.windows()[window].gauges) {
+    const Rect place = scaled(placed.place, zoom_);
+    items_.push_back({placed.gauge, place,
+                      GaugePainter(placed.gauge->header(), cockpit.module().bitmaps(), place)});
+  }
+}
+
+void PanelPicture::draw(double blend, std::vector<Rect>& changed) {
+  if (face_ != cockpit_.panels().face(window_)) draw_background(changed);
+  for (std::size_t i = 0; i < items_.size(); ++i) draw_item(i, blend, changed);
+}
+
+void PanelPicture::draw_background(std::vector<Rect>& changed) {
+  face_ = cockpit_.panels().face(window_);
+  std::vector<Rect> places;
+  for (const Item& item : items_) places.push_back(item.place);
+  invalidate();
+  draw_plate(canvas_, config(), cockpit_.config().file.parent_path(), places, *face_, zoom_);
+  changed.push_back({0, 0, canvas_.width, canvas_.height});
+}
+
+// A gauge that is drawn again covers what stands on it, so that is drawn again too.
+void PanelPicture::draw_item(std::size_t index, double blend, std::vector<Rect>& changed) {
+  Item& item = items_[index];
+  if (!item.painter.draw(canvas_, item.gauge->run.before(), item.gauge->run.now(), blend)) return;
+  if (areas_marked_) draw_area_marks(canvas_, item.gauge->areas, item.gauge->size, item.place);
+  changed.push_back(item.place);
+  for (std::size_t above = index + 1; above < items_.size(); ++above)
+    if (overlap(items_[above].place, item.place)) items_[above].painter.invalidate();
+}
+
+void PanelPicture::invalidate() {
+  for (Item& item : items_) item.painter.invalidate();
+}
+
+void PanelPicture::mark_areas(bool marked) {
+  areas_marked_ = marked;
+  invalidate();
+}
+
+bool PanelPicture::moving() const {
+  return std::ranges::any_of(items_, [](const Item& item) { return item.gauge->moving(); });
+}
+
+std::optional<PanelHit> PanelPicture::hit(int x, int y) const {
+  const auto under = std::ranges::find_if(items_.rbegin(), items_.rend(), [&](const Item& item) {
+    return overlap(item.place, {x, y, 1, 1});
+  });
+  if (under == items_.rend()) return std::nullopt;
+  return PanelHit{under->gauge, gauge_point(under->place, under->gauge->size, x, y)};
+}
+
+PanelPoint PanelPicture::point_on(const CockpitGauge& gauge, int x, int y) const {
+  return gauge_point(place_of(gauge), gauge.size, x, y);
+}
+
+Rect PanelPicture::place_of(const CockpitGauge& gauge) const {
+  const auto item = std::ranges::find(items_, &gauge, &Item::gauge);
+  return item == items_.end() ? Rect{} : item->place;
+}
+
+}  // namespace host

@@ -1,0 +1,76 @@
+/// The picture of one panel window at any zoom, drawn again only where something has changed.
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "host/drawing/painter.h"
+#include "host/panel/cockpit.h"
+
+namespace host {
+
+/// What lies under a pixel of a panel's picture.
+struct PanelHit {
+  CockpitGauge* gauge;
+  PanelPoint point;  ///< in pixels of the gauge's background
+};
+
+/// Draws one window of a cockpit. The cockpit must outlive the picture.
+class PanelPicture {
+ public:
+  /// `zoom` is canvas pixels per panel pixel; limited so that the canvas has a sensible size.
+  PanelPicture(const Cockpit& cockpit, std::size_t window, double zoom);
+
+  std::size_t window() const { return window_; }
+  double zoom() const { return zoom_; }
+  const Canvas& canvas() const { return canvas_; }
+
+  /// Draws what the gauges show, `blend` 0 to 1 between their last two frames, and adds the places
+  /// that changed to `changed`. Throws ConfigError when the window's background cannot be read.
+  void draw(double blend, std::vector<Rect>& changed);
+
+  /// Makes the next draw() draw every gauge.
+  void invalidate();
+
+  /// Outlines the click areas from the next draw() on.
+  void mark_areas(bool marked);
+
+  /// Whether any of its gauges has moved in the last frame, so that blending is worth while.
+  bool moving() const;
+
+  /// The gauge under a canvas pixel, the topmost one.
+  std::optional<PanelHit> hit(int x, int y) const;
+
+  /// A canvas pixel as a point of one gauge of this window, also outside the gauge.
+  PanelPoint point_on(const CockpitGauge& gauge, int x, int y) const;
+
+  /// The place of a gauge on the canvas; empty if the window does not have it.
+  Rect place_of(const CockpitGauge& gauge) const;
+
+ private:
+  struct Item {
+    CockpitGauge* gauge;
+    Rect place;
+    GaugePainter painter;
+  };
+
+  const WindowConfig& config() const { return cockpit_.config().windows[window_]; }
+  void draw_background(std::vector<Rect>& changed);
+  void draw_item(std::size_t index, double blend, std::vector<Rect>& changed);
+
+  const Cockpit& cockpit_;
+  std::size_t window_;
+  double zoom_;
+  Canvas canvas_;
+  std::optional<Face> face_;
+  std::vector<Item> items_;
+  bool areas_marked_ = false;
+};
+
+/// The point of a gauge's background that lies under a pixel of the place where it is drawn.
+PanelPoint gauge_point(const Rect& place, PanelSize size, int x, int y);
+
+/// Whether two rectangles share a pixel.
+bool overlap(const Rect& a, const Rect& b);
+
+}  // namespace host

@@ -1,0 +1,30 @@
+/// Pictures of a cockpit for files: everything that is open, one window or one gauge.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "host/drawing/painter.h"
+#include "host/panel/cockpit.h"
+#include "host/panel/layout.h"
+
+namespace host {
+
+/// What stands around and between the windows, 0xFFRRGGBB.
+inline constexpr std::uint32_t surround_color = 0xFF15171Au;
+
+/// Copies `from` to x,y of `to`, as much as fits.
+void copy_picture(Canvas& to, const Canvas& from, int x, int y);
+
+/// The open windows that are drawn, in the order in which they like to stand.
+std::vector<std::size_t> open_windows(const Cockpit& cockpit);
+
+/// The sizes of windows in panel pixels.
+std::vector<PanelSize> window_sizes(const Cockpit& cockpit, const std::vector<std::size_t>& windows);
+
+/// Draws what the cockpit shows now: everything that is open where `what` is empty, the window with
+/// that ident where it is a number, else the gauge of that name. `zoom` is picture pixels per panel
+/// pixel. Throws std::runtime_error when there is no such window or gauge.
+Canvas picture_of(const Cockpit& cockpit, const std::string& what, double zoom);
+
+}  // namespace host

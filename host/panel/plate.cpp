@@ -1,0 +1,127 @@
+#include "host/panel/plate.h"
+
+#include <cairo.h>
+
+#include <algorithm>
+#include <memory>
+
+namespace host {
+namespace {
+
+using Surface = std::unique_ptr<cairo_surface_t, decltype(&cairo_surface_destroy)>;
+using Context = std::unique_ptr<cairo_t, decltype(&cairo_destroy)>;
+using Pattern = std::unique_ptr<cairo_pattern_t, decltype(&cairo_pattern_destroy)>;
+
+struct Color {
+  double red, green, blue;
+};
+
+Color unpacked(std::uint32_t color) {
+  return {(color >> 16 & 255) / 255.0, (color >> 8 & 255) / 255.0, (color & 255) / 255.0};
+}
+
+void add_stop(cairo_pattern_t* pattern, double offset, Color color, double brightness) {
+  const auto lit = [&](double part) { return std::min(1.0, part * brightness); };
+  cairo_pattern_add_color_stop_rgb(pattern, offset, lit(color.red), lit(color.green),
+                                   lit(color.blue));
+}
+
+// One light from above left, as on every gauge; at night a warm flood light under the glareshield.
+void paint_metal(cairo_t* cairo, Color color, Face face, double width, double height) {
+  const Pattern light(face == Face::day ? cairo_pattern_create_linear(0, 0, width * 0.4, height)
+                                        : cairo_pattern_create_linear(0, 0, 0, height),
+                      cairo_pattern_destroy);
+  if (face == Face::night) color = {color.red * 0.86, color.green * 0.79, color.blue * 0.72};
+  add_stop(light.get(), 0.0, color, face == Face::day ? 1.14 : 1.12);
+  add_stop(light.get(), 0.5, color, face == Face::day ? 1.00 : 0.84);
+  add_stop(light.get(), 1.0, color, face == Face::day ? 0.84 : 0.66);
+  cairo_set_source(cairo, light.get());
+  cairo_paint(cairo);
+}
+
+// A fine grain, the same every time: each pixel a little lighter or darker.
+void add_grain(Canvas& canvas) {
+  std::uint32_t state = 2463534242u;
+  for (std::uint32_t& pixel : canvas.pixels) {
+    state ^= state << 13;
+    state ^= state >> 17;
+    state ^= state << 5;
+    const int change = static_cast<int>(state >> 29) - 3;
+    const auto part = [&](int shift) {
+      const int value = static_cast<int>(pixel >> shift & 255) + change / 2;
+      return static_cast<std::uint32_t>(std::clamp(value, 0, 255)) << shift;
+    };
+    pixel = 0xFF000000u | part(16) | part(8) | part(0);
+  }
+}
+
+void outline(cairo_t* cairo, const Rect& rect, double outset, double line, double alpha, double shade) {
+  cairo_set_source_rgba(cairo, shade, shade, shade, alpha);
+  cairo_set_line_width(cairo, line);
+  const double grow = outset + line / 2;
+  cairo_rectangle(cairo, rect.x - grow, rect.y - grow, rect.width + 2 * grow, rect.height + 2 * grow);
+  cairo_stroke(cairo);
+}
+
+// The gap between a gauge and the plate: a dark seam with a lit lower edge and a soft shadow.
+void draw_seam(cairo_t* cairo, const Rect& gauge, double zoom) {
+  const double unit = std::max(1.0, zoom);
+  Rect lit = gauge;
+  lit.x += static_cast<int>(unit);
+  lit.y += static_cast<int>(unit);
+  outline(cairo, lit, unit * 1.5, unit, 0.16, 1.0);
+  for (int ring = 3; ring >= 1; --ring) outline(cairo, gauge, unit * ring, unit * 1.5, 0.12, 0.0);
+  outline(cairo, gauge, 0, unit * 1.5, 0.85, 0.02);
+}
+
+void draw_edges(cairo_t* cairo, double width, double height, double zoom) {
+  const double unit = std::max(1.0, zoom);
+  cairo_set_source_rgba(cairo, 1, 1, 1, 0.18);
+  cairo_rectangle(cairo, 0, 0, width, unit);
+  cairo_rectangle(cairo, 0, 0, unit, height);
+  cairo_fill(cairo);
+  cairo_set_source_rgba(cairo, 0, 0, 0, 0.45);
+  cairo_rectangle(cairo, 0, height - unit, width, unit);
+  cairo_rectangle(cairo, width - unit, 0, unit, height);
+  cairo_fill(cairo);
+}
+
+void draw_picture(cairo_t* cairo, const std::filesystem::path& file, double width, double height) {
+  const Surface picture(cairo_image_surface_create_from_png(file.c_str()), cairo_surface_destroy);
+  if (cairo_surface_status(picture.get()) != CAIRO_STATUS_SUCCESS)
+    throw ConfigError(file.string() + ": the window's background cannot be read");
+  cairo_scale(cairo, width / cairo_image_surface_get_width(picture.get()),
+              height / cairo_image_surface_get_height(picture.get()));
+  cairo_set_source_surface(cairo, picture.get(), 0, 0);
+  cairo_pattern_set_filter(cairo_get_source(cairo), CAIRO_FILTER_BEST);
+  cairo_paint(cairo);
+}
+
+Surface surface_on(Canvas& canvas) {
+  return {cairo_image_surface_create_for_data(reinterpret_cast<unsigned char*>(canvas.pixels.data()),
+                                              CAIRO_FORMAT_RGB24, canvas.width, canvas.height,
+                                              canvas.width * 4),
+          cairo_surface_destroy};
+}
+
+}  // namespace
+
+void draw_plate(Canvas& canvas, const WindowConfig& window, const std::filesystem::path& folder,
+                std::span<const Rect> gauges, Face face, double zoom) {
+  const bool own_night = face == Face::night && !window.night_background.empty();
+  const std::string& picture = own_night ? window.night_background : window.background;
+  const Surface surface = surface_on(canvas);
+  const Context cairo(cairo_create(surface.get()), cairo_destroy);
+  if (!picture.empty()) {
+    draw_picture(cairo.get(), folder / picture, canvas.width, canvas.height);
+    return;
+  }
+  paint_metal(cairo.get(), unpacked(window.color), face, canvas.width, canvas.height);
+  cairo_surface_flush(surface.get());
+  add_grain(canvas);
+  cairo_surface_mark_dirty(surface.get());
+  draw_edges(cairo.get(), canvas.width, canvas.height, zoom);
+  for (const Rect& gauge : gauges) draw_seam(cairo.get(), gauge, zoom);
+}
+
+}  // namespace host

@@ -1,0 +1,45 @@
+#include "host/panel/pointer.h"
+
+#include <cstdlib>
+
+namespace host {
+
+bool Pointer::press(const HotAreas& areas, PanelPoint point, std::uint32_t button, double now) {
+  release();
+  held_ = areas.at(point, button);
+  if (!held_) return false;
+  button_ = button;
+  point_ = point;
+  if (held_->flags & MOUSE_REPEAT) next_repeat_ = now + repeat_delay;
+  held_->fire(point, button);
+  return true;
+}
+
+void Pointer::move(PanelPoint point) {
+  const bool moved = point.x != point_.x || point.y != point_.y;
+  point_ = point;
+  if (held_ && moved && (held_->flags & MOUSE_DRAG)) held_->fire(point, button_ | MOUSE_DRAG);
+}
+
+void Pointer::tick(double now) {
+  if (now < next_repeat_) return;
+  next_repeat_ = now + repeat_interval;
+  if (held_->box.contains(point_)) held_->fire(point_, button_ | MOUSE_REPEAT);
+}
+
+void Pointer::release() {
+  held_ = nullptr;
+  next_repeat_ = never;
+}
+
+bool Pointer::wheel(const HotAreas& areas, PanelPoint point, int notches) {
+  const auto step = areas.wheel(point, notches > 0);
+  if (!step || notches == 0) return false;
+  const Box& box = step->area->box;
+  const PanelPoint middle{static_cast<i32>(box.x + box.width / 2),
+                          static_cast<i32>(box.y + box.height / 2)};
+  for (int i = 0; i < std::abs(notches); ++i) step->area->fire(middle, step->button);
+  return true;
+}
+
+}  // namespace host

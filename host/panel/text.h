@@ -1,0 +1,39 @@
+/// Small pieces of text handling that the host's readers share. Letters are ASCII.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace host {
+
+/// `text` without the blanks, tabs and line ends around it.
+inline std::string_view trimmed(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(" \t\r\n");
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(" \t\r\n") - first + 1);
+}
+
+/// `text` in small letters.
+inline std::string lower(std::string_view text) {
+  std::string small(text);
+  for (char& c : small)
+    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+  return small;
+}
+
+/// Whether two names are the same, letter case aside.
+inline bool same_name(std::string_view a, std::string_view b) { return lower(a) == lower(b); }
+
+/// The parts of `text` between the separators; always at least one.
+inline std::vector<std::string_view> split(std::string_view text, char separator) {
+  std::vector<std::string_view> parts;
+  for (;;) {
+    const std::size_t at = text.find(separator);
+    parts.push_back(text.substr(0, at));
+    if (at == std::string_view::npos) return parts;
+    text.remove_prefix(at + 1);
+  }
+}
+
+}  // namespace host

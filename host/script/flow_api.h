@@ -1,0 +1,55 @@
+/// The functions that flows call.
+///
+/// Gestures. A spot is a pixel of a gauge's background: click("Masterbat", 47, 99), or a control with
+/// a name of the flow's own: local battery = {"Masterbat", 47, 99}, then click(battery).
+///     click(spot)  right_click(spot)  hold(spot, seconds)  right_hold(spot, seconds)
+///     drag(spot, x, y [, seconds])    to another pixel of the same gauge
+///     wheel(spot, notches)            away from the person is positive
+///
+/// Time.
+///     wait(seconds)  now()
+///     wait_until(condition, timeout, what)   condition is a function; fails after the timeout
+///
+/// The aircraft. Tokens, events and failures by their number, tokens and events also by name.
+///     token(which)  set_token(which, value)  release_token(which)
+///     event(which [, value])  fail(key)  repair(key)
+///
+/// What the cockpit shows. `nth` counts the elements with that bitmap in the gauge, from 1.
+///     image(gauge, bitmap [, nth])         the image of an icon, from 0; nil while it shows nothing
+///     value(gauge, bitmap [, nth [, axis]])  what a needle or another moving part shows
+///     text(gauge [, nth])                  what a text field shows
+///     events()     the key events since the last gesture: {number=, name=, value=, seconds=}
+///     messages()   the texts that the module has shown in message boxes
+///     sound_level(seconds)                 of the last part of the sound, 0 to 1
+///     open_window(ident)  close_window(ident)  window_open(ident)
+///
+/// Expectations and notes.
+///     expect(condition, what)  expect_near(actual, expected, tolerance, what)
+///     expect_event(which [, value])        the gauges have sent it since the last gesture
+///     say(text)  picture(name [, what [, zoom]])   what: a window's ident or a gauge's name
+#pragma once
+
+#include "host/script/flow_session.h"
+#include "host/script/lua_runner.h"
+
+namespace host {
+
+/// Gives all of them to the runner. Both must outlive its runs.
+void bind_flow_api(LuaRunner& runner, FlowSession& session);
+
+/// Its parts.
+void bind_gestures(LuaRunner& runner, FlowSession& session);
+void bind_time(LuaRunner& runner, FlowSession& session);
+void bind_aircraft(LuaRunner& runner, FlowSession& session);
+void bind_readings(LuaRunner& runner, FlowSession& session);
+void bind_expectations(LuaRunner& runner, FlowSession& session);
+
+/// The number of a key event or token that the call names by number or by name.
+/// Throws std::invalid_argument, with names that look alike.
+std::uint32_t event_argument(const LuaCall& call, int index);
+std::uint32_t token_argument(const LuaCall& call, int index);
+
+/// The name of a key event; its number in hexadecimal if it has none.
+std::string event_name(std::uint32_t number);
+
+}  // namespace host

@@ -1,0 +1,96 @@
+#include "host/script/flow_session.h"
+
+#include <algorithm>
+#include <cmath>
+#include <stdexcept>
+
+#include "host/panel/panel_scene.h"
+
+namespace host {
+namespace {
+
+std::string place_name(const Spot& spot) {
+  return std::to_string(spot.point.x) + "," + std::to_string(spot.point.y) + " of " + spot.gauge;
+}
+
+}  // namespace
+
+FlowSession::FlowSession(Cockpit& cockpit, FlowSurroundings surroundings)
+    : cockpit_(cockpit), surroundings_(std::move(surroundings)) {
+  cockpit_.on_event = [this](const SentEvent& event) { events_.push_back(event); };
+}
+
+void FlowSession::frame() {
+  pointer_.tick(seconds());
+  cockpit_.frame();
+  if (surroundings_.after_frame) surroundings_.after_frame(1.0 / cockpit_.rate());
+  if (time_moved) time_moved();
+}
+
+void FlowSession::wait(double duration) {
+  const double until = seconds() + duration - 1e-9;
+  while (seconds() < until) frame();
+}
+
+CockpitGauge& FlowSession::shown_gauge(const std::string& name) {
+  CockpitGauge* gauge = cockpit_.find(name);
+  if (!gauge) throw std::runtime_error("no window has a gauge '" + name + "'");
+  if (cockpit_.is_shown(*gauge)) return *gauge;
+  const WindowConfig& window = *cockpit_.window_of(*gauge)->config;
+  throw std::runtime_error(name + " is not shown: its window '" + window.title + "' (" +
+                           std::to_string(window.ident) + ") is closed");
+}
+
+// A gauge that has never run shows nothing yet: nobody clicks before the first frame.
+CockpitGauge& FlowSession::begin_gesture(const Spot& spot) {
+  CockpitGauge& gauge = shown_gauge(spot.gauge);
+  if (!gauge.started) frame();
+  events_.clear();
+  return gauge;
+}
+
+void FlowSession::press(CockpitGauge& gauge, const Spot& spot, std::uint32_t button) {
+  if (!pointer_.press(gauge.areas, spot.point, button, seconds()))
+    throw std::runtime_error("nothing answers the " +
+                             std::string(button == MOUSE_LEFT ? "left" : "right") + " button at " +
+                             place_name(spot));
+}
+
+void FlowSession::click(const Spot& spot, std::uint32_t button) { hold(spot, button, 0); }
+
+void FlowSession::hold(const Spot& spot, std::uint32_t button, double duration) {
+  press(begin_gesture(spot), spot, button);
+  wait(std::max(duration, 1.0 / cockpit_.rate()));
+  pointer_.release();
+}
+
+void FlowSession::drag(const Spot& spot, PanelPoint to, double duration) {
+  press(begin_gesture(spot), spot, MOUSE_LEFT);
+  const int steps = std::max(1, static_cast<int>(std::lround(duration * cockpit_.rate())));
+  for (int step = 1; step <= steps; ++step) {
+    const double part = static_cast<double>(step) / steps;
+    const auto between = [&](int from, int end) {
+      return from + static_cast<int>(std::lround((end - from) * part));
+    };
+    pointer_.move({between(spot.point.x, to.x), between(spot.point.y, to.y)});
+    wait(1.0 / cockpit_.rate());
+  }
+  pointer_.release();
+}
+
+void FlowSession::wheel(const Spot& spot, int notches) {
+  CockpitGauge& gauge = begin_gesture(spot);
+  for (int i = 0; i < std::abs(notches); ++i) {
+    if (!Pointer::wheel(gauge.areas, spot.point, notches > 0 ? 1 : -1))
+      throw std::runtime_error("the wheel works nothing at " + place_name(spot));
+    wait(1.0 / cockpit_.rate());
+  }
+}
+
+void FlowSession::picture(const std::string& name, const std::string& what, double zoom) {
+  if (surroundings_.pictures.empty()) return;
+  const Canvas canvas = picture_of(cockpit_, what, zoom);
+  write_png(canvas, (surroundings_.pictures / (name + ".png")).string());
+}
+
+}  // namespace host

@@ -1,0 +1,77 @@
+/// What a flow does to a cockpit: it works the controls as a person would, lets time pass, and looks.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "host/panel/cockpit.h"
+#include "host/panel/pointer.h"
+
+namespace host {
+
+/// Where a gesture takes place: a pixel of a gauge's background.
+struct Spot {
+  std::string gauge;
+  PanelPoint point;
+};
+
+/// What surrounds the flow.
+struct FlowSurroundings {
+  std::filesystem::path pictures;             ///< folder for pictures; empty: none are made
+  std::function<void(double)> after_frame;    ///< gets the frame's time in seconds
+  std::function<double(double)> sound_level;  ///< of the last so many seconds, 0 to 1; may be empty
+  std::function<void(const std::string&)> say;
+};
+
+/// A cockpit under the hands of a flow. Times are simulated seconds. Whatever cannot be done, such as
+/// a click on a gauge that no open window shows, throws std::runtime_error with the reason.
+class FlowSession {
+ public:
+  FlowSession(Cockpit& cockpit, FlowSurroundings surroundings);
+
+  Cockpit& cockpit() { return cockpit_; }
+  const FlowSurroundings& surroundings() const { return surroundings_; }
+
+  double seconds() const { return cockpit_.seconds(); }
+
+  /// Lets at least `duration` pass, in whole frames.
+  void wait(double duration);
+  void frame();
+
+  /// Each gesture lasts at least one frame, so that its effect shows afterwards.
+  void click(const Spot& spot, std::uint32_t button);
+  void hold(const Spot& spot, std::uint32_t button, double duration);
+  void drag(const Spot& spot, PanelPoint to, double duration);
+  void wheel(const Spot& spot, int notches);
+
+  /// The key events that the gauges have sent since the last gesture began.
+  const std::vector<SentEvent>& events() const { return events_; }
+
+  /// Called after every frame, beside what the surroundings ask for.
+  std::function<void()> time_moved;
+
+  /// The messages that the module has shown since the start.
+  std::vector<std::string> messages;
+
+  /// A gauge that an open window shows.
+  CockpitGauge& shown_gauge(const std::string& name);
+
+  /// Writes a picture: of everything that is open (`what` empty), of one window by its ident, or of
+  /// one gauge by its name. Does nothing where no pictures are wanted.
+  void picture(const std::string& name, const std::string& what, double zoom);
+
+ private:
+  CockpitGauge& begin_gesture(const Spot& spot);
+  void press(CockpitGauge& gauge, const Spot& spot, std::uint32_t button);
+
+  Cockpit& cockpit_;
+  FlowSurroundings surroundings_;
+  Pointer pointer_;
+  std::vector<SentEvent> events_;
+};
+
+}  // namespace host

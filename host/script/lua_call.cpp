@@ -1,0 +1,138 @@
+#include "host/script/lua_call.h"
+
+#include <lua.hpp>
+
+#include <cmath>
+#include <stdexcept>
+
+#include "host/script/lua_runner.h"
+
+namespace host {
+namespace {
+
+[[noreturn]] void wrong(int index, const char* what, const char* wanted) {
+  throw std::invalid_argument("argument " + std::to_string(index) + " (" + what + ") must be " + wanted);
+}
+
+}  // namespace
+
+LuaCall::LuaCall(lua_State* state) : state_(state), count_(lua_gettop(state)) {}
+
+bool LuaCall::has(int index) const { return index <= count_ && !lua_isnil(state_, index); }
+bool LuaCall::is_number(int index) const { return has(index) && lua_type(state_, index) == LUA_TNUMBER; }
+bool LuaCall::is_table(int index) const { return has(index) && lua_istable(state_, index); }
+
+double LuaCall::number(int index, const char* what) const {
+  if (!is_number(index)) wrong(index, what, "a number");
+  const double value = lua_tonumber(state_, index);
+  if (!std::isfinite(value)) wrong(index, what, "a finite number");
+  return value;
+}
+
+double LuaCall::number_or(int index, const char* what, double fallback) const {
+  return has(index) ? number(index, what) : fallback;
+}
+
+int LuaCall::whole(int index, const char* what) const {
+  const double value = number(index, what);
+  if (value != std::trunc(value) || std::abs(value) > 1e9) wrong(index, what, "a whole number");
+  return static_cast<int>(value);
+}
+
+int LuaCall::whole_or(int index, const char* what, int fallback) const {
+  return has(index) ? whole(index, what) : fallback;
+}
+
+std::uint32_t LuaCall::key(int index, const char* what) const {
+  const double value = number(index, what);
+  if (value != std::trunc(value) || value < 0 || value > 4294967295.0)
+    wrong(index, what, "a whole number from 0 to 4294967295");
+  return static_cast<std::uint32_t>(value);
+}
+
+std::string LuaCall::text(int index, const char* what) const {
+  if (!has(index) || lua_type(state_, index) != LUA_TSTRING) wrong(index, what, "a text");
+  std::size_t size = 0;
+  const char* text = lua_tolstring(state_, index, &size);
+  return {text, size};
+}
+
+std::string LuaCall::text_or(int index, const char* what, std::string fallback) const {
+  return has(index) ? text(index, what) : fallback;
+}
+
+bool LuaCall::truth(int index) const { return has(index) && lua_toboolean(state_, index); }
+
+std::string LuaCall::shown(int index) const {
+  if (index > count_) return "nothing";
+  std::size_t size = 0;
+  const char* text = luaL_tolstring(state_, index, &size);
+  std::string result(text, size);
+  lua_pop(state_, 1);
+  return result;
+}
+
+void LuaCall::unpack(int index, int size) {
+  luaL_checkstack(state_, size, nullptr);
+  for (int i = 1; i <= size; ++i) {
+    lua_rawgeti(state_, index + i - 1, i);
+    lua_insert(state_, index + i - 1);
+  }
+  lua_remove(state_, index + size);
+  count_ = lua_gettop(state_);
+}
+
+bool LuaCall::ask(int index, const char* what) const {
+  if (!has(index) || !lua_isfunction(state_, index)) wrong(index, what, "a function");
+  lua_pushvalue(state_, index);
+  LuaRunner::of(state_).call(0, 1);
+  const bool answer = lua_toboolean(state_, -1);
+  lua_pop(state_, 1);
+  return answer;
+}
+
+void LuaCall::give(double value) {
+  lua_pushnumber(state_, value);
+  ++given_;
+}
+
+void LuaCall::give(bool value) {
+  lua_pushboolean(state_, value);
+  ++given_;
+}
+
+void LuaCall::give(std::string_view value) {
+  lua_pushlstring(state_, value.data(), value.size());
+  ++given_;
+}
+
+void LuaCall::give_nothing() {
+  lua_pushnil(state_);
+  ++given_;
+}
+
+void LuaCall::begin_list() {
+  lua_newtable(state_);
+  ++given_;
+}
+
+void LuaCall::begin_entry() { lua_newtable(state_); }
+
+void LuaCall::field(const char* name, double value) {
+  lua_pushnumber(state_, value);
+  lua_setfield(state_, -2, name);
+}
+
+void LuaCall::field(const char* name, std::string_view value) {
+  lua_pushlstring(state_, value.data(), value.size());
+  lua_setfield(state_, -2, name);
+}
+
+void LuaCall::end_entry() { lua_rawseti(state_, -2, ++entries_); }
+
+void LuaCall::append(std::string_view value) {
+  lua_pushlstring(state_, value.data(), value.size());
+  lua_rawseti(state_, -2, ++entries_);
+}
+
+}  // namespace host

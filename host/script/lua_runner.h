@@ -1,0 +1,76 @@
+/// Runs one flow: a Lua script in a closed room, with the functions that the host gives it.
+#pragma once
+
+#include <cstddef>
+#include <deque>
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <stdexcept>
+#include <string>
+
+#include "host/script/lua_call.h"
+
+struct lua_State;
+struct lua_Debug;
+
+namespace host {
+
+/// A flow that failed; what() is "file:line: what is wrong".
+struct FlowError : std::runtime_error {
+  using std::runtime_error::runtime_error;
+};
+
+/// A function that flows can call. It takes its arguments from the call, gives its results to it
+/// and returns nothing; an exception it throws stops the flow at the line that called it.
+using FlowFunction = std::function<void(LuaCall&)>;
+
+/// A Lua state with strings, tables and mathematics, and no way to the disk, to other programs or
+/// around a failed expectation.
+class LuaRunner {
+ public:
+  LuaRunner();
+  ~LuaRunner();
+  LuaRunner(const LuaRunner&) = delete;
+  LuaRunner& operator=(const LuaRunner&) = delete;
+
+  void bind(const char* name, FlowFunction function);
+
+  /// Runs a flow file to its end. Throws FlowError.
+  void run(const std::filesystem::path& file);
+
+  /// Runs a flow from memory; `name` stands for the file in messages.
+  void run(const std::string& text, const std::string& name);
+
+  /// Tells that time has moved on: a flow that never lets it is stopped as an endless loop.
+  void alive() { steps_ = 0; }
+
+  /// The flow's line that is being run; 0 outside a run.
+  int line() const;
+
+ private:
+  static void* allocate(void* context, void* block, std::size_t old_size, std::size_t new_size);
+  static int dispatch(lua_State* state);
+  static int remember_failure(lua_State* state);
+  static void count_steps(lua_State* state, lua_Debug* debug);
+  static LuaRunner& of(lua_State* state);
+
+  friend class LuaCall;
+  void call(int arguments, int results);
+  std::string describe(lua_State* state, std::string message) const;
+  [[noreturn]] void fail();
+
+  struct Bound {
+    LuaRunner* runner;
+    FlowFunction function;
+  };
+
+  std::deque<Bound> functions_;
+  std::string name_;
+  std::optional<std::string> failure_;
+  std::size_t memory_ = 0;
+  int steps_ = 0;  ///< in units of the hook's count
+  lua_State* state_;
+};
+
+}  // namespace host

@@ -1,0 +1,99 @@
+#include <algorithm>
+#include <cmath>
+
+#include "host/script/flow_api.h"
+
+namespace host {
+namespace {
+
+// The nth element that passes, among those that the last frame evaluated: of the day and the night
+// copies of an element only the one that shows. Null if the gauge has fewer.
+template <typename Test>
+const ElementState* nth_element(CockpitGauge& gauge, int nth, Test test) {
+  for (const ElementState& state : gauge.run.now())
+    if (state.evaluated && test(*state.element) && --nth == 0) return &state;
+  return nullptr;
+}
+
+CockpitGauge& gauge_that_ran(LuaCall& call, FlowSession& session) {
+  CockpitGauge& gauge = session.shown_gauge(call.text(1, "gauge"));
+  if (!gauge.started) session.frame();
+  return gauge;
+}
+
+const ElementState& element_argument(LuaCall& call, FlowSession& session) {
+  CockpitGauge& gauge = gauge_that_ran(call, session);
+  const int bitmap = call.whole(2, "bitmap");
+  const int nth = call.whole_or(3, "nth", 1);
+  const auto* state = nth_element(
+      gauge, nth, [&](const Element& element) { return element.resource_id == bitmap; });
+  if (!state)
+    throw std::runtime_error(call.text(1, "gauge") + " shows no element " + std::to_string(nth) +
+                             " with bitmap " + std::to_string(bitmap));
+  return *state;
+}
+
+void give_image(LuaCall& call, FlowSession& session) {
+  const ElementState& state = element_argument(call, session);
+  if (state.element->kind != ELEMENT_ICON) throw std::runtime_error("that element is not an icon");
+  const double value = state.values[0];
+  if (!state.drawn || std::isnan(value) || value <= -1) return call.give_nothing();
+  const double last = std::max(1.0, static_cast<double>(state.element->icon.image_count)) - 1;
+  call.give(std::min(std::trunc(value) + 0.0, last));
+}
+
+void give_value(LuaCall& call, FlowSession& session) {
+  const int axis = call.whole_or(4, "axis", 1);
+  if (axis < 1 || axis > 3) throw std::invalid_argument("argument 4 (axis) must be 1, 2 or 3");
+  call.give(element_argument(call, session).values[static_cast<std::size_t>(axis - 1)]);
+}
+
+void give_text(LuaCall& call, FlowSession& session) {
+  CockpitGauge& gauge = gauge_that_ran(call, session);
+  const int nth = call.whole_or(2, "nth", 1);
+  const auto* state = nth_element(
+      gauge, nth, [](const Element& element) { return element.kind == ELEMENT_STRING; });
+  if (!state)
+    throw std::runtime_error(call.text(1, "gauge") + " shows no text field " + std::to_string(nth));
+  call.give(state->drawn ? std::string_view(state->text) : std::string_view());
+}
+
+void give_events(LuaCall& call, const FlowSession& session) {
+  call.begin_list();
+  for (const SentEvent& event : session.events()) {
+    call.begin_entry();
+    call.field("number", static_cast<double>(event.number));
+    call.field("name", std::string_view(event_name(event.number)));
+    call.field("value", static_cast<double>(event.value));
+    call.field("seconds", event.seconds);
+    call.end_entry();
+  }
+}
+
+void give_sound_level(LuaCall& call, const FlowSession& session) {
+  const double seconds = call.number(1, "seconds");
+  if (seconds <= 0 || seconds > 10) throw std::invalid_argument("argument 1 (seconds) must be 0 to 10");
+  const auto& level = session.surroundings().sound_level;
+  if (!level) throw std::runtime_error("this run has no rendered sound to measure");
+  call.give(level(seconds));
+}
+
+}  // namespace
+
+void bind_readings(LuaRunner& runner, FlowSession& session) {
+  PanelSet& panels = session.cockpit().panels();
+  runner.bind("image", [&](LuaCall& call) { give_image(call, session); });
+  runner.bind("value", [&](LuaCall& call) { give_value(call, session); });
+  runner.bind("text", [&](LuaCall& call) { give_text(call, session); });
+  runner.bind("events", [&](LuaCall& call) { give_events(call, session); });
+  runner.bind("messages", [&](LuaCall& call) {
+    call.begin_list();
+    for (const std::string& message : session.messages) call.append(message);
+  });
+  runner.bind("sound_level", [&](LuaCall& call) { give_sound_level(call, session); });
+  runner.bind("open_window", [&](LuaCall& call) { panels.open(call.key(1, "ident")); });
+  runner.bind("close_window", [&](LuaCall& call) { panels.close(call.key(1, "ident")); });
+  runner.bind("window_open", [&](LuaCall& call) { call.give(panels.shows(call.key(1, "ident"))); });
+}
+
+}  // namespace host

@@ -1,0 +1,38 @@
+#include "host/script/soundtrack.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "platform/platform_host.h"
+
+namespace host {
+namespace {
+
+std::size_t samples_in(double seconds) {
+  return static_cast<std::size_t>(std::llround(seconds * PLATFORM_AUDIO_RATE)) * PLATFORM_AUDIO_CHANNELS;
+}
+
+}  // namespace
+
+void Soundtrack::advance(double seconds) {
+  seconds_ += seconds;
+  const auto due = static_cast<std::uint64_t>(std::llround(seconds_ * PLATFORM_AUDIO_RATE));
+  std::vector<std::int16_t> samples((due - frames_) * PLATFORM_AUDIO_CHANNELS);
+  platform_render_audio(samples.data(), due - frames_);
+  frames_ = due;
+  file_.write(samples);
+  last_.insert(last_.end(), samples.begin(), samples.end());
+  const std::size_t most = samples_in(memory);
+  if (last_.size() > 2 * most) last_.erase(last_.begin(), last_.end() - static_cast<std::ptrdiff_t>(most));
+}
+
+double Soundtrack::level(double seconds) const {
+  const std::size_t count = std::min(samples_in(seconds), last_.size());
+  if (count == 0) return 0;
+  double sum = 0;
+  for (auto sample = last_.end() - static_cast<std::ptrdiff_t>(count); sample != last_.end(); ++sample)
+    sum += double(*sample) * *sample;
+  return std::sqrt(sum / static_cast<double>(count)) / 32768.0;
+}
+
+}  // namespace host

@@ -1,0 +1,175 @@
+#include "resources/kit/dial.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace artwork {
+namespace {
+
+/// How strongly the lamps shine.
+double power(Lighting lighting) {
+  switch (lighting) {
+    case Lighting::off: return 0;
+    case Lighting::dim: return 0.5;
+    case Lighting::bright: return 1;
+  }
+  return 0;
+}
+
+void bezel(const Canvas& canvas, const Dial& d) {
+  const Point c = d.centre, way{d.radius * 0.72, d.radius * 0.72};
+  soft(canvas, circle(c + Point{0.6, 1.0}, d.radius + 0.6), faded(palette::black, 0.5), 1.1);
+  set_linear(canvas, c - way, c + way,
+             {{0, palette::mould_light}, {0.5, palette::mould}, {1, palette::mould_dark}});
+  fill(canvas, circle(c, d.radius));
+  set_linear(canvas, c - way, c + way,
+             {{0, faded(palette::white, 0.5)},
+              {0.4, faded(palette::white, 0.08)},
+              {1, faded(palette::black, 0.6)}});
+  stroke(canvas, circle(c, d.radius - 0.4), 0.8);
+  const double inner = d.face() + 0.9;
+  set_linear(canvas, c - way, c + way,
+             {{0, palette::well}, {0.55, palette::mould_dark}, {1, palette::steel}});
+  fill(canvas, circle(c, inner));
+}
+
+/// Two filaments under the upper rim: the wash is strongest there and dies away toward the hub.
+void wash(const Canvas& canvas, const Dial& d, Lighting lighting) {
+  const double p = power(lighting);
+  if (p == 0) return;
+  const Saved saved(canvas);
+  circle(d.centre, d.face() + 0.9)(canvas.cr());
+  cairo_clip(canvas.cr());
+  const Colour warm = palette::filament_wash;
+  set_radial(canvas, d.centre, d.centre, d.radius,
+             {{0, faded(warm, 0.02 * p)}, {0.6, faded(warm, 0.04 * p)}, {0.9, faded(warm, 0.16 * p)},
+              {1, faded(warm, 0.4 * p)}});
+  cairo_paint(canvas.cr());
+  for (const double side : {-128.0, -52.0}) {
+    const Point lamp = polar(d.centre, d.face(), side);
+    set_radial(canvas, lamp, lamp, d.radius * 0.95,
+               {{0, faded(palette::filament, 0.42 * p)}, {0.3, faded(warm, 0.11 * p)},
+                {1, faded(warm, 0)}});
+    cairo_paint(canvas.cr());
+  }
+}
+
+Path ring(Point c, double radius, double from, double to) {
+  return [=](cairo_t* cr) {
+    cairo_new_sub_path(cr);
+    cairo_arc(cr, c.x, c.y, radius, radians(from), radians(to));
+  };
+}
+
+/// How far from the hub a box of these half sides may stand so that no corner leaves the circle.
+double distance_within(double radius, double half_width, double half_height, double degrees) {
+  const double x = std::abs(std::cos(radians(degrees))), y = std::abs(std::sin(radians(degrees)));
+  const double s = x * half_width + y * half_height;
+  const double over = half_width * half_width + half_height * half_height - radius * radius;
+  return -s + std::sqrt(std::max(0.0, s * s - over));
+}
+
+}  // namespace
+
+void dial(const Canvas& canvas, const Dial& d, Lighting lighting) {
+  bezel(canvas, d);
+  const Point c = d.centre;
+  set_radial(canvas, {c.x - d.radius * 0.25, c.y - d.radius * 0.35}, c, d.face(),
+             {{0, palette::face_light}, {0.8, mixed(palette::face_light, palette::face_dark, 0.6)},
+              {1, palette::face_dark}});
+  fill(canvas, circle(c, d.face()));
+  wash(canvas, d, lighting);
+  set_linear(canvas, c - Point{0, d.face()}, c + Point{0, d.face()},
+             {{0, faded(palette::black, 0.75)}, {0.3, faded(palette::black, 0)}});
+  stroke(canvas, circle(c, d.face() - 0.5), 1.2);
+}
+
+void dial_glass(const Canvas& canvas, const Dial& d) {
+  const Saved saved(canvas);
+  cairo_t* cr = canvas.cr();
+  circle(d.centre, d.face())(cr);
+  cairo_clip(cr);
+  const Point from{d.centre.x - d.face() * 0.8, d.centre.y - d.face()};
+  set_linear(canvas, from, d.centre,
+             {{0, faded(palette::white, 0.16)}, {0.7, faded(palette::white, 0.05)},
+              {1, faded(palette::white, 0.025)}});
+  cairo_set_fill_rule(cr, CAIRO_FILL_RULE_EVEN_ODD);
+  circle(d.centre, d.face())(cr);
+  circle(d.centre + Point{d.face() * 0.42, d.face() * 0.52}, d.face() * 1.18)(cr);
+  cairo_fill(cr);
+}
+
+void dial_hub(const Canvas& canvas, Point c, double radius) {
+  cast_shadow(canvas, circle(c, radius), 0.9, 0.7);
+  set_radial(canvas, {c.x - radius * 0.4, c.y - radius * 0.5}, c, radius,
+             {{0, palette::mould_light}, {0.6, palette::mould}, {1, palette::mould_dark}});
+  fill(canvas, circle(c, radius));
+}
+
+void inscribe(const Canvas& canvas, Lighting lighting,
+              const std::function<void(Colour ink)>& draw) {
+  const double p = power(lighting);
+  const Colour lit = mixed(palette::filament, palette::white, 0.15 + 0.45 * p);
+  const Colour ink = p == 0 ? palette::mark : mixed(palette::mark, lit, 0.5 + 0.5 * p);
+  if (p > 0) haze(canvas, 1.3, 0.35 + 0.5 * p, [&] { draw(palette::filament_wash); });
+  draw(ink);
+}
+
+void meter(const Canvas& canvas, const Dial& d, Lighting lighting,
+           const std::function<void(Colour ink)>& print, double boss) {
+  dial(canvas, d, lighting);
+  inscribe(canvas, lighting, print);
+  if (boss > 0) dial_hub(canvas, d.centre, boss);
+  dial_glass(canvas, d);
+}
+
+Scale::Scale(const Canvas& canvas, const Element& needle, Colour ink)
+    : canvas_(canvas),
+      needle_(needle),
+      centre_{static_cast<double>(needle.position.x), static_cast<double>(needle.position.y)},
+      ink_(ink) {}
+
+void Scale::marks(const Marks& m) const {
+  const int count = static_cast<int>(std::lround((m.to - m.from) / m.step));
+  for (int i = 0; i <= count; ++i) {
+    const double at = angle(m.from + i * m.step);
+    const Segment mark{polar(centre_, m.inner, at), polar(centre_, m.outer, at)};
+    line(canvas_, mark.from, mark.to, m.width, ink_);
+    canvas_.note_mark(mark);
+  }
+}
+
+void Scale::band(const Band& b) const {
+  stroke(canvas_, ring(centre_, b.radius, angle(b.from), angle(b.to)), b.width, b.colour);
+}
+
+void Scale::arc(double from, double to, double radius, double width) const {
+  stroke(canvas_, ring(centre_, radius, angle(from), angle(to)), width, ink_);
+}
+
+void Scale::numerals(std::initializer_list<Numeral> figures, double radius, double size) const {
+  const Lettering lettering{.size = size, .colour = ink_};
+  for (const Numeral& figure : figures) {
+    const double at = angle(figure.value);
+    const TextExtent extent = text_extent(canvas_, figure.text, lettering);
+    const double out = distance_within(radius, extent.width / 2, extent.height / 2 + 0.3, at);
+    print(canvas_, polar(centre_, out, at), figure.text, lettering);
+  }
+}
+
+void lit_overlay(Canvas& canvas, int image,
+                 const std::function<void(const Canvas&, Lighting)>& draw) {
+  if (image == 0) return;
+  const Canvas by_day(canvas.size(), canvas.density(), canvas.seed());
+  draw(by_day, Lighting::off);
+  draw(canvas, image == 1 ? Lighting::dim : Lighting::bright);
+  const Pixels day = by_day.pixels(), lit = canvas.pixels();
+  for (int y = 0; y < lit.height; ++y) {
+    for (int x = 0; x < lit.width; ++x) {
+      if (lit.at(x, y) == day.at(x, y)) lit.at(x, y) = 0;
+    }
+  }
+  canvas.touched();
+}
+
+}  // namespace artwork

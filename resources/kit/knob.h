@@ -1,0 +1,22 @@
+/// Knobs: knurled black mouldings with a white line, valve knobs with a flow bar, push buttons.
+#pragma once
+
+#include "resources/kit/paint.h"
+
+namespace artwork {
+
+/// Degrees of a knob's mark are clockwise from straight up.
+///
+/// A round knob with knurled skirt and a white pointer line.
+void pointer_knob(const Canvas& canvas, Point centre, double radius, double mark);
+
+/// A knob with a bar grip across it and a white line along the bar: rotary selectors.
+void bar_knob(const Canvas& canvas, Point centre, double radius, double mark);
+
+/// A black round push switch whose flow bar lies in line with the flow, and shines, when on.
+void flow_switch(const Canvas& canvas, Point centre, double radius, bool on);
+
+/// A knurled ring on the plate in which a knob stands.
+void knob_seat(const Canvas& canvas, Point centre, double radius);
+
+}  // namespace artwork

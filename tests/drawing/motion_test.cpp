@@ -1,0 +1,228 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+#include "host/drawing/needle_scale.h"
+#include "tests/drawing/fixture.h"
+
+namespace host {
+namespace {
+
+constexpr double nan_value = std::numeric_limits<double>::quiet_NaN();
+constexpr double infinite = std::numeric_limits<double>::infinity();
+
+/// A grey gauge of 41 x 41 whose middle is the pixel (20, 20).
+class Motion : public testing::Test {
+ protected:
+  Motion() {
+    bitmaps_.add(1, 41, 41, grey);
+    // A needle that points to the right from its pivot (1, 1).
+    bitmaps_.add(20, 17, 3, [](int, int y) { return y == 1 ? red : 0u; });
+    bitmaps_.add(30, 3, 3, red);
+    // A strip of ten digits of 4 x 5, each of its own red; and one of four 5 x 4 columns.
+    bitmaps_.add(40, 4, 50, [](int, int y) { return digit(y / 5); });
+    bitmaps_.add(41, 20, 4, [](int x, int) { return digit(x / 5); });
+    bitmaps_.add(42, 5, 4, [](int x, int) { return x == 2 ? 0u : 0xFFFFFFFFu; });  // a barred window
+    // A card of 41 x 41 with a mark ten pixels above the middle.
+    bitmaps_.add(50, 41, 41, [](int x, int y) { return x == 20 && y == 10 ? red : 0u; });
+  }
+
+  static std::uint32_t digit(int number) { return 0xFF000000u | static_cast<std::uint32_t>(number + 1) << 16; }
+
+  /// The direction in which an element of one red mark points from the middle: "right", "up"...
+  static std::string direction(const Scene& scene) {
+    const Rect box = scene.box_without(grey);
+    if (box.width == 0) return "nowhere";
+    const double x = box.x + box.width / 2.0 - 20.5, y = box.y + box.height / 2.0 - 20.5;
+    if (std::abs(std::abs(x) - std::abs(y)) < 1.5) return x > 0 ? (y > 0 ? "right down" : "right up") : (y > 0 ? "left down" : "left up");
+    return std::abs(x) > std::abs(y) ? (x > 0 ? "right" : "left") : (y > 0 ? "down" : "up");
+  }
+
+  Element& moving(i32 strip, i32 mask, double minimum, double maximum) {
+    Element& element = gauge_.add(ELEMENT_MOVING_IMAGE, strip, {10, 12});
+    element.moving_image.mask_resource_id = mask;
+    (strip == 41 ? element.moving_image.x : element.moving_image.y) = {{}, nullptr, minimum, maximum};
+    return element;
+  }
+
+  MadeBitmaps bitmaps_;
+  MadeGauge gauge_{1};
+};
+
+TEST_F(Motion, NeedleWithoutTableTurnsClockwise) {
+  gauge_.needle(20, {20, 20}, {1, 1});
+  Scene scene(gauge_, bitmaps_);
+  struct Case { double value; const char* direction; };
+  for (const Case& c : {Case{0, "right"}, Case{90, "down"}, Case{180, "left"}, Case{-90, "up"}, Case{270, "up"},
+                        Case{36000045, "right down"}, Case{nan_value, "nowhere"}, Case{infinite, "nowhere"}}) {
+    scene.set(1, c.value);
+    scene.draw();
+    EXPECT_EQ(direction(scene), c.direction) << c.value;
+    const std::uint32_t pivot = scene.at(20, 20) >> 16 & 255;
+    EXPECT_EQ(pivot > 0xC0, std::isfinite(c.value)) << c.value;
+  }
+}
+
+TEST_F(Motion, NeedlePointsAtTheMarksOfItsTable) {
+  // Down, left, up, right: as on a dial that starts at the bottom.
+  const NonlinearityPoint table[] = {{{20, 40}, 0}, {{0, 20}, 10}, {{20, 0}, 30}, {{40, 20}, 40}};
+  gauge_.needle(20, {20, 20}, {1, 1}, table);
+  for (const double zoom : {1.0, 2.0}) {
+    Scene scene(gauge_, bitmaps_, zoom);
+    const NeedleScale scale({20, 20}, table);
+    struct Case { double value, degrees; };
+    for (const Case& c : {Case{0, 90}, Case{5, 135}, Case{10, 180}, Case{20, 225}, Case{30, 270}, Case{40, 360},
+                          Case{-99, 90}, Case{1e9, 360}, Case{infinite, 360}})
+      EXPECT_DOUBLE_EQ(scale.angle(c.value), c.degrees) << c.value;
+    scene.set(1, 30);
+    scene.draw();
+    const Rect box = scene.box_without(grey);
+    EXPECT_NEAR(box.x + box.width / 2.0, 20.5 * zoom, 0.51);
+    EXPECT_NEAR(box.y, 5 * zoom, 2);
+  }
+}
+
+TEST_F(Motion, OddTablesAreHarmless) {
+  const NonlinearityPoint falling[] = {{{0, 20}, 10}, {{20, 0}, 0}};
+  EXPECT_DOUBLE_EQ(NeedleScale({20, 20}, falling).angle(10), 180);
+  EXPECT_DOUBLE_EQ(NeedleScale({20, 20}, falling).angle(5), 225);
+  const NonlinearityPoint pivot[] = {{{0, 20}, 0}, {{20, 20}, 1}, {{20, 0}, 2}};
+  EXPECT_DOUBLE_EQ(NeedleScale({20, 20}, pivot).angle(1), 180);
+  const NonlinearityPoint step[] = {{{0, 20}, 0}, {{20, 0}, 0}, {{40, 20}, 1}};
+  EXPECT_TRUE(std::isfinite(NeedleScale({20, 20}, step).angle(0)));
+  const NonlinearityPoint nowhere[] = {{{0, 20}, nan_value}};
+  EXPECT_DOUBLE_EQ(NeedleScale({20, 20}, nowhere).angle(3), 0);
+}
+
+TEST_F(Motion, NeedleBlendsTheShortWay) {
+  // A full circle from the top, as on an altimeter.
+  const NonlinearityPoint circle[] = {{{20, 0}, 0}, {{40, 20}, 250}, {{20, 40}, 500}, {{0, 20}, 750}, {{20, 0}, 1000}};
+  const NeedleScale closed({20, 20}, circle);
+  EXPECT_DOUBLE_EQ(std::remainder(closed.angle_between(950, 50, 0.5) + 90, 360), 0);
+  EXPECT_DOUBLE_EQ(closed.angle_between(nan_value, 250, 0.5), closed.angle(250));
+  const NonlinearityPoint arc[] = {{{0, 40}, 0}, {{0, 0}, 50}, {{40, 0}, 100}, {{40, 40}, 150}};
+  const NeedleScale open({20, 20}, arc);
+  EXPECT_DOUBLE_EQ(std::remainder(open.angle_between(0, 150, 0.5), 360), -90);  // back over the top, never through the gap
+
+  gauge_.needle(20, {20, 20}, {1, 1});
+  Scene scene(gauge_, bitmaps_);
+  scene.before[1].values[0] = 350;
+  scene.now[1].values[0] = 10;
+  scene.draw(0.5);
+  EXPECT_EQ(direction(scene), "right");
+}
+
+TEST_F(Motion, SpeedLimitedNeedleStandsWhereItHasCome) {
+  gauge_.needle(20, {20, 20}, {1, 1});
+  Scene scene(gauge_, bitmaps_);
+  scene.set(1, 0);
+  scene.before[1].reached = scene.now[1].reached = 90;
+  scene.draw();
+  EXPECT_EQ(direction(scene), "down");
+}
+
+TEST_F(Motion, SliderMovesByValueTimesScale) {
+  Element& slider = gauge_.add(ELEMENT_SLIDER, 30, {20, 20});
+  slider.slider.x_scale = -2;
+  slider.slider.y_scale = 0;
+  Scene scene(gauge_, bitmaps_);
+  struct Case { double x, y; Rect box; };
+  for (const Case& c : {Case{0, 0, {20, 20, 3, 3}}, Case{5, 9, {10, 20, 3, 3}}, Case{5, nan_value, {10, 20, 3, 3}},
+                        Case{nan_value, 0, {}}, Case{1e30, 0, {}}, Case{-9.5, 0, {39, 20, 2, 3}},
+                        Case{0.25, 0, {19, 20, 4, 3}}}) {
+    scene.set(1, c.x, 0);
+    scene.set(1, c.y, 1);
+    scene.draw();
+    EXPECT_EQ(scene.box_without(grey), c.box) << c.x;
+  }
+  scene.before[1].values[0] = 0;
+  scene.now[1].values[0] = 5;
+  scene.now[1].values[1] = scene.before[1].values[1] = 0;
+  scene.draw(0.4);
+  EXPECT_EQ(scene.box_without(grey), (Rect{16, 20, 3, 3}));
+}
+
+TEST_F(Motion, StripShowsATenthOfItselfWithoutAMask) {
+  moving(40, -1, 0, 9);
+  Scene scene(gauge_, bitmaps_);
+  struct Case { double value; int digit; };
+  for (const Case& c : {Case{0, 0}, Case{3, 3}, Case{9, 9}, Case{-5, 0}, Case{99, 9}, Case{infinite, -1}, Case{nan_value, -1}}) {
+    scene.set(1, c.value, 1);
+    scene.set(1, nan_value, 0);  // nothing moves along x
+    scene.draw();
+    if (c.digit < 0) {
+      EXPECT_EQ(scene.box_without(grey), Rect{});
+      continue;
+    }
+    EXPECT_EQ(scene.box_without(grey), (Rect{10, 12, 4, 5})) << c.value;
+    EXPECT_EQ(scene.at(10, 12), digit(c.digit)) << c.value;
+    EXPECT_EQ(scene.at(13, 16), digit(c.digit)) << c.value;
+  }
+  scene.set(1, 0.5, 1);
+  scene.draw();
+  EXPECT_EQ(scene.at(10, 12), digit(0));
+  EXPECT_EQ(scene.at(10, 16), digit(1));
+}
+
+TEST_F(Motion, RangeMayRunBackwards) {
+  moving(40, -1, 9, 0);
+  Scene scene(gauge_, bitmaps_);
+  scene.set(1, 2, 1);
+  scene.draw();
+  EXPECT_EQ(scene.at(10, 12), digit(7));
+}
+
+TEST_F(Motion, StripShowsThroughItsMask) {
+  moving(41, 42, 0, 3);
+  Scene scene(gauge_, bitmaps_);
+  scene.set(1, 2, 0);
+  scene.draw();
+  EXPECT_EQ(scene.box_without(grey), (Rect{10, 12, 5, 4}));
+  for (int x = 0; x < 5; ++x) EXPECT_EQ(scene.at(10 + x, 13), x == 2 ? grey : digit(2));
+}
+
+TEST_F(Motion, DrumRollsOnButNeverRacesBack) {
+  moving(40, -1, 0, 9);
+  Scene scene(gauge_, bitmaps_);
+  scene.before[1].values[1] = 2;
+  scene.now[1].values[1] = 3;
+  scene.draw(0.4);
+  EXPECT_EQ(scene.at(10, 12), digit(2));
+  EXPECT_EQ(scene.at(10, 16), digit(3));
+  scene.before[1].values[1] = 9;
+  scene.now[1].values[1] = 0;
+  scene.draw(0.4);
+  EXPECT_EQ(scene.at(10, 12), digit(0));
+  EXPECT_EQ(scene.at(10, 16), digit(0));
+}
+
+TEST_F(Motion, SpriteShiftsThenTurnsAboutItsCentre) {
+  Element& sprite = gauge_.add(ELEMENT_SPRITE, 50, {0, 0});
+  sprite.sprite.texture_center = {20, 20};
+  sprite.sprite.x.scale = 1;
+  sprite.sprite.y.scale = 2;
+  sprite.sprite.rotation.scale = -1;
+  Scene scene(gauge_, bitmaps_);
+  struct Case { double x, y, rotation; PanelPoint mark; };
+  for (const Case& c : {Case{0, 0, 0, {20, 10}}, Case{0, 0, -90, {30, 20}}, Case{0, 0, 90, {10, 20}},
+                        Case{0, -2, 90, {6, 20}}, Case{3, 0, 180, {17, 30}}, Case{0, -6, 0, {-1, -1}},
+                        Case{nan_value, 0, 0, {-1, -1}}, Case{0, 0, infinite, {-1, -1}}}) {
+    scene.set(1, c.x, 0);
+    scene.set(1, c.y, 1);
+    scene.set(1, c.rotation, 2);
+    scene.draw();
+    if (c.mark.x < 0) {
+      EXPECT_EQ(scene.box_without(grey), Rect{});
+    } else {
+      EXPECT_EQ(scene.at(c.mark.x, c.mark.y), red) << c.mark.x << ", " << c.mark.y;
+    }
+  }
+  scene.before[1].values = {0, 0, 350};
+  scene.now[1].values = {0, 0, 10};
+  scene.draw(0.5);
+  EXPECT_EQ(scene.at(20, 10), red);
+}
+
+}  // namespace
+}  // namespace host

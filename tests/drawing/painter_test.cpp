@@ -1,0 +1,184 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <filesystem>
+#include <limits>
+
+#include "tests/drawing/fixture.h"
+
+namespace host {
+namespace {
+
+constexpr double nan_value = std::numeric_limits<double>::quiet_NaN();
+constexpr double infinite = std::numeric_limits<double>::infinity();
+
+/// A grey gauge of 60 x 40 with a few images to choose from.
+class Painter : public testing::Test {
+ protected:
+  Painter() {
+    bitmaps_.add(1, 60, 40, grey);
+    bitmaps_.add(10, 4, 4, red);
+    bitmaps_.add(11, 4, 4, green);
+    bitmaps_.add(12, 4, 4, blue);
+    // A needle of three rows that points to the right from its pivot (1, 1).
+    bitmaps_.add(20, 17, 3, [](int, int y) { return y == 1 ? red : 0u; });
+  }
+
+  MadeBitmaps bitmaps_;
+  MadeGauge gauge_{1};
+};
+
+TEST_F(Painter, IconShowsTheImageItsValueNames) {
+  gauge_.icon(10, {5, 6}, 3);
+  Scene scene(gauge_, bitmaps_);
+  struct Case { double value; std::uint32_t colour; };
+  for (const Case& c : {Case{0, red}, Case{1.99, green}, Case{2, blue}, Case{-0.9, red}, Case{-1, grey},
+                        Case{3, blue}, Case{1e300, blue}, Case{infinite, blue}, Case{-infinite, grey},
+                        Case{nan_value, grey}}) {
+    scene.set(1, c.value);
+    scene.draw();
+    EXPECT_EQ(scene.at(5, 6), c.colour) << c.value;
+    EXPECT_EQ(scene.at(8, 9), c.colour) << c.value;
+    EXPECT_EQ(scene.at(9, 9), grey);
+  }
+}
+
+TEST_F(Painter, DrawsOnlyWhatHasChanged) {
+  gauge_.icon(10, {5, 6}, 3);
+  gauge_.needle(20, {30, 20}, {1, 1});
+  Scene scene(gauge_, bitmaps_);
+  EXPECT_TRUE(scene.draw());
+  EXPECT_FALSE(scene.draw());
+  scene.set(1, 0.5);
+  scene.set(2, 0.01);  // less than a sixteenth of a pixel
+  scene.before[2].text = "no matter";
+  EXPECT_FALSE(scene.draw());
+  scene.set(1, 1);
+  std::ranges::fill(scene.canvas.pixels, blue);  // whatever is not drawn again stays blue
+  EXPECT_TRUE(scene.draw());
+  EXPECT_EQ(scene.box_without(blue), (Rect{5, 6, 4, 4}));
+  scene.painter->invalidate();
+  EXPECT_TRUE(scene.draw());
+  EXPECT_EQ(scene.box_without(blue), (Rect{0, 0, 60, 40}));
+  scene.now[1].drawn = false;
+  EXPECT_TRUE(scene.draw());
+  EXPECT_EQ(scene.at(5, 6), grey);
+}
+
+TEST_F(Painter, PartialRedrawEqualsAFullOne) {
+  bitmaps_.add(30, 60, 40, 0x40202020);  // a tint over the whole face
+  gauge_.icon(30, {0, 0}, 1);
+  gauge_.icon(10, {27, 18}, 3);
+  gauge_.needle(20, {30, 20}, {1, 1});
+  gauge_.icon(10, {40, 18}, 3);
+  gauge_.needle(20, {34, 20}, {1, 1});
+  Scene partial(gauge_, bitmaps_, 1.5), full(gauge_, bitmaps_, 1.5);
+  for (int i = 0; i < 40; ++i) {
+    for (Scene* scene : {&partial, &full}) {
+      scene->now[1].drawn = i % 7 != 0;
+      scene->now[3].drawn = scene->now[3].evaluated = i % 11 != 0;
+      for (std::size_t element = 2; element < 6; ++element) scene->set(element, i * 37.0 * element / 3);
+    }
+    full.painter->invalidate();
+    partial.draw();
+    full.draw();
+    ASSERT_EQ(partial.canvas.pixels, full.canvas.pixels) << i;
+  }
+}
+
+TEST_F(Painter, GaugePartlyOutsideTheCanvasIsCut) {
+  gauge_.icon(10, {5, 6}, 3);
+  for (const Rect& place : {Rect{-7, -8, 60, 40}, Rect{15, 15, 60, 40}, Rect{-50, 3, 60, 40},
+                            Rect{100, 100, 60, 40}, Rect{3, 3, 0, 40}, Rect{3, 3, -5, 40}}) {
+    Canvas canvas(20, 20);
+    GaugePainter painter(gauge_.header, bitmaps_, place);
+    const Scene scene(gauge_, bitmaps_);
+    painter.draw(canvas, scene.before, scene.now, 1);
+    for (int y = 0; y < 20; ++y)
+      for (int x = 0; x < 20; ++x) {
+        const int gx = x - place.x, gy = y - place.y;
+        const bool inside = gx >= 0 && gy >= 0 && gx < place.width && gy < place.height;
+        const bool icon = gx >= 5 && gx < 9 && gy >= 6 && gy < 10;
+        ASSERT_EQ(canvas.pixels[y * 20 + x], !inside ? 0xFF000000 : icon ? red : grey);
+      }
+  }
+}
+
+TEST_F(Painter, MissingBitmapsAreLeftOut) {
+  gauge_.icon(12, {5, 6}, 3);  // 13 and 14 do not exist
+  gauge_.needle(99, {30, 20}, {1, 1});
+  gauge_.add(ELEMENT_MOVING_IMAGE, 99, {0, 0});
+  Scene scene(gauge_, bitmaps_);
+  scene.set(1, 1);
+  EXPECT_TRUE(scene.draw());
+  EXPECT_EQ(scene.box_without(grey), Rect{});
+
+  MadeGauge faceless(98);
+  faceless.icon(10, {0, 0}, 1);
+  EXPECT_EQ(gauge_size(faceless.header, bitmaps_).width, 0);
+  GaugePainter painter(faceless.header, bitmaps_, {0, 0, 10, 10});
+  Canvas canvas(10, 10);
+  const Scene states(faceless, bitmaps_);
+  painter.draw(canvas, states.before, states.now, 1);
+  EXPECT_EQ(canvas.pixels[0], red);
+}
+
+TEST_F(Painter, TakesTheSmallestDensityThatIsLargeEnough) {
+  for (const std::uint32_t id : {1, 10}) {
+    bitmaps_.add(id, id == 1 ? 60 : 4, id == 1 ? 40 : 4, blue, 3);
+    bitmaps_.add(id, id == 1 ? 60 : 4, id == 1 ? 40 : 4, green, 2);
+  }
+  bitmaps_.add(11, 4, 4, red, 2);  // the other icon image has no third density
+  gauge_.icon(10, {5, 6}, 2);
+  struct Case { double zoom; std::uint32_t face, other; };
+  for (const Case& c : {Case{0.5, grey, green}, Case{1, grey, green}, Case{1.5, green, red},
+                        Case{2, green, red}, Case{2.1, blue, red}, Case{3, blue, red}, Case{4, blue, red}}) {
+    Scene scene(gauge_, bitmaps_, c.zoom);
+    scene.set(1, 1);
+    scene.draw();
+    EXPECT_EQ(scene.at(0, 0), c.face) << c.zoom;
+    EXPECT_EQ(scene.at(static_cast<int>(7 * c.zoom), static_cast<int>(8 * c.zoom)), c.other) << c.zoom;
+  }
+}
+
+TEST_F(Painter, WholeZoomsCopyPixelForPixel) {
+  const auto noise = [](int x, int y) { return 0xFF000000u | static_cast<std::uint32_t>(x * 7919 + y * 104729) % 0xFFFFFF; };
+  const auto holes = [&](int x, int y) { return (x + y) % 3 ? noise(y, x) : 0u; };
+  for (const int density : {1, 2, 3}) {
+    bitmaps_.add(1, 60, 40, noise, density);
+    bitmaps_.add(10, 4, 4, holes, density);
+  }
+  gauge_.icon(10, {7, 9}, 1);
+  gauge_.add(ELEMENT_SLIDER, 10, {15, 9});
+  gauge_.at(2).slider.x_scale = 2;
+  for (const int zoom : {1, 2, 3}) {
+    Scene scene(gauge_, bitmaps_, zoom);
+    scene.set(2, 3);
+    scene.draw();
+    for (int y = 0; y < 40 * zoom; ++y)
+      for (int x = 0; x < 60 * zoom; ++x) {
+        std::uint32_t expected = noise(x, y);
+        for (const int left : {7 * zoom, 21 * zoom}) {
+          const int ix = x - left, iy = y - 9 * zoom;
+          const bool inside = ix >= 0 && iy >= 0 && ix < 4 * zoom && iy < 4 * zoom;
+          if (inside && holes(ix, iy)) expected = holes(ix, iy);
+        }
+        ASSERT_EQ(scene.at(x, y), expected) << zoom << ": " << x << ", " << y;
+      }
+  }
+}
+
+TEST(WritePng, NamesTheFileItCannotWrite) {
+  const std::string file = testing::TempDir() + "drawing_test.png";
+  write_png(Canvas(3, 2), file);
+  EXPECT_GT(std::filesystem::file_size(file), 50u);
+  try {
+    write_png(Canvas(3, 2), "/no/such/folder/x.png");
+    FAIL();
+  } catch (const std::runtime_error& error) {
+    EXPECT_NE(std::string(error.what()).find("/no/such/folder/x.png"), std::string::npos);
+  }
+}
+
+}  // namespace
+}  // namespace host

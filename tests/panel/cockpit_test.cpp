@@ -1,0 +1,180 @@
+// The real module in small panels and in its own.
+#include "host/panel/cockpit.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "host/panel/panel_picture.h"
+#include "host/panel/panel_scene.h"
+#include "platform/platform_host.h"
+
+namespace {
+
+using namespace host;
+
+constexpr const char* two_windows =
+    "[Window00]\nident=500\nident_day=20\nident_night=27\nsize_mm=400,300\nvisible=1\n"
+    "gauge00=Tarnvale!Masterbat, 0,0\ngauge01=tarnvale!cainstlg, 200,0\n"
+    "[Window02]\nident=502\nsize_mm=400,300\n"
+    "gauge00=Tarnvale!Masterbat, 10,20,348,296\ngauge01=Tarnvale!Avimaster, 0,0\n";
+
+class SmallCockpit : public testing::Test {
+ protected:
+  static void SetUpTestSuite() {
+    platform_choose_audio(PLATFORM_AUDIO_NONE);
+    module = new GaugeModule(COCKPIT_DIR "/Tarnvale.GAU");
+  }
+
+  bool battery_lamp() {
+    for (const ElementState& state : cockpit.find("Masterbat")->run.now())
+      if (state.evaluated && state.element->resource_id == 40) return state.values[0] == 1;
+    return false;
+  }
+
+  void click(const char* gauge, PanelPoint point) {
+    cockpit.find(gauge)->areas.at(point, MOUSE_LEFT)->fire(point, MOUSE_LEFT);
+  }
+
+  static GaugeModule* module;
+  Cockpit cockpit{*module, parse_panel_config(two_windows, "panel.cfg")};
+};
+
+GaugeModule* SmallCockpit::module = nullptr;
+
+TEST_F(SmallCockpit, AGaugeInTwoWindowsRunsOnceAndOnlyWhileOneIsOpen) {
+  CockpitGauge* battery = cockpit.find("MASTERBAT");
+  CockpitGauge* avionics = cockpit.find("Avimaster");
+  ASSERT_NE(battery, nullptr);
+  EXPECT_EQ(cockpit.windows()[1].gauges[0].gauge, battery);
+  cockpit.panels().open(502);
+  cockpit.frame();
+  EXPECT_EQ(battery->frame, 1u);
+  EXPECT_EQ(avionics->frame, 1u);
+  cockpit.panels().close(502);
+  cockpit.frame();
+  EXPECT_EQ(battery->frame, 2u);
+  EXPECT_EQ(avionics->frame, 1u) << "a hidden window's gauges stand still";
+  EXPECT_FALSE(cockpit.is_shown(*avionics));
+  cockpit.panels().close(500);
+  cockpit.frame();
+  EXPECT_EQ(battery->frame, 2u);
+}
+
+TEST_F(SmallCockpit, AClickReachesTheAircraftAndComesBack) {
+  std::vector<std::uint32_t> sent;
+  cockpit.on_event = [&](const SentEvent& event) { sent.push_back(event.number); };
+  cockpit.frame();
+  EXPECT_FALSE(battery_lamp());
+  click("Masterbat", {47, 99});
+  EXPECT_EQ(sent, (std::vector<std::uint32_t>{0x10346, 0x102C2, 0x1033B, 0x1033C, 0x1033D}));
+  EXPECT_EQ(cockpit.aircraft().token(364), 1);
+  cockpit.frame();
+  EXPECT_TRUE(battery_lamp());
+}
+
+TEST_F(SmallCockpit, ThePanelLightSwitchTurnsTheFaceOfItsPanel) {
+  cockpit.frame();
+  click("Cainstlg", {27, 83});
+  cockpit.frame();
+  EXPECT_EQ(cockpit.panels().face(0), Face::night);
+  EXPECT_TRUE(cockpit.panels().shows(500));
+  click("Cainstlg", {27, 83});
+  EXPECT_EQ(cockpit.panels().face(0), Face::day);
+}
+
+TEST_F(SmallCockpit, DrawsAgainOnlyWhatChanged) {
+  cockpit.frame();
+  PanelPicture picture(cockpit, 0, 1.0);
+  std::vector<Rect> changed;
+  picture.draw(1.0, changed);
+  EXPECT_EQ(changed.front(), (Rect{0, 0, 400, 300}));
+  changed.clear();
+  cockpit.frame();
+  picture.draw(1.0, changed);
+  EXPECT_TRUE(changed.empty());
+  click("Masterbat", {47, 99});
+  cockpit.frame();
+  picture.draw(1.0, changed);
+  EXPECT_EQ(changed, (std::vector<Rect>{{0, 0, 174, 148}}));
+}
+
+TEST_F(SmallCockpit, FindsTheGaugeUnderAPixelAtAnyZoom) {
+  cockpit.frame();
+  for (const double zoom : {0.5, 1.0, 1.7, 3.0}) {
+    const PanelPicture picture(cockpit, 1, zoom);
+    const auto hit = picture.hit(static_cast<int>((10 + 2 * 47.5) * zoom), static_cast<int>((20 + 2 * 99.5) * zoom));
+    ASSERT_TRUE(hit) << zoom;
+    EXPECT_STREQ(hit->gauge->header().name, "Masterbat");
+    EXPECT_NEAR(hit->point.x, 47, 1);
+    EXPECT_NEAR(hit->point.y, 99, 1);
+  }
+  EXPECT_STREQ(PanelPicture(cockpit, 1, 1.0).hit(5, 5)->gauge->header().name, "Avimaster");
+  EXPECT_FALSE(PanelPicture(cockpit, 1, 1.0).hit(399, 299));
+}
+
+TEST_F(SmallCockpit, RefusesGaugesThatTheModuleDoesNotHave) {
+  const struct {
+    const char* line;
+    const char* message;
+  } cases[] = {
+      {"gauge00=Tarnvale!Altimiter, 0,0", "panel.cfg:3: Tarnvale has no gauge 'Altimiter'"},
+      {"gauge00=Other!Masterbat, 0,0", "panel.cfg:3: the module is Tarnvale, not Other"},
+  };
+  for (const auto& each : cases) {
+    try {
+      const Cockpit other(*module, parse_panel_config(std::string("[Window00]\nsize_mm=9,9\n") + each.line,
+                                                      "panel.cfg"));
+      FAIL() << each.line;
+    } catch (const ConfigError& error) {
+      EXPECT_STREQ(error.what(), each.message);
+    }
+  }
+}
+
+TEST_F(SmallCockpit, PicturesNameWhatIsNotThere) {
+  EXPECT_THROW(picture_of(cockpit, "999", 1), std::runtime_error);
+  EXPECT_THROW(picture_of(cockpit, "Altimeter", 1), std::runtime_error);
+}
+
+// ---- The cockpit's own panel ----------------------------------------------------------------
+
+class OwnPanel : public testing::Test {
+ protected:
+  GaugeModule module{COCKPIT_DIR "/Tarnvale.GAU"};
+  Cockpit cockpit{module, read_panel_config(SOURCE_DIR "/aircraft/panel/panel.cfg")};
+};
+
+TEST_F(OwnPanel, PlacesEveryGaugeOfTheModule) {
+  for (const GaugeHeader* gauge : module.gauges())
+    EXPECT_NE(cockpit.find(gauge->name), nullptr) << gauge->name << " stands in no window";
+}
+
+TEST_F(OwnPanel, GaugesStandInsideTheirWindowsAndApart) {
+  for (const CockpitWindow& window : cockpit.windows()) {
+    for (std::size_t i = 0; i < window.gauges.size(); ++i) {
+      const auto& [gauge, place] = window.gauges[i];
+      const std::string name = window.config->title + ": " + gauge->header().name;
+      EXPECT_TRUE(place.x >= 0 && place.y >= 0 && place.x + place.width <= window.config->width &&
+                  place.y + place.height <= window.config->height)
+          << name << " stands outside";
+      for (std::size_t k = 0; k < i; ++k)
+        EXPECT_FALSE(overlap(place, window.gauges[k].place))
+            << name << " covers " << window.gauges[k].gauge->header().name;
+    }
+  }
+}
+
+TEST_F(OwnPanel, HasEveryWindowThatGaugesOpenAndClose) {
+  for (std::uint32_t ident : {500, 501, 502, 503, 504, 505, 506, 507, 20, 21, 27, 28})
+    EXPECT_TRUE(cockpit.panels().find(ident)) << ident;
+}
+
+TEST_F(OwnPanel, SoundsRunWhateverIsOpen) {
+  for (std::uint32_t ident = 500; ident < 510; ++ident) cockpit.panels().close(ident);
+  EXPECT_TRUE(open_windows(cockpit).empty());
+  EXPECT_TRUE(cockpit.is_shown(*cockpit.find("Msnd")));
+  EXPECT_TRUE(cockpit.is_shown(*cockpit.find("Hvsnd")));
+}
+
+}  // namespace

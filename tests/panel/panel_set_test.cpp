@@ -1,0 +1,69 @@
+#include "host/panel/panel_set.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace host;
+
+PanelSet two_windows() {
+  return PanelSet(parse_panel_config(
+      "[Window00]\nident=500\nident_day=20\nident_night=27\nsize_mm=9,9\nvisible=1\n"
+      "[Window02]\nident=502\nsize_mm=9,9\n",
+      "panel.cfg"));
+}
+
+TEST(PanelSet, OpensClosesAndToggles) {
+  PanelSet panels = two_windows();
+  EXPECT_TRUE(panels.is_open(0));
+  EXPECT_FALSE(panels.shows(502));
+  panels.open(502);
+  panels.open(502);
+  EXPECT_TRUE(panels.shows(502));
+  EXPECT_EQ(panels.changes(), 1u) << "opening an open window changes nothing";
+  panels.close(502);
+  panels.close(502);
+  EXPECT_FALSE(panels.shows(502));
+  panels.toggle(502);
+  EXPECT_TRUE(panels.is_open(1));
+  panels.toggle(502);
+  EXPECT_FALSE(panels.is_open(1));
+}
+
+TEST(PanelSet, IgnoresIdentsOfOtherCockpits) {
+  PanelSet panels = two_windows();
+  for (std::uint32_t ident : {0u, 1u, 501u, 0xFFFFFFFFu}) {
+    panels.open(ident);
+    panels.close(ident);
+    panels.toggle(ident);
+    EXPECT_FALSE(panels.shows(ident));
+  }
+  EXPECT_EQ(panels.changes(), 0u);
+}
+
+// The panel-light switches open one face and close the other, in either order.
+TEST(PanelSet, SwapsTheFacesOfAMainPanel) {
+  PanelSet panels = two_windows();
+  EXPECT_TRUE(panels.shows(20));
+  panels.open(27);
+  panels.close(20);
+  EXPECT_EQ(panels.face(0), Face::night);
+  EXPECT_TRUE(panels.shows(500)) << "closing the day face leaves the night face open";
+  EXPECT_TRUE(panels.shows(27));
+  EXPECT_FALSE(panels.shows(20));
+  panels.open(20);
+  panels.close(27);
+  EXPECT_EQ(panels.face(0), Face::day);
+  EXPECT_TRUE(panels.shows(500));
+}
+
+TEST(PanelSet, ClosesAndOpensWithTheFaceItHad) {
+  PanelSet panels = two_windows();
+  panels.open(27);
+  panels.close(27);
+  EXPECT_FALSE(panels.shows(500));
+  panels.open(500);
+  EXPECT_TRUE(panels.shows(27));
+}
+
+}  // namespace

@@ -1,0 +1,138 @@
+#include "host/script/lua_runner.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace host;
+
+// What a run of the text ends with: "" or the error's message.
+std::string outcome(LuaRunner& runner, const std::string& text) {
+  try {
+    runner.run(text, "flows/test.lua");
+    return "";
+  } catch (const FlowError& error) {
+    return error.what();
+  }
+}
+
+class Flow : public testing::Test {
+ protected:
+  Flow() {
+    runner.bind("refuse", [](LuaCall& call) { throw std::runtime_error(call.text(1, "reason")); });
+    runner.bind("number", [](LuaCall& call) { call.give(call.number(1, "value") * 2); });
+    runner.bind("ask", [](LuaCall& call) { call.give(call.ask(1, "question")); });
+    runner.bind("spot", [](LuaCall& call) {
+      if (call.is_table(1)) call.unpack(1, 3);
+      call.give(std::string_view(call.text(1, "gauge") + std::to_string(call.whole(2, "x")) + "," +
+                                 std::to_string(call.whole(3, "y")) + call.text_or(4, "more", "")));
+    });
+  }
+
+  LuaRunner runner;
+};
+
+struct Failure {
+  const char* name;
+  const char* text;
+  const char* message;
+};
+
+class Failures : public Flow, public testing::WithParamInterface<Failure> {};
+
+TEST_P(Failures, NameFileAndLine) { EXPECT_EQ(outcome(runner, GetParam().text), GetParam().message); }
+
+INSTANTIATE_TEST_SUITE_P(
+    Texts, Failures,
+    testing::Values(
+        Failure{"syntax", "local x = 1\nlocal y = = 2", "flows/test.lua:2: unexpected symbol near '='"},
+        Failure{"unfinished", "if true then\n", "flows/test.lua:2: 'end' expected (to close 'if' at line 1) near <eof>"},
+        Failure{"nil_call", "\n\nclik('Masterbat')", "flows/test.lua:3: attempt to call a nil value (global 'clik')"},
+        Failure{"arithmetic", "local t = {}\nreturn t + 1",
+                "flows/test.lua:2: attempt to perform arithmetic on a table value (local 't')"},
+        Failure{"own_error", "error('no fuel')", "flows/test.lua:1: no fuel"},
+        Failure{"error_object", "error({})", "flows/test.lua:1: an error that is not a text"},
+        Failure{"host", "local a = 1\nrefuse('the lamp is dark')", "flows/test.lua:2: the lamp is dark"},
+        Failure{"helper", "local function check()\n  refuse('dark')\nend\n\ncheck()",
+                "flows/test.lua:2: dark (called from line 5)"},
+        Failure{"in_condition", "ask(function()\n  refuse('inside')\nend)",
+                "flows/test.lua:2: inside (called from line 1)"},
+        Failure{"missing_argument", "number()", "flows/test.lua:1: argument 1 (value) must be a number"},
+        Failure{"text_for_number", "number('7')", "flows/test.lua:1: argument 1 (value) must be a number"},
+        Failure{"infinite", "number(1/0)", "flows/test.lua:1: argument 1 (value) must be a finite number"},
+        Failure{"fraction", "spot('A', 1.5, 2)", "flows/test.lua:1: argument 2 (x) must be a whole number"},
+        Failure{"short_spot", "spot({'A', 1})", "flows/test.lua:1: argument 3 (y) must be a number"},
+        Failure{"not_a_function", "ask(7)", "flows/test.lua:1: argument 1 (question) must be a function"},
+        Failure{"endless", "local n = 0\nwhile true do n = n + 1 end",
+                "flows/test.lua:2: the flow computes without ever waiting: an endless loop?"},
+        Failure{"memory", "local t = {}\nfor i = 1, 40 do t[i] = string.rep(tostring(i), 1 << 24) end",
+                "flows/test.lua: out of memory"},
+        Failure{"binary", "\x1bLua", "flows/test.lua: attempt to load a binary chunk (mode is 't')"}),
+    [](const auto& test) { return test.param.name; });
+
+TEST_F(Flow, DeepRecursionIsAnErrorLikeAnyOther) {
+  const std::string message = outcome(runner, "local function f() return 1 + f() end\nf()");
+  EXPECT_EQ(message.rfind("flows/test.lua:1: stack overflow", 0), 0u) << message;
+}
+
+TEST_F(Flow, HasNoWayOutOfItsRoom) {
+  for (const char* name : {"os", "io", "require", "package", "debug", "dofile", "loadfile", "load", "pcall",
+                           "xpcall", "coroutine", "collectgarbage"})
+    EXPECT_EQ(outcome(runner, std::string("if ") + name + " then error('open') end"), "") << name;
+}
+
+TEST_F(Flow, HasTextsTablesAndMathematics) {
+  EXPECT_EQ(outcome(runner,
+                    "local t = {3, 1, 2}\ntable.sort(t)\n"
+                    "if table.concat(t) .. string.format('%02d', math.floor(7.9)) ~= '12307' then error('!') end"),
+            "");
+}
+
+TEST_F(Flow, GivesAndTakesValues) {
+  EXPECT_EQ(outcome(runner, "if number(21) ~= 42 then error('!') end"), "");
+  EXPECT_EQ(outcome(runner, "if not ask(function() return 1 end) or ask(function() end) then error('!') end"), "");
+}
+
+TEST_F(Flow, TakesANamedControlForItsParts) {
+  EXPECT_EQ(outcome(runner,
+                    "local c = {'Ctr', 4, 5}\n"
+                    "if spot(c) ~= 'Ctr4,5' or spot(c, '!') ~= 'Ctr4,5!' or spot('Ctr', 4, 5) ~= 'Ctr4,5' "
+                    "then error(spot(c, '!')) end"),
+            "");
+}
+
+TEST_F(Flow, RunsAgainAfterAFailure) {
+  EXPECT_NE(outcome(runner, "refuse('first')"), "");
+  EXPECT_EQ(outcome(runner, "return 1"), "");
+  EXPECT_EQ(outcome(runner, "refuse('third')"), "flows/test.lua:1: third");
+}
+
+TEST_F(Flow, IsAliveWhileTimeMovesOn) {
+  runner.bind("wait", [this](LuaCall&) { runner.alive(); });
+  EXPECT_EQ(outcome(runner, "for i = 1, 300 do for k = 1, 100000 do end wait() end"), "")
+      << "a long flow that waits is no endless loop";
+}
+
+TEST_F(Flow, FlysTheSameEveryTime) {
+  double first = 0, second = 0;
+  for (double* drawn : {&first, &second}) {
+    LuaRunner fresh;
+    fresh.bind("keep", [drawn](LuaCall& call) { *drawn = call.number(1, "value"); });
+    EXPECT_EQ(outcome(fresh, "keep(math.random())"), "");
+  }
+  EXPECT_EQ(first, second);
+}
+
+TEST(FlowFile, ThatCannotBeReadIsNamed) {
+  LuaRunner runner;
+  for (const char* file : {"no/such/flow.lua", "/"}) {
+    try {
+      runner.run(std::filesystem::path(file));
+      FAIL() << file;
+    } catch (const FlowError& error) {
+      EXPECT_EQ(error.what(), std::string(file) + ": the flow cannot be read");
+    }
+  }
+}
+
+}  // namespace
