@@ -1,5 +1,5 @@
-/// Drawing a panel against its floor, in one run: the same panel where nothing has changed, where all
-/// parts move, and where everything has changed, beside a plain copy of its pixels.
+/// Drawing a panel against its floor, in one run: the same panel where nothing has changed, where
+/// all parts move, and where everything has changed, beside a plain copy of its pixels.
 #include <algorithm>
 #include <chrono>
 #include <cmath>
@@ -53,9 +53,18 @@ void add_pictures(MadeBitmaps& bitmaps, int density) {
       bitmaps.add(100 + 10 * kind + level, width, height, level * 0x0C080400u, d);
   }
   for (const std::uint32_t image : {20, 21})
-    bitmaps.add(image, 34, 34, [=](int x, int y) { return disc(x, y, 17 * d, image * 0x020304u | 0xFF000000u); }, d);
-  bitmaps.add(30, 75, 9, [=](int x, int y) { return std::abs(y - 4.5 * d) < d * (5 - x * 0.05 / d) ? 0xFFF0F0E8u : 0; }, d);
-  bitmaps.add(40, 10, 150, [=](int x, int y) { return 0xFF101010u + static_cast<std::uint32_t>((x + y) % 200); }, d);
+    bitmaps.add(
+        image, 34, 34,
+        [=](int x, int y) { return disc(x, y, 17 * d, image * 0x020304u | 0xFF000000u); }, d);
+  bitmaps.add(
+      30, 75, 9,
+      [=](int x, int y) {
+        return std::abs(y - 4.5 * d) < d * (5 - x * 0.05 / d) ? 0xFFF0F0E8u : 0;
+      },
+      d);
+  bitmaps.add(
+      40, 10, 150,
+      [=](int x, int y) { return 0xFF101010u + static_cast<std::uint32_t>((x + y) % 200); }, d);
   bitmaps.add(50, 120, 120, [=](int x, int y) { return disc(x, y, 60 * d, 0xFF204060); }, d);
   bitmaps.add(60, 12, 12, [=](int x, int y) { return disc(x, y, 6 * d, 0xFFFFA000); }, d);
 }
@@ -91,7 +100,9 @@ class Panel {
     const auto at = [&](int pixels) { return static_cast<int>(std::lround(pixels * zoom)); };
     for (const Rect& place : places()) {
       const int number = static_cast<int>(gauges_.size());
-      const auto same = [&](PanelSize size) { return size.width == place.width && size.height == place.height; };
+      const auto same = [&](PanelSize size) {
+        return size.width == place.width && size.height == place.height;
+      };
       const int kind = static_cast<int>(std::ranges::find_if(sizes, same) - sizes);
       fill(gauges_.emplace_back(1 + kind), kind, number);
       painters_.emplace_back(gauges_.back().header, bitmaps,
@@ -106,7 +117,8 @@ class Panel {
     for (std::size_t i = 0; i < runs_.size(); ++i) {
       const Values values(frame, static_cast<int>(i));
       std::snprintf(text, sizeof text, "%03d", frame * 7 % 1000);
-      for (const Element* e = gauges_[i].header.element_list[0]; e; e = e->next[0]) values.put(*const_cast<Element*>(e));
+      for (const Element* e = gauges_[i].header.element_list[0]; e; e = e->next[0])
+        values.put(*const_cast<Element*>(e));
       runs_[i].frame(values);
     }
   }
@@ -162,13 +174,21 @@ void measure(const MadeBitmaps& bitmaps, double zoom) {
   panel.draw(1);
   std::vector<std::uint32_t> copy(panel.canvas.pixels.size());
   const auto nothing = [](int) {};
-  const double floor = best(nothing, [&] { std::memcpy(copy.data(), panel.canvas.pixels.data(), copy.size() * 4); });
+  const double floor =
+      best(nothing, [&] { std::memcpy(copy.data(), panel.canvas.pixels.data(), copy.size() * 4); });
   const double still = best(nothing, [&] { panel.draw(1); });
   const double moving = best([&](int i) { panel.parts(i + 2); }, [&] { panel.draw(0.5); });
-  const double all = best([&](int i) { panel.lighting(1 + i % 2); panel.parts(i + 2); }, [&] { panel.draw(0.5); });
-  std::printf("zoom %.1f: copy %6.0f us | nothing changed %6.1f us, ratio %.3f | parts moved %6.0f us, ratio %.2f"
-              " | everything changed %6.0f us, ratio %.2f\n",
-              zoom, floor, still, still / floor, moving, moving / floor, all, all / floor);
+  const double all = best(
+      [&](int i) {
+        panel.lighting(1 + i % 2);
+        panel.parts(i + 2);
+      },
+      [&] { panel.draw(0.5); });
+  std::printf(
+      "zoom %.1f: copy %6.0f us | nothing changed %6.1f us, ratio %.3f | parts moved %6.0f us, "
+      "ratio %.2f"
+      " | everything changed %6.0f us, ratio %.2f\n",
+      zoom, floor, still, still / floor, moving, moving / floor, all, all / floor);
 }
 
 }  // namespace

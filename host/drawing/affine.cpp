@@ -63,7 +63,8 @@ void keep_inside(std::int64_t start, std::int64_t step, std::int64_t end, Range&
     const auto [low, high] = std::minmax({static_cast<double>(-start) * per_step,
                                           static_cast<double>(end - start) * per_step});
     range.first = std::max(range.first, static_cast<std::int64_t>(std::clamp(low, 0.0, farthest)));
-    range.last = std::min(range.last, static_cast<std::int64_t>(std::clamp(high + 1, -1.0, farthest)));
+    range.last =
+        std::min(range.last, static_cast<std::int64_t>(std::clamp(high + 1, -1.0, farthest)));
   }
   while (range.first <= range.last && outside(range.first)) ++range.first;
   while (range.first <= range.last && outside(range.last)) --range.last;
@@ -127,7 +128,8 @@ struct Stepper {
 };
 
 // Draws the steps of `range`; `target` is the pixel of the first.
-void blend_row(std::uint32_t* target, const PixelView& picture, const Stepper& start, const Range& range) {
+void blend_row(std::uint32_t* target, const PixelView& picture, const Stepper& start,
+               const Range& range) {
   auto u = static_cast<std::uint32_t>(start.u + start.du * range.first);
   auto v = static_cast<std::uint32_t>(start.v + start.dv * range.first);
   for (std::int64_t k = range.first; k <= range.last; ++k, ++target) {
@@ -162,7 +164,8 @@ Rect bounds_of(const Affine& map, int width, int height) {
   const auto [left, right] = std::minmax({0.0, map.xx * w, map.xy * h, map.xx * w + map.xy * h});
   const auto [top, bottom] = std::minmax({0.0, map.yx * w, map.yy * h, map.yx * w + map.yy * h});
   const int x = whole(std::floor(left + map.dx + 1e-6)), y = whole(std::floor(top + map.dy + 1e-6));
-  return {x, y, whole(std::ceil(right + map.dx - 1e-6)) - x, whole(std::ceil(bottom + map.dy - 1e-6)) - y};
+  return {x, y, whole(std::ceil(right + map.dx - 1e-6)) - x,
+          whole(std::ceil(bottom + map.dy - 1e-6)) - y};
 }
 
 void blend_turned(Surface target, const Rect& clip, PixelView picture, const Affine& map) {

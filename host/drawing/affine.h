@@ -5,8 +5,8 @@
 
 namespace host {
 
-/// Where the point (x, y) of a picture goes: (xx x + xy y + dx, yx x + yy y + dy). Whole numbers are
-/// the corners of pixels.
+/// Where the point (x, y) of a picture goes: (xx x + xy y + dx, yx x + yy y + dy). Whole numbers
+/// are the corners of pixels.
 struct Affine {
   double xx = 1, xy = 0, dx = 0;
   double yx = 0, yy = 1, dy = 0;
@@ -24,8 +24,8 @@ Affine operator*(const Affine& second, const Affine& first);
 /// The whole pixels around a picture of that size.
 Rect bounds_of(const Affine& map, int width, int height);
 
-/// Lays a picture over the target. Its outermost pixels must be clear: edges are smoothed into them.
-/// Where the map is a shift by whole pixels, pixels are blended exactly.
+/// Lays a picture over the target. Its outermost pixels must be clear: edges are smoothed into
+/// them. Where the map is a shift by whole pixels, pixels are blended exactly.
 void blend_turned(Surface target, const Rect& clip, PixelView picture, const Affine& map);
 
 }  // namespace host

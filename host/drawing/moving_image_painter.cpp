@@ -87,9 +87,10 @@ class MovingImagePainter final : public ElementPainter {
     blend_turned({scratch_.data(), window_.width, 0, 0}, inside, strip_.view(), map(look));
     const Rect& hole = mask_->visible;
     for (int y = 0; y < hole.height; ++y)
-      mask_row(&scratch_[std::size_t(hole.y + y) * window_.width + hole.x], mask_->pixels.at(0, y), hole.width);
-    const PixelView seen{&scratch_[std::size_t(hole.y) * window_.width + hole.x], hole.width, hole.height,
-                         window_.width};
+      mask_row(&scratch_[std::size_t(hole.y + y) * window_.width + hole.x], mask_->pixels.at(0, y),
+               hole.width);
+    const PixelView seen{&scratch_[std::size_t(hole.y) * window_.width + hole.x], hole.width,
+                         hole.height, window_.width};
     blend_pixels(target, part, seen, window_.x + hole.x, window_.y + hole.y);
   }
 
@@ -117,9 +118,11 @@ bool hidden_by_mask(const Element& element, const Rect& window, Pictures& pictur
 
 }  // namespace
 
-std::unique_ptr<ElementPainter> make_moving_image_painter(const Element& element, Pictures& pictures) {
+std::unique_ptr<ElementPainter> make_moving_image_painter(const Element& element,
+                                                          Pictures& pictures) {
   if (pictures.turning(element.resource_id) == nullptr) return nullptr;
-  const Rect window = scaled_place(element.position, window_size(element, pictures), pictures.scale());
+  const Rect window =
+      scaled_place(element.position, window_size(element, pictures), pictures.scale());
   if (hidden_by_mask(element, window, pictures)) return nullptr;
   return std::make_unique<MovingImagePainter>(element, window, pictures);
 }

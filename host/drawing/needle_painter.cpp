@@ -1,6 +1,6 @@
 /// Needles. An unturned needle image points to the right: with a calibration table the image is
-/// turned by the direction of the mark, without one by the value in degrees clockwise. The middle of
-/// the image's pivot pixel lies on the middle of the background pixel at the needle's position.
+/// turned by the direction of the mark, without one by the value in degrees clockwise. The middle
+/// of the image's pivot pixel lies on the middle of the background pixel at the needle's position.
 #include <cmath>
 #include <optional>
 
@@ -22,8 +22,9 @@ class NeedlePainter final : public TurningPainter {
       : TurningPainter(picture), scale_(scale_of(element)) {
     const PanelPoint pivot = element.needle.center;
     onto_pivot_ = shifted_by(-(pivot.x + 0.5), -(pivot.y + 0.5)) * picture.to_image;
-    onto_gauge_ = shifted_by((element.position.x + 0.5) * scale.x, (element.position.y + 0.5) * scale.y) *
-                  scaled_by(scale.x, scale.y);
+    onto_gauge_ =
+        shifted_by((element.position.x + 0.5) * scale.x, (element.position.y + 0.5) * scale.y) *
+        scaled_by(scale.x, scale.y);
     steps_ = turn_steps(reach(std::max(scale.x, scale.y)));
   }
 

@@ -14,17 +14,30 @@ double direction(PanelPoint from, PanelPoint to) {
   return std::atan2(dy, dx) * 180 / std::numbers::pi;
 }
 
+// Above this a table cannot have been meant clockwise: it would go round more than once.
+constexpr double most_sweep = 363;
+
+double clockwise(double degrees) { return degrees - 360 * std::floor(degrees / 360); }
+
 }  // namespace
+
+void NeedleScale::turn_all(bool clockwise_way) {
+  for (std::size_t i = 1; i < marks_.size(); ++i) {
+    const double turn = marks_[i].angle - marks_[i - 1].angle;
+    marks_[i].angle = marks_[i - 1].angle + (clockwise_way ? clockwise(turn) : -clockwise(-turn));
+  }
+}
 
 NeedleScale::NeedleScale(PanelPoint position, std::span<const NonlinearityPoint> points) {
   for (const NonlinearityPoint& point : points) {
     if (!std::isfinite(point.value)) continue;
-    const double last = marks_.empty() ? 0 : marks_.back().angle;
     const bool somewhere = point.point.x != position.x || point.point.y != position.y;
-    const double turn = somewhere ? std::remainder(direction(position, point.point) - last, 360.0) : 0;
-    marks_.push_back({point.value, last + turn});
+    const double last = marks_.empty() ? 0 : marks_.back().angle;
+    marks_.push_back({point.value, somewhere ? direction(position, point.point) : last});
   }
   if (marks_.empty()) marks_.push_back({0, 0});
+  turn_all(true);
+  if (marks_.back().angle - marks_.front().angle > most_sweep) turn_all(false);
   const double sweep = marks_.back().angle - marks_.front().angle;
   closed_ = std::abs(sweep) > 180 && std::abs(std::remainder(sweep, 360.0)) < 3;
   if (marks_.front().value > marks_.back().value) std::ranges::reverse(marks_);
@@ -36,7 +49,8 @@ double NeedleScale::angle(double value) const {
   if (above == marks_.begin()) return marks_.front().angle;
   if (above == marks_.end()) return marks_.back().angle;
   const Mark& low = *(above - 1);
-  return low.angle + (above->angle - low.angle) * ((value - low.value) / (above->value - low.value));
+  return low.angle +
+         (above->angle - low.angle) * ((value - low.value) / (above->value - low.value));
 }
 
 double NeedleScale::angle_between(double before, double now, double blend) const {

@@ -10,8 +10,9 @@ namespace host {
 
 class NeedleScale {
  public:
-  /// From the points as seen from the needle's position. Between two points the needle turns the
-  /// short way; a point on the position itself keeps the direction of the one before.
+  /// From the points as seen from the needle's position. From each point to the next in the table the
+  /// needle turns clockwise, even past half a circle; a table that would so go round more than once is
+  /// meant counterclockwise. A point on the position itself keeps the direction of the one before.
   NeedleScale(PanelPoint position, std::span<const NonlinearityPoint> points);
 
   /// Degrees clockwise from the right, not reduced to one turn; the ends hold. The value must be a
@@ -27,6 +28,7 @@ class NeedleScale {
     double value;
     double angle;
   };
+  void turn_all(bool clockwise_way);
   std::vector<Mark> marks_;  // ascending values
   bool closed_ = false;
 };

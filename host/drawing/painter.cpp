@@ -23,8 +23,8 @@ void fill(Surface target, const Rect& part, std::uint32_t colour) {
 
 }  // namespace
 
-// The gauge in two layers: the base, kept composed, holds the background and the still elements up to
-// the first one that moves; the rest is drawn over it straight onto the canvas.
+// The gauge in two layers: the base, kept composed, holds the background and the still elements up
+// to the first one that moves; the rest is drawn over it straight onto the canvas.
 struct GaugePainter::Layers {
   struct Item {
     const Element* element;
@@ -34,7 +34,8 @@ struct GaugePainter::Layers {
   };
 
   Layers(const GaugeHeader& gauge, const BitmapStore& bitmaps, Rect where);
-  void compare(std::span<const ElementState> before, std::span<const ElementState> now, double blend);
+  void compare(std::span<const ElementState> before, std::span<const ElementState> now,
+               double blend);
   void take_look(std::size_t index, const Look& look);
   std::size_t first_moving(std::span<const ElementState> now) const;
   void compose(Surface target, const Rect& clip, std::size_t first, std::size_t last) const;
@@ -66,7 +67,8 @@ GaugePainter::Layers::Layers(const GaugeHeader& gauge, const BitmapStore& bitmap
 std::size_t GaugePainter::Layers::first_moving(std::span<const ElementState> now) const {
   std::size_t index = 0;
   const std::size_t end = std::min(items.size(), now.size());
-  while (index < end && !(now[index].evaluated && items[index].painter && items[index].painter->moves()))
+  while (index < end &&
+         !(now[index].evaluated && items[index].painter && items[index].painter->moves()))
     ++index;
   return index;
 }
@@ -94,7 +96,8 @@ void GaugePainter::Layers::compare(std::span<const ElementState> before,
       take_look(i, {});
       continue;
     }
-    const bool moved = i < before.size() && before[i].drawn && before[i].element == items[i].element;
+    const bool moved =
+        i < before.size() && before[i].drawn && before[i].element == items[i].element;
     take_look(i, items[i].painter->look({moved ? before[i] : now[i], now[i], blend}));
   }
 }
@@ -154,7 +157,8 @@ void GaugePainter::invalidate() { layers_->canvas_valid = false; }
 PanelSize gauge_size(const GaugeHeader& gauge, const BitmapStore& bitmaps) {
   const Element* root = gauge.element_list[0];
   if (root == nullptr || root->resource_id < 0) return {0, 0};
-  const Bitmap* background = bitmaps.find(static_cast<std::uint32_t>(root->resource_id), BitmapUse::background);
+  const Bitmap* background =
+      bitmaps.find(static_cast<std::uint32_t>(root->resource_id), BitmapUse::background);
   if (background == nullptr) return {0, 0};
   return {background->width, background->height};
 }

@@ -1,4 +1,5 @@
-/// Draws gauges into a picture in memory. The window, the PNG files and the tests use this code alone.
+/// Draws gauges into a picture in memory. The window, the PNG files and the tests use this code
+/// alone.
 #pragma once
 
 #include <cstdint>
@@ -44,8 +45,8 @@ class GaugePainter {
   Rect place() const;
 
   /// Draws what the gauge shows between two frames: `blend` 0 is `before`, 1 is `now`. Only moving
-  /// parts are blended; icons and texts always show `now`. Returns false, with the canvas untouched,
-  /// when the picture would be the same as at the last call.
+  /// parts are blended; icons and texts always show `now`. Returns false, with the canvas
+  /// untouched, when the picture would be the same as at the last call.
   bool draw(Canvas& canvas, std::span<const ElementState> before, std::span<const ElementState> now,
             double blend);
 

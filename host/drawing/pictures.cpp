@@ -34,15 +34,16 @@ Rect visible_part(const Bitmap& bitmap) {
 }
 
 PixelView part_of(const Bitmap& bitmap, const Rect& part) {
-  return {bitmap.pixels.data() + std::size_t(part.y) * bitmap.width + part.x, part.width, part.height,
-          bitmap.width};
+  return {bitmap.pixels.data() + std::size_t(part.y) * bitmap.width + part.x, part.width,
+          part.height, bitmap.width};
 }
 
 Bitmap with_clear_edges(const PixelView& source) {
   Bitmap padded{source.width + 2, source.height + 2, false, false, {}};
   padded.pixels.resize(std::size_t(padded.width) * padded.height);
   for (int y = 0; y < source.height; ++y)
-    std::copy_n(source.at(0, y), source.width, &padded.pixels[std::size_t(y + 1) * padded.width + 1]);
+    std::copy_n(source.at(0, y), source.width,
+                &padded.pixels[std::size_t(y + 1) * padded.width + 1]);
   return padded;
 }
 
@@ -107,9 +108,13 @@ const TurningPicture* Pictures::turning(std::int64_t id) {
   if (kept != turning_.end()) return &kept->second;
   const Affine to_whole = shifted_by(picture->visible.x - 1, picture->visible.y - 1);
   const Affine to_image = scaled_by(1.0 * own.width / place.width, 1.0 * own.height / place.height);
-  return &turning_.emplace(static_cast<std::uint32_t>(id),
-                           TurningPicture{with_clear_edges(picture->pixels), {place.width, place.height},
-                                          to_whole, to_image * to_whole}).first->second;
+  return &turning_
+              .emplace(static_cast<std::uint32_t>(id),
+                       TurningPicture{with_clear_edges(picture->pixels),
+                                      {place.width, place.height},
+                                      to_whole,
+                                      to_image * to_whole})
+              .first->second;
 }
 
 }  // namespace host

@@ -22,8 +22,8 @@ struct Picture {
   PixelView pixels;  ///< of the visible part
 };
 
-/// The visible part of a picture with a clear edge around it, ready to be turned or shifted by parts
-/// of a pixel, and the ways back from its pixels.
+/// The visible part of a picture with a clear edge around it, ready to be turned or shifted by
+/// parts of a pixel, and the ways back from its pixels.
 struct TurningPicture {
   Bitmap pixels;
   PanelSize whole;   ///< the whole picture's size, canvas pixels
@@ -52,8 +52,8 @@ class Pictures {
   /// The module's own size of a bitmap; {0, 0} if there is none.
   PanelSize size(std::int64_t id, BitmapUse use) const;
 
-  /// The bitmap at the size of `width` x `height` canvas pixels; null if there is none or if nothing
-  /// of it can be seen. Stays valid as long as the pictures.
+  /// The bitmap at the size of `width` x `height` canvas pixels; null if there is none or if
+  /// nothing of it can be seen. Stays valid as long as the pictures.
   const Picture* at_size(std::int64_t id, BitmapUse use, int width, int height);
 
   /// The image at this scale; null as above.

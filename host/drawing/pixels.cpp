@@ -17,24 +17,29 @@ void over_pixels(std::uint32_t* target, const std::uint32_t* source, std::size_t
 
 #if defined(__x86_64__)
 
-// Four pixels of 16 bits a channel, times 255 − alpha of the source, by the same rounding as faded().
+// Four pixels of 16 bits a channel, times 255 − alpha of the source, by the same rounding as
+// faded().
 __attribute__((target("avx2"))) inline __m256i faded_four(__m256i target, __m256i source) {
   __m256i alpha = _mm256_shufflelo_epi16(source, _MM_SHUFFLE(3, 3, 3, 3));
   alpha = _mm256_shufflehi_epi16(alpha, _MM_SHUFFLE(3, 3, 3, 3));
   const __m256i rest = _mm256_sub_epi16(_mm256_set1_epi16(255), alpha);
-  const __m256i product = _mm256_add_epi16(_mm256_mullo_epi16(target, rest), _mm256_set1_epi16(128));
+  const __m256i product =
+      _mm256_add_epi16(_mm256_mullo_epi16(target, rest), _mm256_set1_epi16(128));
   return _mm256_mulhi_epu16(product, _mm256_set1_epi16(257));
 }
 
 __attribute__((target("avx2"))) inline __m256i over_eight(__m256i target, __m256i source) {
   const __m256i zero = _mm256_setzero_si256();
-  const __m256i low = faded_four(_mm256_unpacklo_epi8(target, zero), _mm256_unpacklo_epi8(source, zero));
-  const __m256i high = faded_four(_mm256_unpackhi_epi8(target, zero), _mm256_unpackhi_epi8(source, zero));
+  const __m256i low =
+      faded_four(_mm256_unpacklo_epi8(target, zero), _mm256_unpacklo_epi8(source, zero));
+  const __m256i high =
+      faded_four(_mm256_unpackhi_epi8(target, zero), _mm256_unpackhi_epi8(source, zero));
   return _mm256_add_epi8(source, _mm256_packus_epi16(low, high));
 }
 
 // Most pictures are mostly clear or mostly solid, so eight alike are the usual case.
-__attribute__((target("avx2"))) void over_row_by_eight(std::uint32_t* target, const std::uint32_t* source,
+__attribute__((target("avx2"))) void over_row_by_eight(std::uint32_t* target,
+                                                       const std::uint32_t* source,
                                                        std::size_t count) {
   const __m256i alphas = _mm256_set1_epi32(static_cast<int>(0xFF000000u));
   for (; count >= 8; count -= 8, target += 8, source += 8) {
@@ -97,9 +102,10 @@ void mask_row(std::uint32_t* target, const std::uint32_t* mask, std::size_t coun
 }
 
 void copy_pixels(Surface target, const Rect& clip, PixelView source, int x, int y) {
-  each_row(target, clip, source, x, y, [](std::uint32_t* to, const std::uint32_t* from, std::size_t count) {
-    std::memcpy(to, from, count * sizeof *to);
-  });
+  each_row(target, clip, source, x, y,
+           [](std::uint32_t* to, const std::uint32_t* from, std::size_t count) {
+             std::memcpy(to, from, count * sizeof *to);
+           });
 }
 
 void blend_pixels(Surface target, const Rect& clip, PixelView source, int x, int y) {

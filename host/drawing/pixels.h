@@ -16,8 +16,8 @@ Rect around(const Rect& a, const Rect& b);
 
 inline bool is_empty(const Rect& rect) { return rect.width <= 0 || rect.height <= 0; }
 
-/// Pixels of somebody else's, to draw on, in coordinates of a gauge whose corner stands at (left, top)
-/// and may lie outside.
+/// Pixels of somebody else's, to draw on, in coordinates of a gauge whose corner stands at (left,
+/// top) and may lie outside.
 struct Surface {
   std::uint32_t* pixels = nullptr;
   std::ptrdiff_t stride = 0;  ///< pixels from row to row

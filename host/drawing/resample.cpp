@@ -41,7 +41,8 @@ Taps taps_at(double centre, double widening, int source) {
 std::vector<Taps> all_taps(int source, int target) {
   const double step = static_cast<double>(source) / target;
   std::vector<Taps> taps;
-  for (int i = 0; i < target; ++i) taps.push_back(taps_at((i + 0.5) * step, std::max(1.0, step), source));
+  for (int i = 0; i < target; ++i)
+    taps.push_back(taps_at((i + 0.5) * step, std::max(1.0, step), source));
   return taps;
 }
 

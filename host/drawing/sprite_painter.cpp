@@ -1,6 +1,6 @@
-/// Sprites: cards and horizons. The middle of the image's pixel `texture_center` lies on the middle of
-/// the background pixel with the same numbers. The image is first shifted, then turned about that
-/// point of the gauge, so that a horizon moves along the aircraft's own axis.
+/// Sprites: cards and horizons. The middle of the image's pixel `texture_center` lies on the middle
+/// of the background pixel with the same numbers. The image is first shifted, then turned about
+/// that point of the gauge, so that a horizon moves along the aircraft's own axis.
 #include <cmath>
 
 #include "host/drawing/turning_painter.h"
@@ -30,12 +30,13 @@ class SpritePainter final : public TurningPainter {
   }
 
  private:
-  // The turn happens in background pixels, so that a gauge stretched one way keeps its circles' shape
-  // in step with the background.
+  // The turn happens in background pixels, so that a gauge stretched one way keeps its circles'
+  // shape in step with the background.
   Affine map(const Look& look) const override {
-    const Affine shifted = shifted_by(step_pixels(look.a) / scale_.x, step_pixels(look.b) / scale_.y);
-    return onto_gauge_ * scaled_by(scale_.x, scale_.y) * turned_by(360.0 * look.turn / steps_) * shifted *
-           onto_center_;
+    const Affine shifted =
+        shifted_by(step_pixels(look.a) / scale_.x, step_pixels(look.b) / scale_.y);
+    return onto_gauge_ * scaled_by(scale_.x, scale_.y) * turned_by(360.0 * look.turn / steps_) *
+           shifted * onto_center_;
   }
 
   const SpritePart& part_;

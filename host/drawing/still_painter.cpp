@@ -12,7 +12,9 @@ constexpr std::uint32_t most_images = 1000;
 
 class StillPainter final : public ElementPainter {
  public:
-  StillPainter(const Element& element, Pictures& pictures) : element_(element), pictures_(pictures) {
+  StillPainter(const Element& element, Pictures& pictures)
+      : element_(element),
+        pictures_(pictures) {
     const bool icon = element.kind == ELEMENT_ICON;
     images_.resize(icon ? std::clamp(element.icon.image_count, 1u, most_images) : 1);
   }

@@ -9,7 +9,9 @@
 
 #if defined(__SANITIZE_ADDRESS__)
 // Fontconfig keeps its caches behind pointers that the leak checker cannot follow.
-extern "C" const char* __lsan_default_suppressions() { return "leak:libfontconfig\nleak:libpango\n"; }
+extern "C" const char* __lsan_default_suppressions() {
+  return "leak:libfontconfig\nleak:libpango\n";
+}
 #endif
 
 namespace host {
@@ -17,7 +19,9 @@ namespace {
 
 constexpr double trial_size = 100;       // pixels; sizes are measured at it and then scaled
 constexpr double segment_height = 0.78;  // of the box's height
-constexpr double narrowest = 0.6;        // a text longer than this allows is clipped
+constexpr double narrowest = 0.6;        // a text that needs more narrowing than this is clipped
+constexpr std::size_t longest_shown = 256;
+constexpr u32 segment_weight = 700;      // thin segments are lost on a small display
 
 template <auto destroy>
 struct Destroyer {
@@ -35,9 +39,12 @@ FontPtr font_of(const StringPart& part) {
   const char* name = part.font == nullptr ? "" : part.font;
   const bool arial = ::strcasecmp(name, "arial") == 0;
   FontPtr font(pango_font_description_new());
-  pango_font_description_set_family(font.get(), is_segment_display(name) ? "DSEG14 Classic, DSEG7 Classic, monospace"
-                                                : arial ? "Liberation Sans, Arial, sans-serif" : name);
-  pango_font_description_set_weight(font.get(), static_cast<PangoWeight>(std::clamp(part.weight, 100u, 900u)));
+  const bool segments = is_segment_display(name);
+  const char* family = segments ? "DSEG14 Classic, DSEG7 Classic, monospace"
+                       : arial ? "Liberation Sans, Arial, sans-serif" : name;
+  pango_font_description_set_family(font.get(), family);
+  const u32 weight = segments ? segment_weight : std::clamp(part.weight, 100u, 900u);
+  pango_font_description_set_weight(font.get(), static_cast<PangoWeight>(weight));
   return font;
 }
 
@@ -52,16 +59,22 @@ void steady_rendering(cairo_t* cr) {
 }
 
 void set_colour(cairo_t* cr, u32 colour) {
-  cairo_set_source_rgb(cr, (colour & 255) / 255.0, (colour >> 8 & 255) / 255.0, (colour >> 16 & 255) / 255.0);
+  cairo_set_source_rgb(cr, (colour & 255) / 255.0, (colour >> 8 & 255) / 255.0,
+                       (colour >> 16 & 255) / 255.0);
 }
 
-// In segment fonts a space is narrow and "!" is a digit with all segments off.
+// In the segment font a space is narrow and "!" is a place with all segments off; its zero has a
+// stroke through it, its O has not.
+char segment_letter(char letter) {
+  if (letter == ' ') return '!';
+  return letter == '0' ? 'O' : static_cast<char>(std::toupper(letter));
+}
+
 std::string display_text(std::string_view text, bool segments) {
   std::string shown;
-  for (const char c : text.substr(0, 256)) {
-    const bool printable = c >= ' ' && c <= '~';
-    const char letter = printable ? c : '?';
-    shown += !segments ? letter : letter == ' ' ? '!' : static_cast<char>(std::toupper(letter));
+  for (const char c : text.substr(0, longest_shown)) {
+    const char letter = c >= ' ' && c <= '~' ? c : '?';
+    shown += segments ? segment_letter(letter) : letter;
   }
   return shown;
 }
@@ -94,6 +107,7 @@ struct TextSetter::Setting {
 
   Setting(const StringPart& part, PanelSize size);
   void choose_size(FontPtr font, u32 longest);
+  void draw();
 };
 
 TextSetter::Setting::Setting(const StringPart& part, PanelSize size)
@@ -126,17 +140,26 @@ TextSetter::TextSetter(const StringPart& part, PanelSize box)
 TextSetter::~TextSetter() = default;
 
 bool TextSetter::set(std::string_view text) {
-  cairo_t* cr = setting_->cr.get();
-  cairo_save(cr);
-  cairo_set_operator(cr, CAIRO_OPERATOR_CLEAR);
-  cairo_paint(cr);
-  cairo_restore(cr);
   const std::string shown = display_text(text, setting_->segments);
   pango_layout_set_text(setting_->layout.get(), shown.c_str(), static_cast<int>(shown.size()));
-  cairo_move_to(cr, 0, setting_->top);
-  pango_cairo_show_layout(cr, setting_->layout.get());
-  cairo_surface_flush(setting_->surface.get());
+  setting_->draw();
   return text.find_first_not_of(' ') != std::string_view::npos;
+}
+
+void TextSetter::Setting::draw() {
+  cairo_save(cr.get());
+  cairo_set_operator(cr.get(), CAIRO_OPERATOR_CLEAR);
+  cairo_paint(cr.get());
+  cairo_restore(cr.get());
+  cairo_save(cr.get());
+  int width = 0;
+  pango_layout_get_size(layout.get(), &width, nullptr);
+  const double room = static_cast<double>(box.width) * PANGO_SCALE / std::max(1, width);
+  cairo_scale(cr.get(), std::clamp(room, narrowest, 1.0), 1);
+  cairo_move_to(cr.get(), 0, top);
+  pango_cairo_show_layout(cr.get(), layout.get());
+  cairo_restore(cr.get());
+  cairo_surface_flush(surface.get());
 }
 
 PixelView TextSetter::pixels() const {

@@ -9,8 +9,9 @@
 
 namespace host {
 
-/// Sets one line of text in a box, left-aligned and in the middle of its height, as large as the box
-/// is high and at most so wide that the longest text fits.
+/// Sets one line of text in a box, left-aligned and in the middle of its height: as large as the
+/// box is high and so many figures fit as the longest text has; a text of wider letters is
+/// narrowed.
 class TextSetter {
  public:
   /// `box` is in canvas pixels. "QUARTZ", whatever its letter case, is a display of segments; other

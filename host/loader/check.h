@@ -17,8 +17,8 @@ struct Finding {
   std::string message;  ///< names the file and the record
 };
 
-/// Opens a module, looks at its file, at every record it publishes and at its bitmaps, and closes it
-/// again. Never throws for a broken module; nothing found means a sound one. Gauges are numbered
+/// Opens a module, looks at its file, at every record it publishes and at its bitmaps, and closes
+/// it again. Never throws for a broken module; nothing found means a sound one. Gauges are numbered
 /// from 1, the elements of a gauge from 0, which is the background.
 std::vector<Finding> check_module(const std::filesystem::path& file);
 

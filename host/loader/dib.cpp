@@ -32,7 +32,8 @@ InfoHeader header_of(Bytes bytes) {
     throw DibError(std::to_string(header->bits) + " bits a pixel");
   const auto sensible = [](int side) { return side > 0 && side <= Dib::greatest_side; };
   if (!sensible(header->width) || !sensible(header->height))
-    throw DibError("a size of " + std::to_string(header->width) + " x " + std::to_string(header->height));
+    throw DibError("a size of " + std::to_string(header->width) + " x " +
+                   std::to_string(header->height));
   return *header;
 }
 

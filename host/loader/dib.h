@@ -1,4 +1,5 @@
-/// Packed device-independent bitmaps: a 40-byte header, a palette, rows bottom-up and padded to four.
+/// Packed device-independent bitmaps: a 40-byte header, a palette, rows bottom-up and padded to
+/// four.
 #pragma once
 
 #include <stdexcept>

@@ -44,7 +44,8 @@ class GaugeModule {
   /// What is not as it should be, but does not keep the module from running.
   const std::vector<Finding>& warnings() const;
 
-  /// Hands the module the host's services, then runs its init routine; they must outlive the module.
+  /// Hands the module the host's services, then runs its init routine; they must outlive the
+  /// module.
   void connect(const PanelServices& services);
 
   /// What goes into the extra data of SERVICE_START.

@@ -18,8 +18,12 @@ class Inspector {
       : memory_(memory), findings_(findings), place_(std::move(place)) {}
 
   /// The same for a part of this place; `first` for the first part below the file.
-  Inspector part(const std::string& name) const { return {memory_, findings_, place_ + ", " + name}; }
-  Inspector first(const std::string& name) const { return {memory_, findings_, place_ + ": " + name}; }
+  Inspector part(const std::string& name) const {
+    return {memory_, findings_, place_ + ", " + name};
+  }
+  Inspector first(const std::string& name) const {
+    return {memory_, findings_, place_ + ": " + name};
+  }
 
   void error(const std::string& text) const;
   void warning(const std::string& text) const;
@@ -28,7 +32,8 @@ class Inspector {
   bool readable(const void* record, std::size_t size, const std::string& what) const;
   template <typename Record>
   bool readable(const Record* record, const std::string& what, std::size_t count = 1) const {
-    return aligned(record, alignof(Record), what) && readable(static_cast<const void*>(record), sizeof(Record) * count, what);
+    return aligned(record, alignof(Record), what) &&
+           readable(static_cast<const void*>(record), sizeof(Record) * count, what);
   }
 
   /// As readable(), and the host may write there.

@@ -20,7 +20,9 @@ void MemoryMap::add_line(const char* line) {
   std::uintptr_t begin = 0, end = 0;
   char marks[5] = {};
   if (std::sscanf(line, "%" SCNxPTR "-%" SCNxPTR " %4s", &begin, &end, marks) != 3) return;
-  const auto has = [&](char mark, Right right) { return std::strchr(marks, mark) ? unsigned{right} : 0u; };
+  const auto has = [&](char mark, Right right) {
+    return std::strchr(marks, mark) ? unsigned{right} : 0u;
+  };
   ranges_.push_back({begin, end, has('r', read) | has('w', write) | has('x', execute)});
 }
 

@@ -57,7 +57,8 @@ void OpenModule::check_exports(const ElfFile& elf) {
   check_export(elf, imports_name, sizeof(ImportTableRecord));
   for (const ExportedSymbol& symbol : elf.exports())
     if (symbol.name != linkage_name && symbol.name != imports_name)
-      note(Finding::Severity::warning, "exports " + symbol.name + " beside Linkage and ImportTable");
+      note(Finding::Severity::warning,
+           "exports " + symbol.name + " beside Linkage and ImportTable");
 }
 
 void OpenModule::check_export(const ElfFile& elf, const char* name, std::size_t size) {
@@ -80,7 +81,8 @@ void OpenModule::read_bitmaps(const ElfFile& elf) {
     bitmaps_ = std::make_unique<ModuleBitmaps>(*section, file_);
     for (const std::string& line : bitmaps_->notes()) note(Finding::Severity::warning, line);
   } catch (const ResourceError& error) {
-    note(Finding::Severity::error, std::string("section " PANEL_RESOURCE_SECTION " ") + error.what());
+    note(Finding::Severity::error,
+         std::string("section " PANEL_RESOURCE_SECTION " ") + error.what());
   }
 }
 
@@ -89,7 +91,8 @@ void OpenModule::load_library() {
   library_ = ::dlopen(std::filesystem::absolute(file_).c_str(), RTLD_NOW | RTLD_LOCAL);
   if (library_ == nullptr) {
     const char* reason = ::dlerror();
-    note(Finding::Severity::error, std::string("cannot be loaded: ") + (reason ? reason : "no reason given"));
+    note(Finding::Severity::error,
+         std::string("cannot be loaded: ") + (reason ? reason : "no reason given"));
     return;
   }
   linkage_ = static_cast<LinkageRecord*>(::dlsym(library_, linkage_name));

@@ -21,9 +21,11 @@ void check_imports(const ImportTableRecord& imports, const Inspector& place) {
 
 void check_linkage(const LinkageRecord& linkage, const Inspector& place) {
   if (linkage.module_id != LINKAGE_MODULE_ID)
-    place.error("the module identifier is " + hex(linkage.module_id) + ", not " + hex(LINKAGE_MODULE_ID));
+    place.error("the module identifier is " + hex(linkage.module_id) + ", not " +
+                hex(LINKAGE_MODULE_ID));
   if (linkage.version != LINKAGE_VERSION)
-    place.error("version " + hex(linkage.version) + " is not known; this host reads " + hex(LINKAGE_VERSION));
+    place.error("version " + hex(linkage.version) + " is not known; this host reads " +
+                hex(LINKAGE_VERSION));
   place.callable_or_null(linkage.init, "the init routine");
   place.callable_or_null(linkage.deinit, "the deinit routine");
   place.zero(linkage.flags, "flags");

@@ -40,7 +40,8 @@ class GaugeRun {
 
   const GaugeHeader& gauge() const { return *gauge_; }
 
-  /// Simulated time between two frames, for needles with a speed limit; 1/18 s unless told otherwise.
+  /// Simulated time between two frames, for needles with a speed limit; 1/18 s unless told
+  /// otherwise.
   void set_frame_seconds(double seconds) { frame_seconds_ = seconds; }
 
   /// The services before the first frame.

@@ -53,7 +53,8 @@ class GaugeRunTest : public testing::Test {
   /// Which elements are evaluated and drawn: "e" only evaluated, "d" drawn too, "-" neither.
   static std::string shown(const GaugeRun& run) {
     std::string text;
-    for (const ElementState& state : run.now()) text += state.drawn ? 'd' : state.evaluated ? 'e' : '-';
+    for (const ElementState& state : run.now())
+      text += state.drawn ? 'd' : state.evaluated ? 'e' : '-';
     return text;
   }
 
@@ -145,12 +146,23 @@ TEST_F(GaugeRunTest, OnlyExactCopiesCover) {
   const Case cases[] = {
       {"nothing", [](Element&) {}, true},
       {"flags", [](Element& e) { e.image_flags = 7; }, true},
-      {"failures", [](Element& e) { static const FailureEntry none{}; e.failures = &none; }, true},
+      {"failures",
+       [](Element& e) {
+         static const FailureEntry none{};
+         e.failures = &none;
+       },
+       true},
       {"position", [](Element& e) { e.position.y = 9; }, false},
       {"bitmap", [](Element& e) { e.resource_id = 9; }, false},
       {"routine", [](Element& e) { e.icon.value = b; }, false},
       {"no routine", [](Element& e) { e.icon.value = nullptr; }, false},
-      {"kind", [](Element& e) { e.kind = ELEMENT_NEEDLE; e.needle = {}; e.needle.value = a; }, false},
+      {"kind",
+       [](Element& e) {
+         e.kind = ELEMENT_NEEDLE;
+         e.needle = {};
+         e.needle.value = a;
+       },
+       false},
   };
   for (const Case& c : cases) {
     MadeGauge gauge(1);

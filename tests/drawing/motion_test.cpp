@@ -23,26 +23,31 @@ class Motion : public testing::Test {
     // A strip of ten digits of 4 x 5, each of its own red; and one of four 5 x 4 columns.
     bitmaps_.add(40, 4, 50, [](int, int y) { return digit(y / 5); });
     bitmaps_.add(41, 20, 4, [](int x, int) { return digit(x / 5); });
-    bitmaps_.add(42, 5, 4, [](int x, int) { return x == 2 ? 0u : 0xFFFFFFFFu; });  // a barred window
+    bitmaps_.add(42, 5, 4,
+                 [](int x, int) { return x == 2 ? 0u : 0xFFFFFFFFu; });  // a barred window
     // A card of 41 x 41 with a mark ten pixels above the middle.
     bitmaps_.add(50, 41, 41, [](int x, int y) { return x == 20 && y == 10 ? red : 0u; });
   }
 
-  static std::uint32_t digit(int number) { return 0xFF000000u | static_cast<std::uint32_t>(number + 1) << 16; }
+  static std::uint32_t digit(int number) {
+    return 0xFF000000u | static_cast<std::uint32_t>(number + 1) << 16;
+  }
 
   /// The direction in which an element of one red mark points from the middle: "right", "up"...
   static std::string direction(const Scene& scene) {
     const Rect box = scene.box_without(grey);
     if (box.width == 0) return "nowhere";
     const double x = box.x + box.width / 2.0 - 20.5, y = box.y + box.height / 2.0 - 20.5;
-    if (std::abs(std::abs(x) - std::abs(y)) < 1.5) return x > 0 ? (y > 0 ? "right down" : "right up") : (y > 0 ? "left down" : "left up");
+    if (std::abs(std::abs(x) - std::abs(y)) < 1.5)
+      return x > 0 ? (y > 0 ? "right down" : "right up") : (y > 0 ? "left down" : "left up");
     return std::abs(x) > std::abs(y) ? (x > 0 ? "right" : "left") : (y > 0 ? "down" : "up");
   }
 
   Element& moving(i32 strip, i32 mask, double minimum, double maximum) {
     Element& element = gauge_.add(ELEMENT_MOVING_IMAGE, strip, {10, 12});
     element.moving_image.mask_resource_id = mask;
-    (strip == 41 ? element.moving_image.x : element.moving_image.y) = {{}, nullptr, minimum, maximum};
+    (strip == 41 ? element.moving_image.x : element.moving_image.y) = {
+        {}, nullptr, minimum, maximum};
     return element;
   }
 
@@ -54,8 +59,9 @@ TEST_F(Motion, NeedleWithoutTableTurnsClockwise) {
   gauge_.needle(20, {20, 20}, {1, 1});
   Scene scene(gauge_, bitmaps_);
   struct Case { double value; const char* direction; };
-  for (const Case& c : {Case{0, "right"}, Case{90, "down"}, Case{180, "left"}, Case{-90, "up"}, Case{270, "up"},
-                        Case{36000045, "right down"}, Case{nan_value, "nowhere"}, Case{infinite, "nowhere"}}) {
+  for (const Case& c :
+       {Case{0, "right"}, Case{90, "down"}, Case{180, "left"}, Case{-90, "up"}, Case{270, "up"},
+        Case{36000045, "right down"}, Case{nan_value, "nowhere"}, Case{infinite, "nowhere"}}) {
     scene.set(1, c.value);
     scene.draw();
     EXPECT_EQ(direction(scene), c.direction) << c.value;
@@ -72,8 +78,8 @@ TEST_F(Motion, NeedlePointsAtTheMarksOfItsTable) {
     Scene scene(gauge_, bitmaps_, zoom);
     const NeedleScale scale({20, 20}, table);
     struct Case { double value, degrees; };
-    for (const Case& c : {Case{0, 90}, Case{5, 135}, Case{10, 180}, Case{20, 225}, Case{30, 270}, Case{40, 360},
-                          Case{-99, 90}, Case{1e9, 360}, Case{infinite, 360}})
+    for (const Case& c : {Case{0, 90}, Case{5, 135}, Case{10, 180}, Case{20, 225}, Case{30, 270},
+                          Case{40, 360}, Case{-99, 90}, Case{1e9, 360}, Case{infinite, 360}})
       EXPECT_DOUBLE_EQ(scale.angle(c.value), c.degrees) << c.value;
     scene.set(1, 30);
     scene.draw();
@@ -81,6 +87,14 @@ TEST_F(Motion, NeedlePointsAtTheMarksOfItsTable) {
     EXPECT_NEAR(box.x + box.width / 2.0, 20.5 * zoom, 0.51);
     EXPECT_NEAR(box.y, 5 * zoom, 2);
   }
+}
+
+TEST_F(Motion, WideTablesSweepClockwiseUnlessThatGoesRoundTwice) {
+  const NonlinearityPoint wide[] = {{{10, 30}, 0}, {{30, 30}, 100}};  // over the top, not the gap
+  EXPECT_DOUBLE_EQ(NeedleScale({20, 20}, wide).angle(50), 270);
+  const NonlinearityPoint back[] = {{{30, 30}, 0}, {{20, 0}, 50}, {{10, 30}, 100}};
+  EXPECT_DOUBLE_EQ(std::remainder(NeedleScale({20, 20}, back).angle(50), 360), -90);
+  EXPECT_DOUBLE_EQ(std::remainder(NeedleScale({20, 20}, back).angle(25), 360), -22.5);
 }
 
 TEST_F(Motion, OddTablesAreHarmless) {
@@ -97,13 +111,15 @@ TEST_F(Motion, OddTablesAreHarmless) {
 
 TEST_F(Motion, NeedleBlendsTheShortWay) {
   // A full circle from the top, as on an altimeter.
-  const NonlinearityPoint circle[] = {{{20, 0}, 0}, {{40, 20}, 250}, {{20, 40}, 500}, {{0, 20}, 750}, {{20, 0}, 1000}};
+  const NonlinearityPoint circle[] = {
+      {{20, 0}, 0}, {{40, 20}, 250}, {{20, 40}, 500}, {{0, 20}, 750}, {{20, 0}, 1000}};
   const NeedleScale closed({20, 20}, circle);
   EXPECT_DOUBLE_EQ(std::remainder(closed.angle_between(950, 50, 0.5) + 90, 360), 0);
   EXPECT_DOUBLE_EQ(closed.angle_between(nan_value, 250, 0.5), closed.angle(250));
   const NonlinearityPoint arc[] = {{{0, 40}, 0}, {{0, 0}, 50}, {{40, 0}, 100}, {{40, 40}, 150}};
   const NeedleScale open({20, 20}, arc);
-  EXPECT_DOUBLE_EQ(std::remainder(open.angle_between(0, 150, 0.5), 360), -90);  // back over the top, never through the gap
+  EXPECT_DOUBLE_EQ(std::remainder(open.angle_between(0, 150, 0.5), 360),
+                   -90);  // back over the top, never through the gap
 
   gauge_.needle(20, {20, 20}, {1, 1});
   Scene scene(gauge_, bitmaps_);
@@ -128,9 +144,10 @@ TEST_F(Motion, SliderMovesByValueTimesScale) {
   slider.slider.y_scale = 0;
   Scene scene(gauge_, bitmaps_);
   struct Case { double x, y; Rect box; };
-  for (const Case& c : {Case{0, 0, {20, 20, 3, 3}}, Case{5, 9, {10, 20, 3, 3}}, Case{5, nan_value, {10, 20, 3, 3}},
-                        Case{nan_value, 0, {}}, Case{1e30, 0, {}}, Case{-9.5, 0, {39, 20, 2, 3}},
-                        Case{0.25, 0, {19, 20, 4, 3}}}) {
+  for (const Case& c :
+       {Case{0, 0, {20, 20, 3, 3}}, Case{5, 9, {10, 20, 3, 3}}, Case{5, nan_value, {10, 20, 3, 3}},
+        Case{nan_value, 0, {}}, Case{1e30, 0, {}}, Case{-9.5, 0, {39, 20, 2, 3}},
+        Case{0.25, 0, {19, 20, 4, 3}}}) {
     scene.set(1, c.x, 0);
     scene.set(1, c.y, 1);
     scene.draw();
@@ -147,7 +164,8 @@ TEST_F(Motion, StripShowsATenthOfItselfWithoutAMask) {
   moving(40, -1, 0, 9);
   Scene scene(gauge_, bitmaps_);
   struct Case { double value; int digit; };
-  for (const Case& c : {Case{0, 0}, Case{3, 3}, Case{9, 9}, Case{-5, 0}, Case{99, 9}, Case{infinite, -1}, Case{nan_value, -1}}) {
+  for (const Case& c : {Case{0, 0}, Case{3, 3}, Case{9, 9}, Case{-5, 0}, Case{99, 9},
+                        Case{infinite, -1}, Case{nan_value, -1}}) {
     scene.set(1, c.value, 1);
     scene.set(1, nan_value, 0);  // nothing moves along x
     scene.draw();
@@ -205,9 +223,10 @@ TEST_F(Motion, SpriteShiftsThenTurnsAboutItsCentre) {
   sprite.sprite.rotation.scale = -1;
   Scene scene(gauge_, bitmaps_);
   struct Case { double x, y, rotation; PanelPoint mark; };
-  for (const Case& c : {Case{0, 0, 0, {20, 10}}, Case{0, 0, -90, {30, 20}}, Case{0, 0, 90, {10, 20}},
-                        Case{0, -2, 90, {6, 20}}, Case{3, 0, 180, {17, 30}}, Case{0, -6, 0, {-1, -1}},
-                        Case{nan_value, 0, 0, {-1, -1}}, Case{0, 0, infinite, {-1, -1}}}) {
+  for (const Case& c :
+       {Case{0, 0, 0, {20, 10}}, Case{0, 0, -90, {30, 20}}, Case{0, 0, 90, {10, 20}},
+        Case{0, -2, 90, {6, 20}}, Case{3, 0, 180, {17, 30}}, Case{0, -6, 0, {-1, -1}},
+        Case{nan_value, 0, 0, {-1, -1}}, Case{0, 0, infinite, {-1, -1}}}) {
     scene.set(1, c.x, 0);
     scene.set(1, c.y, 1);
     scene.set(1, c.rotation, 2);

@@ -32,9 +32,9 @@ TEST_F(Painter, IconShowsTheImageItsValueNames) {
   gauge_.icon(10, {5, 6}, 3);
   Scene scene(gauge_, bitmaps_);
   struct Case { double value; std::uint32_t colour; };
-  for (const Case& c : {Case{0, red}, Case{1.99, green}, Case{2, blue}, Case{-0.9, red}, Case{-1, grey},
-                        Case{3, blue}, Case{1e300, blue}, Case{infinite, blue}, Case{-infinite, grey},
-                        Case{nan_value, grey}}) {
+  for (const Case& c : {Case{0, red}, Case{1.99, green}, Case{2, blue}, Case{-0.9, red},
+                        Case{-1, grey}, Case{3, blue}, Case{1e300, blue}, Case{infinite, blue},
+                        Case{-infinite, grey}, Case{nan_value, grey}}) {
     scene.set(1, c.value);
     scene.draw();
     EXPECT_EQ(scene.at(5, 6), c.colour) << c.value;
@@ -77,7 +77,8 @@ TEST_F(Painter, PartialRedrawEqualsAFullOne) {
     for (Scene* scene : {&partial, &full}) {
       scene->now[1].drawn = i % 7 != 0;
       scene->now[3].drawn = scene->now[3].evaluated = i % 11 != 0;
-      for (std::size_t element = 2; element < 6; ++element) scene->set(element, i * 37.0 * element / 3);
+      for (std::size_t element = 2; element < 6; ++element)
+        scene->set(element, i * 37.0 * element / 3);
     }
     full.painter->invalidate();
     partial.draw();
@@ -131,18 +132,22 @@ TEST_F(Painter, TakesTheSmallestDensityThatIsLargeEnough) {
   bitmaps_.add(11, 4, 4, red, 2);  // the other icon image has no third density
   gauge_.icon(10, {5, 6}, 2);
   struct Case { double zoom; std::uint32_t face, other; };
-  for (const Case& c : {Case{0.5, grey, green}, Case{1, grey, green}, Case{1.5, green, red},
-                        Case{2, green, red}, Case{2.1, blue, red}, Case{3, blue, red}, Case{4, blue, red}}) {
+  for (const Case& c :
+       {Case{0.5, grey, green}, Case{1, grey, green}, Case{1.5, green, red}, Case{2, green, red},
+        Case{2.1, blue, red}, Case{3, blue, red}, Case{4, blue, red}}) {
     Scene scene(gauge_, bitmaps_, c.zoom);
     scene.set(1, 1);
     scene.draw();
     EXPECT_EQ(scene.at(0, 0), c.face) << c.zoom;
-    EXPECT_EQ(scene.at(static_cast<int>(7 * c.zoom), static_cast<int>(8 * c.zoom)), c.other) << c.zoom;
+    EXPECT_EQ(scene.at(static_cast<int>(7 * c.zoom), static_cast<int>(8 * c.zoom)), c.other)
+        << c.zoom;
   }
 }
 
 TEST_F(Painter, WholeZoomsCopyPixelForPixel) {
-  const auto noise = [](int x, int y) { return 0xFF000000u | static_cast<std::uint32_t>(x * 7919 + y * 104729) % 0xFFFFFF; };
+  const auto noise = [](int x, int y) {
+    return 0xFF000000u | static_cast<std::uint32_t>(x * 7919 + y * 104729) % 0xFFFFFF;
+  };
   const auto holes = [&](int x, int y) { return (x + y) % 3 ? noise(y, x) : 0u; };
   for (const int density : {1, 2, 3}) {
     bitmaps_.add(1, 60, 40, noise, density);

@@ -55,7 +55,9 @@ TEST(Resample, MirroredPicturesStayMirrored) {
     const Bitmap result = resampled(made(30, 30, disc), side, side);
     for (int y = 0; y < side; ++y)
       for (int x = 0; x < side; ++x) {
-        const auto opacity = [&](int column, int row) { return channel(result.pixels[row * side + column], 3); };
+        const auto opacity = [&](int column, int row) {
+          return channel(result.pixels[row * side + column], 3);
+        };
         EXPECT_NEAR(opacity(x, y), opacity(side - 1 - x, y), 1);
         EXPECT_NEAR(opacity(x, y), opacity(y, x), 1);
         EXPECT_LE(channel(result.pixels[y * side + x], 2), opacity(x, y));  // still premultiplied
@@ -85,8 +87,9 @@ TEST(Affine, StaysInsideForAnyMap) {
   const PixelView view{picture.pixels.data(), picture.width, picture.height, picture.width};
   for (int i = 0; i < 3000; ++i) {
     const double size = i % 3 == 0 ? 0.01 : i % 3 == 1 ? 1 : 0.1;
-    const Affine map{number(random) * size, number(random) * size, number(random),
-                     number(random) * size, number(random) * size, number(random) * (i % 7 ? 1 : 1e9)};
+    const Affine map{number(random) * size, number(random) * size,
+                     number(random),        number(random) * size,
+                     number(random) * size, number(random) * (i % 7 ? 1 : 1e9)};
     std::vector<std::uint32_t> canvas(900, grey);
     blend_turned({canvas.data(), 30, 0, 0}, {5, 5, 20, 20}, view, map);
     for (int x = 0; x < 30; ++x) ASSERT_EQ(canvas[4 * 30 + x], grey);

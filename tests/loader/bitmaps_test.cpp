@@ -42,7 +42,8 @@ TEST_F(Bitmaps, WithoutDenseFilesThereIsOneDensity) {
 }
 
 TEST_F(Bitmaps, DenseOnesCountOnlyAtTheRightSize) {
-  write_file(file_ + ".2x", section_bytes({{10, plain_dib(4, 4, 0x00FF00)}, {20, plain_dib(8, 1, 0x00FF00)},
+  write_file(file_ + ".2x", section_bytes({{10, plain_dib(4, 4, 0x00FF00)},
+                                           {20, plain_dib(8, 1, 0x00FF00)},
                                            {99, plain_dib(2, 2, 0x00FF00)}}));
   write_file(file_ + ".3x", section_bytes({{20, plain_dib(12, 3, 0x0000FF)}}));
   const ModuleBitmaps bitmaps = store();
@@ -55,7 +56,8 @@ TEST_F(Bitmaps, DenseOnesCountOnlyAtTheRightSize) {
 }
 
 TEST_F(Bitmaps, DamagedDenseOnesAreLeftOutAndNoted) {
-  ByteList dense = section_bytes({{10, plain_dib(4, 4, 0x00FF00)}, {30, plain_dib(2, 2, 0x00FF00)}});
+  ByteList dense =
+      section_bytes({{10, plain_dib(4, 4, 0x00FF00)}, {30, plain_dib(2, 2, 0x00FF00)}});
   dense.resize(dense.size() - 16);  // the last bitmap is cut off
   write_file(file_ + ".2x", dense);
   write_file(file_ + ".3x", ByteList(40, std::byte{'x'}));

@@ -40,13 +40,15 @@ static const Resources resources = {
 
 /* ---- The gauge ------------------------------------------------------------------------------ */
 
-int init_calls;
+static int init_calls;
 static void init(void) { ++init_calls; }
 static void query(void) {}
 static void install(uintptr_t argument) { (void)argument; }
 static f64 one(Element *element) { (void)element; return 1; }
 static i32 press(PanelPoint point, u32 flags) { (void)point; (void)flags; return 0; }
-static void serve(const GaugeHeader *header, u32 id, uintptr_t data) { (void)header; (void)id; (void)data; }
+static void serve(const GaugeHeader *header, u32 id, uintptr_t data) {
+  (void)header, (void)id, (void)data;
+}
 
 static Element icon;
 #ifdef BREAK_BAD_POINTER
@@ -62,7 +64,8 @@ static Element *const below_icon[] = {0};
 #endif
 static const FailureEntry failures[] = {{20, FAILURE_HIDE, 0}, {0, 0, 0}};
 
-static Element background = {ELEMENT_STATIC_IMAGE, 10, {0, 0}, &gauge, below_background, 0, 1, 0, {{{0}}}};
+static Element background = {ELEMENT_STATIC_IMAGE, 10, {0, 0}, &gauge, below_background, 0, 1, 0,
+                             {{{0}}}};
 static Element icon = {
 #ifdef BREAK_KIND
     9,
@@ -91,7 +94,8 @@ VISIBLE
 #ifdef BREAK_VERSION
 LinkageRecord Linkage = {LINKAGE_MODULE_ID, 0, init, init, 0, 0, 0x901, 0, {&gauge, 0}};
 #else
-LinkageRecord Linkage = {LINKAGE_MODULE_ID, 0, init, init, 0, 0, LINKAGE_VERSION, 0, {&gauge, 0}};
+LinkageRecord Linkage = {LINKAGE_MODULE_ID, 0, init, init, 0, 0, LINKAGE_VERSION, 0,
+                         {&gauge, 0}};
 #endif
 #endif
 #endif

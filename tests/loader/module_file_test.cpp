@@ -37,7 +37,8 @@ fs::path changed(Change change) {
 
 template <typename Field>
 fs::path with_header(Field Elf64_Ehdr::*field, Field value) {
-  return changed([&](ByteList& bytes) { reinterpret_cast<Elf64_Ehdr*>(bytes.data())->*field = value; });
+  return changed(
+      [&](ByteList& bytes) { reinterpret_cast<Elf64_Ehdr*>(bytes.data())->*field = value; });
 }
 
 std::string load_error(const fs::path& file) {
@@ -93,8 +94,10 @@ TEST(ModuleFile, SaysWhatIsWrongWithAModule) {
   struct Case { const char* name; const char* message; };
   const Case cases[] = {
       {"small_kind", "gauge 1 (Small), element 1: kind 9 is not an element kind"},
-      {"small_bad_pointer", "gauge 1 (Small), element 1: the element points to memory that cannot be read"},
-      {"small_cycle", "gauge 1 (Small), element 2: the chain comes back to an element that it has passed"},
+      {"small_bad_pointer",
+       "gauge 1 (Small), element 1: the element points to memory that cannot be read"},
+      {"small_cycle",
+       "gauge 1 (Small), element 2: the chain comes back to an element that it has passed"},
       {"small_version", "Linkage: version 0x901 is not known; this host reads 0x900"},
       {"small_no_linkage", "does not export Linkage"},
       {"small_no_symbols", "has no symbols; a module exports Linkage and ImportTable"},

@@ -41,7 +41,8 @@ struct DibBytes {
 
   ByteList bytes() const {
     ByteList out;
-    const std::uint32_t used = colours_used ? colours_used : static_cast<std::uint32_t>(palette.size());
+    const std::uint32_t used =
+        colours_used ? colours_used : static_cast<std::uint32_t>(palette.size());
     append(out, header_size), append(out, width), append(out, height);
     append(out, std::uint16_t{1}), append(out, bits), append(out, compression);
     for (int i = 0; i < 3; ++i) append(out, std::uint32_t{0});
@@ -87,7 +88,8 @@ inline ByteList section_bytes(const std::vector<NumberedDib>& dibs) {
 /// A folder of the running test's own, so that tests may run side by side.
 inline std::string scratch_folder() {
   const auto* test = testing::UnitTest::GetInstance()->current_test_info();
-  const std::string folder = testing::TempDir() + "loader_" + test->test_suite_name() + "_" + test->name();
+  const std::string folder =
+      testing::TempDir() + "loader_" + test->test_suite_name() + "_" + test->name();
   std::filesystem::create_directories(folder);
   return folder + "/";
 }
