@@ -16,6 +16,7 @@ struct Look {
   int a = 0;
   int b = 0;
   int turn = 0;
+  Light light = Light::day;
   bool operator==(const Look&) const = default;
 };
 
@@ -24,6 +25,7 @@ struct Moment {
   const ElementState& before;
   const ElementState& now;
   double blend;
+  Light light;
 };
 
 class ElementPainter {

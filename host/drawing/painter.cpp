@@ -50,6 +50,7 @@ struct GaugePainter::Layers {
   std::vector<std::uint32_t> base;
   std::size_t base_end = 0;  // the items below this one are in the base
   bool canvas_valid = false;
+  Light light = Light::day;
   DirtyArea base_dirty;
   DirtyArea canvas_dirty;
 };
@@ -98,7 +99,7 @@ void GaugePainter::Layers::compare(std::span<const ElementState> before,
     }
     const bool moved =
         i < before.size() && before[i].drawn && before[i].element == items[i].element;
-    take_look(i, items[i].painter->look({moved ? before[i] : now[i], now[i], blend}));
+    take_look(i, items[i].painter->look({moved ? before[i] : now[i], now[i], blend, light}));
   }
 }
 
@@ -151,6 +152,8 @@ bool GaugePainter::draw(Canvas& canvas, std::span<const ElementState> before,
   layers_->update_canvas(canvas);
   return !layers_->canvas_dirty.parts().empty();
 }
+
+void GaugePainter::set_night(bool night) { layers_->light = night ? Light::night : Light::day; }
 
 void GaugePainter::invalidate() { layers_->canvas_valid = false; }
 

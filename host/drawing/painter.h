@@ -50,6 +50,9 @@ class GaugePainter {
   bool draw(Canvas& canvas, std::span<const ElementState> before, std::span<const ElementState> now,
             double blend);
 
+  /// Whether the cockpit is seen by night from the next draw() on: what does not shine by itself dims.
+  void set_night(bool night);
+
   /// Makes the next draw() draw in any case.
   void invalidate();
 

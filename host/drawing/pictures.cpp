@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "host/drawing/night.h"
 #include "host/drawing/resample.h"
 
 namespace host {
@@ -77,18 +78,22 @@ const Bitmap* Pictures::best(std::uint32_t id, BitmapUse use, double needed) con
 }
 
 const Bitmap& Pictures::whole(const Key& key, const Bitmap& source) {
-  const auto [id, use, width, height] = key;
-  if (source.width == width && source.height == height) return source;
+  const auto [id, use, width, height, light] = key;
+  const bool own_size = source.width == width && source.height == height;
+  if (own_size && light == Light::day) return source;
   const auto kept = resampled_.find(key);
   if (kept != resampled_.end()) return kept->second;
-  return resampled_.emplace(key, resampled(source, width, height)).first->second;
+  Bitmap bitmap = own_size ? source : resampled(source, width, height);
+  if (light == Light::night) dim(bitmap);
+  return resampled_.emplace(key, std::move(bitmap)).first->second;
 }
 
-const Picture* Pictures::at_size(std::int64_t id, BitmapUse use, int width, int height) {
+const Picture* Pictures::at_size(std::int64_t id, BitmapUse use, int width, int height,
+                                 Light light) {
   const PanelSize own = size(id, use);
   if (own.width <= 0 || own.height <= 0) return nullptr;
   const Key key{static_cast<std::uint32_t>(id), use, std::clamp(width, 1, greatest_side),
-                std::clamp(height, 1, greatest_side)};
+                std::clamp(height, 1, greatest_side), light};
   auto kept = pictures_.find(key);
   if (kept == pictures_.end()) {
     const double needed = std::max(1.0 * width / own.width, 1.0 * height / own.height);

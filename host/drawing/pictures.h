@@ -15,6 +15,10 @@ struct Scale {
   double y = 1;
 };
 
+/// Under what light a picture is seen. At night the paint recedes and the panel lighting shines
+/// through the legends; parts that shine by themselves are always seen by day.
+enum class Light { day, night };
+
 /// A picture at its final size, without the clear pixels around it.
 struct Picture {
   Rect visible;  ///< what is left, in pixels of the whole picture
@@ -54,13 +58,14 @@ class Pictures {
 
   /// The bitmap at the size of `width` x `height` canvas pixels; null if there is none or if
   /// nothing of it can be seen. Stays valid as long as the pictures.
-  const Picture* at_size(std::int64_t id, BitmapUse use, int width, int height);
+  const Picture* at_size(std::int64_t id, BitmapUse use, int width, int height,
+                         Light light = Light::day);
 
   /// The image at this scale; null as above.
   const TurningPicture* turning(std::int64_t id);
 
  private:
-  using Key = std::tuple<std::uint32_t, BitmapUse, int, int>;
+  using Key = std::tuple<std::uint32_t, BitmapUse, int, int, Light>;
 
   const Bitmap* best(std::uint32_t id, BitmapUse use, double needed) const;
   const Bitmap& whole(const Key& key, const Bitmap& source);

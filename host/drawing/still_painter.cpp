@@ -1,5 +1,6 @@
 /// Static images, and icons that show one image out of several.
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <vector>
 
@@ -10,31 +11,37 @@ namespace {
 
 constexpr std::uint32_t most_images = 1000;
 
+// The image flag of lamps and of everything in a lit copy.
+constexpr u32 shines_by_itself = 0x4;
+
 class StillPainter final : public ElementPainter {
  public:
   StillPainter(const Element& element, Pictures& pictures)
       : element_(element),
         pictures_(pictures) {
     const bool icon = element.kind == ELEMENT_ICON;
-    images_.resize(icon ? std::clamp(element.icon.image_count, 1u, most_images) : 1);
+    const std::size_t count = icon ? std::clamp(element.icon.image_count, 1u, most_images) : 1;
+    for (std::vector<Image>& images : images_) images.resize(count);
   }
 
   Look look(const Moment& moment) override {
     const double index = element_.kind == ELEMENT_ICON ? std::trunc(moment.now.values[0]) : 0;
     if (!(index >= 0)) return {};
-    const double last = static_cast<double>(images_.size() - 1);
+    const double last = static_cast<double>(images_[0].size() - 1);
     const int image = static_cast<int>(std::min(index, last));
-    return {.shown = loaded(image).picture != nullptr, .a = image};
+    const bool shines = (element_.image_flags & shines_by_itself) != 0;
+    const Light light = shines ? Light::day : moment.light;
+    return {.shown = loaded(image, light).picture != nullptr, .a = image, .light = light};
   }
 
   Rect bounds(const Look& look) const override {
-    const Image& image = images_[look.a];
+    const Image& image = image_of(look);
     const Rect& visible = image.picture->visible;
     return {image.place.x + visible.x, image.place.y + visible.y, visible.width, visible.height};
   }
 
   void paint(Surface target, const Rect& clip, const Look& look) const override {
-    const Picture& picture = *images_[look.a].picture;
+    const Picture& picture = *image_of(look).picture;
     const Rect at = bounds(look);
     (picture.opaque ? copy_pixels : blend_pixels)(target, clip, picture.pixels, at.x, at.y);
   }
@@ -48,20 +55,25 @@ class StillPainter final : public ElementPainter {
     Rect place;
   };
 
-  const Image& loaded(int index) {
-    Image& image = images_[index];
+  const Image& image_of(const Look& look) const {
+    return images_[static_cast<std::size_t>(look.light)][look.a];
+  }
+
+  const Image& loaded(int index, Light light) {
+    Image& image = images_[static_cast<std::size_t>(light)][index];
     if (image.loaded) return image;
     image.loaded = true;
     const auto use = element_.kind == ELEMENT_ICON ? BitmapUse::image : BitmapUse::background;
     const std::int64_t id = std::int64_t{element_.resource_id} + index;
     image.place = scaled_place(element_.position, pictures_.size(id, use), pictures_.scale());
-    image.picture = pictures_.at_size(id, use, image.place.width, image.place.height);
+    image.picture = pictures_.at_size(id, use, image.place.width, image.place.height,
+                                      light);
     return image;
   }
 
   const Element& element_;
   Pictures& pictures_;
-  std::vector<Image> images_;
+  std::array<std::vector<Image>, 2> images_;  // by light
 };
 
 }  // namespace

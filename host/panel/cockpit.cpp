@@ -5,6 +5,11 @@
 #include "host/panel/text.h"
 
 namespace host {
+namespace {
+
+constexpr std::uint32_t panel_lights = 10;  // host token, 0/1
+
+}  // namespace
 
 bool CockpitGauge::moving() const { return !std::ranges::equal(run.before(), run.now()); }
 
@@ -58,6 +63,8 @@ CockpitGauge* Cockpit::find(std::string_view name) const {
       gauges_, [&](const auto& gauge) { return same_name(gauge->header().name, name); });
   return found == gauges_.end() ? nullptr : found->get();
 }
+
+bool Cockpit::panel_lights_on() const { return aircraft_.token(panel_lights) != 0; }
 
 bool Cockpit::is_shown(const CockpitGauge& gauge) const {
   for (std::size_t i = 0; i < windows_.size(); ++i)

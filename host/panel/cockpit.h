@@ -83,6 +83,9 @@ class Cockpit : private ServiceTarget {
   /// The gauge of that name, letter case aside; null if no window has it.
   CockpitGauge* find(std::string_view name) const;
 
+  /// Whether the panel lights are on: the cockpit is then seen by night.
+  bool panel_lights_on() const;
+
   /// Whether an open window shows the gauge, so that it runs and can be clicked.
   bool is_shown(const CockpitGauge& gauge) const;
 

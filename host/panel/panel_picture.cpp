@@ -50,12 +50,19 @@ PanelPicture::PanelPicture(const Cockpit& cockpit, std::size_t window, double zo
 }
 
 void PanelPicture::draw(double blend, std::vector<Rect>& changed) {
-  if (face_ != cockpit_.panels().face(window_)) draw_background(changed);
+  if (face_ != face()) draw_background(changed);
   for (std::size_t i = 0; i < items_.size(); ++i) draw_item(i, blend, changed);
 }
 
+// With the panel lights on the whole cockpit is seen by night, not only the windows that have a face
+// of their own for it.
+Face PanelPicture::face() const {
+  return cockpit_.panel_lights_on() ? Face::night : cockpit_.panels().face(window_);
+}
+
 void PanelPicture::draw_background(std::vector<Rect>& changed) {
-  face_ = cockpit_.panels().face(window_);
+  face_ = face();
+  for (Item& item : items_) item.painter.set_night(cockpit_.panel_lights_on());
   std::vector<Rect> places;
   for (const Item& item : items_) places.push_back(item.place);
   invalidate();

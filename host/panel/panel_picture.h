@@ -55,6 +55,7 @@ class PanelPicture {
   };
 
   const WindowConfig& config() const { return cockpit_.config().windows[window_]; }
+  Face face() const;
   void draw_background(std::vector<Rect>& changed);
   void draw_item(std::size_t index, double blend, std::vector<Rect>& changed);
 

@@ -24,6 +24,7 @@ Canvas draw_gauge(const Cockpit& cockpit, const std::string& name, double zoom) 
   Canvas canvas(side(gauge->size.width), side(gauge->size.height));
   GaugePainter painter(gauge->header(), cockpit.module().bitmaps(),
                        {0, 0, canvas.width, canvas.height});
+  painter.set_night(cockpit.panel_lights_on());
   painter.draw(canvas, gauge->run.before(), gauge->run.now(), 1.0);
   return canvas;
 }

@@ -26,12 +26,12 @@ void add_stop(cairo_pattern_t* pattern, double offset, Color color, double brigh
                                    lit(color.blue));
 }
 
-// One light from above left, as on every gauge; at night a warm flood light under the glareshield.
+// One light from above left, as on every gauge; at night what little falls in from above the glareshield.
 void paint_metal(cairo_t* cairo, Color color, Face face, double width, double height) {
   const Pattern light(face == Face::day ? cairo_pattern_create_linear(0, 0, width * 0.4, height)
                                         : cairo_pattern_create_linear(0, 0, 0, height),
                       cairo_pattern_destroy);
-  if (face == Face::night) color = {color.red * 0.86, color.green * 0.79, color.blue * 0.72};
+  if (face == Face::night) color = {color.red * 0.46, color.green * 0.47, color.blue * 0.49};
   add_stop(light.get(), 0.0, color, face == Face::day ? 1.14 : 1.12);
   add_stop(light.get(), 0.5, color, face == Face::day ? 1.00 : 0.84);
   add_stop(light.get(), 1.0, color, face == Face::day ? 0.84 : 0.66);

@@ -5,15 +5,18 @@
 namespace host {
 namespace {
 
-// A few names that share a word with a mistaken one, for the person who mistyped it.
-std::string suggestions(std::span<const TableRow> rows, std::string_view name) {
-  std::string text;
-  int found = 0;
-  const std::string_view stem = name.substr(0, std::min<std::size_t>(name.size(), 4));
-  for (const TableRow& row : rows)
-    if (!stem.empty() && row.name.find(stem) != std::string_view::npos && ++found <= 4)
-      text += (text.empty() ? "; there is " : ", ") + std::string(row.name);
-  return text;
+// The name that begins most like a mistaken one, for the person who mistyped it.
+std::string suggestion(std::span<const TableRow> rows, std::string_view name) {
+  std::string_view best;
+  std::size_t longest = 3;
+  for (const TableRow& row : rows) {
+    const auto [end, unused] = std::ranges::mismatch(row.name, name);
+    const auto common = static_cast<std::size_t>(end - row.name.begin());
+    if (common <= longest) continue;
+    longest = common;
+    best = row.name;
+  }
+  return best.empty() ? "" : "; did you mean " + std::string(best) + "?";
 }
 
 std::uint32_t number_of(const LuaCall& call, int index, const char* what,
@@ -27,7 +30,7 @@ std::uint32_t number_of(const LuaCall& call, int index, const char* what,
   const auto row = std::ranges::find(rows, name, &TableRow::name);
   if (row != rows.end()) return row->number;
   throw std::invalid_argument("the aircraft has no " + std::string(what) + " '" + name + "'" +
-                              suggestions(rows, name));
+                              suggestion(rows, name));
 }
 
 }  // namespace

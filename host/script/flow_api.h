@@ -45,7 +45,7 @@ void bind_readings(LuaRunner& runner, FlowSession& session);
 void bind_expectations(LuaRunner& runner, FlowSession& session);
 
 /// The number of a key event or token that the call names by number or by name.
-/// Throws std::invalid_argument, with names that look alike.
+/// Throws std::invalid_argument, with a name that looks alike.
 std::uint32_t event_argument(const LuaCall& call, int index);
 std::uint32_t token_argument(const LuaCall& call, int index);
 

@@ -2,6 +2,7 @@
 
 #include <lua.hpp>
 
+#include <algorithm>
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
@@ -35,6 +36,34 @@ std::optional<int> take_line(std::string& message) {
   if (std::string_view(end).substr(0, 2) != ": ") return std::nullopt;
   message.erase(0, static_cast<std::size_t>(end + 2 - message.c_str()));
   return static_cast<int>(line);
+}
+
+// The line that a level of the stack is at; 0 for none and for functions of the host.
+int line_of(lua_State* state, int level) {
+  lua_Debug debug{};
+  if (level < 0 || !lua_getstack(state, level, &debug)) return 0;
+  lua_getinfo(state, "l", &debug);
+  return std::max(debug.currentline, 0);
+}
+
+// The flow itself, under whatever it has called. Lua walks the stack to reach a level, so a stack that
+// has overflowed is halved, not walked down level by level.
+int deepest_level(lua_State* state) {
+  lua_Debug debug{};
+  int present = -1, absent = 1;
+  while (lua_getstack(state, absent, &debug)) absent *= 2;
+  while (absent - present > 1) {
+    const int middle = present + (absent - present) / 2;
+    (lua_getstack(state, middle, &debug) ? present : absent) = middle;
+  }
+  return present;
+}
+
+// Of the functions of the flow the one that runs, or waits for the host.
+std::optional<int> nearest_line(lua_State* state) {
+  for (int level = 0; level < 8; ++level)
+    if (const int line = line_of(state, level)) return line;
+  return std::nullopt;
 }
 
 }  // namespace
@@ -97,26 +126,11 @@ void LuaRunner::fail() {
   throw FlowError(*failure_);
 }
 
-int LuaRunner::line() const {
-  lua_Debug debug{};
-  for (int level = 0; lua_getstack(state_, level, &debug); ++level) {
-    lua_getinfo(state_, "Sl", &debug);
-    if (debug.currentline > 0) return debug.currentline;
-  }
-  return 0;
-}
-
 // The place where it went wrong; for a helper function of the flow also the line that called it.
 std::string LuaRunner::describe(lua_State* state, std::string message) const {
   std::optional<int> line = take_line(message);
-  int outermost = 0;
-  lua_Debug debug{};
-  for (int level = 0; lua_getstack(state, level, &debug); ++level) {
-    lua_getinfo(state, "Sl", &debug);
-    if (debug.currentline <= 0) continue;
-    if (!line) line = debug.currentline;
-    outermost = debug.currentline;
-  }
+  if (!line) line = nearest_line(state);
+  const int outermost = line_of(state, deepest_level(state));
   std::string text = name_ + ":" + (line ? std::to_string(*line) + ": " : " ") + message;
   if (outermost > 0 && outermost != line) text += " (called from line " + std::to_string(outermost) + ")";
   return text;

@@ -45,9 +45,6 @@ class LuaRunner {
   /// Tells that time has moved on: a flow that never lets it is stopped as an endless loop.
   void alive() { steps_ = 0; }
 
-  /// The flow's line that is being run; 0 outside a run.
-  int line() const;
-
  private:
   static void* allocate(void* context, void* block, std::size_t old_size, std::size_t new_size);
   static int dispatch(lua_State* state);

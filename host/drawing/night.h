@@ -1,0 +1,17 @@
+/// How a painted picture looks at night, under the cockpit's panel lighting.
+#pragma once
+
+#include <cstdint>
+
+#include "host/loader/bitmap.h"
+
+namespace host {
+
+/// A premultiplied colour by night: paint recedes to less than half, the light legends stay and turn
+/// a little warm, as lit from within.
+std::uint32_t by_night(std::uint32_t colour);
+
+/// Every pixel by night.
+void dim(Bitmap& bitmap);
+
+}  // namespace host

@@ -1,0 +1,65 @@
+/// Runs the program as a person does, and keeps what it says.
+#pragma once
+
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <string>
+
+inline const std::filesystem::path cockpit_dir = COCKPIT_DIR;
+
+/// A folder that goes away with the test.
+class TempFolder {
+ public:
+  TempFolder() {
+    std::string name = (std::filesystem::temp_directory_path() / "tarnvale-XXXXXX").string();
+    path_ = mkdtemp(name.data());
+  }
+  ~TempFolder() { std::filesystem::remove_all(path_); }
+  TempFolder(const TempFolder&) = delete;
+  TempFolder& operator=(const TempFolder&) = delete;
+
+  std::string operator/(const std::string& name) const { return (path_ / name).string(); }
+
+  std::string write(const std::string& name, const std::string& text) const {
+    std::ofstream(path_ / name, std::ios::binary) << text;
+    return *this / name;
+  }
+
+ private:
+  std::filesystem::path path_;
+};
+
+struct Outcome {
+  int exit_code = -1;
+  std::string output;  ///< both streams
+};
+
+/// Runs a shell command.
+inline Outcome run_command(const std::string& command) {
+  Outcome outcome;
+  FILE* pipe = popen((command + " 2>&1").c_str(), "r");
+  if (!pipe) return outcome;
+  std::array<char, 4096> part;
+  while (const std::size_t size = fread(part.data(), 1, part.size(), pipe)) outcome.output.append(part.data(), size);
+  const int status = pclose(pipe);
+  outcome.exit_code = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+  return outcome;
+}
+
+/// Runs the program without a display.
+inline Outcome tarnvale(const std::string& arguments) {
+  return run_command("env -u DISPLAY -u WAYLAND_DISPLAY -u SDL_VIDEODRIVER " +
+                     (cockpit_dir / "tarnvale").string() + " " + arguments);
+}
+
+inline std::string file_text(const std::filesystem::path& file) {
+  std::ifstream stream(file, std::ios::binary);
+  return {std::istreambuf_iterator<char>(stream), {}};
+}
