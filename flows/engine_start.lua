@@ -152,6 +152,7 @@ end
 click(START_MASTER)
 click({"Engstart", 97, 66})  -- the selector back to the centre
 click(APU_BLEED)
+click(APU_GENERATOR_UP)  -- a lever that is up goes back to the centre
 click(APU_MASTER)
 click(RIGHT_SUPPLY)
 click(LEFT_AUTO)

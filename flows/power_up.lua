@@ -25,7 +25,7 @@ local function bus_indicator() return image("Acpwr", 2110, 2) end -- image 0 is 
 local function dc_amperes() return value("Acdc", 350, 1) end
 local function dc_volts() return value("Acdc", 350, 2) end
 local function ac_volts() return value("Acdc", 350, 3) end
-local function ac_load() return value("Acdc", 350, 4) end
+local function ac_frequency() return value("Acdc", 350, 4) end
 
 -- Presses a switch and listens: the click must come with the press and stand out of the silence.
 local function press(control, what)
@@ -90,7 +90,7 @@ expect_near(ac_volts(), token("ac_bus_1_voltmeter") + 92, 1, "the voltage of AC 
 wheel(AC_SELECTOR, 5)
 wait(0.5)
 expect_near(ac_volts(), 270, 0, "the external AC voltage")
-expect_near(ac_load(), 18, 0, "the external AC load")
+expect_near(ac_frequency(), 18, 0, "the external AC frequency")
 wheel(AC_SELECTOR, -5)
 picture("3-meters", "Acdc", 3)
 
@@ -125,6 +125,7 @@ press(LANDING_LIGHTS, "the landing light switch")
 expect(image("Ovhmain", 13220) == 1, "the landing lights are off")
 
 say("Night")
+open_window(500)
 press(PANEL_LIGHTS, "the panel light switch")
 expect_event("panel_lights_toggle")
 expect(window_open(27) and not window_open(20), "the captain's panel keeps its day face")
