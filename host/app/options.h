@@ -32,7 +32,7 @@ struct FlyOptions {
 
 struct RunOptions {
   CockpitOptions cockpit;
-  std::string flow = "power_up";
+  std::string flow = "engine_start";
   std::filesystem::path pictures;       ///< empty: none
   std::filesystem::path sound;          ///< empty: none
   bool realtime = false;

@@ -18,7 +18,7 @@ bool is_set(const char* variable) {
 
 [[noreturn]] void no_display(const std::string& reason) {
   throw std::runtime_error("no display to open a window on (" + reason +
-                           "). Without one: tarnvale run power_up --png pictures --wav flight.wav");
+                           "). Without one: tarnvale run --png pictures --wav flight.wav");
 }
 
 void set_icon(SDL_Window* window) {
@@ -98,6 +98,8 @@ void ScreenWindow::toggle_full_screen() {
   const bool full = SDL_GetWindowFlags(window_.get()) & SDL_WINDOW_FULLSCREEN_DESKTOP;
   SDL_SetWindowFullscreen(window_.get(), full ? 0 : SDL_WINDOW_FULLSCREEN_DESKTOP);
 }
+
+void ScreenWindow::raise() { SDL_RaiseWindow(window_.get()); }
 
 void ScreenWindow::present(const std::vector<Rect>& changed) {
   SDL_Surface* surface = SDL_GetWindowSurface(window_.get());

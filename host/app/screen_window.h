@@ -46,6 +46,9 @@ class ScreenWindow {
   void resize(int width, int height);
   void toggle_full_screen();
 
+  /// Brings it to the front and gives it the keyboard.
+  void raise();
+
   /// What the window shows; present() brings the changed parts to the screen.
   Canvas& canvas() { return canvas_; }
   const Canvas& canvas() const { return canvas_; }

@@ -54,9 +54,10 @@ void Views::arrange_panels() {
   for (std::size_t window : open)
     if (!torn_off_.contains(window)) standing.push_back(window);
   main_->show(standing);
-  std::erase_if(torn_, [&](const auto& entry) {
+  const auto gone = std::erase_if(torn_, [&](const auto& entry) {
     return !torn_off_.contains(entry.first) || std::ranges::find(open, entry.first) == open.end();
   });
+  if (gone > 0) main_->screen().raise();  // else the keyboard may belong to nobody
   for (std::size_t window : open) {
     if (!torn_off_.contains(window) || torn_.contains(window)) continue;
     const WindowConfig& config = cockpit_.config().windows[window];

@@ -86,7 +86,7 @@ INSTANTIATE_TEST_SUITE_P(
         Case{"show_unknown_token", "show Ctr --set batery=1 --png @x.png", 1, "there is no token 'batery'"},
         Case{"show_unwritable", "show Ctr --png @gone/x.png", 1, "gone/x.png"},
         Case{"no_display", "fly", 1, "no display to open a window on (neither DISPLAY nor WAYLAND_DISPLAY is set). "
-                                     "Without one: tarnvale run power_up"},
+                                     "Without one: tarnvale run"},
         Case{"show_no_display", "show Ctr", 1, "no display to open a window on"},
         Case{"open_unknown", "fly --open 7", 1, "--open: there is no window 7"}),
     [](const auto& test) { return test.param.name; });

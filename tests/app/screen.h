@@ -3,6 +3,7 @@
 
 #include <cairo.h>
 #include <csignal>
+#include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -19,7 +20,7 @@ class Child {
   Child(const std::string& command, int output) {
     pid_ = fork();
     if (pid_ != 0) return;
-    setpgid(0, 0);
+    prctl(PR_SET_PDEATHSIG, SIGTERM);  // also when the test is killed
     if (output >= 0) dup2(output, 3);
     execl("/bin/sh", "sh", "-c", ("exec " + command).c_str(), nullptr);
     _exit(127);
