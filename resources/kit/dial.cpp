@@ -10,7 +10,7 @@ namespace {
 double power(Lighting lighting) {
   switch (lighting) {
     case Lighting::off: return 0;
-    case Lighting::dim: return 0.5;
+    case Lighting::dim: return 0.34;
     case Lighting::bright: return 1;
   }
   return 0;
@@ -109,9 +109,9 @@ void dial_hub(const Canvas& canvas, Point c, double radius) {
 void inscribe(const Canvas& canvas, Lighting lighting,
               const std::function<void(Colour ink)>& draw) {
   const double p = power(lighting);
-  const Colour lit = mixed(palette::filament, palette::white, 0.15 + 0.45 * p);
-  const Colour ink = p == 0 ? palette::mark : mixed(palette::mark, lit, 0.5 + 0.5 * p);
-  if (p > 0) haze(canvas, 1.3, 0.35 + 0.5 * p, [&] { draw(palette::filament_wash); });
+  const Colour glow = mixed(palette::filament_wash, palette::filament, p);
+  const Colour ink = p == 0 ? palette::mark : mixed(glow, palette::white, 0.2 + 0.4 * p);
+  if (p > 0) haze(canvas, 1.3, 0.15 + 0.7 * p, [&] { draw(palette::filament_wash); });
   draw(ink);
 }
 
@@ -150,7 +150,7 @@ void Scale::arc(double from, double to, double radius, double width) const {
 void Scale::numerals(std::initializer_list<Numeral> figures, double radius, double size) const {
   const Lettering lettering{.size = size, .colour = ink_};
   for (const Numeral& figure : figures) {
-    const double at = angle(figure.value);
+    const double at = angle(figure.value) + figure.aside;
     const TextExtent extent = text_extent(canvas_, figure.text, lettering);
     const double out = distance_within(radius, extent.width / 2, extent.height / 2 + 0.3, at);
     print(canvas_, polar(centre_, out, at), figure.text, lettering);

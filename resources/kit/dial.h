@@ -53,6 +53,7 @@ struct Band {
 struct Numeral {
   double value;
   std::string_view text;
+  double aside = 0;  ///< degrees clockwise from its mark, to stand clear of a needle at rest
 };
 
 /// One scale of a dial, about its needle.

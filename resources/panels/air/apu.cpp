@@ -52,7 +52,7 @@ void print_speed(const Scale& scale) {
   scale.band({1375, 1500, rim - 1.3, 2.6, palette::range_red});
   scale.marks({0, 1250, 125, rim - 5, rim, 1.3});
   scale.marks({1250, 1500, 62.5, rim - 4, rim, 1});
-  scale.numerals({{0, "0"}, {500, "40"}, {1000, "80"}, {1250, "100"}}, rim - 6, 8.5);
+  scale.numerals({{0, "0", -20}, {500, "40"}, {1000, "80"}, {1250, "100"}}, rim - 6, 8.5);
 }
 
 void print_temperature(const Scale& scale) {
@@ -60,7 +60,7 @@ void print_temperature(const Scale& scale) {
   scale.band({1400, 1500, rim - 1.3, 2.6, palette::range_red});
   scale.marks({0, 1400, 200, rim - 5, rim, 1.3});
   scale.marks({0, 1500, 100, rim - 3, rim, 0.7});
-  scale.numerals({{0, "0"}, {400, "2"}, {800, "4"}, {1200, "6"}, {1400, "7"}}, rim - 6, 8.5);
+  scale.numerals({{0, "0", -20}, {400, "2"}, {800, "4"}, {1200, "6"}, {1400, "7"}}, rim - 6, 8.5);
 }
 
 void draw_dial(const Canvas& canvas, int nth, Lighting lighting) {
@@ -69,8 +69,8 @@ void draw_dial(const Canvas& canvas, int nth, Lighting lighting) {
   meter(canvas, d, lighting, [&](Colour ink) {
     const Scale scale(canvas, part("Apuins", 470, nth), ink);
     speed ? print_speed(scale) : print_temperature(scale);
-    print(canvas, d.centre + Point{0, 16.5}, speed ? "APU" : "EGT", {.size = 8, .colour = ink});
-    print(canvas, d.centre + Point{0, 25}, speed ? "% RPM" : "\u00b0C\u00d7100",
+    print(canvas, d.centre + Point{4, 16.5}, speed ? "APU" : "EGT", {.size = 8, .colour = ink});
+    print(canvas, d.centre + Point{1, 25.3}, speed ? "% RPM" : "\u00b0C\u00d7100",
           {.size = 7, .colour = ink});
   });
 }

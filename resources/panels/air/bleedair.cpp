@@ -15,8 +15,8 @@ void draw_switches(const Canvas& canvas) {
   // The list has the lower pair first.
   const Point lower1 = hub_of(panel, 2130, 1), lower2 = hub_of(panel, 2130, 0);
   const Point upper1 = hub_of(panel, 2130, 3), upper2 = hub_of(panel, 2130, 2);
-  engrave(canvas, {upper1.x, upper1.y - 25}, "ENG 1");
-  engrave(canvas, {upper2.x, upper2.y - 25}, "ENG 2");
+  engrave(canvas, {upper1.x, upper1.y - 23.4}, "ENG 1");
+  engrave(canvas, {upper2.x, upper2.y - 23.4}, "ENG 2");
   lever_words(canvas, {(upper1.x + upper2.x) / 2 - 7, upper1.y}, {.aside = 0});
   engrave(canvas, {lower1.x - 4, lower1.y - 25}, "XFEED 1");
   engrave(canvas, {lower2.x + 4, lower2.y - 25}, "XFEED 2");
@@ -40,7 +40,7 @@ void draw_valve_names(const Canvas& canvas) {
 
 void draw_plate(Canvas& canvas, int) {
   plate_of(canvas, panel);
-  engrave(canvas, {canvas.size().width / 2.0, 8.5}, "BLEED AIR", {.size = heading_size});
+  engrave(canvas, {canvas.size().width / 2.0, 7.2}, "BLEED AIR", {.size = heading_size});
   draw_switches(canvas);
   draw_valve_names(canvas);
   const Point light1 = part_box(panel, 2110, 3).centre();

@@ -29,10 +29,10 @@ Box text_box(int nth) {
 void print_scale(const Scale& scale) {
   scale.marks({0, 15000, 1000, rim - 5, rim, 1.4});
   scale.marks({0, 15000, 500, rim - 3, rim, 0.8});
-  scale.numerals({{0, "0"}, {1000, "1"}, {2000, "2"}, {3000, "3"}, {4000, "4"}, {5000, "5"},
+  scale.numerals({{0, "0", -8}, {1000, "1"}, {2000, "2"}, {3000, "3"}, {4000, "4"}, {5000, "5"},
                   {6000, "6"}, {7000, "7"}, {8000, "8"}, {9000, "9"}, {10000, "10"},
-                  {12000, "12"}, {15000, "15"}},
-                 rim - 6, 8.5);
+                  {12000, "12"}, {15000, "15", -5}},
+                 rim - 6.5, 8);
 }
 
 void draw_displays(const Canvas& canvas) {
@@ -64,7 +64,8 @@ void draw_face(const Canvas& canvas, Lighting lighting) {
   const Dial d{place(panel, 1470), radius};
   meter(canvas, d, lighting, [&](Colour ink) {
     print_scale(Scale(canvas, part(panel, 1470), ink));
-    print(canvas, d.centre + Point{0, -9}, "FT\u00d71000", {.size = 7, .colour = ink});
+    print(canvas, d.centre + Point{0, -10.5}, "1000", {.size = 7, .colour = ink});
+    print(canvas, d.centre + Point{0, 10}, "FT", {.size = 7, .colour = ink});
   });
   draw_controls(canvas);
 }

@@ -52,7 +52,7 @@ void draw_plate(Canvas& canvas, int) {
   draw_levers(canvas);
   draw_selector_seat(canvas);
   const Point light = part_box(panel, 2110).centre();
-  engrave(canvas, {light.x, light.y + 17}, "VALVE");
+  engrave(canvas, {light.x, light.y + 17}, "READY");
   engrave(canvas, {34, plate.height - 20}, "ENGINE\nSTART", {.size = heading_size});
 }
 

@@ -27,7 +27,7 @@ void draw_duct_pressure(const Canvas& canvas, Lighting lighting) {
     scale.marks({0, 700, 50, out - 2.8, out, 0.7});
     scale.marks({1000, 1000, 1, out - 5, out, 1.4});
     scale.numerals({{200, "20"}, {400, "40"}, {600, "60"}}, out - 6, 8);
-    words(canvas, d.centre + Point{0, 16}, "DUCT", "PSI", ink);
+    words(canvas, d.centre + Point{1, 15.5}, "DUCT", "PSI", ink);
   }, 0);
 }
 
@@ -40,7 +40,7 @@ void draw_cabin_temperature(const Canvas& canvas, Lighting lighting) {
     scale.band({18, 26, out - 1.2, 2.4, palette::range_green});
     scale.marks({0, 60, 10, out - 5, out, 1.4});
     scale.marks({20, 40, 2, out - 2.8, out, 0.7});
-    scale.numerals({{0, "0"}, {20, "20"}, {40, "40"}, {60, "60"}}, out - 6, 8);
+    scale.numerals({{0, "0", -18}, {20, "20"}, {40, "40"}, {60, "60"}}, out - 6, 8);
     words(canvas, d.centre + Point{0, 14}, "CABIN", "\u00b0C", ink);
   }, 0);
 }
@@ -53,13 +53,14 @@ void draw_cabin_climb(const Canvas& canvas, Lighting lighting) {
     const double out = rim(d.radius);
     scale.marks({-2000, 2000, 500, out - 5.5, out, 1.5});
     scale.marks({-1000, 1000, 100, out - 3, out, 0.7});
-    scale.numerals({{-2000, "2"}, {-1000, "1"}, {-500, ".5"}, {0, "0"}, {500, ".5"}, {1000, "1"},
+    // The needle rests at zero, between UP and DN.
+    scale.numerals({{-2000, "2"}, {-1000, "1"}, {-500, ".5"}, {500, ".5"}, {1000, "1"},
                     {2000, "2"}},
                    out - 6.5, 9);
     print(canvas, d.centre + Point{-3, -9.5}, "UP", {.size = 7.5, .colour = ink});
     print(canvas, d.centre + Point{-3, 9.5}, "DN", {.size = 7.5, .colour = ink});
-    print(canvas, d.centre + Point{14, -4}, "CAB", {.size = 7.5, .colour = ink});
-    print(canvas, d.centre + Point{14, 5}, "V/S", {.size = 7.5, .colour = ink});
+    print(canvas, d.centre + Point{13.5, -4}, "CAB", {.size = 7, .colour = ink});
+    print(canvas, d.centre + Point{13.5, 4.6}, "V/S", {.size = 7, .colour = ink});
   });
 }
 

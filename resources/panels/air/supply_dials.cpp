@@ -17,7 +17,8 @@ struct Pair {
   std::string_view names[2];
   std::string_view unit;
   void (*print)(const Scale& scale, double rim);
-  double words = 14;  ///< below the hub
+  Point name, units;  ///< the words' places from the hub, clear of the needle at rest
+  double name_size;
 };
 
 void draw_pair(const Canvas& canvas, const Pair& pair, Lighting lighting) {
@@ -25,9 +26,8 @@ void draw_pair(const Canvas& canvas, const Pair& pair, Lighting lighting) {
     const Dial d{place(pair.gauge, pair.needle, nth), pair.radius};
     meter(canvas, d, lighting, [&](Colour ink) {
       pair.print(Scale(canvas, part(pair.gauge, pair.needle, nth), ink), d.radius - 5.6);
-      const Point at = d.centre + Point{0, pair.words};
-      print(canvas, at, pair.names[nth], {.size = 8, .colour = ink});
-      print(canvas, at + Point{0, 8.5}, pair.unit, {.size = 7, .colour = ink});
+      print(canvas, d.centre + pair.name, pair.names[nth], {.size = pair.name_size, .colour = ink});
+      print(canvas, d.centre + pair.units, pair.unit, {.size = 7, .colour = ink});
     });
   }
 }
@@ -37,7 +37,7 @@ void print_duct_scale(const Scale& scale, double rim) {
   scale.band({55, 60, rim - 1.2, 2.4, palette::range_red});
   scale.marks({0, 60, 10, rim - 5, rim, 1.4});
   scale.marks({0, 60, 2, rim - 2.8, rim, 0.7});
-  scale.numerals({{0, "0"}, {20, "20"}, {40, "40"}, {60, "60"}}, rim - 6, 8);
+  scale.numerals({{0, "0", -16}, {20, "20"}, {40, "40"}, {60, "60"}}, rim - 6, 8);
 }
 
 void print_engine_scale(const Scale& scale, double rim) {
@@ -56,9 +56,12 @@ void print_wing_scale(const Scale& scale, double rim) {
   scale.numerals({{200, "20"}, {400, "40"}, {600, "60"}, {800, "80"}, {1000, "100"}}, rim - 6, 8);
 }
 
-constexpr Pair ducts{"Ductc", 280, 32.5, {"DUCT 1", "DUCT 2"}, "\u00b0C", print_duct_scale, 11};
-constexpr Pair engines{"Icepsi", 1110, 31.5, {"ENG 1", "ENG 2"}, "PSI", print_engine_scale, 12};
-constexpr Pair wings{"Airfoil", 1140, 34, {"WING 1", "WING 2"}, "PSI", print_wing_scale, 12.5};
+constexpr Pair ducts{"Ductc", 280, 32.5, {"DUCT 1", "DUCT 2"}, "\u00b0C", print_duct_scale,
+                     {0, 12}, {0, 20.5}, 8};
+constexpr Pair engines{"Icepsi", 1110, 31.5, {"ENG 1", "ENG 2"}, "PSI", print_engine_scale,
+                       {-0.5, 20.3}, {2, 12}, 6.5};
+constexpr Pair wings{"Airfoil", 1140, 34, {"WING 1", "WING 2"}, "PSI", print_wing_scale,
+                     {2.5, 21}, {3, 12.5}, 7};
 
 void centre_screws(const Canvas& canvas, double x, double inset) {
   screw(canvas, {x, inset}, 3, 25);

@@ -1,4 +1,5 @@
-/// AC and DC meters: four small dials on one plate.
+/// AC and DC meters: four small dials on one plate. Their needles count divisions; the dials say volts
+/// and hertz.
 #include "resources/kit/dial.h"
 #include "resources/kit/metal.h"
 #include "resources/kit/needle.h"
@@ -12,6 +13,11 @@ constexpr double radius = 34.5;
 constexpr double rim = 28.6;  // outer end of the marks
 constexpr Point pivot{4, 1};
 constexpr double needle_length = 25;
+constexpr double end = 31;  // degrees by which the outermost figures stand outside the scale
+
+constexpr double dc_volts(double volts) { return volts * 66 / 28; }
+constexpr double ac_volts(double volts) { return volts * 270 / 115; }
+constexpr double hertz(double frequency) { return frequency - 380; }
 
 struct Instrument {
   int nth;  // of the panel's needles
@@ -22,33 +28,49 @@ struct Instrument {
 void print_dc_load(const Scale& scale) {
   scale.marks({-120, 120, 30, rim - 5, rim, 1.3});
   scale.marks({-120, 120, 10, rim - 3, rim, 0.7});
-  scale.numerals({{-120, "120"}, {0, "0"}, {120, "120"}}, rim - 6.5, 8);
+  // The needle rests at zero in the middle, which needs no figure.
+  scale.numerals({{-120, "120", -end}, {-60, "60"}, {60, "60"}, {120, "120", end}}, rim - 6.5, 7.5);
 }
 
 void print_dc_voltage(const Scale& scale) {
+  scale.band({dc_volts(26), dc_volts(30), rim - 1.2, 2.4, palette::range_green});
   scale.marks({0, 0, 1, rim - 5, rim, 1.3});
-  scale.marks({50, 90, 10, rim - 5, rim, 1.3});
-  scale.marks({50, 90, 5, rim - 3, rim, 0.7});
-  scale.numerals({{0, "0"}, {60, "60"}, {90, "90"}}, rim - 6.5, 8);
+  scale.marks({dc_volts(20), dc_volts(36), dc_volts(4), rim - 5, rim, 1.3});
+  scale.marks({dc_volts(20), dc_volts(28), dc_volts(1), rim - 3, rim, 0.7});
+  scale.marks({dc_volts(28), dc_volts(36), dc_volts(2), rim - 3, rim, 0.7});
+  scale.numerals({{0, "0", -22},
+                  {dc_volts(20), "20"},
+                  {dc_volts(28), "28"},
+                  {dc_volts(36), "36", 20}},
+                 rim - 6.5, 7.5);
 }
 
 void print_ac_voltage(const Scale& scale) {
-  scale.marks({0, 360, 90, rim - 5, rim, 1.3});
-  scale.marks({0, 360, 30, rim - 3, rim, 0.7});
-  scale.numerals({{0, "0"}, {180, "180"}, {360, "360"}}, rim - 6.5, 8);
+  scale.band({ac_volts(110), ac_volts(120), rim - 1.2, 2.4, palette::range_green});
+  for (const double volts : {0.0, 50.0, 115.0, 150.0}) {
+    scale.marks({ac_volts(volts), ac_volts(volts), 1, rim - 5, rim, 1.3});
+  }
+  scale.marks({0, ac_volts(150), ac_volts(10), rim - 3, rim, 0.7});
+  scale.numerals({{0, "0", -22},
+                  {ac_volts(50), "50"},
+                  {ac_volts(115), "115"},
+                  {ac_volts(150), "150", 22}},
+                 rim - 6.5, 7.5);
 }
 
-void print_ac_load(const Scale& scale) {
-  scale.marks({0, 40, 10, rim - 5, rim, 1.3});
-  scale.marks({0, 40, 2, rim - 3, rim, 0.7});
-  scale.numerals({{0, "0"}, {20, "20"}, {40, "40"}}, rim - 6.5, 8);
+void print_ac_frequency(const Scale& scale) {
+  scale.band({hertz(396), hertz(404), rim - 1.2, 2.4, palette::range_green});
+  scale.marks({hertz(380), hertz(420), 10, rim - 5, rim, 1.3});
+  scale.marks({hertz(380), hertz(420), 2, rim - 3, rim, 0.7});
+  scale.numerals({{hertz(380), "380", -end}, {hertz(400), "400"}, {hertz(420), "420", end}},
+                 rim - 6.5, 7.5);
 }
 
 constexpr Instrument instruments[] = {
     {0, "AMPERES", "DC", print_dc_load},
     {1, "VOLTS", "DC", print_dc_voltage},
     {2, "VOLTS", "AC", print_ac_voltage},
-    {3, "LOAD", "AC", print_ac_load},
+    {3, "FREQ", "AC", print_ac_frequency},
 };
 
 void draw_meter(const Canvas& canvas, const Instrument& instrument, Lighting lighting) {

@@ -19,7 +19,7 @@ void print_scale(const Canvas& canvas, const Element& needle, Colour ink) {
   scale.band({100, 125, rim - 1.2, 2.4, palette::range_red});
   scale.marks({0, 125, 25, rim - 5, rim, 1.4});
   scale.marks({0, 125, 5, rim - 2.6, rim, 0.7});
-  scale.numerals({{0, "0"}, {50, "50"}, {100, "100"}}, rim - 6, 7.5);
+  scale.numerals({{0, "0", -24}, {50, "50"}, {100, "100"}}, rim - 6, 7.5);
 }
 
 void draw_meter(const Canvas& canvas, int nth, Lighting lighting) {

@@ -17,7 +17,8 @@ void draw_plate(Canvas& canvas, int) {
   const Point at = Point{lever.x, lever.y} + hub;
   polish(canvas, at, 17);
   lever_mount(canvas, at);
-  engrave(canvas, {at.x + 12, at.y - 17}, "ON", {}, Anchor::left);
+  // One word for the lever's upper position and for the bar of light beside it.
+  engrave(canvas, {at.x + 12, part_box(panel, 1240).centre().y}, "ON", {}, Anchor::left);
   engrave(canvas, {at.x + 12, at.y + 14.5}, "OFF", {}, Anchor::left);
   engrave(canvas, {canvas.size().width / 2.0, part_box(panel, 1260).y - 2.5}, "EMER LTS");
   screw(canvas, {canvas.size().width - 7.5, 7.5}, 3, 40);
@@ -33,8 +34,11 @@ void draw_switch(Canvas& canvas, int image) {
 void draw_on_bar(Canvas& canvas, int image) {
   const Box bar = whole(canvas.size()).grown(-1);
   if (image == 1) soft(canvas, rounded(bar, 1), faded(palette::lamp_green, 0.7), 0.8);
-  fill(canvas, rounded(bar, 1.2), palette::mould_dark);
-  lamp_lens(canvas, bar.grown(-0.8), {palette::lamp_green}, image == 1);
+  lamp_housing(canvas, bar);
+  const Box lens = bar.grown(-0.8);
+  lamp_lens(canvas, lens, {palette::lamp_green}, image == 1);
+  // So small a lens would lose its tint among its own edges.
+  if (image == 0) fill(canvas, rounded(lens, 1), faded(palette::lamp_green, 0.28));
 }
 
 void draw_armed_lamp(Canvas& canvas, int image) {

@@ -1,4 +1,4 @@
-/// Generator drive meters: the speed of the constant-speed drives.
+/// Generator drive meters: the oil temperature of the constant-speed drives.
 #include "resources/kit/dial.h"
 #include "resources/kit/metal.h"
 #include "resources/kit/needle.h"
@@ -12,21 +12,22 @@ constexpr double radius = 33.5;
 constexpr double rim = 27.6;
 constexpr Point pivot{3, 1};
 constexpr double needle_length = 25;
-constexpr double full_scale = 16384;
-constexpr double thousand = full_scale / 8;  // revolutions a minute
+constexpr double full_scale = 140;  // degrees centigrade
+
+/// The needle's units for a temperature.
+constexpr double units(double celsius) { return celsius * 16384 / full_scale; }
 
 void print_scale(const Canvas& canvas, const Element& needle, Colour ink) {
   const Scale scale(canvas, needle, ink);
-  scale.band({5 * thousand, 7 * thousand, rim - 1.2, 2.4, palette::range_green});
-  scale.band({7.5 * thousand, full_scale, rim - 1.2, 2.4, palette::range_red});
-  scale.marks({0, full_scale, 2 * thousand, rim - 5, rim, 1.4});
-  scale.marks({0, full_scale, thousand / 2, rim - 2.6, rim, 0.7});
-  scale.numerals({{0, "0"},
-                  {2 * thousand, "2"},
-                  {4 * thousand, "4"},
-                  {6 * thousand, "6"},
-                  {full_scale, "8"}},
-                 rim - 6, 9);
+  scale.band({units(60), units(110), rim - 1.2, 2.4, palette::range_green});
+  scale.band({units(130), units(full_scale), rim - 1.2, 2.4, palette::range_red});
+  scale.marks({0, units(full_scale), units(20), rim - 5, rim, 1.4});
+  scale.marks({0, units(full_scale), units(10), rim - 2.6, rim, 0.7});
+  scale.numerals({{0, "0", -24},
+                  {units(40), "40"},
+                  {units(100), "100"},
+                  {units(full_scale), "140", 14}},
+                 rim - 6.5, 7.5);
 }
 
 void draw_meter(const Canvas& canvas, int nth, Lighting lighting) {
@@ -35,7 +36,7 @@ void draw_meter(const Canvas& canvas, int nth, Lighting lighting) {
     print_scale(canvas, part(panel, 440, nth), ink);
     print(canvas, face.centre + Point{0, 11}, nth == 0 ? "DRIVE 1" : "DRIVE 2",
           {.size = 8, .colour = ink});
-    print(canvas, face.centre + Point{0, 20}, "RPM\u00d71000", {.size = 7, .colour = ink});
+    print(canvas, face.centre + Point{0, 20}, "OIL \u00b0C", {.size = 7, .colour = ink});
   });
 }
 

@@ -15,9 +15,9 @@ void draw_plate(Canvas& canvas, int) {
   const double names = battery.y - 28, width = canvas.size().width;
   engrave(canvas, {width / 2, part_box(panel, 60).bottom() + 5.5}, "ELECTRICAL POWER",
           {.size = heading_size});
-  engrave(canvas, {battery.x, names}, "BATT");
-  engrave(canvas, {hub_of(panel, 2140).x, names}, "BUS TIE");
-  engrave(canvas, {external.x, names}, "EXT PWR");
+  engrave(canvas, {battery.x - 2, names}, "BATT");
+  engrave(canvas, {hub_of(panel, 2140).x - 1, names}, "BUS TIE");
+  engrave(canvas, {external.x + 4, names}, "EXT PWR");
   const double level = (battery.y + external.y) / 2;
   lever_words(canvas, {battery.x, level}, {.aside = -11});
   lever_words(canvas, {external.x, level}, {.aside = 10});

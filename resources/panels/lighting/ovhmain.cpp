@@ -26,9 +26,9 @@ void draw_plate(Canvas& canvas, int) {
   lever_mount(canvas, hub, 8);
   engrave(canvas, {hub.x - 14, hub.y}, "NAV", {.size = heading_size}, Anchor::right);
   const Box bank = part_box(panel, 13220);
-  engrave(canvas, {bank.right() + 21, bank.height / 2}, "LDG\nLTS", {.size = heading_size});
-  screw(canvas, {190, 8}, 3, 12);
-  screw(canvas, {190, plate.height - 8}, 3, 77);
+  engrave(canvas, {bank.right() + 15, bank.height / 2}, "LDG\nLTS", {.size = heading_size});
+  screw(canvas, {198, 8}, 3, 12);
+  screw(canvas, {198, plate.height - 8}, 3, 77);
   screw(canvas, {316, 8}, 3, 40);
   screw(canvas, {316, plate.height - 8}, 3, 5);
 }
