@@ -1,0 +1,126 @@
+/// The real program with the real library, from the first click to the sound that a person hears.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <cstring>
+#include <vector>
+
+#include "tests/app/program.h"
+
+namespace {
+
+/// The loudness of each hundredth of a second of a recording, 0 to 1.
+std::vector<double> loudness(const std::string& file) {
+  const std::string bytes = file_text(file);
+  std::vector<double> levels;
+  constexpr std::size_t header = 44, step = 441 * 4;
+  for (std::size_t at = header; at + step <= bytes.size(); at += step) {
+    double sum = 0;
+    for (std::size_t i = at; i < at + step; i += 2) {
+      std::int16_t sample = 0;
+      std::memcpy(&sample, bytes.data() + i, sizeof sample);
+      sum += sample / 32768.0 * (sample / 32768.0);
+    }
+    levels.push_back(std::sqrt(sum / (step / 2)));
+  }
+  return levels;
+}
+
+/// The times at which a sound starts after at least 0.2 s of silence, in seconds.
+std::vector<double> onsets(const std::vector<double>& levels) {
+  constexpr double audible = 0.002;
+  std::vector<double> times;
+  int silent_steps = 20;
+  for (std::size_t i = 0; i < levels.size(); ++i) {
+    if (levels[i] <= audible) {
+      ++silent_steps;
+      continue;
+    }
+    if (silent_steps >= 20) times.push_back(static_cast<double>(i) / 100);
+    silent_steps = 0;
+  }
+  return times;
+}
+
+struct Shipped {
+  const char* flow;
+  std::vector<const char*> pictures;
+};
+
+void PrintTo(const Shipped& shipped, std::ostream* out) { *out << shipped.flow; }
+
+class ShippedFlow : public testing::TestWithParam<Shipped> {};
+
+TEST_P(ShippedFlow, FliesToItsEndAndLeavesPicturesAndSound) {
+  const TempFolder folder;
+  const std::string sound = folder / "flight.wav";
+  const Outcome outcome =
+      tarnvale(std::string("run ") + GetParam().flow + " --png " + (folder / "") + " --wav " + sound);
+  EXPECT_EQ(outcome.exit_code, 0) << outcome.output;
+  for (const char* picture : GetParam().pictures) {
+    EXPECT_TRUE(file_text(folder / (std::string(picture) + ".png")).starts_with("\x89PNG")) << picture;
+  }
+  EXPECT_GE(onsets(loudness(sound)).size(), 5u) << "the switches are heard";
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Flows, ShippedFlow,
+    testing::Values(Shipped{"power_up",
+                            {"1-cold-and-dark", "2-battery", "3-meters", "4-generators", "5-night",
+                             "6-ready"}},
+                    Shipped{"engine_start",
+                            {"1-cold-and-dark", "2-apu-on-line", "3-start-air", "4-both-running"}}),
+    [](const auto& shipped) { return std::string(shipped.param.flow); });
+
+TEST(FlowSound, TheClickIsHeardOnceAtItsTime) {
+  const TempFolder folder;
+  const std::string flow = folder.write("click.lua",
+                                        "wait(2)\nclick('Masterbat', 47, 99)\nwait(3)\n");
+  const std::string sound = folder / "click.wav";
+  const Outcome outcome = tarnvale("run " + flow + " --wav " + sound);
+  ASSERT_EQ(outcome.exit_code, 0) << outcome.output;
+  const std::vector<double> levels = loudness(sound);
+  EXPECT_NEAR(static_cast<double>(levels.size()) / 100, 5, 0.2) << "as long as the flight";
+  const std::vector<double> starts = onsets(levels);
+  ASSERT_EQ(starts.size(), 1u);
+  EXPECT_NEAR(starts[0], 2.0, 0.12) << "within two gauge frames of the press";
+  const auto audible = std::count_if(levels.begin(), levels.end(), [](double l) { return l > 0.002; });
+  EXPECT_LT(audible, 15) << "a toggle click is short and dry";
+}
+
+TEST(FlowFailure, NamesTheFileAndTheLine) {
+  const TempFolder folder;
+  const std::string flow =
+      folder.write("wrong.lua", "wait(1)\nexpect(image('Masterbat', 40) == 1, 'the lamp is dark')\n");
+  const Outcome outcome = tarnvale("run " + flow);
+  EXPECT_EQ(outcome.exit_code, 1);
+  EXPECT_NE(outcome.output.find(flow + ":2: the lamp is dark"), std::string::npos) << outcome.output;
+}
+
+TEST(Library, EveryRecordIsSoundAndEveryBitmapPresent) {
+  const Outcome outcome = tarnvale("check");
+  EXPECT_EQ(outcome.exit_code, 0) << outcome.output;
+  EXPECT_NE(outcome.output.find("every record is sound"), std::string::npos) << outcome.output;
+}
+
+TEST(Library, ExportsItsTwoRecordsAndNothingElse) {
+  const Outcome outcome = run_command("nm -D --defined-only --format=posix " +
+                                      (cockpit_dir / "Tarnvale.GAU").string() + " | cut -d' ' -f1");
+  EXPECT_EQ(outcome.output, "ImportTable\nLinkage\n");
+}
+
+TEST(Library, KeepsItsBitmapsWhenItIsStripped) {
+  const TempFolder folder;
+  const std::string stripped = folder / "Tarnvale.GAU";
+  const Outcome strip =
+      run_command("strip -o " + stripped + " " + (cockpit_dir / "Tarnvale.GAU").string());
+  ASSERT_EQ(strip.exit_code, 0) << strip.output;
+  // Away from the libraries beside it, so that only reading is asked for.
+  const Outcome outcome = run_command("LD_LIBRARY_PATH=" + cockpit_dir.string() + " " +
+                                      (cockpit_dir / "tarnvale").string() + " check " + stripped);
+  EXPECT_EQ(outcome.exit_code, 0) << outcome.output;
+}
+
+}  // namespace
