@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "host/app/ui_pictures.h"
-#include "host/app/x11_scale.h"
+#include "host/app/x11_desktop.h"
 
 namespace host {
 namespace {
@@ -20,6 +20,8 @@ bool is_set(const char* variable) {
   throw std::runtime_error("no display to open a window on (" + reason +
                            "). Without one: tarnvale run --png pictures --wav flight.wav");
 }
+
+bool on_x11() { return std::string_view(SDL_GetCurrentVideoDriver()) == "x11"; }
 
 void set_icon(SDL_Window* window) {
   Overlay icon = draw_icon(64);
@@ -44,17 +46,19 @@ Desktop::Desktop() {
   SDL_SetMainReady();
   SDL_SetHint(SDL_HINT_VIDEO_HIGHDPI_DISABLED, "0");
   SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
+  SDL_SetHint(SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1");  // a switch on another window works at once
   if (SDL_Init(SDL_INIT_VIDEO) != 0) no_display(SDL_GetError());
-  // Plain copies of changed rectangles: a picture in a texture would go to the screen as a whole.
-  if (std::string_view(SDL_GetCurrentVideoDriver()) == "x11")
-    SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
   SDL_EnableScreenSaver();
+  if (!on_x11()) return;
+  // Plain copies of changed rectangles: a picture in a texture would go to the screen as a whole.
+  SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
+  x11_forgive_late_events();
 }
 
 Desktop::~Desktop() { SDL_Quit(); }
 
 double Desktop::scale() {
-  return std::string_view(SDL_GetCurrentVideoDriver()) == "x11" ? x11_scale() : 1.0;
+  return on_x11() ? x11_scale() : 1.0;
 }
 
 PanelSize Desktop::usable_size() {
@@ -99,7 +103,10 @@ void ScreenWindow::toggle_full_screen() {
   SDL_SetWindowFullscreen(window_.get(), full ? 0 : SDL_WINDOW_FULLSCREEN_DESKTOP);
 }
 
-void ScreenWindow::raise() { SDL_RaiseWindow(window_.get()); }
+void ScreenWindow::raise() {
+  SDL_RaiseWindow(window_.get());
+  SDL_SetWindowInputFocus(window_.get());  // where no window manager passes the keyboard on
+}
 
 void ScreenWindow::present(const std::vector<Rect>& changed) {
   SDL_Surface* surface = SDL_GetWindowSurface(window_.get());

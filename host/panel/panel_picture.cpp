@@ -50,23 +50,24 @@ PanelPicture::PanelPicture(const Cockpit& cockpit, std::size_t window, double zo
 }
 
 void PanelPicture::draw(double blend, std::vector<Rect>& changed) {
-  if (face_ != face()) draw_background(changed);
+  if (look_ != look()) draw_background(changed);
   for (std::size_t i = 0; i < items_.size(); ++i) draw_item(i, blend, changed);
 }
 
 // With the panel lights on the whole cockpit is seen by night, not only the windows that have a face
 // of their own for it.
-Face PanelPicture::face() const {
-  return cockpit_.panel_lights_on() ? Face::night : cockpit_.panels().face(window_);
+PanelPicture::Look PanelPicture::look() const {
+  const bool lit = cockpit_.panel_lights_on();
+  return {lit ? Face::night : cockpit_.panels().face(window_), lit};
 }
 
 void PanelPicture::draw_background(std::vector<Rect>& changed) {
-  face_ = face();
-  for (Item& item : items_) item.painter.set_night(cockpit_.panel_lights_on());
+  look_ = look();
+  for (Item& item : items_) item.painter.set_night(look_->lit);
   std::vector<Rect> places;
   for (const Item& item : items_) places.push_back(item.place);
   invalidate();
-  draw_plate(canvas_, config(), cockpit_.config().file.parent_path(), places, *face_, zoom_);
+  draw_plate(canvas_, config(), cockpit_.config().file.parent_path(), places, look_->face, zoom_);
   changed.push_back({0, 0, canvas_.width, canvas_.height});
 }
 

@@ -53,9 +53,14 @@ class PanelPicture {
     Rect place;
     GaugePainter painter;
   };
+  struct Look {
+    Face face;
+    bool lit;
+    bool operator==(const Look&) const = default;
+  };
 
   const WindowConfig& config() const { return cockpit_.config().windows[window_]; }
-  Face face() const;
+  Look look() const;
   void draw_background(std::vector<Rect>& changed);
   void draw_item(std::size_t index, double blend, std::vector<Rect>& changed);
 
@@ -63,7 +68,7 @@ class PanelPicture {
   std::size_t window_;
   double zoom_;
   Canvas canvas_;
-  std::optional<Face> face_;
+  std::optional<Look> look_;  ///< of the last drawing
   std::vector<Item> items_;
   bool areas_marked_ = false;
 };

@@ -14,6 +14,8 @@ struct Case {
   std::string said;  ///< somewhere in the output
 };
 
+void PrintTo(const Case& each, std::ostream* out) { *out << "tarnvale " << each.arguments; }
+
 class BadInput : public testing::TestWithParam<Case> {
  public:
   // Files with faults of their own, made once.

@@ -5,7 +5,7 @@
 #include "host/app/compose.h"
 #include "host/app/journal.h"
 #include "host/app/ui_pictures.h"
-#include "host/app/x11_scale.h"
+#include "host/app/x11_desktop.h"
 #include "tests/app/program.h"
 
 namespace {

@@ -1,6 +1,7 @@
-#include "host/app/x11_scale.h"
+#include "host/app/x11_desktop.h"
 
 #include <X11/Xlib.h>
+#include <X11/Xproto.h>
 
 #include <cstdlib>
 #include <memory>
@@ -9,6 +10,21 @@
 #include "host/panel/text.h"
 
 namespace host {
+namespace {
+
+XErrorHandler next_handler = nullptr;
+
+int forgive(Display* display, XErrorEvent* error) {
+  if (error->error_code == BadWindow && error->request_code == X_SendEvent) return 0;
+  return next_handler ? next_handler(display, error) : 0;
+}
+
+}  // namespace
+
+void x11_forgive_late_events() {
+  const XErrorHandler before = XSetErrorHandler(forgive);
+  if (before != forgive) next_handler = before;
+}
 
 std::optional<double> scale_in_resources(std::string_view resources) {
   for (std::string_view line : split(resources, '\n')) {
