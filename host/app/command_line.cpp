@@ -38,7 +38,9 @@ class CommandLine {
   template <typename Options>
   CLI::App* add(const char* name, const char* what, Options& options, int (*command)(const Options&)) {
     CLI::App* sub = app_.add_subcommand(name, what);
-    sub->callback([this, &options, command] { command_ = [&options, command] { return command(options); }; });
+    sub->callback([this, &options, command] {
+      command_ = [&options, command] { return command(options); };
+    });
     return sub;
   }
 
@@ -53,13 +55,15 @@ class CommandLine {
   void add_fly() {
     CLI::App* sub = add("fly", "Sit in the cockpit: opens a window", fly_, fly);
     add_cockpit(sub, fly_.cockpit);
-    sub->add_option("--scale", fly_.scale, "Scale of the desktop, 1 is 96 dots an inch; else its own setting")
+    sub->add_option("--scale", fly_.scale,
+                    "Scale of the desktop, 1 is 96 dots an inch; else its own setting")
         ->check(CLI::Range(0.5, 8.0));
     sub->add_option("--zoom", fly_.zoom, "Size of the panels, 1 is their own; else what fits the screen")
         ->check(CLI::Range(0.1, 8.0));
     sub->add_option("--open", fly_.open, "Windows to open at once, by their idents");
     sub->add_option("--pictures", fly_.pictures, "Folder for screenshots")->capture_default_str();
-    sub->add_option("--record", fly_.record, "Write your inputs to this file, as a flow that can be run again");
+    sub->add_option("--record", fly_.record,
+                    "Write your inputs to this file, as a flow that can be run again");
     sub->add_option("--exit-after", fly_.exit_after, "Leave after so many seconds")
         ->check(CLI::NonNegativeNumber);
     sub->add_flag("--mute", fly_.mute, "Fly without sound");

@@ -10,8 +10,9 @@ Cursors::Handle Cursors::make(int cursor) const {
   if (cursor != CURSOR_INCREASE && cursor != CURSOR_DECREASE)
     return Handle(SDL_CreateSystemCursor(SDL_SYSTEM_CURSOR_ARROW));
   Overlay picture = draw_turn_cursor(cursor == CURSOR_INCREASE, scale_);
-  SDL_Surface* surface = SDL_CreateRGBSurfaceWithFormatFrom(
-      picture.pixels.data(), picture.width, picture.height, 32, picture.width * 4, SDL_PIXELFORMAT_ARGB8888);
+  SDL_Surface* surface =
+      SDL_CreateRGBSurfaceWithFormatFrom(picture.pixels.data(), picture.width, picture.height, 32,
+                                         picture.width * 4, SDL_PIXELFORMAT_ARGB8888);
   Handle made(surface ? SDL_CreateColorCursor(surface, picture.width / 2, picture.height / 2) : nullptr);
   SDL_FreeSurface(surface);
   return made;

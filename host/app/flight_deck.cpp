@@ -63,29 +63,25 @@ void FlightDeck::run_frames() {
   for (; now() >= frame_due_; frame_due_ += period) {
     cockpit_.frame();
     last_frame_ = frame_due_;
-    frame_ran_ = true;
   }
 }
 
-// Moving parts stand between their last two readings, as far as the time has come since.
+// Moving parts stand between their last two readings, as far as the time has come since, in pictures
+// at an even pace; what stands still is shown with the frame that put it there.
 void FlightDeck::refresh() {
   const double time = now();
-  bool moving = false;
-  views_.each([&](View& view) { moving = moving || view.moving(); });
-  if (moving && !paused_ && !frame_ran_ && time - last_shown_ < picture_time) return;
-  const double blend = moving && !paused_ ? std::clamp((time - last_frame_) * cockpit_.rate(), 0.0, 1.0) : 1.0;
+  const bool moving = views_.moving() && !paused_;
+  if (moving && time < picture_due_) return;
+  const double blend = moving ? std::clamp((time - last_frame_) * cockpit_.rate(), 0.0, 1.0) : 1.0;
   views_.each([&](View& view) { view.refresh(blend); });
-  last_shown_ = time;
-  frame_ran_ = false;
+  picture_due_ = std::max(picture_due_ + picture_time, time);
 }
 
 double FlightDeck::next_deadline() const {
   double next = std::min(notices_.next_tick(), hand_.next_tick());
   if (options_.exit_after) next = std::min(next, *options_.exit_after);
   if (paused_) return next;
-  bool moving = false;
-  const_cast<Views&>(views_).each([&](View& view) { moving = moving || view.moving(); });
-  if (moving) next = std::min(next, last_shown_ + picture_time);
+  if (views_.moving()) next = std::min(next, picture_due_);
   return std::min(next, frame_due_);
 }
 

@@ -60,8 +60,7 @@ class FlightDeck {
   MouseHand hand_;
   double frame_due_ = 0;
   double last_frame_ = 0;
-  double last_shown_ = 0;
-  bool frame_ran_ = false;
+  double picture_due_ = 0;
   bool paused_ = false;
   bool leaving_ = false;
 };

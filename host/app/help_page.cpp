@@ -63,7 +63,8 @@ void draw_keys(Sketch& sketch, std::string_view keys, double y, double unit) {
 }  // namespace
 
 Overlay draw_help(int width, int height, double scale) {
-  const double unit = std::max(0.4, std::min({scale, width * 0.96 / page_width, height * 0.96 / page_height()}));
+  const double fitting = std::min(width * 0.96 / page_width, height * 0.96 / page_height());
+  const double unit = std::max(0.4, std::min(scale, fitting));
   const double wide = page_width * unit, high = page_height() * unit;
   Sketch sketch(static_cast<int>(wide), static_cast<int>(high));
   sketch.rounded_box(0, 0, wide, high, 10 * unit, paper);

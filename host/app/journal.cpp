@@ -35,14 +35,15 @@ void Journal::move(PanelPoint point) { gesture_.to = point; }
 void Journal::release(double now) {
   const Gesture& done = gesture_;
   const double lasting = now - done.start;
-  const std::string right = done.button == MOUSE_RIGHT ? "right_" : "";
+  const std::string side = done.button == MOUSE_RIGHT ? "right_" : "";
   const bool moved = done.from.x != done.to.x || done.from.y != done.to.y;
   if (done.drags && moved)
-    write(done.start, "drag(" + spot() + ", " + pair(done.to) + ", " + waiting(lasting + 0.001) + ")", lasting);
+    write(done.start, "drag(" + spot() + ", " + pair(done.to) + ", " + waiting(lasting + 0.001) + ")",
+          lasting);
   else if (lasting <= click_time)
-    write(done.start, right + "click(" + spot() + ")", frame_);
+    write(done.start, side + "click(" + spot() + ")", frame_);
   else
-    write(done.start, (right.empty() ? "hold(" : "right_hold(") + spot() + ", " + waiting(lasting) + ")", lasting);
+    write(done.start, side + "hold(" + spot() + ", " + waiting(lasting) + ")", lasting);
 }
 
 void Journal::wheel(const std::string& gauge, PanelPoint point, int notches, double now) {

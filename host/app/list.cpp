@@ -1,12 +1,11 @@
 #include <algorithm>
 #include <cstdio>
-#include <fstream>
 #include <map>
-#include <vector>
 
 #include "host/app/columns.h"
 #include "host/app/commands.h"
 #include "host/app/installation.h"
+#include "host/app/wav_facts.h"
 #include "host/panel/text.h"
 
 namespace host {
@@ -68,49 +67,13 @@ void list_rows(std::span<const TableRow> rows) {
   print(columns);
 }
 
-// Length and format of a WAV file, from its chunks.
-struct WavFacts {
-  std::uint32_t rate = 0;
-  std::uint16_t channels = 0;
-  std::uint16_t bits = 0;
-  double seconds = 0;
-};
-
-template <typename Number>
-Number number_at(const std::vector<char>& bytes, std::size_t offset) {
-  Number number = 0;
-  for (std::size_t i = 0; i < sizeof(Number) && offset + i < bytes.size(); ++i)
-    number |= static_cast<Number>(static_cast<Number>(static_cast<unsigned char>(bytes[offset + i])) << 8 * i);
-  return number;
-}
-
-WavFacts read_facts(const fs::path& file) {
-  std::ifstream stream(file, std::ios::binary);
-  const std::vector<char> bytes{std::istreambuf_iterator<char>(stream), {}};
-  WavFacts facts;
-  for (std::size_t at = 12; at + 8 <= bytes.size();) {
-    const std::string id(bytes.data() + at, 4);
-    const auto size = number_at<std::uint32_t>(bytes, at + 4);
-    if (id == "fmt ") {
-      facts.channels = number_at<std::uint16_t>(bytes, at + 10);
-      facts.rate = number_at<std::uint32_t>(bytes, at + 12);
-      facts.bits = number_at<std::uint16_t>(bytes, at + 22);
-    } else if (id == "data") {
-      const double frame = facts.rate * facts.channels * (facts.bits / 8.0);
-      facts.seconds = frame > 0 ? size / frame : 0;
-    }
-    at += 8 + std::size_t(size) + size % 2;
-  }
-  return facts;
-}
-
 void list_sounds(const CockpitOptions& options) {
   const fs::path folder = options.module.parent_path() / "Sound";
   if (!fs::is_directory(folder)) throw std::runtime_error(folder.string() + ": there is no such folder");
   std::map<std::string, WavFacts> sounds;
   for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder))
     if (entry.is_regular_file() && lower(entry.path().extension().string()) == ".wav")
-      sounds[fs::relative(entry.path(), folder).string()] = read_facts(entry.path());
+      sounds[fs::relative(entry.path(), folder).string()] = read_wav_facts(entry.path());
   Columns columns({"seconds", "rate", "bits", "channels", "file"});
   for (const auto& [name, facts] : sounds) {
     char seconds[32];

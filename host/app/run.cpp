@@ -1,7 +1,8 @@
 #include <chrono>
-#include <cmath>
+#include <csignal>
 #include <cstdio>
 #include <memory>
+#include <stdexcept>
 #include <thread>
 
 #include "host/app/commands.h"
@@ -14,6 +15,11 @@ namespace host {
 namespace {
 
 using Clock = std::chrono::steady_clock;
+
+// Ctrl-C ends the flow like a failed expectation, so that its sound file is completed.
+volatile std::sig_atomic_t interrupted = 0;
+
+void interrupt(int) { interrupted = 1; }
 
 // Keeps simulated time from running ahead of the clock.
 class Pacer {
@@ -69,6 +75,7 @@ class FlowRun {
     sound_->advance(seconds);
     if (options_.realtime) pacer_.advance(seconds);
     progress_.tick(cockpit_.seconds());
+    if (interrupted) throw std::runtime_error("interrupted");
   }
 
   static void take_message(const char* text, const char* caption, void* context) {
@@ -92,6 +99,7 @@ class FlowRun {
 
 int run_flow(const RunOptions& options) {
   FlowRun run(options);
+  std::signal(SIGINT, interrupt);
   try {
     run.fly();
   } catch (const FlowError& error) {

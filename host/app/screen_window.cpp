@@ -47,12 +47,11 @@ Desktop::Desktop() {
   SDL_SetHint(SDL_HINT_VIDEO_HIGHDPI_DISABLED, "0");
   SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
   SDL_SetHint(SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1");  // a switch on another window works at once
+  x11_forgive_late_events();
   if (SDL_Init(SDL_INIT_VIDEO) != 0) no_display(SDL_GetError());
   SDL_EnableScreenSaver();
-  if (!on_x11()) return;
   // Plain copies of changed rectangles: a picture in a texture would go to the screen as a whole.
-  SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
-  x11_forgive_late_events();
+  if (on_x11()) SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
 }
 
 Desktop::~Desktop() { SDL_Quit(); }
@@ -93,11 +92,6 @@ bool ScreenWindow::take_size() {
   return true;
 }
 
-void ScreenWindow::resize(int width, int height) {
-  const double units = 1.0 / density();
-  SDL_SetWindowSize(window_.get(), static_cast<int>(width * units), static_cast<int>(height * units));
-}
-
 void ScreenWindow::toggle_full_screen() {
   const bool full = SDL_GetWindowFlags(window_.get()) & SDL_WINDOW_FULLSCREEN_DESKTOP;
   SDL_SetWindowFullscreen(window_.get(), full ? 0 : SDL_WINDOW_FULLSCREEN_DESKTOP);
@@ -111,9 +105,10 @@ void ScreenWindow::raise() {
 void ScreenWindow::present(const std::vector<Rect>& changed) {
   SDL_Surface* surface = SDL_GetWindowSurface(window_.get());
   if (!surface || SDL_LockSurface(surface) != 0) return;
+  const PanelSize common{std::min(surface->w, canvas_.width), std::min(surface->h, canvas_.height)};
   std::vector<SDL_Rect> rects;
   for (const Rect& each : changed) {
-    const Rect rect = within(each, {std::min(surface->w, canvas_.width), std::min(surface->h, canvas_.height)});
+    const Rect rect = within(each, common);
     if (rect.width == 0 || rect.height == 0) continue;
     auto* to = static_cast<Uint8*>(surface->pixels) + std::ptrdiff_t(rect.y) * surface->pitch +
                std::ptrdiff_t(rect.x) * surface->format->BytesPerPixel;
@@ -123,7 +118,8 @@ void ScreenWindow::present(const std::vector<Rect>& changed) {
     rects.push_back({rect.x, rect.y, rect.width, rect.height});
   }
   SDL_UnlockSurface(surface);
-  if (!rects.empty()) SDL_UpdateWindowSurfaceRects(window_.get(), rects.data(), static_cast<int>(rects.size()));
+  if (rects.empty()) return;
+  SDL_UpdateWindowSurfaceRects(window_.get(), rects.data(), static_cast<int>(rects.size()));
 }
 
 }  // namespace host

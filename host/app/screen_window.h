@@ -42,8 +42,6 @@ class ScreenWindow {
   /// Takes the window's present size. Returns whether it has changed.
   bool take_size();
 
-  /// Asks for another size in pixels.
-  void resize(int width, int height);
   void toggle_full_screen();
 
   /// Brings it to the front and gives it the keyboard.

@@ -96,8 +96,9 @@ Overlay draw_turn_cursor(bool increase, double scale) {
   const int size = pixels(24 * scale);
   const double middle = size / 2.0, radius = 9 * scale, arm = 4.5 * scale;
   Sketch sketch(size, size);
-  sketch.rounded_box(middle - radius, middle - radius, 2 * radius, 2 * radius, radius, {0, 0, 0, 0.65});
-  sketch.box_outline(middle - radius, middle - radius, 2 * radius, 2 * radius, radius - scale, 1.5 * scale, ink);
+  const double corner = middle - radius, side = 2 * radius;
+  sketch.rounded_box(corner, corner, side, side, radius, {0, 0, 0, 0.65});
+  sketch.box_outline(corner, corner, side, side, radius - scale, 1.5 * scale, ink);
   sketch.line(middle - arm, middle, middle + arm, middle, 2 * scale, ink);
   if (increase) sketch.line(middle, middle - arm, middle, middle + arm, 2 * scale, ink);
   return sketch.finish();

@@ -62,10 +62,6 @@ void View::relayout() {
   all_changed_ = true;
 }
 
-bool View::can_scroll() const {
-  return layout_.width > screen_.size().width || layout_.height > screen_.size().height;
-}
-
 void View::limit_scroll() {
   const PanelSize size = screen_.size();
   scroll_.x = std::clamp(scroll_.x, std::min(0, size.width - layout_.width), 0);

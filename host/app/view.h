@@ -46,7 +46,6 @@ class View {
 
   /// Moves the panels under the window where they do not all fit.
   void scroll(int dx, int dy);
-  bool can_scroll() const;
 
   /// Takes a new size of the desktop's window.
   void take_size();

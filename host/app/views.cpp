@@ -73,6 +73,11 @@ void Views::toggle_torn(std::size_t window) {
   arrange_panels();
 }
 
+bool Views::moving() const {
+  return main_->moving() ||
+         std::ranges::any_of(torn_, [](const auto& entry) { return entry.second->moving(); });
+}
+
 View* Views::find(Uint32 id) {
   View* found = nullptr;
   each([&](View& view) {

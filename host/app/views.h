@@ -29,6 +29,9 @@ class Views {
   View* find(Uint32 id);
   std::optional<std::size_t> torn_window(Uint32 id) const;
 
+  /// Whether anything in any of them has moved with the last frame.
+  bool moving() const;
+
   template <typename Work>
   void each(Work work) {
     work(*main_);

@@ -11,8 +11,6 @@ constexpr std::uint32_t panel_lights = 10;  // host token, 0/1
 
 }  // namespace
 
-bool CockpitGauge::moving() const { return !std::ranges::equal(run.before(), run.now()); }
-
 Cockpit::Cockpit(GaugeModule& module, PanelConfig config, double rate)
     : module_(module), config_(std::move(config)), panels_(config_), rate_(rate) {
   for (const WindowConfig& window : config_.windows) place_gauges(window);
@@ -100,6 +98,8 @@ void Cockpit::run(CockpitGauge& gauge) {
   if (!gauge.started) gauge.run.start(module_.handle());
   gauge.started = true;
   gauge.run.frame(aircraft_);
+  gauge.moving = !std::ranges::equal(gauge.run.before(), gauge.run.now());
+  gauge.changes += gauge.moving;
 }
 
 }  // namespace host

@@ -45,7 +45,8 @@ PanelPicture::PanelPicture(const Cockpit& cockpit, std::size_t window, double zo
   for (const PlacedGauge& placed : cockpit.windows()[window].gauges) {
     const Rect place = scaled(placed.place, zoom_);
     items_.push_back({placed.gauge, place,
-                      GaugePainter(placed.gauge->header(), cockpit.module().bitmaps(), place)});
+                      GaugePainter(placed.gauge->header(), cockpit.module().bitmaps(), place),
+                      {}});
   }
 }
 
@@ -71,18 +72,28 @@ void PanelPicture::draw_background(std::vector<Rect>& changed) {
   changed.push_back({0, 0, canvas_.width, canvas_.height});
 }
 
+// A gauge at rest that was drawn at rest is not even looked at.
 // A gauge that is drawn again covers what stands on it, so that is drawn again too.
 void PanelPicture::draw_item(std::size_t index, double blend, std::vector<Rect>& changed) {
   Item& item = items_[index];
+  if (!item.gauge->moving) {
+    if (item.changes == item.gauge->changes) return;
+    item.changes = item.gauge->changes;
+  }
   if (!item.painter.draw(canvas_, item.gauge->run.before(), item.gauge->run.now(), blend)) return;
   if (areas_marked_) draw_area_marks(canvas_, item.gauge->areas, item.gauge->size, item.place);
   changed.push_back(item.place);
   for (std::size_t above = index + 1; above < items_.size(); ++above)
-    if (overlap(items_[above].place, item.place)) items_[above].painter.invalidate();
+    if (overlap(items_[above].place, item.place)) invalidate(items_[above]);
 }
 
 void PanelPicture::invalidate() {
-  for (Item& item : items_) item.painter.invalidate();
+  for (Item& item : items_) invalidate(item);
+}
+
+void PanelPicture::invalidate(Item& item) {
+  item.painter.invalidate();
+  item.changes.reset();
 }
 
 void PanelPicture::mark_areas(bool marked) {
@@ -91,7 +102,7 @@ void PanelPicture::mark_areas(bool marked) {
 }
 
 bool PanelPicture::moving() const {
-  return std::ranges::any_of(items_, [](const Item& item) { return item.gauge->moving(); });
+  return std::ranges::any_of(items_, [](const Item& item) { return item.gauge->moving; });
 }
 
 std::optional<PanelHit> PanelPicture::hit(int x, int y) const {

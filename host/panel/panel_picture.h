@@ -52,6 +52,7 @@ class PanelPicture {
     CockpitGauge* gauge;
     Rect place;
     GaugePainter painter;
+    std::optional<std::uint64_t> changes;  // of the gauge when it was last drawn at rest
   };
   struct Look {
     Face face;
@@ -62,6 +63,7 @@ class PanelPicture {
   const WindowConfig& config() const { return cockpit_.config().windows[window_]; }
   Look look() const;
   void draw_background(std::vector<Rect>& changed);
+  static void invalidate(Item& item);
   void draw_item(std::size_t index, double blend, std::vector<Rect>& changed);
 
   const Cockpit& cockpit_;

@@ -56,7 +56,7 @@ class Screen {
   explicit Screen(const std::string& size) {
     int ends[2];
     if (pipe(ends) != 0) return;
-    server_ = std::make_unique<Child>("Xvfb -displayfd 3 -nolisten tcp -screen 0 " + size + " 2>/dev/null", ends[1]);
+    server_ = std::make_unique<Child>("Xvfb -displayfd 3 -nolisten tcp -noreset -screen 0 " + size + " 2>/dev/null", ends[1]);
     close(ends[1]);
     char number[16] = {};
     for (std::size_t at = 0; at < sizeof number - 1 && read(ends[0], number + at, 1) == 1; ++at)
@@ -66,6 +66,8 @@ class Screen {
   }
 
   std::string environment() const { return "env -u WAYLAND_DISPLAY -u SDL_VIDEODRIVER DISPLAY=" + display_ + " "; }
+
+  const std::string& display() const { return display_; }
 
   /// Works mouse and keyboard, in xdotool's words.
   Outcome hands(const std::string& what) const { return run_command(environment() + "xdotool " + what); }

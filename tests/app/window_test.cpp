@@ -8,6 +8,7 @@
 #include "host/app/ui_pictures.h"
 #include "host/panel/layout.h"
 #include "tests/app/screen.h"
+#include "tests/app/x11_resources.h"
 
 namespace {
 
@@ -156,6 +157,26 @@ TEST_F(InAWindow, AHeldButtonRepeatsAndClosingTheWindowLeaves) {
   EXPECT_TRUE(recorded("hold(\"Masterbat\", 47, 99, 0.")) << file_text(record);
   screen->hands("key p sleep 0.2 key p");
   EXPECT_EQ(leave(), 0);
+}
+
+TEST(Fly, FollowsTheScaleOfTheDesktop) {
+  if (!Screen::available()) GTEST_SKIP() << "needs Xvfb and xdotool";
+  const Screen screen("1920x1080x24");
+  const TempFolder folder;
+  const std::string config = folder.write("panel.cfg", panel);
+  for (const auto& [resources, option, width] : {std::tuple{"Xft.dpi: 96\n", "", 560 + 12},
+                                                 {"Xft.dpi: 192\n", "", 2 * 560 + 24},
+                                                 {"Xft.dpi: 192\n", "--scale 1", 560 + 12}}) {
+    ASSERT_TRUE(set_x11_resources(screen.display(), resources));
+    const Child program(screen.environment() + (cockpit_dir / "tarnvale").string() + " fly --mute --zoom 1 " + option +
+                            " --exit-after 20 --panel " + config,
+                        -1);
+    const std::string wanted = "Geometry: " + std::to_string(width) + "x";
+    EXPECT_TRUE(eventually([&] {
+      return screen.hands("search --onlyvisible --name Tarnvale getwindowgeometry").output.find(wanted) !=
+             std::string::npos;
+    })) << resources << option << " does not open " << width << " pixels wide";
+  }
 }
 
 TEST(Fly, LeavesByItselfWhenAsked) {
