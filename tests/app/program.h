@@ -12,29 +12,9 @@
 #include <fstream>
 #include <string>
 
+#include "tests/rig/temp_folder.h"
+
 inline const std::filesystem::path cockpit_dir = COCKPIT_DIR;
-
-/// A folder that goes away with the test.
-class TempFolder {
- public:
-  TempFolder() {
-    std::string name = (std::filesystem::temp_directory_path() / "tarnvale-XXXXXX").string();
-    path_ = mkdtemp(name.data());
-  }
-  ~TempFolder() { std::filesystem::remove_all(path_); }
-  TempFolder(const TempFolder&) = delete;
-  TempFolder& operator=(const TempFolder&) = delete;
-
-  std::string operator/(const std::string& name) const { return (path_ / name).string(); }
-
-  std::string write(const std::string& name, const std::string& text) const {
-    std::ofstream(path_ / name, std::ios::binary) << text;
-    return *this / name;
-  }
-
- private:
-  std::filesystem::path path_;
-};
 
 struct Outcome {
   int exit_code = -1;

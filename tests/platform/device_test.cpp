@@ -6,7 +6,7 @@
 #include <thread>
 
 #include "tests/platform/rendered_sound.h"
-#include "tests/platform/temp_folder.h"
+#include "tests/rig/temp_folder.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 
 #include <array>
 
-#include "tests/platform/temp_folder.h"
+#include "tests/rig/temp_folder.h"
 
 namespace {
 

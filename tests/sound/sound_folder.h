@@ -12,7 +12,7 @@
 
 #include "platform/platform_host.h"
 #include "sound/sound_table.h"
-#include "tests/platform/temp_folder.h"
+#include "tests/rig/temp_folder.h"
 #include "tests/sound/wav_bytes.h"
 
 constexpr std::size_t sound_length = 200;  // frames

@@ -5,7 +5,7 @@
 #include <sstream>
 
 #include "tests/platform/rendered_sound.h"
-#include "tests/platform/temp_folder.h"
+#include "tests/rig/temp_folder.h"
 
 namespace {
 

@@ -13,7 +13,7 @@
 class TempFolder {
  public:
   TempFolder() {
-    std::string pattern = testing::TempDir() + "cockpit-XXXXXX";
+    std::string pattern = testing::TempDir() + "cockpit-" + std::string(6, 'X');
     path_ = mkdtemp(pattern.data());
   }
   ~TempFolder() {
@@ -24,6 +24,7 @@ class TempFolder {
   TempFolder& operator=(const TempFolder&) = delete;
 
   const std::filesystem::path& path() const { return path_; }
+  std::string operator/(const std::string& name) const { return (path_ / name).string(); }
 
   /// Writes a file, and the folders it lies in. Returns its path.
   std::string write(const std::string& name, std::string_view contents) const {
