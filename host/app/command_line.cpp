@@ -2,6 +2,7 @@
 
 #include <cstdio>
 #include <functional>
+#include <string>
 
 #include "host/app/commands.h"
 
@@ -23,6 +24,10 @@ class CommandLine {
   }
 
   int run(int argc, char** argv) {
+    if (argc > 1 && argv[1][0] != '-' && !is_command(argv[1])) {
+      std::fprintf(stderr, "there is no command '%s'; tarnvale --help lists them\n", argv[1]);
+      return exit_usage;
+    }
     try {
       app_.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
@@ -35,6 +40,11 @@ class CommandLine {
   }
 
  private:
+  bool is_command(const std::string& name) const {
+    const auto commands = app_.get_subcommands([&](const CLI::App* app) { return app->check_name(name); });
+    return !commands.empty();
+  }
+
   template <typename Options>
   CLI::App* add(const char* name, const char* what, Options& options, int (*command)(const Options&)) {
     CLI::App* sub = app_.add_subcommand(name, what);

@@ -9,7 +9,7 @@
 #include "host/app/installation.h"
 #include "host/app/progress.h"
 #include "host/script/flow_api.h"
-#include "host/script/soundtrack.h"
+#include "host/sound/wav_recorder.h"
 
 namespace host {
 namespace {
@@ -44,7 +44,7 @@ class FlowRun {
         cockpit_(module_, read_panel_config(cockpit_options_.panel), cockpit_options_.rate),
         session_(cockpit_, surroundings()) {
     if (!options.pictures.empty()) prepare_folder(options.pictures);
-    if (!options.sound.empty()) sound_ = std::make_unique<Soundtrack>(options.sound.string());
+    if (!options.sound.empty()) sound_ = std::make_unique<WavRecorder>(options.sound.string());
     prepare_platform(cockpit_options_, PLATFORM_AUDIO_RENDERED);
     platform_on_message(take_message, this);
   }
@@ -89,7 +89,7 @@ class FlowRun {
   std::filesystem::path flow_;
   Progress progress_;
   Pacer pacer_;
-  std::unique_ptr<Soundtrack> sound_ = std::make_unique<Soundtrack>();
+  std::unique_ptr<WavRecorder> sound_ = std::make_unique<WavRecorder>();
   GaugeModule module_;
   Cockpit cockpit_;
   FlowSession session_;

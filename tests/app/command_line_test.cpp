@@ -59,7 +59,7 @@ INSTANTIATE_TEST_SUITE_P(
     Commands, BadInput,
     testing::Values(
         Case{"no_command", "", 2, "subcommand is required"},
-        Case{"unknown_command", "sail", 2, "subcommand is required"},
+        Case{"unknown_command", "sail", 2, "there is no command 'sail'"},
         Case{"unknown_option", "run --speed 3", 2, "--speed"},
         Case{"bad_rate", "run --rate 0", 2, "--rate"},
         Case{"unknown_list", "list clouds", 2, "clouds"},
