@@ -34,6 +34,8 @@ void FlightDeck::take_key(const SDL_Keysym& key) {
     case SDLK_MINUS: case SDLK_KP_MINUS: change_zoom(1 / 1.125); break;
     case SDLK_0: case SDLK_KP_0: views_.main().set_zoom(std::nullopt); break;
     case SDLK_d: toggle_panel_lights(); break;
+    case SDLK_F5: move_fuel_lever(1); break;
+    case SDLK_F6: move_fuel_lever(2); break;
     case SDLK_p: toggle_pause(); break;
     case SDLK_s: case SDLK_F12: save_picture(); break;
     case SDLK_h: case SDLK_F1: notices_.toggle_help(); break;
@@ -66,12 +68,22 @@ void FlightDeck::toggle_torn() {
   views_.toggle_torn(*window);
 }
 
+void FlightDeck::send(const char* event) {
+  cockpit_.aircraft().key_event(number_of(AircraftModel::events(), event), 0);
+  journal_.call("event(\"" + std::string(event) + "\")", cockpit_.seconds());
+}
+
+void FlightDeck::move_fuel_lever(int engine) {
+  send(engine == 1 ? "fuel_lever_1_toggle" : "fuel_lever_2_toggle");
+  const char* token = engine == 1 ? "fuel_lever_1" : "fuel_lever_2";
+  const bool open = cockpit_.aircraft().token(number_of(AircraftModel::tokens(), token)) != 0;
+  notices_.add("Fuel lever " + std::to_string(engine) + (open ? " open" : " closed"), now());
+}
+
 // The main panels' faces follow, as they do for the switch on the panel.
 void FlightDeck::toggle_panel_lights() {
   AircraftModel& aircraft = cockpit_.aircraft();
-  const std::uint32_t event = number_of(AircraftModel::events(), panel_lights_event);
-  aircraft.key_event(event, 0);
-  journal_.call("event(\"" + std::string(panel_lights_event) + "\")", cockpit_.seconds());
+  send(panel_lights_event);
   const bool night = aircraft.token(number_of(AircraftModel::tokens(), panel_lights_token)) != 0;
   for (const WindowConfig& window : cockpit_.config().windows) {
     const std::uint32_t face = night ? window.night_ident : window.day_ident;
