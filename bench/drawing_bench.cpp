@@ -58,15 +58,15 @@ void add_pictures(MadeBitmaps& bitmaps, int density) {
         [=](int x, int y) { return disc(x, y, 17 * d, image * 0x020304u | 0xFF000000u); }, d);
   bitmaps.add(
       30, 75, 9,
-      [=](int x, int y) {
-        return std::abs(y - 4.5 * d) < d * (5 - x * 0.05 / d) ? 0xFFF0F0E8u : 0;
-      },
+      [=](int x, int y) { return std::abs(y - 4.5 * d) < d * (5 - x * 0.05 / d) ? 0xFFF0F0E8u : 0; },
       d);
   bitmaps.add(
       40, 10, 150,
       [=](int x, int y) { return 0xFF101010u + static_cast<std::uint32_t>((x + y) % 200); }, d);
-  bitmaps.add(50, 120, 120, [=](int x, int y) { return disc(x, y, 60 * d, 0xFF204060); }, d);
-  bitmaps.add(60, 12, 12, [=](int x, int y) { return disc(x, y, 6 * d, 0xFFFFA000); }, d);
+  bitmaps.add(
+      50, 120, 120, [=](int x, int y) { return disc(x, y, 60 * d, 0xFF204060); }, d);
+  bitmaps.add(
+      60, 12, 12, [=](int x, int y) { return disc(x, y, 6 * d, 0xFFFFA000); }, d);
 }
 
 char text[8] = "000";

@@ -26,9 +26,9 @@ void look_up(TokenVariable* variable) {
   variable->value = token_values[variable->token & 1023];
 }
 
-constexpr PanelServices services{ignore, ignore_argument, ignore,       ignore,       ignore_argument,
-                                 ignore, ignore,          ignore_ident, ignore_event, look_up,
-                                 ignore_ident, ignore_ident};
+constexpr PanelServices services{ignore,          ignore_argument, ignore,       ignore,
+                                 ignore_argument, ignore,          ignore,       ignore_ident,
+                                 ignore_event,    look_up,         ignore_ident, ignore_ident};
 
 struct Call {
   ValueRoutine routine;
@@ -140,7 +140,7 @@ int main() {
   }
   std::printf("%zu gauges, %zu values, %zu look-ups a frame\n", panel.gauges.size(), floor.values,
               floor.lookups);
-  std::printf("frame %.2f us, floor %.2f us, ratio %.2f (aim: at most 1.5)\n",
-              median(frames) / 1000, median(floors) / 1000, median(ratios));
+  std::printf("frame %.2f us, floor %.2f us, ratio %.2f (aim: at most 1.5)\n", median(frames) / 1000,
+              median(floors) / 1000, median(ratios));
   return sink != sink;
 }

@@ -71,7 +71,7 @@ typedef struct NonlinearityPoint {
 /* ---- Routines ------------------------------------------------------------------------------ */
 
 /* Called by the host once a frame for each value of a shown element, after its source was filled. */
-typedef f64 (*ValueRoutine)(Element *element);
+typedef f64 (*ValueRoutine)(Element* element);
 
 /* Called by the host for each click, repeat or drag step. `point` is relative to the area that was
  * hit; `mouse_flags` holds the bits of enum MouseFlag that fired. The result is not used. */
@@ -79,18 +79,18 @@ typedef i32 (*MouseRoutine)(PanelPoint point, u32 mouse_flags);
 
 /* Called by the host with an id of enum ServiceId. `extra_data` is the module's handle for
  * SERVICE_START and 0 otherwise. */
-typedef void (*ServiceRoutine)(const GaugeHeader *gauge, u32 service_id, uintptr_t extra_data);
+typedef void (*ServiceRoutine)(const GaugeHeader* gauge, u32 service_id, uintptr_t extra_data);
 
 typedef void (*HeaderRoutine)(void);
 typedef void (*HeaderArgumentRoutine)(uintptr_t argument);
 
 enum ServiceId {
-  SERVICE_START = 3,         /* once, before the gauge's first frame */
-  SERVICE_TICK = 6,          /* every frame, before the element values are taken */
-  SERVICE_AFTER_VALUES = 7,  /* every frame, after the element values are taken */
-  SERVICE_BEFORE_DRAW = 10,  /* every frame, before drawing */
-  SERVICE_END = 12,          /* once, when the gauge's window is destroyed for good */
-  SERVICE_SET_UP = 14        /* once, after SERVICE_START */
+  SERVICE_START = 3,        /* once, before the gauge's first frame */
+  SERVICE_TICK = 6,         /* every frame, before the element values are taken */
+  SERVICE_AFTER_VALUES = 7, /* every frame, after the element values are taken */
+  SERVICE_BEFORE_DRAW = 10, /* every frame, before drawing */
+  SERVICE_END = 12,         /* once, when the gauge's window is destroyed for good */
+  SERVICE_SET_UP = 14       /* once, after SERVICE_START */
 };
 
 /* ---- Elements ------------------------------------------------------------------------------ */
@@ -106,7 +106,7 @@ enum ElementKind {
 };
 
 /* Bits of Element.image_flags that the host acts on. */
-#define IMAGE_HIDE_CHAIN 0x2000000u    /* the element and all after it: neither evaluated nor drawn */
+#define IMAGE_HIDE_CHAIN   0x2000000u  /* the element and all after it: neither evaluated nor drawn */
 #define IMAGE_HIDE_PICTURE 0x40000000u /* only this element's picture; its routines still run */
 
 /* Shows image number `value` of `image_count` bitmaps numbered from the element's resource id. */
@@ -123,7 +123,7 @@ typedef struct NeedlePart {
   PanelPoint center;
   TokenVariable source;
   ValueRoutine value;
-  const NonlinearityPoint *table; /* or null: the value is degrees clockwise */
+  const NonlinearityPoint* table; /* or null: the value is degrees clockwise */
   u32 table_length;
   u32 reserved;
   f64 rate_limit; /* greatest speed in full scales a second; 0: none */
@@ -140,8 +140,8 @@ typedef struct StringPart {
   u32 weight; /* 400 normal, 700 bold */
   u32 character_set;
   u32 max_characters;
-  const char *font;
-  char *text; /* max_characters + 1 bytes, zero-terminated */
+  const char* font;
+  char* text; /* max_characters + 1 bytes, zero-terminated */
 } StringPart;
 
 /* Stands at its position plus value x scale pixels on each axis; a scale of 0 means no motion. */
@@ -184,12 +184,12 @@ typedef struct SpritePart {
 } SpritePart;
 
 struct Element {
-  u32 kind;             /* enum ElementKind */
-  i32 resource_id;      /* -1 for strings */
-  PanelPoint position;  /* pixels of the gauge's background */
-  const GaugeHeader *gauge;
-  Element *const *next; /* a null-terminated list, or null */
-  const FailureEntry *failures; /* or null */
+  u32 kind;            /* enum ElementKind */
+  i32 resource_id;     /* -1 for strings */
+  PanelPoint position; /* pixels of the gauge's background */
+  const GaugeHeader* gauge;
+  Element* const* next;         /* a null-terminated list, or null */
+  const FailureEntry* failures; /* or null */
   u32 image_flags;
   u32 reserved; /* 0 */
   union {
@@ -214,10 +214,10 @@ enum MouseAreaKind {
 
 enum MouseCursor { CURSOR_ARROW = -1, CURSOR_INCREASE = 1, CURSOR_DECREASE = 2, CURSOR_HAND = 5 };
 
-#define MOUSE_LEFT 0x20000000u
-#define MOUSE_RIGHT 0x80000000u
+#define MOUSE_LEFT   0x20000000u
+#define MOUSE_RIGHT  0x80000000u
 #define MOUSE_REPEAT 0x00200000u /* repeats while held */
-#define MOUSE_DRAG 0x00800000u   /* called with the pointer's position for every move while held */
+#define MOUSE_DRAG   0x00800000u /* called with the pointer's position for every move while held */
 
 typedef struct MouseArea {
   u32 kind; /* enum MouseAreaKind */
@@ -232,9 +232,9 @@ typedef struct MouseArea {
   u32 reserved; /* 0 */
   union {
     MouseRoutine routine;
-    const char *tooltip;
+    const char* tooltip;
   };
-  const void *extra_data;
+  const void* extra_data;
 } MouseArea;
 
 /* ---- Gauge header -------------------------------------------------------------------------- */
@@ -244,8 +244,8 @@ typedef struct MouseArea {
 struct GaugeHeader {
   u32 header_version; /* GAUGE_HEADER_VERSION */
   u32 reserved;       /* 0 */
-  const char *name;
-  Element *element_list[2]; /* the root, then null */
+  const char* name;
+  Element* element_list[2]; /* the root, then null */
   HeaderRoutine query;
   HeaderArgumentRoutine install;
   HeaderRoutine initialize;
@@ -254,8 +254,8 @@ struct GaugeHeader {
   HeaderRoutine draw;
   HeaderRoutine kill;
   u32 width_mm;
-  u32 reserved2; /* 0 */
-  const MouseArea *mouse_areas; /* ends with MOUSE_END */
+  u32 reserved2;                /* 0 */
+  const MouseArea* mouse_areas; /* ends with MOUSE_END */
   ServiceRoutine service;       /* or null */
   u32 user_data;                /* 0; the host's */
   u32 reserved3;                /* 0 */
@@ -265,16 +265,16 @@ struct GaugeHeader {
 
 /* What the host does for a module. */
 typedef struct PanelServices {
-  void (*element_list_query)(const Element *root);
-  void (*element_list_install)(const Element *root, uintptr_t argument);
-  void (*element_list_initialize)(const Element *root);
-  void (*element_list_update)(const Element *root);
-  void (*element_list_generate)(const Element *root, uintptr_t argument);
-  void (*element_list_plot)(const Element *root);
-  void (*element_list_kill)(const Element *root);
+  void (*element_list_query)(const Element* root);
+  void (*element_list_install)(const Element* root, uintptr_t argument);
+  void (*element_list_initialize)(const Element* root);
+  void (*element_list_update)(const Element* root);
+  void (*element_list_generate)(const Element* root, uintptr_t argument);
+  void (*element_list_plot)(const Element* root);
+  void (*element_list_kill)(const Element* root);
   void (*panel_window_toggle)(u32 ident);
   void (*trigger_key_event)(u32 event, u32 value);
-  void (*lookup_var)(TokenVariable *variable);
+  void (*lookup_var)(TokenVariable* variable);
   void (*panel_window_close_ident)(u32 ident);
   void (*panel_window_open_ident)(u32 ident);
 } PanelServices;
@@ -285,15 +285,15 @@ typedef struct PanelServices {
 typedef struct ImportEntry {
   u32 identifier;
   u32 reserved;
-  const void *pointer;
+  const void* pointer;
 } ImportEntry;
 
 typedef struct ImportTableRecord {
   ImportEntry entries[2]; /* the second is all zeros: the end */
 } ImportTableRecord;
 
-#define LINKAGE_MODULE_ID 0x13u
-#define LINKAGE_VERSION 0x900u
+#define LINKAGE_MODULE_ID   0x13u
+#define LINKAGE_VERSION     0x900u
 #define LINKAGE_GAUGE_COUNT 120
 
 typedef struct LinkageRecord {
@@ -305,15 +305,15 @@ typedef struct LinkageRecord {
   u32 priority; /* 0 */
   u32 version;  /* LINKAGE_VERSION */
   u32 reserved2;
-  const GaugeHeader *gauges[LINKAGE_GAUGE_COUNT + 1]; /* the last is null */
+  const GaugeHeader* gauges[LINKAGE_GAUGE_COUNT + 1]; /* the last is null */
 } LinkageRecord;
 
 /* ---- Bitmaps ------------------------------------------------------------------------------- */
 
 #define PANEL_RESOURCE_SECTION ".panelres"
-#define PANEL_RESOURCE_MAGIC "PANELRES"
+#define PANEL_RESOURCE_MAGIC   "PANELRES"
 #define PANEL_RESOURCE_VERSION 1u
-#define PANEL_RESOURCE_NAMED 0xFFFFFFFFu
+#define PANEL_RESOURCE_NAMED   0xFFFFFFFFu
 
 /* At the start of the section; the directory follows at once. Little-endian. */
 typedef struct PanelResourceHeader {

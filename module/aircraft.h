@@ -16,12 +16,12 @@ struct Aircraft {
   u32 cabin_sign_right_on = 0;
 
   // ---- Electrical power and lighting
-  u32 dc_power_on = 0;             ///< mirrors the host's battery
-  u32 avionics_master_on = 0;      ///< mirrors the host's avionics master
+  u32 dc_power_on = 0;         ///< mirrors the host's battery
+  u32 avionics_master_on = 0;  ///< mirrors the host's avionics master
   u32 battery_panel_button_on = 0;
   u32 ext_power_switch = 0;
-  u32 gen1_switch = 0;             ///< 0 centre, 1 up, 2 down
-  u32 gen2_switch = 0;             ///< 0 centre, 1 up, 2 down
+  u32 gen1_switch = 0;  ///< 0 centre, 1 up, 2 down
+  u32 gen2_switch = 0;  ///< 0 centre, 1 up, 2 down
   u32 acpwr_button_left_on = 0;
   u32 acpwr_button_right_on = 0;
   u32 acpwr_switch_left_on = 0;
@@ -43,34 +43,34 @@ struct Aircraft {
   u32 bleed_valve_mid_right = 0;
   u32 bleed_valve_bottom_left = 0;
   u32 bleed_valve_bottom_right = 0;
-  u32 bleed_lineup_ok = 0;       ///< the valves stand for an engine start
-  u32 duct_pressure_light = 0;   ///< 0 dark, 1 green, 2 amber
+  u32 bleed_lineup_ok = 0;      ///< the valves stand for an engine start
+  u32 duct_pressure_light = 0;  ///< 0 dark, 1 green, 2 amber
   u32 start_air_available = 0;
   u32 start_master_switch = 0;
-  u32 start_selector = 0;        ///< 0 centre, 1 right (engine 2), 2 left (engine 1)
-  u32 eng1_start_switch = 0;     ///< 0 down, 1 centre (armed), 2 up (start complete)
-  u32 eng2_start_switch = 0;     ///< 0 down, 1 centre (armed), 2 up (start complete)
+  u32 start_selector = 0;     ///< 0 centre, 1 right (engine 2), 2 left (engine 1)
+  u32 eng1_start_switch = 0;  ///< 0 down, 1 centre (armed), 2 up (start complete)
+  u32 eng2_start_switch = 0;  ///< 0 down, 1 centre (armed), 2 up (start complete)
   u32 aircon_left_on = 0;
   u32 aircon_right_on = 0;
   u32 aircon_left_auto = 0;
   u32 aircon_right_auto = 0;
   u32 aircon_valve_left = 0;
   u32 aircon_valve_right = 0;
-  u32 temp_selector_left = 0;    ///< 0..9
-  u32 temp_selector_right = 0;   ///< 0..9
+  u32 temp_selector_left = 0;   ///< 0..9
+  u32 temp_selector_right = 0;  ///< 0..9
   u32 temp_override_switch = 0;
   u32 duct_left_temp_normal = 0;   ///< 0 hot
   u32 duct_right_temp_normal = 0;  ///< 0 hot
   u32 cabin_diff_pressure = 0;     ///< 10..100 in the needle's scale
   u32 apu_master_switch = 0;
   u32 apu_running = 0;
-  u32 apu_gen_switch = 0;          ///< 0 centre, 1 up (on line), 2 down
+  u32 apu_gen_switch = 0;  ///< 0 centre, 1 up (on line), 2 down
   u32 apu_bleed_switch = 0;
   u32 apu_at_speed = 0;
   u32 apu_speed_above_1000 = 1;
-  u32 engine_antiice_left = 0;     ///< 0..3; 1 and 3 on
-  u32 engine_antiice_right = 0;    ///< 0..3; 1 and 3 on
-  u32 antiice_upper_switch = 0;    ///< 0 centre, 1 up (left engine), 2 down (right engine)
+  u32 engine_antiice_left = 0;   ///< 0..3; 1 and 3 on
+  u32 engine_antiice_right = 0;  ///< 0..3; 1 and 3 on
+  u32 antiice_upper_switch = 0;  ///< 0 centre, 1 up (left engine), 2 down (right engine)
   u32 wing_antiice_left = 0;
   u32 wing_antiice_right = 0;
   u32 pitot_heat_left = 0;
@@ -91,15 +91,15 @@ struct Aircraft {
   u32 adi_flag_test_active = 0;
   u32 nav1_test_active = 0;
   u32 nav2_test_active = 0;
-  u32 nav1_timer_now = 0;       ///< seconds
-  u32 nav2_timer_now = 0;       ///< seconds
+  u32 nav1_timer_now = 0;  ///< seconds
+  u32 nav2_timer_now = 0;  ///< seconds
   u32 rmi_left_selector = 0;
   u32 radalt_test_active = 0;
 
   // ---- Autopilot and flight director
-  u32 ap_master_on = 0;         ///< mirrors the host's autopilot master
+  u32 ap_master_on = 0;  ///< mirrors the host's autopilot master
   u32 ap_mode_button_on = 0;
-  u32 ap_mode_selector = 0;     ///< 0..5
+  u32 ap_mode_selector = 0;  ///< 0..5
   u32 ap_sel2_hold_on = 0;
   u32 ap_sel3_arm_on = 0;
   u32 apcon_switch_a_on = 0;
@@ -126,16 +126,16 @@ struct Aircraft {
   u32 fuel_aux_switch_right = 0;
   u32 fuel_crossfeed_switch = 0;
   u32 fire_test_active = 0;
-  u32 fire_test_clock = 0;      ///< seconds
-  u32 fire_test_deadline = 0;   ///< seconds
+  u32 fire_test_clock = 0;     ///< seconds
+  u32 fire_test_deadline = 0;  ///< seconds
   u32 fuel_computer_power = 0;
   u32 fuel_selector_left = 0;   ///< 0 centre, 1 left, 2 right
   u32 fuel_selector_right = 0;  ///< 0 centre, 1 left, 2 right
 
   // ---- Warnings and recorders
   u32 dh_light_on = 0;
-  f64 dh_setting_ft = 0.0;      ///< 0..500 in steps of 10
-  u32 dh_setting_ft_int = 0;    ///< kept in step with dh_setting_ft
+  f64 dh_setting_ft = 0.0;    ///< 0..500 in steps of 10
+  u32 dh_setting_ft_int = 0;  ///< kept in step with dh_setting_ft
   u32 gpws_switch_on = 0;
   u32 gpws_test_active = 0;
   u32 stall_warning_switch_on = 0;

@@ -100,8 +100,12 @@ constexpr Element text(PanelPoint at, PanelSize size, Type type, char (&buffer)[
                        ValueRoutine value, Extras extras = {}) {
   extras = detail::usually(extras, failure::dark);
   Element e = detail::element(ELEMENT_STRING, -1, at, image_flag::transparent, extras);
-  e.string = StringPart{size, {{extras.source, 0, 0.0}, {}}, value, type.colour, 0, 0,
-                        type.weight, 0, bytes - 1, type.font, buffer};
+  e.string = StringPart{size,        {{extras.source, 0, 0.0}, {}},
+                        value,       type.colour,
+                        0,           0,
+                        type.weight, 0,
+                        bytes - 1,   type.font,
+                        buffer};
   return e;
 }
 

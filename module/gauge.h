@@ -22,16 +22,14 @@ struct Services {
   void (*before_draw)() = nullptr;            ///< every frame, before drawing
   void (*end)() = nullptr;                    ///< once, when the gauge is destroyed
 
-  constexpr bool any() const {
-    return start || set_up || tick || after_values || before_draw || end;
-  }
+  constexpr bool any() const { return start || set_up || tick || after_values || before_draw || end; }
 };
 
 /// What a gauge is, apart from its elements and areas.
 struct Face {
   const char* name;  ///< by which the panel configuration places it
   u32 width_mm;
-  i32 background;    ///< bitmap of the root element
+  i32 background;  ///< bitmap of the root element
   Services services = {};
   u32 light_token = token::panel_lights;  ///< reading 0 hides the lit copy
 };
@@ -80,7 +78,9 @@ struct Gauge : GaugeFrame {
 
   constexpr explicit Gauge(const Face& face)
       : GaugeFrame{generic_header(), face.services, nullptr, face.light_token},
-        chain{}, links{}, areas{} {
+        chain{},
+        links{},
+        areas{} {
     header.name = face.name;
     header.width_mm = face.width_mm;
     header.element_list[0] = &chain[0];

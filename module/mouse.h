@@ -70,8 +70,8 @@ constexpr Area increase(Box box, MouseRoutine routine, Press press = Press::left
 }
 
 /// An area with a tooltip: a group at the control's place that holds the text and the area.
-constexpr Area labelled(const char* tooltip, Box box, MouseRoutine routine,
-                        Press press = Press::left, i32 cursor = CURSOR_HAND) {
+constexpr Area labelled(const char* tooltip, Box box, MouseRoutine routine, Press press = Press::left,
+                        i32 cursor = CURSOR_HAND) {
   MouseArea tip = detail::entry(MOUSE_TOOLTIP);
   tip.tooltip = tooltip;
   return {{detail::entry(MOUSE_GROUP, box), tip,

@@ -8,33 +8,33 @@ namespace tarnvale {
 /// Host token variables: numbers of the host's, read with read().
 namespace token {
 // Clock and lights
-inline constexpr u32 clock_seconds = 604;        ///< a running clock, seconds
-inline constexpr u32 panel_lights = 10;          ///< 0/1; every gauge's day and night pictures
-inline constexpr u32 strobe_lights = 11;         ///< 0/1
-inline constexpr u32 landing_lights = 14;        ///< 0/1
-inline constexpr u32 beacon_lights = 368;        ///< 0/1
-inline constexpr u32 navigation_lights = 369;    ///< 0/1
-inline constexpr u32 taxi_lights = 619;          ///< 0/1
-inline constexpr u32 recognition_lights = 620;   ///< 0/1
+inline constexpr u32 clock_seconds = 604;       ///< a running clock, seconds
+inline constexpr u32 panel_lights = 10;         ///< 0/1; every gauge's day and night pictures
+inline constexpr u32 strobe_lights = 11;        ///< 0/1
+inline constexpr u32 landing_lights = 14;       ///< 0/1
+inline constexpr u32 beacon_lights = 368;       ///< 0/1
+inline constexpr u32 navigation_lights = 369;   ///< 0/1
+inline constexpr u32 taxi_lights = 619;         ///< 0/1
+inline constexpr u32 recognition_lights = 620;  ///< 0/1
 // Electrics
-inline constexpr u32 battery = 364;              ///< 0/1
-inline constexpr u32 avionics = 740;             ///< 0/1
-inline constexpr u32 dc_amperes = 750;           ///< amperes, battery discharge negative
-inline constexpr u32 dc_volts = 752;             ///< DC volts source; 66 is the meter's mid-scale
-inline constexpr u32 gen1_meter = 761;           ///< left generator, right-hand meters' scale
-inline constexpr u32 gen1_load = 762;            ///< left generator load, percent, 0..125
+inline constexpr u32 battery = 364;     ///< 0/1
+inline constexpr u32 avionics = 740;    ///< 0/1
+inline constexpr u32 dc_amperes = 750;  ///< amperes, battery discharge negative
+inline constexpr u32 dc_volts = 752;    ///< DC volts source; 66 is the meter's mid-scale
+inline constexpr u32 gen1_meter = 761;  ///< left generator, right-hand meters' scale
+inline constexpr u32 gen1_load = 762;   ///< left generator load, percent, 0..125
 inline constexpr u32 gen2_meter = 763;
 inline constexpr u32 gen2_load = 764;
-inline constexpr u32 apu_load = 766;             ///< APU generator load, percent, 0..125
-inline constexpr u32 gen1_drive = 147;           ///< left generator drive speed, 0..16384
+inline constexpr u32 apu_load = 766;    ///< APU generator load, percent, 0..125
+inline constexpr u32 gen1_drive = 147;  ///< left generator drive speed, 0..16384
 inline constexpr u32 gen2_drive = 182;
 // Engines
-inline constexpr u32 eng1_core_speed = 625;      ///< N2, percent
+inline constexpr u32 eng1_core_speed = 625;  ///< N2, percent
 inline constexpr u32 eng2_core_speed = 644;
 // Flight
-inline constexpr u32 altitude = 74;              ///< aircraft altitude, feet
-inline constexpr u32 vertical_speed = 65;        ///< feet a minute
-inline constexpr u32 pressure_setting = 75;      ///< shown as four digits by the cabin controller
+inline constexpr u32 altitude = 74;          ///< aircraft altitude, feet
+inline constexpr u32 vertical_speed = 65;    ///< feet a minute
+inline constexpr u32 pressure_setting = 75;  ///< shown as four digits by the cabin controller
 }  // namespace token
 
 /// Host key events: numbers of the host's, sent with send().

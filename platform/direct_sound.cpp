@@ -13,10 +13,10 @@ namespace platform {
 namespace {
 
 bool is_complete(const DSBUFFERDESC& description) {
-  const bool size_known = description.dwSize == sizeof(DSBUFFERDESC1) ||
-                          description.dwSize == sizeof(DSBUFFERDESC);
-  return size_known && description.lpwfxFormat != nullptr &&
-         description.dwBufferBytes >= DSBSIZE_MIN && description.dwBufferBytes <= DSBSIZE_MAX;
+  const bool size_known =
+      description.dwSize == sizeof(DSBUFFERDESC1) || description.dwSize == sizeof(DSBUFFERDESC);
+  return size_known && description.lpwfxFormat != nullptr && description.dwBufferBytes >= DSBSIZE_MIN &&
+         description.dwBufferBytes <= DSBSIZE_MAX;
 }
 
 std::shared_ptr<Pcm> make_pcm(const DSBUFFERDESC& description) {
@@ -42,8 +42,7 @@ class DirectSound final : public IDirectSound {
   ULONG Release() override;
   HRESULT CreateSoundBuffer(LPCDSBUFFERDESC description, LPDIRECTSOUNDBUFFER* buffer,
                             LPUNKNOWN outer) override;
-  HRESULT DuplicateSoundBuffer(LPDIRECTSOUNDBUFFER original,
-                               LPDIRECTSOUNDBUFFER* duplicate) override;
+  HRESULT DuplicateSoundBuffer(LPDIRECTSOUNDBUFFER original, LPDIRECTSOUNDBUFFER* duplicate) override;
   HRESULT SetCooperativeLevel(HWND window, DWORD level) override;
 
  private:

@@ -8,8 +8,8 @@
 using platform::file_size;
 using platform::HandleKind;
 
-HANDLE CreateFileA(LPCSTR path, DWORD access, DWORD, LPSECURITY_ATTRIBUTES, DWORD disposition,
-                   DWORD, HANDLE) {
+HANDLE CreateFileA(LPCSTR path, DWORD access, DWORD, LPSECURITY_ATTRIBUTES, DWORD disposition, DWORD,
+                   HANDLE) {
   if (path == nullptr || access != GENERIC_READ || disposition != OPEN_EXISTING) {
     return INVALID_HANDLE_VALUE;
   }

@@ -36,9 +36,15 @@ ALCdevice* open_rendered_device() {
 
 ALCcontext* create_context(ALCdevice* device, bool rendered) {
   // Floating point, so that the mix is exact: no dither, no limiter, silence is silence.
-  static constexpr ALCint rendered_attributes[] = {
-      ALC_FREQUENCY,       PLATFORM_AUDIO_RATE, ALC_FORMAT_CHANNELS_SOFT, ALC_STEREO_SOFT,
-      ALC_FORMAT_TYPE_SOFT, ALC_FLOAT_SOFT,     ALC_HRTF_SOFT,            ALC_FALSE, 0};
+  static constexpr ALCint rendered_attributes[] = {ALC_FREQUENCY,
+                                                   PLATFORM_AUDIO_RATE,
+                                                   ALC_FORMAT_CHANNELS_SOFT,
+                                                   ALC_STEREO_SOFT,
+                                                   ALC_FORMAT_TYPE_SOFT,
+                                                   ALC_FLOAT_SOFT,
+                                                   ALC_HRTF_SOFT,
+                                                   ALC_FALSE,
+                                                   0};
   static constexpr ALCint device_attributes[] = {ALC_HRTF_SOFT, ALC_FALSE, 0};
   return alcCreateContext(device, rendered ? rendered_attributes : device_attributes);
 }

@@ -15,8 +15,8 @@ bool is_playable(const WAVEFORMATEX& format) {
   const bool layout = (format.nChannels == 1 || format.nChannels == 2) &&
                       (format.wBitsPerSample == 8 || format.wBitsPerSample == 16) &&
                       format.nBlockAlign == format.nChannels * format.wBitsPerSample / 8;
-  const bool rate = format.nSamplesPerSec >= DSBFREQUENCY_MIN &&
-                    format.nSamplesPerSec <= DSBFREQUENCY_MAX;
+  const bool rate =
+      format.nSamplesPerSec >= DSBFREQUENCY_MIN && format.nSamplesPerSec <= DSBFREQUENCY_MAX;
   return format.wFormatTag == WAVE_FORMAT_PCM && layout && rate;
 }
 

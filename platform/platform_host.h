@@ -26,7 +26,7 @@ enum PlatformAudio {
 void platform_choose_audio(enum PlatformAudio audio);
 
 /// The format of the rendered mix.
-#define PLATFORM_AUDIO_RATE 44100
+#define PLATFORM_AUDIO_RATE     44100
 #define PLATFORM_AUDIO_CHANNELS 2
 
 /// Takes the next `frames` stereo frames of the mix, signed 16 bit interleaved. Silence while nothing

@@ -24,8 +24,8 @@ class SoundBuffer final : public IDirectSoundBuffer {
   ULONG Release() override;
   HRESULT GetCurrentPosition(LPDWORD play, LPDWORD write) override;
   HRESULT GetStatus(LPDWORD status) override;
-  HRESULT Lock(DWORD offset, DWORD bytes, LPVOID* part1, LPDWORD bytes1, LPVOID* part2,
-               LPDWORD bytes2, DWORD flags) override;
+  HRESULT Lock(DWORD offset, DWORD bytes, LPVOID* part1, LPDWORD bytes1, LPVOID* part2, LPDWORD bytes2,
+               DWORD flags) override;
   HRESULT Play(DWORD reserved, DWORD priority, DWORD flags) override;
   HRESULT SetCurrentPosition(DWORD position) override;
   HRESULT SetVolume(LONG volume) override;

@@ -48,8 +48,8 @@ void SoundDevice::render(std::int16_t* samples, std::size_t frames) {
     const std::size_t count = std::min(frames, block);
     const bool rendered = device_ != nullptr && audio_ == PLATFORM_AUDIO_RENDERED;
     if (rendered) render_frames(device_, mix.data(), count);
-    samples = std::transform(mix.begin(), mix.begin() + count * PLATFORM_AUDIO_CHANNELS, samples,
-                             to_sample);
+    samples =
+        std::transform(mix.begin(), mix.begin() + count * PLATFORM_AUDIO_CHANNELS, samples, to_sample);
     frames -= count;
   }
 }

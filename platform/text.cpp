@@ -44,8 +44,7 @@ void put_field(Text& text, const Field& field, std::string_view sign, std::strin
   if (field.left) text.fill(' ', missing);
 }
 
-void put_number(Text& text, const Field& field, ULONG magnitude, bool negative, int base,
-                bool upper) {
+void put_number(Text& text, const Field& field, ULONG magnitude, bool negative, int base, bool upper) {
   std::array<char, 16> digits{};
   const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), magnitude, base).ptr;
   if (upper) {
@@ -81,11 +80,9 @@ void put_conversion(Text& text, const Field& field, char letter, Arguments& argu
       const auto bits = static_cast<ULONG>(value);
       return put_number(text, field, value < 0 ? 0 - bits : bits, value < 0, 10, false);
     }
-    case 'u':
-      return put_number(text, field, va_arg(arguments.list, ULONG), false, 10, false);
+    case 'u': return put_number(text, field, va_arg(arguments.list, ULONG), false, 10, false);
     case 'x':
-    case 'X':
-      return put_number(text, field, va_arg(arguments.list, ULONG), false, 16, letter == 'X');
+    case 'X': return put_number(text, field, va_arg(arguments.list, ULONG), false, 16, letter == 'X');
     case 'c': {
       const auto character = static_cast<char>(va_arg(arguments.list, int));
       const std::size_t length = character == '\0' ? 0 : 1;  // a zero would end the text
@@ -95,8 +92,7 @@ void put_conversion(Text& text, const Field& field, char letter, Arguments& argu
       const char* string = va_arg(arguments.list, const char*);
       return put_field(text, field, "", string != nullptr ? string : "(null)");
     }
-    default:
-      return text.put(letter);  // a second % among them
+    default: return text.put(letter);  // a second % among them
   }
 }
 

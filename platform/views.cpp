@@ -15,8 +15,7 @@ std::map<const void*, std::size_t>& views() {
 
 }  // namespace
 
-LPVOID MapViewOfFile(HANDLE mapping, DWORD access, DWORD offset_high, DWORD offset_low,
-                     SIZE_T length) {
+LPVOID MapViewOfFile(HANDLE mapping, DWORD access, DWORD offset_high, DWORD offset_low, SIZE_T length) {
   const auto descriptor = platform::descriptor_of(mapping, platform::HandleKind::mapping);
   const bool whole_file = offset_high == 0 && offset_low == 0 && length == 0;
   if (!descriptor || access != FILE_MAP_READ || !whole_file) return nullptr;

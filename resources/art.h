@@ -12,9 +12,9 @@ namespace artwork {
 using DrawRoutine = void (*)(Canvas& canvas, int image);
 
 struct Art {
-  int id;                  ///< of the first bitmap
-  int images;              ///< bitmaps, numbered from `id` on
-  Size size;               ///< in gauge pixels; {} where `like` says it
+  int id;      ///< of the first bitmap
+  int images;  ///< bitmaps, numbered from `id` on
+  Size size;   ///< in gauge pixels; {} where `like` says it
   DrawRoutine draw;
   std::string_view shows;  ///< for the list of bitmaps
   int like = 0;            ///< the background whose size these pictures have
@@ -26,8 +26,7 @@ constexpr Art background(int id, DrawRoutine draw, std::string_view shows) {
 }
 
 /// The three pictures of a gauge's instrument lighting: off, dim, bright.
-constexpr Art lighting_overlay(int id, int background_id, DrawRoutine draw,
-                               std::string_view shows) {
+constexpr Art lighting_overlay(int id, int background_id, DrawRoutine draw, std::string_view shows) {
   return {id, 3, {}, draw, shows, background_id};
 }
 

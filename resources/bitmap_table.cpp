@@ -33,8 +33,7 @@ std::vector<Bitmap> bitmap_table() {
     if (has(table, plate.id)) continue;
     table.push_back({plate.id, plate.size, true, draw_plain_plate, 0, plate.gauges});
   }
-  std::sort(table.begin(), table.end(),
-            [](const Bitmap& a, const Bitmap& b) { return a.id < b.id; });
+  std::sort(table.begin(), table.end(), [](const Bitmap& a, const Bitmap& b) { return a.id < b.id; });
   return table;
 }
 

@@ -12,7 +12,7 @@ struct Bitmap {
   Size size;
   bool background;  ///< opaque; all others have transparent parts
   DrawRoutine draw;
-  int image;        ///< of its run
+  int image;  ///< of its run
   std::string_view shows;
 };
 

@@ -14,9 +14,7 @@ constinit u32 testing;
 /// Armed: a press of the start button starts the APU, which spins up without its generator.
 bool armed() { return aircraft.apu_master_switch == 1 && aircraft.apu_gen_switch == 0; }
 
-f64 start_button(Element*) {
-  return aircraft.apu_master_switch == 1 ? aircraft.apu_running : 0;
-}
+f64 start_button(Element*) { return aircraft.apu_master_switch == 1 ? aircraft.apu_running : 0; }
 
 /// Image 0 is the lit one.
 f64 armed_light(Element*) { return armed() ? 0 : 1; }

@@ -81,8 +81,8 @@ f64 show_temperature(Element*) {
 }
 
 constexpr PanelPoint pivot{7, 2};
-constexpr Scale<7> speed_scale{{{14, 139}, 0},    {{13, 137}, 10},   {{27, 89}, 1000},
-                               {{67, 108}, 1200}, {{69, 118}, 1300}, {{68, 128}, 1400},
+constexpr Scale<7> speed_scale{{{14, 139}, 0},         {{13, 137}, 10},   {{27, 89}, 1000},
+                               {{67, 108}, 1200},      {{69, 118}, 1300}, {{68, 128}, 1400},
                                {{57, 144}, full_scale}};
 constexpr Scale<6> temperature_scale{{{15, 60}, 0},    {{13, 58}, 10},   {{8, 30}, 400},
                                      {{45, 10}, 1000}, {{57, 14}, 1300}, {{63, 57}, full_scale}};

@@ -15,9 +15,13 @@ constexpr u32 lowest_pressure = 10, full_scale = 100;
 /// From 36000 to 37000 ft the pressure steps on between its neighbours, so that a climb and a descent
 /// through there show the same.
 constexpr Band<u32> schedule[] = {
-    {100, 10},   {3000, 22},  {4000, 24},  {6000, 27},  {8000, 30},  {10000, 36},      {12000, 42},
-    {15500, 50}, {30000, 65}, {35000, 75}, {36000, 77}, {37000, 80}, {38000, 84},
-    {highest_ft + 1, full_scale},
+    {100, 10},   {3000, 22},
+    {4000, 24},  {6000, 27},
+    {8000, 30},  {10000, 36},
+    {12000, 42}, {15500, 50},
+    {30000, 65}, {35000, 75},
+    {36000, 77}, {37000, 80},
+    {38000, 84}, {highest_ft + 1, full_scale},
 };
 
 f64 altitude(const Element* needle) { return limited(needle->needle.source.value, 0, highest_ft); }
@@ -33,8 +37,8 @@ f64 show_pressure(Element* needle) {
 
 constexpr PanelPoint centre{59, 55};
 constexpr Scale<2> altitude_scale{{{58, 25}, 0}, {{40, 28}, highest_ft}};
-constexpr Scale<5> pressure_scale{{{54, 7}, 0},    {{58, 6}, lowest_pressure}, {{29, 100}, 66},
-                                  {{13, 81}, 75}, {{27, 16}, full_scale}};
+constexpr Scale<5> pressure_scale{
+    {{54, 7}, 0}, {{58, 6}, lowest_pressure}, {{29, 100}, 66}, {{13, 81}, 75}, {{27, 16}, full_scale}};
 
 }  // namespace
 

@@ -19,8 +19,8 @@ struct Side {
 
 constinit Side left{aircraft.aircon_left_on, aircraft.aircon_left_auto, aircraft.temp_selector_left,
                     aircraft.duct_left_temp_normal, cold};
-constinit Side right{aircraft.aircon_right_on, aircraft.aircon_right_auto,
-                     aircraft.temp_selector_right, aircraft.duct_right_temp_normal, cold};
+constinit Side right{aircraft.aircon_right_on, aircraft.aircon_right_auto, aircraft.temp_selector_right,
+                     aircraft.duct_right_temp_normal, cold};
 
 /// Exactly at its threshold the overheat light stays as it is.
 void watch_for_overheat(const Side& side) {

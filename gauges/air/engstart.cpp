@@ -44,9 +44,9 @@ i32 selects(PanelPoint, u32) {
 /// Lit (image 0) with the master on until both engines run.
 f64 start_light(Element*) {
   const bool tested = test_goes_on(test_clock, testing);
-  const bool ready = aircraft.start_master_switch == 1 &&
-                     (read(token::eng1_core_speed) < running_percent ||
-                      read(token::eng2_core_speed) < running_percent);
+  const bool ready =
+      aircraft.start_master_switch == 1 && (read(token::eng1_core_speed) < running_percent ||
+                                            read(token::eng2_core_speed) < running_percent);
   return tested || ready ? 0 : 1;
 }
 

@@ -32,9 +32,7 @@ f64 indicator(Element*) {
   return tested || side.latched == 1 ? 0 : 1;
 }
 
-f64 apu_feeds_buses(Element*) {
-  return aircraft.apu_gen_switch == 1 && aircraft.ext_power_switch == 0;
-}
+f64 apu_feeds_buses(Element*) { return aircraft.apu_gen_switch == 1 && aircraft.ext_power_switch == 0; }
 
 }  // namespace
 

@@ -1,7 +1,7 @@
 /// Captain's instrument lighting (main panel): the panel-light switch and the brightness of the
 /// instruments' own lighting.
-#include "module/catalogue.h"
 #include "gauges/electrical/instrument_lighting.h"
+#include "module/catalogue.h"
 
 namespace tarnvale {
 namespace {
@@ -19,8 +19,7 @@ constinit Gauge<5, 3> cainstlg{
     {
         decrease({50, 20, 20, 28}, steps_down<level>),
         increase({72, 20, 20, 28}, steps_up<level, 2>),
-        click({13, 69, 28, 28},
-              presses_panel_lights<window::captain_day, window::captain_night>),
+        click({13, 69, 28, 28}, presses_panel_lights<window::captain_day, window::captain_night>),
     },
 };
 

@@ -1,7 +1,7 @@
 /// First officer's instrument lighting (main panel). Its switch shows the host's panel lights through
 /// a mirror of its own, so that it shows the truth while the captain's panel is closed.
-#include "module/catalogue.h"
 #include "gauges/electrical/instrument_lighting.h"
+#include "module/catalogue.h"
 
 namespace tarnvale {
 namespace {

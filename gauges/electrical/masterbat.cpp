@@ -12,9 +12,7 @@ f64 external_power_light(Element*) {
   return aircraft.ext_power_switch == 0 ? 1 : 2;
 }
 
-f64 apu_feeds_buses(Element*) {
-  return aircraft.apu_gen_switch == 1 && aircraft.ext_power_switch == 0;
-}
+f64 apu_feeds_buses(Element*) { return aircraft.apu_gen_switch == 1 && aircraft.ext_power_switch == 0; }
 
 /// The battery takes the alternators with it; the host's battery state is what stays.
 i32 press_battery(PanelPoint, u32) {

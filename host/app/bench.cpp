@@ -18,7 +18,8 @@ constexpr std::uint32_t electrical_power = 20;  // failure key
 
 // Microseconds that one call takes: the median of some rounds, which other programs do not disturb.
 // `before` is not timed.
-double microseconds(const std::function<void()>& work, const std::function<void()>& before = [] {}) {
+double microseconds(
+    const std::function<void()>& work, const std::function<void()>& before = [] {}) {
   std::vector<double> rounds;
   for (int round = 0; round < 51; ++round) {
     before();
@@ -87,10 +88,12 @@ int bench(const CockpitOptions& given) {
   const double whole = microseconds([&] { pictures.draw_all(); });
   // Power that fails and comes back changes every lamp, overlay and needle at once.
   bool failed = false;
-  const double changed = microseconds([&] { pictures.draw(); }, [&] {
-    cockpit.aircraft().set_failed(electrical_power, failed = !failed);
-    cockpit.frame();
-  });
+  const double changed =
+      microseconds([&] { pictures.draw(); },
+                   [&] {
+                     cockpit.aircraft().set_failed(electrical_power, failed = !failed);
+                     cockpit.frame();
+                   });
   const double copy = microseconds([&] { pictures.copy(); });
   print_frame(frame, options.rate);
   std::printf("drawing, nothing changed  %10.1f us   frame and drawing are %.2f times the frame\n",

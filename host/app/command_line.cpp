@@ -41,22 +41,23 @@ class CommandLine {
 
  private:
   bool is_command(const std::string& name) const {
-    const auto commands = app_.get_subcommands([&](const CLI::App* app) { return app->check_name(name); });
+    const auto commands =
+        app_.get_subcommands([&](const CLI::App* app) { return app->check_name(name); });
     return !commands.empty();
   }
 
   template <typename Options>
   CLI::App* add(const char* name, const char* what, Options& options, int (*command)(const Options&)) {
     CLI::App* sub = app_.add_subcommand(name, what);
-    sub->callback([this, &options, command] {
-      command_ = [&options, command] { return command(options); };
-    });
+    sub->callback(
+        [this, &options, command] { command_ = [&options, command] { return command(options); }; });
     return sub;
   }
 
   static void add_cockpit(CLI::App* sub, CockpitOptions& options) {
     sub->add_option("--module", options.module, "The gauge module; else the one beside this program");
-    sub->add_option("--panel", options.panel, "The panel configuration; else the one beside this program");
+    sub->add_option("--panel", options.panel,
+                    "The panel configuration; else the one beside this program");
     sub->add_option("--rate", options.rate, "Gauge frames a second")
         ->check(CLI::Range(1.0, 240.0))
         ->capture_default_str();
@@ -68,7 +69,8 @@ class CommandLine {
     sub->add_option("--scale", fly_.scale,
                     "Scale of the desktop, 1 is 96 dots an inch; else its own setting")
         ->check(CLI::Range(0.5, 8.0));
-    sub->add_option("--zoom", fly_.zoom, "Size of the panels, 1 is their own; else what fits the screen")
+    sub->add_option("--zoom", fly_.zoom,
+                    "Size of the panels, 1 is their own; else what fits the screen")
         ->check(CLI::Range(0.1, 8.0));
     sub->add_option("--open", fly_.open, "Windows to open at once, by their idents");
     sub->add_option("--pictures", fly_.pictures, "Folder for screenshots")->capture_default_str();

@@ -13,7 +13,8 @@ Cursors::Handle Cursors::make(int cursor) const {
   SDL_Surface* surface =
       SDL_CreateRGBSurfaceWithFormatFrom(picture.pixels.data(), picture.width, picture.height, 32,
                                          picture.width * 4, SDL_PIXELFORMAT_ARGB8888);
-  Handle made(surface ? SDL_CreateColorCursor(surface, picture.width / 2, picture.height / 2) : nullptr);
+  Handle made(surface ? SDL_CreateColorCursor(surface, picture.width / 2, picture.height / 2)
+                      : nullptr);
   SDL_FreeSurface(surface);
   return made;
 }

@@ -18,8 +18,7 @@ FlightDeck::FlightDeck(Cockpit& cockpit, const FlyOptions& options)
     : cockpit_(cockpit),
       options_(options),
       scale_(options.scale.value_or(Desktop::scale())),
-      views_(cockpit, scale_,
-             options.zoom ? std::optional(*options.zoom * scale_) : std::nullopt),
+      views_(cockpit, scale_, options.zoom ? std::optional(*options.zoom * scale_) : std::nullopt),
       notices_(views_.main()),
       journal_(options.record.empty() ? Journal(1.0 / cockpit.rate())
                                       : Journal(options.record, 1.0 / cockpit.rate())),
@@ -33,9 +32,7 @@ void FlightDeck::mark_areas(bool marked) {
   views_.each([&](View& view) { view.mark_areas(marked); });
 }
 
-double FlightDeck::now() const {
-  return std::chrono::duration<double>(Clock::now() - start_).count();
-}
+double FlightDeck::now() const { return std::chrono::duration<double>(Clock::now() - start_).count(); }
 
 void FlightDeck::take_message(const char* text, const char* caption, void* context) {
   auto* deck = static_cast<FlightDeck*>(context);

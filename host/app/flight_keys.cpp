@@ -30,15 +30,21 @@ void FlightDeck::take_key(const SDL_Keysym& key) {
   if (take_panel_key(key.sym)) return;
   switch (key.sym) {
     case SDLK_t: toggle_torn(); break;
-    case SDLK_PLUS: case SDLK_EQUALS: case SDLK_KP_PLUS: change_zoom(1.125); break;
-    case SDLK_MINUS: case SDLK_KP_MINUS: change_zoom(1 / 1.125); break;
-    case SDLK_0: case SDLK_KP_0: views_.main().set_zoom(std::nullopt); break;
+    case SDLK_PLUS:
+    case SDLK_EQUALS:
+    case SDLK_KP_PLUS: change_zoom(1.125); break;
+    case SDLK_MINUS:
+    case SDLK_KP_MINUS: change_zoom(1 / 1.125); break;
+    case SDLK_0:
+    case SDLK_KP_0: views_.main().set_zoom(std::nullopt); break;
     case SDLK_d: toggle_panel_lights(); break;
     case SDLK_F5: move_fuel_lever(1); break;
     case SDLK_F6: move_fuel_lever(2); break;
     case SDLK_p: toggle_pause(); break;
-    case SDLK_s: case SDLK_F12: save_picture(); break;
-    case SDLK_h: case SDLK_F1: notices_.toggle_help(); break;
+    case SDLK_s:
+    case SDLK_F12: save_picture(); break;
+    case SDLK_h:
+    case SDLK_F1: notices_.toggle_help(); break;
     case SDLK_F11: views_.main().screen().toggle_full_screen(); break;
     case SDLK_ESCAPE: leave_or_close_help(); break;
     case SDLK_q: leaving_ = true; break;

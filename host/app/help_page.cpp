@@ -41,7 +41,8 @@ using namespace palette;
 constexpr double page_width = 560, row_height = 25, heading_gap = 12, top = 62, bottom = 22;
 
 double page_height() {
-  const auto headings = std::ranges::count_if(rows, [](const HelpRow& row) { return row.action.empty(); });
+  const auto headings =
+      std::ranges::count_if(rows, [](const HelpRow& row) { return row.action.empty(); });
   return top + row_height * rows.size() + heading_gap * static_cast<double>(headings) + bottom;
 }
 
@@ -56,7 +57,8 @@ void draw_keys(Sketch& sketch, std::string_view keys, double y, double unit) {
     const double width = std::max(21 * unit, Sketch::text_width(key, size, true) + 12 * unit);
     sketch.rounded_box(x, y + 1.5 * unit, width, 21 * unit, 4 * unit, key_face);
     sketch.box_outline(x, y + 1.5 * unit, width, 21 * unit, 4 * unit, unit, key_edge);
-    sketch.text(key, x + (width - Sketch::text_width(key, size, true)) / 2, y + 4 * unit, size, true, ink);
+    sketch.text(key, x + (width - Sketch::text_width(key, size, true)) / 2, y + 4 * unit, size, true,
+                ink);
     x += width + 5 * unit;
   }
 }

@@ -53,7 +53,9 @@ void list_windows(const CockpitOptions& options) {
     columns.add({ident_text(window.ident), ident_text(window.day_ident), ident_text(window.night_ident),
                  window.title, std::to_string(window.width), std::to_string(window.height),
                  std::to_string(window.gauges.size()),
-                 !window.drawn ? "runs unseen" : window.visible ? "open" : "closed"});
+                 !window.drawn    ? "runs unseen"
+                 : window.visible ? "open"
+                                  : "closed"});
   print(columns);
 }
 
@@ -69,7 +71,8 @@ void list_rows(std::span<const TableRow> rows) {
 
 void list_sounds(const CockpitOptions& options) {
   const fs::path folder = options.module.parent_path() / "Sound";
-  if (!fs::is_directory(folder)) throw std::runtime_error(folder.string() + ": there is no such folder");
+  if (!fs::is_directory(folder))
+    throw std::runtime_error(folder.string() + ": there is no such folder");
   std::map<std::string, WavFacts> sounds;
   for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder))
     if (entry.is_regular_file() && lower(entry.path().extension().string()) == ".wav")

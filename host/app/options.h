@@ -21,20 +21,20 @@ struct CockpitOptions {
 
 struct FlyOptions {
   CockpitOptions cockpit;
-  std::optional<double> scale;          ///< of texts and borders; else the desktop's setting
-  std::optional<double> zoom;           ///< screen pixels per panel pixel at scale 1; else what fits
-  std::vector<std::uint32_t> open;      ///< idents to open besides those that are open from the start
-  std::filesystem::path pictures = "."; ///< where screenshots go
-  std::filesystem::path record;         ///< a flow to write the person's inputs to; empty: none
-  std::optional<double> exit_after;     ///< seconds
+  std::optional<double> scale;           ///< of texts and borders; else the desktop's setting
+  std::optional<double> zoom;            ///< screen pixels per panel pixel at scale 1; else what fits
+  std::vector<std::uint32_t> open;       ///< idents to open besides those that are open from the start
+  std::filesystem::path pictures = ".";  ///< where screenshots go
+  std::filesystem::path record;          ///< a flow to write the person's inputs to; empty: none
+  std::optional<double> exit_after;      ///< seconds
   bool mute = false;
 };
 
 struct RunOptions {
   CockpitOptions cockpit;
   std::string flow = "engine_start";
-  std::filesystem::path pictures;       ///< empty: none
-  std::filesystem::path sound;          ///< empty: none
+  std::filesystem::path pictures;  ///< empty: none
+  std::filesystem::path sound;     ///< empty: none
   bool realtime = false;
 };
 
@@ -45,8 +45,8 @@ struct ShowOptions {
   std::optional<double> scale;
   bool areas = false;
   bool night = false;
-  std::vector<std::string> readings;    ///< token=value
-  std::filesystem::path picture;        ///< empty: a window
+  std::vector<std::string> readings;  ///< token=value
+  std::filesystem::path picture;      ///< empty: a window
 };
 
 struct ListOptions {

@@ -56,9 +56,7 @@ Desktop::Desktop() {
 
 Desktop::~Desktop() { SDL_Quit(); }
 
-double Desktop::scale() {
-  return on_x11() ? x11_scale() : 1.0;
-}
+double Desktop::scale() { return on_x11() ? x11_scale() : 1.0; }
 
 PanelSize Desktop::usable_size() {
   SDL_Rect bounds{0, 0, 1280, 800};

@@ -66,10 +66,13 @@ Overlay draw_caption(const std::string& title, const std::string& key, int width
   const double close = width - button_width(scale) / 2, tear = close - button_width(scale);
   sketch.line(close - arm, middle - arm, close + arm, middle + arm, line, soft_ink);
   sketch.line(close - arm, middle + arm, close + arm, middle - arm, line, soft_ink);
-  sketch.box_outline(tear - arm - 1 * scale, middle - 1 * scale, arm * 1.6, arm * 1.4, 0.5, line, soft_ink);
+  sketch.box_outline(tear - arm - 1 * scale, middle - 1 * scale, arm * 1.6, arm * 1.4, 0.5, line,
+                     soft_ink);
   sketch.line(tear, middle, tear + arm + scale, middle - arm - scale, line, soft_ink);
-  sketch.line(tear + scale, middle - arm - scale, tear + arm + scale, middle - arm - scale, line, soft_ink);
-  sketch.line(tear + arm + scale, middle - arm - scale, tear + arm + scale, middle - scale, line, soft_ink);
+  sketch.line(tear + scale, middle - arm - scale, tear + arm + scale, middle - arm - scale, line,
+              soft_ink);
+  sketch.line(tear + arm + scale, middle - arm - scale, tear + arm + scale, middle - scale, line,
+              soft_ink);
   return sketch.finish();
 }
 

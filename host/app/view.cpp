@@ -46,7 +46,8 @@ void View::relayout() {
   const PanelSize size = screen_.size();
   const int caption = kind_ == Kind::main ? caption_height(scale()) : 0;
   const int gap = kind_ == Kind::main ? static_cast<int>(std::lround(6 * scale())) : 0;
-  layout_ = arrange(window_sizes(cockpit_, windows_), {size.width, size.height, gap, caption}, zoom_, 8.0);
+  layout_ =
+      arrange(window_sizes(cockpit_, windows_), {size.width, size.height, gap, caption}, zoom_, 8.0);
   panels_.clear();
   for (std::size_t i = 0; i < windows_.size(); ++i) {
     const WindowConfig& window = cockpit_.config().windows[windows_[i]];
@@ -146,7 +147,8 @@ std::optional<ViewHit> View::hit(int x, int y) const {
 PanelPoint View::point_on(std::size_t window, const CockpitGauge& gauge, int x, int y) const {
   for (const Panel& panel : panels_)
     if (panel.picture.window() == window)
-      return panel.picture.point_on(gauge, x - scroll_.x - panel.place.x, y - scroll_.y - panel.place.y);
+      return panel.picture.point_on(gauge, x - scroll_.x - panel.place.x,
+                                    y - scroll_.y - panel.place.y);
   return {};
 }
 

@@ -18,7 +18,7 @@ enum class Layer { badge, note, tooltip, help };
 
 /// What lies under a pixel of a view.
 struct ViewHit {
-  std::size_t window;             ///< of the cockpit
+  std::size_t window;  ///< of the cockpit
   CaptionPart caption = CaptionPart::none;
   bool on_caption = false;
   std::optional<PanelHit> gauge;
@@ -72,8 +72,8 @@ class View {
  private:
   struct Panel {
     PanelPicture picture;
-    Rect place;      ///< in the layout
-    Overlay caption; ///< in the layout; empty in a torn view
+    Rect place;       ///< in the layout
+    Overlay caption;  ///< in the layout; empty in a torn view
   };
 
   void relayout();

@@ -32,7 +32,8 @@ WavFacts read_wav_facts(const std::filesystem::path& file) {
     const std::uint32_t size = number_at(bytes, at + 4, 4);
     const double frame_bytes = facts.channels * (facts.bits / 8.0);
     if (id == "fmt ") read_format(bytes, at + 8, facts);
-    if (id == "data" && frame_bytes > 0 && facts.rate > 0) facts.seconds = size / frame_bytes / facts.rate;
+    if (id == "data" && frame_bytes > 0 && facts.rate > 0)
+      facts.seconds = size / frame_bytes / facts.rate;
     at += 8 + std::size_t(size) + size % 2;
   }
   return facts;

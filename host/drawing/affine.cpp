@@ -60,11 +60,10 @@ void keep_inside(std::int64_t start, std::int64_t step, std::int64_t end, Range&
   };
   if (step != 0) {
     const double per_step = 1.0 / static_cast<double>(step);
-    const auto [low, high] = std::minmax({static_cast<double>(-start) * per_step,
-                                          static_cast<double>(end - start) * per_step});
+    const auto [low, high] = std::minmax(
+        {static_cast<double>(-start) * per_step, static_cast<double>(end - start) * per_step});
     range.first = std::max(range.first, static_cast<std::int64_t>(std::clamp(low, 0.0, farthest)));
-    range.last =
-        std::min(range.last, static_cast<std::int64_t>(std::clamp(high + 1, -1.0, farthest)));
+    range.last = std::min(range.last, static_cast<std::int64_t>(std::clamp(high + 1, -1.0, farthest)));
   }
   while (range.first <= range.last && outside(range.first)) ++range.first;
   while (range.first <= range.last && outside(range.last)) --range.last;
@@ -135,8 +134,10 @@ void blend_row(std::uint32_t* target, const PixelView& picture, const Stepper& s
   for (std::int64_t k = range.first; k <= range.last; ++k, ++target) {
     const std::uint32_t pixel = sample(picture, u, v);
     const std::uint32_t opacity = pixel >> 24;
-    if (opacity == 255) *target = pixel;
-    else if (opacity != 0) *target = over(*target, pixel);
+    if (opacity == 255)
+      *target = pixel;
+    else if (opacity != 0)
+      *target = over(*target, pixel);
     u += static_cast<std::uint32_t>(start.du);
     v += static_cast<std::uint32_t>(start.dv);
   }

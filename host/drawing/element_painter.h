@@ -51,8 +51,7 @@ std::unique_ptr<ElementPainter> make_element_painter(const Element& element, Pic
 std::unique_ptr<ElementPainter> make_still_painter(const Element& element, Pictures& pictures);
 std::unique_ptr<ElementPainter> make_needle_painter(const Element& element, Pictures& pictures);
 std::unique_ptr<ElementPainter> make_slider_painter(const Element& element, Pictures& pictures);
-std::unique_ptr<ElementPainter> make_moving_image_painter(const Element& element,
-                                                          Pictures& pictures);
+std::unique_ptr<ElementPainter> make_moving_image_painter(const Element& element, Pictures& pictures);
 std::unique_ptr<ElementPainter> make_sprite_painter(const Element& element, Pictures& pictures);
 std::unique_ptr<ElementPainter> make_string_painter(const Element& element, Scale scale);
 

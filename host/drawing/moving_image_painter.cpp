@@ -45,7 +45,8 @@ class Axis {
 class MovingImagePainter final : public ElementPainter {
  public:
   MovingImagePainter(const Element& element, Rect window, Pictures& pictures)
-      : window_(window), strip_(*pictures.turning(element.resource_id)),
+      : window_(window),
+        strip_(*pictures.turning(element.resource_id)),
         mask_(mask_of(element, window, pictures)),
         axes_{Axis(element.moving_image.x, 0, strip_.whole.width - window.width),
               Axis(element.moving_image.y, 1, strip_.whole.height - window.height)} {
@@ -118,11 +119,9 @@ bool hidden_by_mask(const Element& element, const Rect& window, Pictures& pictur
 
 }  // namespace
 
-std::unique_ptr<ElementPainter> make_moving_image_painter(const Element& element,
-                                                          Pictures& pictures) {
+std::unique_ptr<ElementPainter> make_moving_image_painter(const Element& element, Pictures& pictures) {
   if (pictures.turning(element.resource_id) == nullptr) return nullptr;
-  const Rect window =
-      scaled_place(element.position, window_size(element, pictures), pictures.scale());
+  const Rect window = scaled_place(element.position, window_size(element, pictures), pictures.scale());
   if (hidden_by_mask(element, window, pictures)) return nullptr;
   return std::make_unique<MovingImagePainter>(element, window, pictures);
 }

@@ -49,8 +49,7 @@ double NeedleScale::angle(double value) const {
   if (above == marks_.begin()) return marks_.front().angle;
   if (above == marks_.end()) return marks_.back().angle;
   const Mark& low = *(above - 1);
-  return low.angle +
-         (above->angle - low.angle) * ((value - low.value) / (above->value - low.value));
+  return low.angle + (above->angle - low.angle) * ((value - low.value) / (above->value - low.value));
 }
 
 double NeedleScale::angle_between(double before, double now, double blend) const {

@@ -35,8 +35,6 @@ std::uint32_t by_night(std::uint32_t colour) {
   return night;
 }
 
-void dim(Bitmap& bitmap) {
-  std::ranges::transform(bitmap.pixels, bitmap.pixels.begin(), by_night);
-}
+void dim(Bitmap& bitmap) { std::ranges::transform(bitmap.pixels, bitmap.pixels.begin(), by_night); }
 
 }  // namespace host

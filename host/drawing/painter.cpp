@@ -34,8 +34,7 @@ struct GaugePainter::Layers {
   };
 
   Layers(const GaugeHeader& gauge, const BitmapStore& bitmaps, Rect where);
-  void compare(std::span<const ElementState> before, std::span<const ElementState> now,
-               double blend);
+  void compare(std::span<const ElementState> before, std::span<const ElementState> now, double blend);
   void take_look(std::size_t index, const Look& look);
   std::size_t first_moving(std::span<const ElementState> now) const;
   void compose(Surface target, const Rect& clip, std::size_t first, std::size_t last) const;
@@ -56,7 +55,8 @@ struct GaugePainter::Layers {
 };
 
 GaugePainter::Layers::Layers(const GaugeHeader& gauge, const BitmapStore& bitmaps, Rect where)
-    : place(where), whole{0, 0, where.width, where.height},
+    : place(where),
+      whole{0, 0, where.width, where.height},
       pictures(bitmaps, scale_to(where, gauge_size(gauge, bitmaps))) {
   if (is_empty(place)) return;
   for (const ChainLink& link : element_chain(gauge))
@@ -97,8 +97,7 @@ void GaugePainter::Layers::compare(std::span<const ElementState> before,
       take_look(i, {});
       continue;
     }
-    const bool moved =
-        i < before.size() && before[i].drawn && before[i].element == items[i].element;
+    const bool moved = i < before.size() && before[i].drawn && before[i].element == items[i].element;
     take_look(i, items[i].painter->look({moved ? before[i] : now[i], now[i], blend, light}));
   }
 }

@@ -9,7 +9,7 @@
 namespace host {
 namespace {
 
-constexpr double farthest = 1e6;     // canvas pixels
+constexpr double farthest = 1e6;  // canvas pixels
 constexpr int greatest_side = 16384;
 
 bool row_is_clear(const Bitmap& bitmap, int y) {
@@ -35,16 +35,15 @@ Rect visible_part(const Bitmap& bitmap) {
 }
 
 PixelView part_of(const Bitmap& bitmap, const Rect& part) {
-  return {bitmap.pixels.data() + std::size_t(part.y) * bitmap.width + part.x, part.width,
-          part.height, bitmap.width};
+  return {bitmap.pixels.data() + std::size_t(part.y) * bitmap.width + part.x, part.width, part.height,
+          bitmap.width};
 }
 
 Bitmap with_clear_edges(const PixelView& source) {
   Bitmap padded{source.width + 2, source.height + 2, false, false, {}};
   padded.pixels.resize(std::size_t(padded.width) * padded.height);
   for (int y = 0; y < source.height; ++y)
-    std::copy_n(source.at(0, y), source.width,
-                &padded.pixels[std::size_t(y + 1) * padded.width + 1]);
+    std::copy_n(source.at(0, y), source.width, &padded.pixels[std::size_t(y + 1) * padded.width + 1]);
   return padded;
 }
 
@@ -88,8 +87,7 @@ const Bitmap& Pictures::whole(const Key& key, const Bitmap& source) {
   return resampled_.emplace(key, std::move(bitmap)).first->second;
 }
 
-const Picture* Pictures::at_size(std::int64_t id, BitmapUse use, int width, int height,
-                                 Light light) {
+const Picture* Pictures::at_size(std::int64_t id, BitmapUse use, int width, int height, Light light) {
   const PanelSize own = size(id, use);
   if (own.width <= 0 || own.height <= 0) return nullptr;
   const Key key{static_cast<std::uint32_t>(id), use, std::clamp(width, 1, greatest_side),
@@ -114,11 +112,10 @@ const TurningPicture* Pictures::turning(std::int64_t id) {
   const Affine to_whole = shifted_by(picture->visible.x - 1, picture->visible.y - 1);
   const Affine to_image = scaled_by(1.0 * own.width / place.width, 1.0 * own.height / place.height);
   return &turning_
-              .emplace(static_cast<std::uint32_t>(id),
-                       TurningPicture{with_clear_edges(picture->pixels),
-                                      {place.width, place.height},
-                                      to_whole,
-                                      to_image * to_whole})
+              .emplace(static_cast<std::uint32_t>(id), TurningPicture{with_clear_edges(picture->pixels),
+                                                                      {place.width, place.height},
+                                                                      to_whole,
+                                                                      to_image * to_whole})
               .first->second;
 }
 

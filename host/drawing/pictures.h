@@ -30,13 +30,11 @@ struct Picture {
 /// parts of a pixel, and the ways back from its pixels.
 struct TurningPicture {
   Bitmap pixels;
-  PanelSize whole;   ///< the whole picture's size, canvas pixels
-  Affine to_whole;   ///< to the pixels of the whole picture
-  Affine to_image;   ///< to those of the module's own bitmap
+  PanelSize whole;  ///< the whole picture's size, canvas pixels
+  Affine to_whole;  ///< to the pixels of the whole picture
+  Affine to_image;  ///< to those of the module's own bitmap
 
-  PixelView view() const {
-    return {pixels.pixels.data(), pixels.width, pixels.height, pixels.width};
-  }
+  PixelView view() const { return {pixels.pixels.data(), pixels.width, pixels.height, pixels.width}; }
 };
 
 /// The edge of a background pixel in canvas pixels; far outside for values that no canvas reaches.

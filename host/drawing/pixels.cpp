@@ -23,8 +23,7 @@ __attribute__((target("avx2"))) inline __m256i faded_four(__m256i target, __m256
   __m256i alpha = _mm256_shufflelo_epi16(source, _MM_SHUFFLE(3, 3, 3, 3));
   alpha = _mm256_shufflehi_epi16(alpha, _MM_SHUFFLE(3, 3, 3, 3));
   const __m256i rest = _mm256_sub_epi16(_mm256_set1_epi16(255), alpha);
-  const __m256i product =
-      _mm256_add_epi16(_mm256_mullo_epi16(target, rest), _mm256_set1_epi16(128));
+  const __m256i product = _mm256_add_epi16(_mm256_mullo_epi16(target, rest), _mm256_set1_epi16(128));
   return _mm256_mulhi_epu16(product, _mm256_set1_epi16(257));
 }
 
@@ -39,8 +38,7 @@ __attribute__((target("avx2"))) inline __m256i over_eight(__m256i target, __m256
 
 // Most pictures are mostly clear or mostly solid, so eight alike are the usual case.
 __attribute__((target("avx2"))) void over_row_by_eight(std::uint32_t* target,
-                                                       const std::uint32_t* source,
-                                                       std::size_t count) {
+                                                       const std::uint32_t* source, std::size_t count) {
   const __m256i alphas = _mm256_set1_epi32(static_cast<int>(0xFF000000u));
   for (; count >= 8; count -= 8, target += 8, source += 8) {
     auto* to = reinterpret_cast<__m256i*>(target);

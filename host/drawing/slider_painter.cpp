@@ -10,7 +10,8 @@ class SliderPainter final : public TurningPainter {
       : TurningPainter(picture), part_(element.slider), scale_(scale) {
     // At rest on whole pixels, so that a still image is sharp.
     onto_rest_ = shifted_by(scaled_edge(element.position.x, scale_.x),
-                            scaled_edge(element.position.y, scale_.y)) * picture.to_whole;
+                            scaled_edge(element.position.y, scale_.y)) *
+                 picture.to_whole;
   }
 
   Look look(const Moment& moment) override {

@@ -33,8 +33,7 @@ class SpritePainter final : public TurningPainter {
   // The turn happens in background pixels, so that a gauge stretched one way keeps its circles'
   // shape in step with the background.
   Affine map(const Look& look) const override {
-    const Affine shifted =
-        shifted_by(step_pixels(look.a) / scale_.x, step_pixels(look.b) / scale_.y);
+    const Affine shifted = shifted_by(step_pixels(look.a) / scale_.x, step_pixels(look.b) / scale_.y);
     return onto_gauge_ * scaled_by(scale_.x, scale_.y) * turned_by(360.0 * look.turn / steps_) *
            shifted * onto_center_;
   }

@@ -16,9 +16,7 @@ constexpr u32 shines_by_itself = 0x4;
 
 class StillPainter final : public ElementPainter {
  public:
-  StillPainter(const Element& element, Pictures& pictures)
-      : element_(element),
-        pictures_(pictures) {
+  StillPainter(const Element& element, Pictures& pictures) : element_(element), pictures_(pictures) {
     const bool icon = element.kind == ELEMENT_ICON;
     const std::size_t count = icon ? std::clamp(element.icon.image_count, 1u, most_images) : 1;
     for (std::vector<Image>& images : images_) images.resize(count);
@@ -66,8 +64,7 @@ class StillPainter final : public ElementPainter {
     const auto use = element_.kind == ELEMENT_ICON ? BitmapUse::image : BitmapUse::background;
     const std::int64_t id = std::int64_t{element_.resource_id} + index;
     image.place = scaled_place(element_.position, pictures_.size(id, use), pictures_.scale());
-    image.picture = pictures_.at_size(id, use, image.place.width, image.place.height,
-                                      light);
+    image.picture = pictures_.at_size(id, use, image.place.width, image.place.height, light);
     return image;
   }
 

@@ -9,9 +9,7 @@
 
 #if defined(__SANITIZE_ADDRESS__)
 // Fontconfig keeps its caches behind pointers that the leak checker cannot follow.
-extern "C" const char* __lsan_default_suppressions() {
-  return "leak:libfontconfig\nleak:libpango\n";
-}
+extern "C" const char* __lsan_default_suppressions() { return "leak:libfontconfig\nleak:libpango\n"; }
 #endif
 
 namespace host {
@@ -21,12 +19,14 @@ constexpr double trial_size = 100;       // pixels; sizes are measured at it and
 constexpr double segment_height = 0.78;  // of the box's height
 constexpr double narrowest = 0.6;        // a text that needs more narrowing than this is clipped
 constexpr std::size_t longest_shown = 256;
-constexpr u32 segment_weight = 700;      // thin segments are lost on a small display
+constexpr u32 segment_weight = 700;  // thin segments are lost on a small display
 
 template <auto destroy>
 struct Destroyer {
   template <typename Object>
-  void operator()(Object* object) const { destroy(object); }
+  void operator()(Object* object) const {
+    destroy(object);
+  }
 };
 using SurfacePtr = std::unique_ptr<cairo_surface_t, Destroyer<cairo_surface_destroy>>;
 using ContextPtr = std::unique_ptr<cairo_t, Destroyer<cairo_destroy>>;
@@ -41,7 +41,8 @@ FontPtr font_of(const StringPart& part) {
   FontPtr font(pango_font_description_new());
   const bool segments = is_segment_display(name);
   const char* family = segments ? "DSEG14 Classic, DSEG7 Classic, monospace"
-                       : arial ? "Liberation Sans, Arial, sans-serif" : name;
+                       : arial  ? "Liberation Sans, Arial, sans-serif"
+                                : name;
   pango_font_description_set_family(font.get(), family);
   const u32 weight = segments ? segment_weight : std::clamp(part.weight, 100u, 900u);
   pango_font_description_set_weight(font.get(), static_cast<PangoWeight>(weight));
@@ -80,8 +81,8 @@ std::string display_text(std::string_view text, bool segments) {
 }
 
 struct Extent {
-  double width;   // of one figure, with its share of space
-  double top;     // of what has to stand in the middle of the box
+  double width;  // of one figure, with its share of space
+  double top;    // of what has to stand in the middle of the box
   double height;
 };
 
@@ -113,7 +114,9 @@ struct TextSetter::Setting {
 TextSetter::Setting::Setting(const StringPart& part, PanelSize size)
     : segments(part.font != nullptr && is_segment_display(part.font)),
       surface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, size.width, size.height)),
-      cr(cairo_create(surface.get())), layout(pango_cairo_create_layout(cr.get())), box(size) {
+      cr(cairo_create(surface.get())),
+      layout(pango_cairo_create_layout(cr.get())),
+      box(size) {
   steady_rendering(cr.get());
   pango_cairo_update_layout(cr.get(), layout.get());
   pango_layout_set_single_paragraph_mode(layout.get(), true);

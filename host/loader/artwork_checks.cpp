@@ -31,9 +31,7 @@ struct Corner {
   std::int64_t y;
 };
 
-Corner corner_of(const MouseArea& area, Corner group) {
-  return {group.x + area.x, group.y + area.y};
-}
+Corner corner_of(const MouseArea& area, Corner group) { return {group.x + area.x, group.y + area.y}; }
 
 bool inside(const MouseArea& area, Corner group, const Dib& background) {
   const Corner corner = corner_of(area, group);
@@ -48,8 +46,7 @@ void check_boxes(const MouseArea* areas, const Dib& background, const Inspector&
     if (area.kind == MOUSE_GROUP_END && groups.size() > 1) groups.pop_back();
     const bool box = area.kind == MOUSE_GROUP || area.kind == MOUSE_CLICK_AREA;
     if (box && !inside(area, groups.back(), background))
-      place.part("mouse area " + std::to_string(i))
-          .warning("its box reaches outside the background");
+      place.part("mouse area " + std::to_string(i)).warning("its box reaches outside the background");
     if (area.kind == MOUSE_GROUP) groups.push_back(corner_of(area, groups.back()));
   }
 }

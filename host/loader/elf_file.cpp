@@ -23,9 +23,7 @@ static_assert(sizeof(void*) == 8, "32-bit libraries have other records");
 
 constexpr int own_order = std::endian::native == std::endian::little ? ELFDATA2LSB : ELFDATA2MSB;
 
-[[noreturn]] void cut_short() {
-  throw ElfError("is cut short: parts that it names lie past its end");
-}
+[[noreturn]] void cut_short() { throw ElfError("is cut short: parts that it names lie past its end"); }
 
 void check_identity(const Elf64_Ehdr& header) {
   if (header.e_ident[EI_CLASS] != ELFCLASS64 || header.e_ident[EI_DATA] != own_order)
@@ -33,8 +31,7 @@ void check_identity(const Elf64_Ehdr& header) {
   if (own_machine != EM_NONE && header.e_machine != own_machine)
     throw ElfError("is a library for another kind of processor (number " +
                    std::to_string(header.e_machine) + ")");
-  if (header.e_type != ET_DYN)
-    throw ElfError("is a program or an object file, not a shared library");
+  if (header.e_type != ET_DYN) throw ElfError("is a program or an object file, not a shared library");
 }
 
 Elf64_Ehdr header_of(Bytes bytes) {
@@ -84,8 +81,8 @@ void ElfFile::read_sections() {
   const Bytes names =
       header.e_shstrndx < headers.size() ? content(headers[header.e_shstrndx]) : Bytes{};
   for (const Elf64_Shdr& section : headers)
-    sections_.push_back({std::string(text_at(names, section.sh_name)), section.sh_type,
-                         section.sh_link, content(section)});
+    sections_.push_back({std::string(text_at(names, section.sh_name)), section.sh_type, section.sh_link,
+                         content(section)});
 }
 
 std::optional<Bytes> ElfFile::section(std::string_view name) const {
@@ -98,8 +95,7 @@ void ElfFile::read_exports() {
   const auto table = std::ranges::find(sections_, std::uint32_t{SHT_DYNSYM}, &Section::type);
   if (table == sections_.end() || table->link >= sections_.size()) return;
   const Bytes names = sections_[table->link].bytes;
-  for (std::uint64_t at = 0; auto symbol = read<Elf64_Sym>(table->bytes, at);
-       at += sizeof(Elf64_Sym)) {
+  for (std::uint64_t at = 0; auto symbol = read<Elf64_Sym>(table->bytes, at); at += sizeof(Elf64_Sym)) {
     const int binding = ELF64_ST_BIND(symbol->st_info);
     const int visibility = ELF64_ST_VISIBILITY(symbol->st_other);
     if (symbol->st_shndx == SHN_UNDEF || (binding != STB_GLOBAL && binding != STB_WEAK)) continue;

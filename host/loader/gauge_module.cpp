@@ -40,8 +40,8 @@ const std::filesystem::path& GaugeModule::file() const { return library_->file()
 
 std::span<const GaugeHeader* const> GaugeModule::gauges() const {
   const auto* gauges = library_->linkage().gauges;
-  return {gauges, static_cast<std::size_t>(
-                      std::find(gauges, gauges + LINKAGE_GAUGE_COUNT, nullptr) - gauges)};
+  return {gauges,
+          static_cast<std::size_t>(std::find(gauges, gauges + LINKAGE_GAUGE_COUNT, nullptr) - gauges)};
 }
 
 const GaugeHeader* GaugeModule::find(std::string_view name) const {

@@ -18,12 +18,8 @@ class Inspector {
       : memory_(memory), findings_(findings), place_(std::move(place)) {}
 
   /// The same for a part of this place; `first` for the first part below the file.
-  Inspector part(const std::string& name) const {
-    return {memory_, findings_, place_ + ", " + name};
-  }
-  Inspector first(const std::string& name) const {
-    return {memory_, findings_, place_ + ": " + name};
-  }
+  Inspector part(const std::string& name) const { return {memory_, findings_, place_ + ", " + name}; }
+  Inspector first(const std::string& name) const { return {memory_, findings_, place_ + ": " + name}; }
 
   void error(const std::string& text) const;
   void warning(const std::string& text) const;

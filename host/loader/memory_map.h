@@ -16,9 +16,7 @@ class MemoryMap {
   MemoryMap();
 
   bool readable(const void* start, std::size_t size) const { return allows(start, size, read); }
-  bool writable(const void* start, std::size_t size) const {
-    return allows(start, size, read | write);
-  }
+  bool writable(const void* start, std::size_t size) const { return allows(start, size, read | write); }
   bool callable(const void* routine) const { return allows(routine, 1, execute); }
 
   /// The zero-terminated text at `start`; none if it runs out of readable memory or has more than

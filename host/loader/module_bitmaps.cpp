@@ -40,8 +40,8 @@ const Dib* ModuleBitmaps::dib(const DensitySet& set, std::uint32_t id) const {
   const Dib* plain = own(id);
   const Dib* found = set.section.find(id);
   if (plain == nullptr || found == nullptr) return nullptr;
-  const bool fits = found->width == plain->width * set.density &&
-                    found->height == plain->height * set.density;
+  const bool fits =
+      found->width == plain->width * set.density && found->height == plain->height * set.density;
   return fits ? found : nullptr;
 }
 

@@ -57,8 +57,7 @@ void OpenModule::check_exports(const ElfFile& elf) {
   check_export(elf, imports_name, sizeof(ImportTableRecord));
   for (const ExportedSymbol& symbol : elf.exports())
     if (symbol.name != linkage_name && symbol.name != imports_name)
-      note(Finding::Severity::warning,
-           "exports " + symbol.name + " beside Linkage and ImportTable");
+      note(Finding::Severity::warning, "exports " + symbol.name + " beside Linkage and ImportTable");
 }
 
 void OpenModule::check_export(const ElfFile& elf, const char* name, std::size_t size) {
@@ -81,8 +80,7 @@ void OpenModule::read_bitmaps(const ElfFile& elf) {
     bitmaps_ = std::make_unique<ModuleBitmaps>(*section, file_);
     for (const std::string& line : bitmaps_->notes()) note(Finding::Severity::warning, line);
   } catch (const ResourceError& error) {
-    note(Finding::Severity::error,
-         std::string("section " PANEL_RESOURCE_SECTION " ") + error.what());
+    note(Finding::Severity::error, std::string("section " PANEL_RESOURCE_SECTION " ") + error.what());
   }
 }
 
@@ -122,9 +120,8 @@ void OpenModule::connect(const PanelServices& services) {
 }
 
 bool has_errors(const std::vector<Finding>& findings) {
-  return std::ranges::any_of(findings, [](const Finding& finding) {
-    return finding.severity == Finding::Severity::error;
-  });
+  return std::ranges::any_of(
+      findings, [](const Finding& finding) { return finding.severity == Finding::Severity::error; });
 }
 
 std::vector<Finding> check_module(const std::filesystem::path& file) {

@@ -73,8 +73,7 @@ void check_string(const StringPart& string, const Inspector& place) {
   if (!check_count(string.max_characters, longest_text, "characters of text", place)) return;
   if (!place.readable(string.text, "the text", string.max_characters + 1)) return;
   if (!place.memory().text(string.text, string.max_characters))
-    place.error("the text has no end within " + std::to_string(string.max_characters) +
-                " characters");
+    place.error("the text has no end within " + std::to_string(string.max_characters) + " characters");
 }
 
 void check_slider(const SliderPart& slider, const Inspector& place) {

@@ -12,8 +12,7 @@ std::uint32_t directory_length(Bytes bytes) {
   if (!header || std::memcmp(header->magic, PANEL_RESOURCE_MAGIC, sizeof header->magic) != 0)
     throw ResourceError("holds no bitmap directory");
   if (header->version != PANEL_RESOURCE_VERSION)
-    throw ResourceError("has a bitmap directory of unknown version " +
-                        std::to_string(header->version));
+    throw ResourceError("has a bitmap directory of unknown version " + std::to_string(header->version));
   if (!slice(bytes, sizeof *header, std::uint64_t{header->count} * sizeof(PanelResourceEntry)))
     throw ResourceError("has a bitmap directory that is cut short");
   return header->count;

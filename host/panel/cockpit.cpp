@@ -30,8 +30,7 @@ void Cockpit::place_gauges(const WindowConfig& window) {
     CockpitGauge& gauge = gauge_for(placement);
     const bool own_size = placement.width == 0;
     placed.gauges.push_back({&gauge,
-                             {placement.x, placement.y,
-                              own_size ? gauge.size.width : placement.width,
+                             {placement.x, placement.y, own_size ? gauge.size.width : placement.width,
                               own_size ? gauge.size.height : placement.height}});
   }
   windows_.push_back(std::move(placed));
@@ -44,8 +43,8 @@ CockpitGauge& Cockpit::gauge_for(const Placement& placement) {
                               "the module is " + module_name + ", not " + placement.module));
   const GaugeHeader* header = module_.find(placement.gauge);
   if (!header)
-    throw ConfigError(at_line(config_.file, placement.line,
-                              module_name + " has no gauge '" + placement.gauge + "'"));
+    throw ConfigError(
+        at_line(config_.file, placement.line, module_name + " has no gauge '" + placement.gauge + "'"));
   if (CockpitGauge* known = find(header->name)) return *known;
   const PanelSize size = gauge_size(*header, module_.bitmaps());
   if (size.width < 1 || size.height < 1)

@@ -27,10 +27,10 @@ struct CockpitGauge {
 
   GaugeRun run;
   HotAreas areas;
-  PanelSize size;          ///< of its background
+  PanelSize size;  ///< of its background
   bool started = false;
-  std::uint64_t frame = 0; ///< the cockpit's frame that it last ran in
-  bool moving = false;     ///< something it shows has changed with that frame
+  std::uint64_t frame = 0;    ///< the cockpit's frame that it last ran in
+  bool moving = false;        ///< something it shows has changed with that frame
   std::uint64_t changes = 0;  ///< how many frames have changed what it shows
 };
 

@@ -57,9 +57,7 @@ GaugeRun::GaugeRun(const GaugeHeader& gauge) : gauge_(&gauge) {
 
 GaugeRun::Slot GaugeRun::slot_of(Element& element) {
   Slot slot{.element = &element, .chain_end = 0, .later_copy = 0, .group = 0};
-  const auto add_source = [&](TokenVariable& source) {
-    slot.sources[slot.source_count++] = &source;
-  };
+  const auto add_source = [&](TokenVariable& source) { slot.sources[slot.source_count++] = &source; };
   const auto add = [&](TokenVariable& source, ValueRoutine routine) {
     add_source(source);
     slot.routines[slot.value_count++] = routine;

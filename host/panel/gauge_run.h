@@ -24,11 +24,11 @@ class TokenSource {
 /// What one element shows after a frame.
 struct ElementState {
   const Element* element = nullptr;
-  bool evaluated = false;              ///< neither hidden nor covered by a later copy
-  bool drawn = false;                  ///< evaluated and its picture not hidden
-  std::array<double, 3> values{};      ///< one per value routine of its kind, failures applied
-  std::string text;                    ///< strings only; printable ASCII
-  std::optional<double> reached;       ///< needles with a speed limit: how far the needle has come
+  bool evaluated = false;          ///< neither hidden nor covered by a later copy
+  bool drawn = false;              ///< evaluated and its picture not hidden
+  std::array<double, 3> values{};  ///< one per value routine of its kind, failures applied
+  std::string text;                ///< strings only; printable ASCII
+  std::optional<double> reached;   ///< needles with a speed limit: how far the needle has come
   bool operator==(const ElementState&) const = default;
 };
 
@@ -61,9 +61,9 @@ class GaugeRun {
   // What the records of one element say, read once.
   struct Slot {
     Element* element;
-    std::size_t chain_end;       // the first slot that does not hang below this one
-    std::size_t later_copy;      // the nearest exact copy further on, or the number of slots
-    std::size_t group;           // the last of its exact copies: all of them show the same thing
+    std::size_t chain_end;   // the first slot that does not hang below this one
+    std::size_t later_copy;  // the nearest exact copy further on, or the number of slots
+    std::size_t group;       // the last of its exact copies: all of them show the same thing
     std::array<TokenVariable*, 3> sources{};
     std::array<ValueRoutine, 3> routines{};
     std::size_t source_count = 0;
@@ -83,8 +83,8 @@ class GaugeRun {
   const GaugeHeader* gauge_;
   double frame_seconds_ = 1.0 / 18;
   std::vector<Slot> slots_;
-  std::vector<char> hidden_;          // by slot
-  std::vector<ElementState> shown_;   // by group: what it last showed
+  std::vector<char> hidden_;         // by slot
+  std::vector<ElementState> shown_;  // by group: what it last showed
   std::vector<ElementState> now_;
   std::vector<ElementState> before_;
 };

@@ -52,8 +52,7 @@ Box around(const Box& a, const Box& b) {
 }  // namespace
 
 void HotArea::fire(PanelPoint point, std::uint32_t fired) const {
-  if (routine)
-    routine({static_cast<i32>(point.x - box.x), static_cast<i32>(point.y - box.y)}, fired);
+  if (routine) routine({static_cast<i32>(point.x - box.x), static_cast<i32>(point.y - box.y)}, fired);
 }
 
 HotAreas::HotAreas(const MouseArea* table) {

@@ -26,9 +26,9 @@ struct Box {
 /// One click area, placed on the gauge.
 struct HotArea {
   Box box;
-  int depth = 0;              ///< groups around it
+  int depth = 0;  ///< groups around it
   int cursor = CURSOR_ARROW;
-  std::uint32_t flags = 0;    ///< the actions that it answers
+  std::uint32_t flags = 0;  ///< the actions that it answers
   MouseRoutine routine = nullptr;
 
   /// Calls the routine. `point` is on the gauge, `flags` the bits that fired.

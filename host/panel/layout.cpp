@@ -10,7 +10,7 @@ namespace {
 struct Frame {
   double along;
   double across;
-  double caption_along;   // a caption lies above each window: across a row, along a column
+  double caption_along;  // a caption lies above each window: across a row, along a column
   double caption_across;
   double gap;
 };
@@ -130,7 +130,8 @@ class Placer {
     double along = (room - length(line)) / 2 + frame_.gap;
     for (std::size_t i = line.first; i < line.first + line.count; ++i) {
       const PanelSize size = sizes_[i];
-      const double spare = breadth(line) - frame_.caption_across - across_of(size, choice_.rows) * zoom_;
+      const double spare =
+          breadth(line) - frame_.caption_across - across_of(size, choice_.rows) * zoom_;
       along += frame_.caption_along;
       add(layout, size, along, across + frame_.caption_across + spare / 2);
       along += along_of(size, choice_.rows) * zoom_ + frame_.gap;
@@ -140,10 +141,9 @@ class Placer {
 
   void add(Layout& layout, PanelSize size, double along, double across) const {
     const auto whole_pixel = [](double value) { return static_cast<int>(std::lround(value)); };
-    layout.places.push_back({whole_pixel(choice_.rows ? along : across),
-                             whole_pixel(choice_.rows ? across : along),
-                             std::max(1, whole_pixel(size.width * zoom_)),
-                             std::max(1, whole_pixel(size.height * zoom_))});
+    layout.places.push_back(
+        {whole_pixel(choice_.rows ? along : across), whole_pixel(choice_.rows ? across : along),
+         std::max(1, whole_pixel(size.width * zoom_)), std::max(1, whole_pixel(size.height * zoom_))});
   }
 
   std::span<const PanelSize> sizes_;

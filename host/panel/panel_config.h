@@ -34,11 +34,11 @@ struct ConfigError : std::runtime_error {
 struct Placement {
   std::string module;  ///< the module's file name without its extension
   std::string gauge;
-  int x = 0;           ///< panel pixels from the window's upper left corner
+  int x = 0;  ///< panel pixels from the window's upper left corner
   int y = 0;
-  int width = 0;       ///< 0: the size of the gauge's own background
+  int width = 0;  ///< 0: the size of the gauge's own background
   int height = 0;
-  int line = 0;        ///< where the configuration says so
+  int line = 0;  ///< where the configuration says so
 };
 
 /// One window of the panel.
@@ -46,16 +46,16 @@ struct WindowConfig {
   int number = 0;
   int line = 0;
   std::string title;
-  std::uint32_t ident = 0;        ///< 0: none
+  std::uint32_t ident = 0;  ///< 0: none
   std::uint32_t day_ident = 0;
   std::uint32_t night_ident = 0;
-  int width = 0;                  ///< panel pixels
+  int width = 0;  ///< panel pixels
   int height = 0;
-  int position = 4;               ///< 0 upper left ... 8 lower right
+  int position = 4;  ///< 0 upper left ... 8 lower right
   bool visible = false;
   bool drawn = true;
-  std::string background;         ///< empty: a plate in `color`
-  std::string night_background;   ///< empty: as by day
+  std::string background;        ///< empty: a plate in `color`
+  std::string night_background;  ///< empty: as by day
   std::uint32_t color = 0xFF2B2E33u;
   std::vector<Placement> gauges;
 };

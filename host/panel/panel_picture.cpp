@@ -44,7 +44,8 @@ PanelPicture::PanelPicture(const Cockpit& cockpit, std::size_t window, double zo
   canvas_ = Canvas(size.width, size.height);
   for (const PlacedGauge& placed : cockpit.windows()[window].gauges) {
     const Rect place = scaled(placed.place, zoom_);
-    items_.push_back({placed.gauge, place,
+    items_.push_back({placed.gauge,
+                      place,
                       GaugePainter(placed.gauge->header(), cockpit.module().bitmaps(), place),
                       {}});
   }

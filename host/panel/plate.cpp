@@ -22,8 +22,7 @@ Color unpacked(std::uint32_t color) {
 
 void add_stop(cairo_pattern_t* pattern, double offset, Color color, double brightness) {
   const auto lit = [&](double part) { return std::min(1.0, part * brightness); };
-  cairo_pattern_add_color_stop_rgb(pattern, offset, lit(color.red), lit(color.green),
-                                   lit(color.blue));
+  cairo_pattern_add_color_stop_rgb(pattern, offset, lit(color.red), lit(color.green), lit(color.blue));
 }
 
 // One light from above left, as on every gauge; at night what little falls in from above the glareshield.

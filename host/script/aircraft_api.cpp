@@ -24,7 +24,8 @@ std::uint32_t number_of(const LuaCall& call, int index, const char* what,
   if (call.is_number(index)) {
     const std::uint32_t number = call.key(index, what);
     if (std::ranges::find(rows, number, &TableRow::number) != rows.end()) return number;
-    throw std::invalid_argument("the aircraft has no " + std::string(what) + " " + std::to_string(number));
+    throw std::invalid_argument("the aircraft has no " + std::string(what) + " " +
+                                std::to_string(number));
   }
   const std::string name = call.text(index, what);
   const auto row = std::ranges::find(rows, name, &TableRow::name);
@@ -59,9 +60,8 @@ void bind_aircraft(LuaRunner& runner, FlowSession& session) {
     const std::uint32_t token = token_argument(call, 1);
     aircraft.hold_token(token, call.number(2, "value"));
   });
-  runner.bind("release_token", [&](LuaCall& call) {
-    aircraft.hold_token(token_argument(call, 1), std::nullopt);
-  });
+  runner.bind("release_token",
+              [&](LuaCall& call) { aircraft.hold_token(token_argument(call, 1), std::nullopt); });
   runner.bind("event", [&](LuaCall& call) {
     const std::uint32_t event = event_argument(call, 1);
     aircraft.key_event(event, call.has(2) ? call.key(2, "value") : 0);

@@ -45,14 +45,15 @@ std::string picture_name(const LuaCall& call) {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_' ||
            c == '-' || c == '.';
   };
-  if (name.empty() || name.front() == '.' || name.size() > 100 || !std::ranges::all_of(name, plain_letter))
+  if (name.empty() || name.front() == '.' || name.size() > 100 ||
+      !std::ranges::all_of(name, plain_letter))
     throw std::invalid_argument("argument 1 (name) must be letters, digits, - and _");
   return name;
 }
 
 void picture(LuaCall& call, FlowSession& session) {
-  const std::string what = call.is_number(2) ? std::to_string(call.key(2, "what"))
-                                             : call.text_or(2, "what", "");
+  const std::string what =
+      call.is_number(2) ? std::to_string(call.key(2, "what")) : call.text_or(2, "what", "");
   const double zoom = call.number_or(3, "zoom", 1.0);
   if (zoom < 0.1 || zoom > 4) throw std::invalid_argument("argument 3 (zoom) must be 0.1 to 4");
   session.picture(picture_name(call), what, zoom);

@@ -10,8 +10,8 @@ Spot take_spot(LuaCall& call) {
 }
 
 double duration(const LuaCall& call, int index, double fallback = -1) {
-  const double seconds = fallback < 0 ? call.number(index, "seconds")
-                                      : call.number_or(index, "seconds", fallback);
+  const double seconds =
+      fallback < 0 ? call.number(index, "seconds") : call.number_or(index, "seconds", fallback);
   if (seconds < 0 || seconds > 3600) throw std::invalid_argument("a gesture lasts 0 to 3600 seconds");
   return seconds;
 }

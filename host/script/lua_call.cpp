@@ -11,7 +11,8 @@ namespace host {
 namespace {
 
 [[noreturn]] void wrong(int index, const char* what, const char* wanted) {
-  throw std::invalid_argument("argument " + std::to_string(index) + " (" + what + ") must be " + wanted);
+  throw std::invalid_argument("argument " + std::to_string(index) + " (" + what + ") must be " +
+                              wanted);
 }
 
 }  // namespace
@@ -19,7 +20,9 @@ namespace {
 LuaCall::LuaCall(lua_State* state) : state_(state), count_(lua_gettop(state)) {}
 
 bool LuaCall::has(int index) const { return index <= count_ && !lua_isnil(state_, index); }
-bool LuaCall::is_number(int index) const { return has(index) && lua_type(state_, index) == LUA_TNUMBER; }
+bool LuaCall::is_number(int index) const {
+  return has(index) && lua_type(state_, index) == LUA_TNUMBER;
+}
 bool LuaCall::is_table(int index) const { return has(index) && lua_istable(state_, index); }
 
 double LuaCall::number(int index, const char* what) const {

@@ -28,7 +28,7 @@ class LuaCall {
   std::uint32_t key(int index, const char* what) const;  ///< 0 to 2^32 - 1
   std::string text(int index, const char* what) const;
   std::string text_or(int index, const char* what, std::string fallback) const;
-  bool truth(int index) const;  ///< false for nil, false and nothing
+  bool truth(int index) const;         ///< false for nil, false and nothing
   std::string shown(int index) const;  ///< any value as a person reads it
 
   /// Replaces the table at `index` by its first `size` fields, so that control = {"Name", x, y}

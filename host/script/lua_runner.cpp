@@ -132,7 +132,8 @@ std::string LuaRunner::describe(lua_State* state, std::string message) const {
   if (!line) line = nearest_line(state);
   const int outermost = line_of(state, deepest_level(state));
   std::string text = name_ + ":" + (line ? std::to_string(*line) + ": " : " ") + message;
-  if (outermost > 0 && outermost != line) text += " (called from line " + std::to_string(outermost) + ")";
+  if (outermost > 0 && outermost != line)
+    text += " (called from line " + std::to_string(outermost) + ")";
   return text;
 }
 

@@ -25,8 +25,8 @@ const ElementState& element_argument(LuaCall& call, FlowSession& session) {
   CockpitGauge& gauge = gauge_that_ran(call, session);
   const int bitmap = call.whole(2, "bitmap");
   const int nth = call.whole_or(3, "nth", 1);
-  const auto* state = nth_element(
-      gauge, nth, [&](const Element& element) { return element.resource_id == bitmap; });
+  const auto* state =
+      nth_element(gauge, nth, [&](const Element& element) { return element.resource_id == bitmap; });
   if (!state)
     throw std::runtime_error(call.text(1, "gauge") + " shows no element " + std::to_string(nth) +
                              " with bitmap " + std::to_string(bitmap));
@@ -51,8 +51,8 @@ void give_value(LuaCall& call, FlowSession& session) {
 void give_text(LuaCall& call, FlowSession& session) {
   CockpitGauge& gauge = gauge_that_ran(call, session);
   const int nth = call.whole_or(2, "nth", 1);
-  const auto* state = nth_element(
-      gauge, nth, [](const Element& element) { return element.kind == ELEMENT_STRING; });
+  const auto* state =
+      nth_element(gauge, nth, [](const Element& element) { return element.kind == ELEMENT_STRING; });
   if (!state)
     throw std::runtime_error(call.text(1, "gauge") + " shows no text field " + std::to_string(nth));
   call.give(state->drawn ? std::string_view(state->text) : std::string_view());

@@ -10,9 +10,7 @@ constexpr EventRow events[] = {
     {{0x101EE, "engine_antiice_off", ""},
      [](Aircraft& a, std::uint32_t) { a.air_controls.engine_antiice_on = false; }},
     {{0x10519, "ram_air_toggle", ""},
-     [](Aircraft& a, std::uint32_t) {
-       a.air_controls.ram_air_open = !a.air_controls.ram_air_open;
-     }},
+     [](Aircraft& a, std::uint32_t) { a.air_controls.ram_air_open = !a.air_controls.ram_air_open; }},
 };
 
 }  // namespace

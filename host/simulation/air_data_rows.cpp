@@ -7,8 +7,7 @@ namespace {
 constexpr double hpa_per_inch_of_mercury = 33.8639;
 
 constexpr TokenRow tokens[] = {
-    {{74, "indicated_altitude", "feet"},
-     [](const Aircraft& a) { return a.air.indicated_altitude_ft; }},
+    {{74, "indicated_altitude", "feet"}, [](const Aircraft& a) { return a.air.indicated_altitude_ft; }},
     {{75, "pressure_setting", "hectopascals"},
      [](const Aircraft& a) { return a.air.pressure_setting_hpa; }},
     {{76, "pressure_setting_inches", "inches of mercury"},

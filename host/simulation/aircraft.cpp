@@ -26,13 +26,13 @@ void Aircraft::update_systems(double dt_s) {
 }
 
 void Aircraft::update_engine_start(double dt_s) {
-  engine_start.update(dt_s, {
-                                .core_speed_percent = {engines[0].core_speed_percent,
-                                                       engines[1].core_speed_percent},
-                                .has_dc = electrics.has_dc(),
-                                .apu_at_speed = apu.at_speed(),
-                                .on_ground = flight.on_ground,
-                            });
+  engine_start.update(
+      dt_s, {
+                .core_speed_percent = {engines[0].core_speed_percent, engines[1].core_speed_percent},
+                .has_dc = electrics.has_dc(),
+                .apu_at_speed = apu.at_speed(),
+                .on_ground = flight.on_ground,
+            });
 }
 
 void Aircraft::update_engines(double dt_s) {
@@ -50,15 +50,15 @@ void Aircraft::update_engines(double dt_s) {
 }
 
 void Aircraft::update_electrics(double dt_s) {
-  electrics.update(dt_s, {
-                             .core_speed_percent = {engines[0].core_speed_percent,
-                                                    engines[1].core_speed_percent},
-                             .apu_at_speed = apu.at_speed(),
-                             .apu_cranking = apu.cranking(),
-                             .on_ground = flight.on_ground,
-                             .engine_antiice = air_controls.engine_antiice_on,
-                             .lights_on = lights.count_on(),
-                         });
+  electrics.update(
+      dt_s, {
+                .core_speed_percent = {engines[0].core_speed_percent, engines[1].core_speed_percent},
+                .apu_at_speed = apu.at_speed(),
+                .apu_cranking = apu.cranking(),
+                .on_ground = flight.on_ground,
+                .engine_antiice = air_controls.engine_antiice_on,
+                .lights_on = lights.count_on(),
+            });
 }
 
 void Aircraft::start_both_engines() {

@@ -19,9 +19,7 @@ double Battery::volts() const {
   return on_curve(open_circuit_volts, charge_ratio) + internal_ohms * amperes;
 }
 
-double Battery::charging_amperes() const {
-  return std::min(80.0, 6.0 + 500.0 * (1.0 - charge_ratio));
-}
+double Battery::charging_amperes() const { return std::min(80.0, 6.0 + 500.0 * (1.0 - charge_ratio)); }
 
 void Battery::update(double dt_s, double new_amperes) {
   amperes = new_amperes;

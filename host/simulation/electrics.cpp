@@ -72,8 +72,8 @@ void Electrics::update(double dt_s, const ElectricsInputs& inputs) {
   share_loads(inputs);
 
   const bool main = main_bus_powered();
-  const double load = std::max({generator_load_percent[0], generator_load_percent[1],
-                                auxiliary_load_percent});
+  const double load =
+      std::max({generator_load_percent[0], generator_load_percent[1], auxiliary_load_percent});
   const double tied_volts = main ? generator_volts - droop_volts_per_percent * load : 0.0;
   bus_volts = {main ? tied_volts : has_dc() ? inverter_volts : 0.0, tied_volts};
 

@@ -22,19 +22,19 @@ struct ElectricsInputs {
 
 struct Electrics {
   bool battery_on = false;
-  bool avionics_on = false;      ///< the switch, powered or not
-  bool external_power = false;   ///< a ground cart is plugged in and feeds the AC buses
-  bool alternators_on = true;    ///< master control of all three
+  bool avionics_on = false;     ///< the switch, powered or not
+  bool external_power = false;  ///< a ground cart is plugged in and feeds the AC buses
+  bool alternators_on = true;   ///< master control of all three
   std::array<bool, 3> alternator_on{true, true, true};  ///< engine 1, engine 2, APU
   Battery battery;
 
   // Outputs.
   std::array<bool, 2> generator_on_line{};
   bool apu_generator_on_line = false;
-  std::array<double, 2> bus_volts{};              ///< AC
-  std::array<double, 2> generator_load_percent{}; ///< of the engines' generators
-  double auxiliary_load_percent = 0.0;            ///< carried by the APU generator or the cart
-  double dc_volts = 0.0;                          ///< of the bus that the battery switch connects
+  std::array<double, 2> bus_volts{};               ///< AC
+  std::array<double, 2> generator_load_percent{};  ///< of the engines' generators
+  double auxiliary_load_percent = 0.0;             ///< carried by the APU generator or the cart
+  double dc_volts = 0.0;                           ///< of the bus that the battery switch connects
 
   void update(double dt_s, const ElectricsInputs& inputs);
 

@@ -26,7 +26,7 @@ constexpr double governor_s = 0.9;
 constexpr double starter_spool_s = 6.5;
 constexpr double starter_assist = 0.6;  // percent a second on top of the burning fuel
 
-constexpr CurvePoint fan_speed[] = {{0.0, 0.0},   {25.0, 4.0},  {52.0, 24.0}, {70.0, 46.0},
+constexpr CurvePoint fan_speed[] = {{0.0, 0.0},   {25.0, 4.0},  {52.0, 24.0},  {70.0, 46.0},
                                     {85.0, 74.0}, {96.0, 96.0}, {102.0, 106.0}};
 
 // Steady temperatures. A start runs hot while little air goes through the core.
@@ -63,8 +63,8 @@ double Engine::core_acceleration(const EngineInputs& inputs) const {
     const double run_down = -0.15 - 0.05 * core_speed_percent;
     return crank_room > 0.0 ? crank_room / starter_spool_s : run_down;
   }
-  const double wanted = on_curve(throttle_speed, inputs.throttle_ratio) *
-                        idle_correction(inputs.air_temperature_celsius);
+  const double wanted =
+      on_curve(throttle_speed, inputs.throttle_ratio) * idle_correction(inputs.air_temperature_celsius);
   const double limit = on_curve(acceleration_limit, core_speed_percent) +
                        (inputs.crank_speed_percent > 0.0 ? starter_assist : 0.0);
   return std::clamp((wanted - core_speed_percent) / governor_s, -deceleration_limit,

@@ -12,9 +12,7 @@ struct Lights {
   bool taxi = false;
   bool recognition = false;
 
-  int count_on() const {
-    return panel + strobe + landing + beacon + navigation + taxi + recognition;
-  }
+  int count_on() const { return panel + strobe + landing + beacon + navigation + taxi + recognition; }
 };
 
 }  // namespace host::simulation

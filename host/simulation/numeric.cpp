@@ -7,8 +7,8 @@ namespace host::simulation {
 double on_curve(std::span<const CurvePoint> curve, double x) {
   if (x <= curve.front().x) return curve.front().y;
   if (x >= curve.back().x) return curve.back().y;
-  const auto above = std::find_if(curve.begin(), curve.end(),
-                                  [x](const CurvePoint& point) { return point.x > x; });
+  const auto above =
+      std::find_if(curve.begin(), curve.end(), [x](const CurvePoint& point) { return point.x > x; });
   const auto below = above - 1;
   return below->y + (above->y - below->y) * (x - below->x) / (above->x - below->x);
 }

@@ -23,7 +23,7 @@ constexpr std::uint16_t frame_size = sample_size * PLATFORM_AUDIO_CHANNELS;
 void put(std::ofstream& out, std::string_view id) { out << id; }
 
 template <typename Number>
-  requires std::is_unsigned_v<Number>
+requires std::is_unsigned_v<Number>
 void put(std::ofstream& out, Number number) {
   out.write(reinterpret_cast<const char*>(&number), sizeof number);
 }

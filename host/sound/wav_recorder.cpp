@@ -30,7 +30,8 @@ void WavRecorder::advance(double seconds) {
     last_.insert(last_.end(), samples.begin(), samples.begin() + static_cast<std::ptrdiff_t>(taken));
   }
   const std::size_t most = samples_in(memory);
-  if (last_.size() > 2 * most) last_.erase(last_.begin(), last_.end() - static_cast<std::ptrdiff_t>(most));
+  if (last_.size() > 2 * most)
+    last_.erase(last_.begin(), last_.end() - static_cast<std::ptrdiff_t>(most));
 }
 
 double WavRecorder::level(double seconds) const {

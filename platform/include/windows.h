@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#define WINBASEAPI __attribute__((visibility("default")))
+#define WINBASEAPI           __attribute__((visibility("default")))
 #define DECLARE_HANDLE(name) typedef struct name##__* name
 
 // ---- Types: sizes are the real ones, whatever this system's `long` is ---------------------------
@@ -107,9 +107,8 @@ WINBASEAPI BOOL SetCurrentDirectoryA(LPCSTR path);
 WINBASEAPI DWORD GetCurrentDirectoryA(DWORD size, LPSTR path);
 
 /// Opens an ordinary file for reading; either slash, any letter case. Else INVALID_HANDLE_VALUE.
-WINBASEAPI HANDLE CreateFileA(LPCSTR path, DWORD access, DWORD share,
-                              LPSECURITY_ATTRIBUTES security, DWORD disposition, DWORD attributes,
-                              HANDLE pattern);
+WINBASEAPI HANDLE CreateFileA(LPCSTR path, DWORD access, DWORD share, LPSECURITY_ATTRIBUTES security,
+                              DWORD disposition, DWORD attributes, HANDLE pattern);
 /// The size in bytes, its upper half in `high` unless null; INVALID_FILE_SIZE for no file.
 WINBASEAPI DWORD GetFileSize(HANDLE file, LPDWORD high);
 

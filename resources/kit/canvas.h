@@ -28,9 +28,7 @@ struct Box {
   constexpr Point centre() const { return {x + width / 2, y + height / 2}; }
   constexpr double right() const { return x + width; }
   constexpr double bottom() const { return y + height; }
-  constexpr Box grown(double by) const {
-    return {x - by, y - by, width + 2 * by, height + 2 * by};
-  }
+  constexpr Box grown(double by) const { return {x - by, y - by, width + 2 * by, height + 2 * by}; }
 };
 
 /// A bitmap's size in gauge pixels.

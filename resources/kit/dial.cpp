@@ -42,14 +42,16 @@ void wash(const Canvas& canvas, const Dial& d, Lighting lighting) {
   cairo_clip(canvas.cr());
   const Colour warm = palette::filament_wash;
   set_radial(canvas, d.centre, d.centre, d.radius,
-             {{0, faded(warm, 0.02 * p)}, {0.6, faded(warm, 0.04 * p)}, {0.9, faded(warm, 0.16 * p)},
+             {{0, faded(warm, 0.02 * p)},
+              {0.6, faded(warm, 0.04 * p)},
+              {0.9, faded(warm, 0.16 * p)},
               {1, faded(warm, 0.4 * p)}});
   cairo_paint(canvas.cr());
   for (const double side : {-128.0, -52.0}) {
     const Point lamp = polar(d.centre, d.face(), side);
-    set_radial(canvas, lamp, lamp, d.radius * 0.95,
-               {{0, faded(palette::filament, 0.42 * p)}, {0.3, faded(warm, 0.11 * p)},
-                {1, faded(warm, 0)}});
+    set_radial(
+        canvas, lamp, lamp, d.radius * 0.95,
+        {{0, faded(palette::filament, 0.42 * p)}, {0.3, faded(warm, 0.11 * p)}, {1, faded(warm, 0)}});
     cairo_paint(canvas.cr());
   }
 }
@@ -75,7 +77,8 @@ void dial(const Canvas& canvas, const Dial& d, Lighting lighting) {
   bezel(canvas, d);
   const Point c = d.centre;
   set_radial(canvas, {c.x - d.radius * 0.25, c.y - d.radius * 0.35}, c, d.face(),
-             {{0, palette::face_light}, {0.8, mixed(palette::face_light, palette::face_dark, 0.6)},
+             {{0, palette::face_light},
+              {0.8, mixed(palette::face_light, palette::face_dark, 0.6)},
               {1, palette::face_dark}});
   fill(canvas, circle(c, d.face()));
   wash(canvas, d, lighting);
@@ -91,7 +94,8 @@ void dial_glass(const Canvas& canvas, const Dial& d) {
   cairo_clip(cr);
   const Point from{d.centre.x - d.face() * 0.8, d.centre.y - d.face()};
   set_linear(canvas, from, d.centre,
-             {{0, faded(palette::white, 0.16)}, {0.7, faded(palette::white, 0.05)},
+             {{0, faded(palette::white, 0.16)},
+              {0.7, faded(palette::white, 0.05)},
               {1, faded(palette::white, 0.025)}});
   cairo_set_fill_rule(cr, CAIRO_FILL_RULE_EVEN_ODD);
   circle(d.centre, d.face())(cr);
@@ -106,8 +110,7 @@ void dial_hub(const Canvas& canvas, Point c, double radius) {
   fill(canvas, circle(c, radius));
 }
 
-void inscribe(const Canvas& canvas, Lighting lighting,
-              const std::function<void(Colour ink)>& draw) {
+void inscribe(const Canvas& canvas, Lighting lighting, const std::function<void(Colour ink)>& draw) {
   const double p = power(lighting);
   const Colour glow = mixed(palette::filament_wash, palette::filament, p);
   const Colour ink = p == 0 ? palette::mark : mixed(glow, palette::white, 0.2 + 0.4 * p);
@@ -157,8 +160,7 @@ void Scale::numerals(std::initializer_list<Numeral> figures, double radius, doub
   }
 }
 
-void lit_overlay(Canvas& canvas, int image,
-                 const std::function<void(const Canvas&, Lighting)>& draw) {
+void lit_overlay(Canvas& canvas, int image, const std::function<void(const Canvas&, Lighting)>& draw) {
   if (image == 0) return;
   const Canvas by_day(canvas.size(), canvas.density(), canvas.seed());
   draw(by_day, Lighting::off);

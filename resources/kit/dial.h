@@ -79,8 +79,7 @@ class Scale {
 
 /// The overlay picture of a face: what `draw` changes when its lamps are lit. Everything that is the
 /// same by day stays transparent, so that the overlay covers no more than the lamps reach.
-void lit_overlay(Canvas& canvas, int image,
-                 const std::function<void(const Canvas&, Lighting)>& draw);
+void lit_overlay(Canvas& canvas, int image, const std::function<void(const Canvas&, Lighting)>& draw);
 
 /// The drawing routines of a plate with instruments, by day and as the overlay of its lighting.
 template <void (*face)(const Canvas&, Lighting)>

@@ -91,13 +91,9 @@ Box guarded_well(Box frame) {
 
 Point guarded_hub(Box frame) { return guarded_well(frame).centre(); }
 
-void guarded_switch_off(const Canvas& canvas, Box frame) {
-  switch_in_well(canvas, frame, Throw::down);
-}
+void guarded_switch_off(const Canvas& canvas, Box frame) { switch_in_well(canvas, frame, Throw::down); }
 
-void guarded_switch_on(const Canvas& canvas, Box frame) {
-  switch_in_well(canvas, frame, Throw::up);
-}
+void guarded_switch_on(const Canvas& canvas, Box frame) { switch_in_well(canvas, frame, Throw::up); }
 
 void guarded_rotary(const Canvas& canvas, Box frame, int position) {
   well(canvas, frame);

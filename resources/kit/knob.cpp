@@ -15,11 +15,14 @@ void knurl(const Canvas& canvas, Point c, double outer, double inner, int teeth)
     const double at = step * i;
     const double facing = 0.5 + 0.5 * std::cos(radians(at + 125));
     const Colour tooth = mixed(palette::mould_dark, palette::steel, 0.12 + 0.75 * facing * facing);
-    fill(canvas, [=](cairo_t* cr) {
-      cairo_arc(cr, c.x, c.y, outer, radians(at), radians(at + step * 0.55));
-      cairo_arc_negative(cr, c.x, c.y, inner, radians(at + step * 0.55), radians(at));
-      cairo_close_path(cr);
-    }, tooth);
+    fill(
+        canvas,
+        [=](cairo_t* cr) {
+          cairo_arc(cr, c.x, c.y, outer, radians(at), radians(at + step * 0.55));
+          cairo_arc_negative(cr, c.x, c.y, inner, radians(at + step * 0.55), radians(at));
+          cairo_close_path(cr);
+        },
+        tooth);
   }
 }
 
@@ -65,7 +68,8 @@ Path grip(Point c, double radius, double mark) {
 
 void knob_seat(const Canvas& canvas, Point c, double radius) {
   set_radial(canvas, c, c, radius + 3,
-             {{0, faded(palette::black, 0.55)}, {0.75, faded(palette::black, 0.35)},
+             {{0, faded(palette::black, 0.55)},
+              {0.75, faded(palette::black, 0.35)},
               {1, faded(palette::black, 0)}});
   fill(canvas, circle(c + Point{0.4, 0.8}, radius + 3));
   set_linear(canvas, c - Point{radius, radius}, c + Point{radius, radius},

@@ -11,8 +11,7 @@ void glow(const Canvas& canvas, const Path& path, Colour colour, double reach) {
 
 void dark_lens(const Canvas& canvas, Box box, Colour colour) {
   const Colour deep = mixed(palette::well, colour, 0.10), tint = mixed(palette::well, colour, 0.22);
-  set_linear(canvas, {box.x, box.y}, {box.x, box.bottom()},
-             {{0, deep}, {0.35, tint}, {1, deep}});
+  set_linear(canvas, {box.x, box.y}, {box.x, box.bottom()}, {{0, deep}, {0.35, tint}, {1, deep}});
   fill(canvas, rounded(box, 1.2));
 }
 

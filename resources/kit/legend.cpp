@@ -30,8 +30,7 @@ Layout layout_of(const Canvas& canvas, std::string_view text, const Lettering& l
   set_hinting(layout.get());
   PangoFontDescription* font = pango_font_description_new();
   pango_font_description_set_family(font, lettering.family);
-  pango_font_description_set_weight(font,
-                                    lettering.bold ? PANGO_WEIGHT_BOLD : PANGO_WEIGHT_NORMAL);
+  pango_font_description_set_weight(font, lettering.bold ? PANGO_WEIGHT_BOLD : PANGO_WEIGHT_NORMAL);
   pango_font_description_set_absolute_size(font, lettering.size * PANGO_SCALE);
   pango_layout_set_font_description(layout.get(), font);
   pango_font_description_free(font);
@@ -47,7 +46,7 @@ double width_of(PangoLayout* layout) {
 
 /// The room that the line takes; its baseline and left edge are on the device grid.
 Box print_line(const Canvas& canvas, Point at, std::string_view text, const Lettering& lettering,
-                Anchor anchor) {
+               Anchor anchor) {
   const Layout layout = layout_of(canvas, text, lettering);
   const double width = width_of(layout.get());
   const double left = anchor == Anchor::left     ? at.x
@@ -80,8 +79,7 @@ bool has_font(const char* family) {
   const Canvas canvas({1, 1}, 1, 0);
   const Layout layout = layout_of(canvas, "A", {.family = family});
   PangoContext* context = pango_layout_get_context(layout.get());
-  PangoFont* font =
-      pango_context_load_font(context, pango_layout_get_font_description(layout.get()));
+  PangoFont* font = pango_context_load_font(context, pango_layout_get_font_description(layout.get()));
   if (font == nullptr) return false;
   PangoFontDescription* found = pango_font_describe(font);
   const bool same = std::string_view(pango_font_description_get_family(found)) == family;

@@ -39,8 +39,8 @@ void print(const Canvas& canvas, Point at, std::string_view text, const Letterin
            Anchor anchor = Anchor::centre);
 
 /// Text cut into the plate and filled with paint: a dark edge above, a light one below.
-void engrave(const Canvas& canvas, Point at, std::string_view text,
-             const Lettering& lettering = {}, Anchor anchor = Anchor::centre);
+void engrave(const Canvas& canvas, Point at, std::string_view text, const Lettering& lettering = {},
+             Anchor anchor = Anchor::centre);
 
 /// The distance between the middles of two lines.
 constexpr double line_pitch(const Lettering& lettering) { return lettering.size * 1.06; }

@@ -46,7 +46,8 @@ void end_on(const Canvas& canvas, Point hub, double radius) {
 
 void lever_mount(const Canvas& canvas, Point hub, double radius) {
   set_radial(canvas, hub, hub, radius + 3.5,
-             {{0, faded(palette::black, 0.5)}, {0.7, faded(palette::black, 0.3)},
+             {{0, faded(palette::black, 0.5)},
+              {0.7, faded(palette::black, 0.3)},
               {1, faded(palette::black, 0)}});
   fill(canvas, circle(hub + Point{0.4, 0.8}, radius + 3.5));
   set_linear(canvas, hub - Point{radius, radius}, hub + Point{radius, radius},

@@ -6,7 +6,7 @@
 namespace artwork {
 namespace {
 
-constexpr double seam = 1;     // the dark gap between two plates, shared by both
+constexpr double seam = 1;  // the dark gap between two plates, shared by both
 constexpr double corner = 2.5;
 
 void enamel(const Canvas& canvas, const Path& shape) {
@@ -108,8 +108,7 @@ void painted_plate(const Canvas& canvas) {
 void screw(const Canvas& canvas, Point c, double radius, double turned) {
   soft(canvas, circle({c.x + 0.3, c.y + 0.5}, radius + 1), faded(palette::black, 0.45), 0.7);
   fill(canvas, circle(c, radius + 0.9), palette::steel_deep);
-  stroke(canvas, circle({c.x + 0.2, c.y + 0.25}, radius + 0.95), 0.35,
-         faded(palette::white, 0.22));
+  stroke(canvas, circle({c.x + 0.2, c.y + 0.25}, radius + 0.95), 0.35, faded(palette::white, 0.22));
   set_radial(canvas, {c.x - radius * 0.4, c.y - radius * 0.5}, c, radius * 1.15,
              {{0, palette::steel_light}, {0.55, palette::steel}, {1, palette::steel_dark}});
   fill(canvas, circle(c, radius));
@@ -124,8 +123,8 @@ void screw(const Canvas& canvas, Point c, double radius, double turned) {
 void corner_screws(const Canvas& canvas, double inset, double radius) {
   const Box box = whole(canvas.size()).grown(-inset);
   std::uint32_t which = 0;
-  for (const Point at : {Point{box.x, box.y}, Point{box.right(), box.y},
-                         Point{box.x, box.bottom()}, Point{box.right(), box.bottom()}}) {
+  for (const Point at : {Point{box.x, box.y}, Point{box.right(), box.y}, Point{box.x, box.bottom()},
+                         Point{box.right(), box.bottom()}}) {
     screw(canvas, at, radius, 90 * noise(which++, 77, canvas.seed()));
   }
 }
@@ -144,10 +143,8 @@ void sunk_field(const Canvas& canvas, Box box, double corner_radius, Colour floo
 
 void engraved_line(const Canvas& canvas, Point from, Point to) {
   const double edge = 0.5;
-  line(canvas, from + Point{-edge, -edge}, to + Point{-edge, -edge}, 0.9,
-       faded(palette::black, 0.5));
-  line(canvas, from + Point{edge, edge}, to + Point{edge, edge}, 0.9,
-       faded(palette::white, 0.18));
+  line(canvas, from + Point{-edge, -edge}, to + Point{-edge, -edge}, 0.9, faded(palette::black, 0.5));
+  line(canvas, from + Point{edge, edge}, to + Point{edge, edge}, 0.9, faded(palette::white, 0.18));
   line(canvas, from, to, 1, palette::legend);
 }
 

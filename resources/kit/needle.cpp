@@ -6,11 +6,10 @@ namespace artwork {
 
 void blade(const Canvas& canvas, const Blade& b) {
   const Point p = b.pivot;
-  const std::array<Point, 5> outline{Point{p.x - b.tail, p.y - b.half_width},
-                                     Point{p.x + b.length * 0.82, p.y - b.half_width * 0.62},
-                                     Point{p.x + b.length, p.y},
-                                     Point{p.x + b.length * 0.82, p.y + b.half_width * 0.62},
-                                     Point{p.x - b.tail, p.y + b.half_width}};
+  const std::array<Point, 5> outline{
+      Point{p.x - b.tail, p.y - b.half_width}, Point{p.x + b.length * 0.82, p.y - b.half_width * 0.62},
+      Point{p.x + b.length, p.y}, Point{p.x + b.length * 0.82, p.y + b.half_width * 0.62},
+      Point{p.x - b.tail, p.y + b.half_width}};
   fill(canvas, polygon(outline), b.colour);
   const std::array<Point, 4> shade{Point{p.x - b.tail, p.y}, Point{p.x + b.length, p.y},
                                    Point{p.x + b.length * 0.82, p.y + b.half_width * 0.62},

@@ -101,8 +101,8 @@ void set_linear(const Canvas& canvas, Point from, Point to, Stops stops) {
 }
 
 void set_radial(const Canvas& canvas, Point focus, Point centre, double radius, Stops stops) {
-  set_pattern(canvas,
-              cairo_pattern_create_radial(focus.x, focus.y, 0, centre.x, centre.y, radius), stops);
+  set_pattern(canvas, cairo_pattern_create_radial(focus.x, focus.y, 0, centre.x, centre.y, radius),
+              stops);
 }
 
 Path rounded(Box box, double radius) {
@@ -167,10 +167,13 @@ void stroke(const Canvas& canvas, const Path& path, double width, Colour colour)
 }
 
 void line(const Canvas& canvas, Point from, Point to, double width, Colour colour) {
-  stroke(canvas, [=](cairo_t* cr) {
-    cairo_move_to(cr, from.x, from.y);
-    cairo_line_to(cr, to.x, to.y);
-  }, width, colour);
+  stroke(
+      canvas,
+      [=](cairo_t* cr) {
+        cairo_move_to(cr, from.x, from.y);
+        cairo_line_to(cr, to.x, to.y);
+      },
+      width, colour);
 }
 
 void soft(const Canvas& canvas, const Path& path, Colour colour, double blur) {

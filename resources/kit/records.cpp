@@ -19,8 +19,9 @@ namespace {
 const Element* after(const Element* element) { return element->next ? *element->next : nullptr; }
 
 double turned_to(const Element& needle, const NonlinearityPoint& entry) {
-  const double degrees = std::atan2(entry.point.y - needle.position.y,
-                                    entry.point.x - needle.position.x) * 180 / 3.14159265358979;
+  const double degrees =
+      std::atan2(entry.point.y - needle.position.y, entry.point.x - needle.position.x) * 180 /
+      3.14159265358979;
   return degrees < 0 ? degrees + 360 : degrees;
 }
 
@@ -77,13 +78,12 @@ std::vector<Box> click_boxes(const GaugeHeader& of) {
   std::vector<Box> boxes;
   std::vector<Point> groups{{}};
   for (const MouseArea* area = of.mouse_areas; area->kind != MOUSE_END; ++area) {
-    const Point at =
-        groups.back() + Point{static_cast<double>(area->x), static_cast<double>(area->y)};
+    const Point at = groups.back() + Point{static_cast<double>(area->x), static_cast<double>(area->y)};
     if (area->kind == MOUSE_GROUP) groups.push_back(at);
     if (area->kind == MOUSE_GROUP_END) groups.pop_back();
     if (area->kind == MOUSE_CLICK_AREA) {
-      boxes.push_back({at.x, at.y, static_cast<double>(area->width),
-                       static_cast<double>(area->height)});
+      boxes.push_back(
+          {at.x, at.y, static_cast<double>(area->width), static_cast<double>(area->height)});
     }
   }
   return boxes;

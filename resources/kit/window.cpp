@@ -12,7 +12,8 @@ void display_window(const Canvas& canvas, Box box) {
              {{0, rgb(0x050607)}, {0.4, rgb(0x0D1011)}, {1, rgb(0x14181A)}});
   fill(canvas, rounded(box, 0.8));
   set_linear(canvas, {box.x, box.y}, {box.x + box.width * 0.6, box.bottom()},
-             {{0, faded(palette::white, 0.13)}, {0.45, faded(palette::white, 0.03)},
+             {{0, faded(palette::white, 0.13)},
+              {0.45, faded(palette::white, 0.03)},
               {0.46, faded(palette::white, 0)}});
   fill(canvas, rounded(box, 0.8));
 }
@@ -24,8 +25,7 @@ void fixed_button(const Canvas& canvas, Point c, double radius, Colour cap) {
   fill(canvas, circle(c, radius));
   fill(canvas, circle(c, radius - 1.4), palette::steel_deep);
   set_radial(canvas, {c.x - radius * 0.25, c.y - radius * 0.35}, c, radius - 2,
-             {{0, mixed(cap, palette::white, 0.35)}, {0.6, cap},
-              {1, mixed(cap, palette::black, 0.5)}});
+             {{0, mixed(cap, palette::white, 0.35)}, {0.6, cap}, {1, mixed(cap, palette::black, 0.5)}});
   fill(canvas, circle(c, radius - 2));
 }
 

@@ -9,8 +9,8 @@ namespace artwork {
 namespace {
 
 const Bitmap* bitmap_of(const std::vector<Bitmap>& table, int id) {
-  const auto found = std::find_if(table.begin(), table.end(),
-                                  [=](const Bitmap& bitmap) { return bitmap.id == id; });
+  const auto found =
+      std::find_if(table.begin(), table.end(), [=](const Bitmap& bitmap) { return bitmap.id == id; });
   return found == table.end() ? nullptr : &*found;
 }
 

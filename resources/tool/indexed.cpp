@@ -9,8 +9,8 @@ namespace artwork {
 namespace {
 
 constexpr std::size_t most_colours = 256;
-constexpr std::uint32_t least_opacity = 3;     // fainter than this is nothing
-constexpr std::uint32_t full_opacity = 251;    // stronger than this is everything
+constexpr std::uint32_t least_opacity = 3;   // fainter than this is nothing
+constexpr std::uint32_t full_opacity = 251;  // stronger than this is everything
 constexpr int refinements = 3;
 
 using Vector = std::array<float, 4>;  // premultiplied blue, green, red; opacity
@@ -92,10 +92,9 @@ std::size_t cut(std::vector<Colour32>& colours, const Cluster& c) {
     sum += w * colours[i].at[axis], weight += w;
   }
   const auto mean = static_cast<float>(sum / weight);
-  const auto middle = std::partition(
-      colours.begin() + static_cast<std::ptrdiff_t>(c.from),
-      colours.begin() + static_cast<std::ptrdiff_t>(c.to),
-      [&](const Colour32& colour) { return colour.at[axis] <= mean; });
+  const auto middle = std::partition(colours.begin() + static_cast<std::ptrdiff_t>(c.from),
+                                     colours.begin() + static_cast<std::ptrdiff_t>(c.to),
+                                     [&](const Colour32& colour) { return colour.at[axis] <= mean; });
   return static_cast<std::size_t>(middle - colours.begin());
 }
 
@@ -103,8 +102,7 @@ std::vector<Cluster> clusters(std::vector<Colour32>& colours, std::size_t most) 
   std::vector<Cluster> all{cluster(colours, 0, colours.size())};
   while (all.size() < most) {
     const auto widest = std::max_element(
-        all.begin(), all.end(),
-        [](const Cluster& a, const Cluster& b) { return a.spread < b.spread; });
+        all.begin(), all.end(), [](const Cluster& a, const Cluster& b) { return a.spread < b.spread; });
     if (widest->spread <= 0) break;
     const Cluster whole = *widest;
     const std::size_t middle = cut(colours, whole);
@@ -135,8 +133,7 @@ std::size_t nearest(const std::vector<Vector>& centres, const Vector& colour) {
 }
 
 std::vector<Vector> centres_of(const std::vector<Colour32>& colours,
-                               const std::vector<std::size_t>& owner,
-                               std::vector<Vector> centres) {
+                               const std::vector<std::size_t>& owner, std::vector<Vector> centres) {
   std::vector<std::array<double, 5>> sums(centres.size());
   for (std::size_t i = 0; i < colours.size(); ++i) {
     const double w = std::sqrt(static_cast<double>(colours[i].count));
@@ -183,8 +180,8 @@ std::vector<Vector> best_centres(std::vector<Colour32>& colours, std::size_t mos
 }
 
 /// The palette index of every colour, in the order of their pixels' values.
-std::vector<std::uint8_t> indices(std::vector<Colour32>& colours,
-                                  const std::vector<Vector>& centres, std::size_t reserved) {
+std::vector<std::uint8_t> indices(std::vector<Colour32>& colours, const std::vector<Vector>& centres,
+                                  std::size_t reserved) {
   std::sort(colours.begin(), colours.end(),
             [](const Colour32& a, const Colour32& b) { return a.pixel < b.pixel; });
   std::vector<std::uint8_t> index;

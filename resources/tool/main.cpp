@@ -34,23 +34,31 @@ Arguments parsed(int count, char** words) {
   for (int i = 1; i < count; ++i) {
     const std::string word = words[i];
     const auto next = [&] { return i + 1 < count ? std::string(words[++i]) : std::string(); };
-    if (word == "--out") arguments.out = next();
-    else if (word == "--dense") arguments.dense = next();
-    else if (word == "--kit") arguments.kit = next();
-    else if (word == "--png") arguments.png = next();
-    else if (word == "--compose") arguments.compose = next();
-    else if (word == "--scale") arguments.scale = std::atoi(next().c_str());
-    else if (word == "--boxes") arguments.boxes = true;
-    else if (word == "--list") arguments.list = true;
-    else arguments.names.push_back(word);
+    if (word == "--out")
+      arguments.out = next();
+    else if (word == "--dense")
+      arguments.dense = next();
+    else if (word == "--kit")
+      arguments.kit = next();
+    else if (word == "--png")
+      arguments.png = next();
+    else if (word == "--compose")
+      arguments.compose = next();
+    else if (word == "--scale")
+      arguments.scale = std::atoi(next().c_str());
+    else if (word == "--boxes")
+      arguments.boxes = true;
+    else if (word == "--list")
+      arguments.list = true;
+    else
+      arguments.names.push_back(word);
   }
   return arguments;
 }
 
 void write_file(const std::filesystem::path& path, const Bytes& bytes) {
   std::ofstream file(path, std::ios::binary);
-  file.write(reinterpret_cast<const char*>(bytes.data()),
-             static_cast<std::streamsize>(bytes.size()));
+  file.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
   if (!file) {
     std::fprintf(stderr, "artwork: cannot write %s\n", path.c_str());
     std::exit(1);
@@ -90,8 +98,7 @@ void write_pictures(const Arguments& arguments, const std::vector<Bitmap>& table
   }
 }
 
-void write_gauge(const Arguments& arguments, const std::vector<Bitmap>& table,
-                 const GaugeHeader& of) {
+void write_gauge(const Arguments& arguments, const std::vector<Bitmap>& table, const GaugeHeader& of) {
   const Size size = composed(table, of, {}, 1).size();
   const Canvas sheet({3 * size.width + 8, size.height}, arguments.scale, 0);
   for (int pose = 0; pose < 3; ++pose) {

@@ -106,8 +106,8 @@ std::string contents(const fs::path& path) {
 
 // What stands before the samples of any file of this form, in full.
 std::string expected_header(std::uint32_t file_size) {
-  const std::uint32_t words[] = {file_size - 8, 0x45564157, 0x20746d66, 16,         0x00010001, 44100,
-                                 88200,         0x00100002, 0x61746164, file_size - 44};
+  const std::uint32_t words[] = {file_size - 8, 0x45564157, 0x20746d66, 16,         0x00010001,
+                                 44100,         88200,      0x00100002, 0x61746164, file_size - 44};
   return "RIFF" + std::string{reinterpret_cast<const char*>(words), sizeof words};
 }
 
@@ -157,14 +157,16 @@ double at_pitch(const std::vector<double>& wave, double hertz, double from_s, do
     before = last;
     last = now;
   }
-  return std::sqrt(std::max(0.0, last * last + before * before - turn * last * before)) * 2 / (end - begin);
+  return std::sqrt(std::max(0.0, last * last + before * before - turn * last * before)) * 2 /
+         (end - begin);
 }
 
 TEST(SoundFiles, AreExactlyThoseTheAircraftAsksFor) {
   std::set<std::string> wanted, found;
   for (const Sound& sound : sounds) wanted.insert(sound.file);
   for (const auto& entry : fs::recursive_directory_iterator{sound_folder})
-    if (entry.is_regular_file()) found.insert(entry.path().lexically_relative(sound_folder).generic_string());
+    if (entry.is_regular_file())
+      found.insert(entry.path().lexically_relative(sound_folder).generic_string());
   EXPECT_EQ(found, wanted);
 }
 
@@ -172,7 +174,8 @@ TEST(SoundFiles, AreMono16BitWithThePlainHeader) {
   for (const Sound& sound : sounds) {
     const auto bytes = contents(sound_folder / sound.file);
     ASSERT_GT(bytes.size(), 44u) << sound.file;
-    EXPECT_EQ(bytes.substr(0, 44), expected_header(static_cast<std::uint32_t>(bytes.size()))) << sound.file;
+    EXPECT_EQ(bytes.substr(0, 44), expected_header(static_cast<std::uint32_t>(bytes.size())))
+        << sound.file;
   }
 }
 
@@ -180,7 +183,8 @@ TEST(SoundFiles, HaveTheirLengthAndPeak) {
   for (const Sound& sound : sounds) {
     const auto wave = samples(sound.file);
     const double seconds = wave.size() / rate, peak_db = decibels(peak(wave));
-    EXPECT_TRUE(seconds >= sound.shortest_s && seconds <= sound.longest_s) << sound.file << ": " << seconds << " s";
+    EXPECT_TRUE(seconds >= sound.shortest_s && seconds <= sound.longest_s)
+        << sound.file << ": " << seconds << " s";
     const auto [low, high] = peak_ranges[sound.kind];
     EXPECT_TRUE(peak_db >= low && peak_db <= high) << sound.file << ": " << peak_db << " dB";
   }
@@ -236,7 +240,8 @@ TEST(SoundFiles, ChimesAreInTune) {
     const double tuned = at_pitch(wave, note.pitch, note.from_s, note.to_s);
     EXPECT_GT(tuned, 0.02) << note.file << " at " << note.pitch << " Hz";
     for (const double off : {note.pitch * semitone, note.pitch / semitone})
-      EXPECT_GT(tuned, 3 * at_pitch(wave, off, note.from_s, note.to_s)) << note.file << " at " << off << " Hz";
+      EXPECT_GT(tuned, 3 * at_pitch(wave, off, note.from_s, note.to_s))
+          << note.file << " at " << off << " Hz";
   }
 }
 
@@ -249,7 +254,10 @@ TEST(SoundFiles, MakingOneAgainGivesTheSameBytes) {
     const auto file = line.substr(0, line.find(' '));
     if (file != "Tarv_stall.wav" && file != "FlightAttend/Tarv_ccfinal.wav") continue;
     std::ofstream{cue} << line << '\n';
-    ASSERT_EQ(std::system(("bash '" + maker + "' '" + cue.string() + "' '" + again.string() + "'").c_str()), 0) << file;
+    ASSERT_EQ(
+        std::system(("bash '" + maker + "' '" + cue.string() + "' '" + again.string() + "'").c_str()),
+        0)
+        << file;
     EXPECT_TRUE(contents(again) == contents(sound_folder / file)) << file;
   }
 }

@@ -25,7 +25,8 @@ TEST(X11Scale, ReadsTheResolutionOfTheDesktop) {
       {"Emacs.Xft.dpi: 192\nXft.dpi", std::nullopt},
       {"", std::nullopt},
   };
-  for (const auto& each : cases) EXPECT_EQ(scale_in_resources(each.resources), each.scale) << each.resources;
+  for (const auto& each : cases)
+    EXPECT_EQ(scale_in_resources(each.resources), each.scale) << each.resources;
 }
 
 TEST(Columns, AlignTextsLeftAndNumbersRight) {

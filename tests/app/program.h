@@ -27,7 +27,8 @@ inline Outcome run_command(const std::string& command) {
   FILE* pipe = popen((command + " 2>&1").c_str(), "r");
   if (!pipe) return outcome;
   std::array<char, 4096> part;
-  while (const std::size_t size = fread(part.data(), 1, part.size(), pipe)) outcome.output.append(part.data(), size);
+  while (const std::size_t size = fread(part.data(), 1, part.size(), pipe))
+    outcome.output.append(part.data(), size);
   const int status = pclose(pipe);
   outcome.exit_code = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
   return outcome;

@@ -2,10 +2,10 @@
 #pragma once
 
 #include <cairo.h>
-#include <csignal>
 #include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <csignal>
 
 #include <chrono>
 #include <functional>
@@ -56,7 +56,8 @@ class Screen {
   explicit Screen(const std::string& size) {
     int ends[2];
     if (pipe(ends) != 0) return;
-    server_ = std::make_unique<Child>("Xvfb -displayfd 3 -nolisten tcp -noreset -screen 0 " + size + " 2>/dev/null", ends[1]);
+    server_ = std::make_unique<Child>(
+        "Xvfb -displayfd 3 -nolisten tcp -noreset -screen 0 " + size + " 2>/dev/null", ends[1]);
     close(ends[1]);
     char number[16] = {};
     for (std::size_t at = 0; at < sizeof number - 1 && read(ends[0], number + at, 1) == 1; ++at)
@@ -65,12 +66,16 @@ class Screen {
     display_.append(":").append(std::to_string(std::atoi(number)));
   }
 
-  std::string environment() const { return "env -u WAYLAND_DISPLAY -u SDL_VIDEODRIVER DISPLAY=" + display_ + " "; }
+  std::string environment() const {
+    return "env -u WAYLAND_DISPLAY -u SDL_VIDEODRIVER DISPLAY=" + display_ + " ";
+  }
 
   const std::string& display() const { return display_; }
 
   /// Works mouse and keyboard, in xdotool's words.
-  Outcome hands(const std::string& what) const { return run_command(environment() + "xdotool " + what); }
+  Outcome hands(const std::string& what) const {
+    return run_command(environment() + "xdotool " + what);
+  }
 
  private:
   std::unique_ptr<Child> server_;
@@ -90,8 +95,10 @@ inline bool eventually(const std::function<bool()>& question) {
 inline unsigned pixel(const std::string& file, int x, int y) {
   cairo_surface_t* picture = cairo_image_surface_create_from_png(file.c_str());
   unsigned color = 0;
-  if (x >= 0 && y >= 0 && x < cairo_image_surface_get_width(picture) && y < cairo_image_surface_get_height(picture)) {
-    const unsigned char* row = cairo_image_surface_get_data(picture) + y * cairo_image_surface_get_stride(picture);
+  if (x >= 0 && y >= 0 && x < cairo_image_surface_get_width(picture) &&
+      y < cairo_image_surface_get_height(picture)) {
+    const unsigned char* row =
+        cairo_image_surface_get_data(picture) + y * cairo_image_surface_get_stride(picture);
     color = reinterpret_cast<const unsigned*>(row)[x] & 0xFFFFFF;
   }
   cairo_surface_destroy(picture);

@@ -17,7 +17,8 @@ using namespace host;
 constexpr const char* panel =
     "[Window Titles]\nWindow02=Overhead\nWindow05=Pushback\n"
     "[Window02]\nident=502\nsize_mm=560,320\nvisible=1\nbackground_color=90,100,110\n"
-    "gauge00=Tarnvale!Masterbat, 0,0\ngauge01=Tarnvale!Acdcsw, 200,0\ngauge02=Tarnvale!Cainstlg, 400,0\n"
+    "gauge00=Tarnvale!Masterbat, 0,0\ngauge01=Tarnvale!Acdcsw, 200,0\ngauge02=Tarnvale!Cainstlg, "
+    "400,0\n"
     "gauge03=Tarnvale!Pushback, 200,100\n"
     "[Window05]\nident=505\nsize_mm=200,160\ngauge00=Tarnvale!Avimaster, 10,10\n"
     "[Window09]\ndrawn=0\nvisible=1\ngauge00=Tarnvale!Msnd, 0,0\n";
@@ -40,13 +41,15 @@ class InAWindow : public testing::Test {
   }
 
   int windows(const std::string& title) {
-    const std::string ids = screen->hands("search --onlyvisible --name " + title + " 2>/dev/null").output;
+    const std::string ids =
+        screen->hands("search --onlyvisible --name " + title + " 2>/dev/null").output;
     return static_cast<int>(std::count(ids.begin(), ids.end(), '\n'));
   }
 
   // Where the one open panel stands: in the middle of the window, under its caption.
   void take_geometry() {
-    std::istringstream lines(screen->hands("search --onlyvisible --name Tarnvale getwindowgeometry --shell").output);
+    std::istringstream lines(
+        screen->hands("search --onlyvisible --name Tarnvale getwindowgeometry --shell").output);
     int left = 0, top = 0, width = 0, height = 0;
     for (std::string line; std::getline(lines, line);) {
       const int value = std::atoi(line.substr(line.find('=') + 1).c_str());
@@ -111,7 +114,8 @@ TEST_F(InAWindow, TheBatteryComesOnWithAClickAndTheRecordFliesAgain) {
       << std::hex << dark << " and " << lit;
   EXPECT_EQ(leave(), 0);
 
-  std::ofstream(record, std::ios::app) << "wait(0.1)\nexpect(image('Masterbat', 40) == 1, 'the lamp is dark')\n";
+  std::ofstream(record, std::ios::app)
+      << "wait(0.1)\nexpect(image('Masterbat', 40) == 1, 'the lamp is dark')\n";
   const Outcome again = tarnvale("run " + record + " --panel " + (folder / "panel.cfg"));
   EXPECT_EQ(again.exit_code, 0) << again.output << file_text(record);
 }
@@ -175,14 +179,15 @@ TEST(Fly, FollowsTheScaleOfTheDesktop) {
                                                  {"Xft.dpi: 192\n", "", 2 * 560 + 24},
                                                  {"Xft.dpi: 192\n", "--scale 1", 560 + 12}}) {
     ASSERT_TRUE(set_x11_resources(screen.display(), resources));
-    const Child program(screen.environment() + (cockpit_dir / "tarnvale").string() + " fly --mute --zoom 1 " + option +
-                            " --exit-after 20 --panel " + config,
+    const Child program(screen.environment() + (cockpit_dir / "tarnvale").string() +
+                            " fly --mute --zoom 1 " + option + " --exit-after 20 --panel " + config,
                         -1);
     const std::string wanted = "Geometry: " + std::to_string(width) + "x";
     EXPECT_TRUE(eventually([&] {
-      return screen.hands("search --onlyvisible --name Tarnvale getwindowgeometry").output.find(wanted) !=
-             std::string::npos;
-    })) << resources << option << " does not open " << width << " pixels wide";
+      return screen.hands("search --onlyvisible --name Tarnvale getwindowgeometry")
+                 .output.find(wanted) != std::string::npos;
+    })) << resources
+        << option << " does not open " << width << " pixels wide";
   }
 }
 

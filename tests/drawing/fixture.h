@@ -16,8 +16,7 @@ class Scene {
  public:
   Scene(MadeGauge& gauge, const MadeBitmaps& bitmaps, double zoom = 1) : gauge_(gauge) {
     const PanelSize size = gauge_size(gauge.header, bitmaps);
-    const Rect place{0, 0, static_cast<int>(size.width * zoom),
-                     static_cast<int>(size.height * zoom)};
+    const Rect place{0, 0, static_cast<int>(size.width * zoom), static_cast<int>(size.height * zoom)};
     canvas = Canvas(place.width, place.height);
     painter = std::make_unique<GaugePainter>(gauge.header, bitmaps, place);
     for (std::size_t i = 0; const Element* element = chain_at(i); ++i)

@@ -19,12 +19,21 @@ struct Tokens : TokenSource {
   std::set<std::uint32_t> failures;
 };
 
-std::string calls;       // what ran, in order
-double value_now = 0;    // what `current` returns
+std::string calls;     // what ran, in order
+double value_now = 0;  // what `current` returns
 
-double a(Element*) { calls += 'a'; return 1; }
-double b(Element*) { calls += 'b'; return 2; }
-double c(Element*) { calls += 'c'; return 3; }
+double a(Element*) {
+  calls += 'a';
+  return 1;
+}
+double b(Element*) {
+  calls += 'b';
+  return 2;
+}
+double c(Element*) {
+  calls += 'c';
+  return 3;
+}
 double current(Element*) { return value_now; }
 double hide_next(Element* element) {
   element->next[0]->image_flags |= IMAGE_HIDE_CHAIN;
@@ -53,8 +62,7 @@ class GaugeRunTest : public testing::Test {
   /// Which elements are evaluated and drawn: "e" only evaluated, "d" drawn too, "-" neither.
   static std::string shown(const GaugeRun& run) {
     std::string text;
-    for (const ElementState& state : run.now())
-      text += state.drawn ? 'd' : state.evaluated ? 'e' : '-';
+    for (const ElementState& state : run.now()) text += state.drawn ? 'd' : state.evaluated ? 'e' : '-';
     return text;
   }
 
@@ -99,7 +107,11 @@ TEST_F(GaugeRunTest, HideBits) {
   Element& first = gauge_.icon(2, {0, 0}, 2, a);
   Element& second = gauge_.icon(3, {0, 0}, 2, b);
   GaugeRun run(gauge_.header);
-  struct Case { u32 first, second; const char* shown; const char* calls; };
+  struct Case {
+    u32 first, second;
+    const char* shown;
+    const char* calls;
+  };
   for (const Case& c : {Case{0, 0, "ddd", "ab"}, Case{IMAGE_HIDE_PICTURE, 0, "ded", "ab"},
                         Case{0, IMAGE_HIDE_CHAIN, "dd-", "a"}, Case{IMAGE_HIDE_CHAIN, 0, "d--", ""},
                         Case{3, 7, "ddd", "ab"}}) {
@@ -142,7 +154,11 @@ TEST_F(GaugeRunTest, LaterShownCopyCovers) {
 }
 
 TEST_F(GaugeRunTest, OnlyExactCopiesCover) {
-  struct Case { const char* what; void (*change)(Element&); bool covers; };
+  struct Case {
+    const char* what;
+    void (*change)(Element&);
+    bool covers;
+  };
   const Case cases[] = {
       {"nothing", [](Element&) {}, true},
       {"flags", [](Element& e) { e.image_flags = 7; }, true},
@@ -184,14 +200,18 @@ TEST_F(GaugeRunTest, WithoutRoutinesTheSourceTellsCopiesApart) {
 }
 
 TEST_F(GaugeRunTest, FailuresChangeWhatIsShown) {
-  const FailureEntry table[] = {{20, FAILURE_HIDE, 0}, {7, FAILURE_FREEZE, 0}, {8, FAILURE_ZERO, 0},
-                                {9, 77, 0}, {0, 0, 0}};
+  const FailureEntry table[] = {
+      {20, FAILURE_HIDE, 0}, {7, FAILURE_FREEZE, 0}, {8, FAILURE_ZERO, 0}, {9, 77, 0}, {0, 0, 0}};
   gauge_.icon(2, {0, 0}, 9, current).failures = table;
   GaugeRun run(gauge_.header);
-  struct Case { std::set<std::uint32_t> failures; double value, shown; bool drawn; };
-  const Case cases[] = {{{}, 4, 4, true},      {{7}, 5, 4, true},     {{7}, 6, 4, true},
-                        {{21}, 6, 6, true},    {{8}, 5, 0, true},     {{20}, 5, 5, false},
-                        {{7, 20}, 3, 3, false}, {{9}, 2, 2, true},    {{}, 1, 1, true}};
+  struct Case {
+    std::set<std::uint32_t> failures;
+    double value, shown;
+    bool drawn;
+  };
+  const Case cases[] = {{{}, 4, 4, true},       {{7}, 5, 4, true}, {{7}, 6, 4, true},
+                        {{21}, 6, 6, true},     {{8}, 5, 0, true}, {{20}, 5, 5, false},
+                        {{7, 20}, 3, 3, false}, {{9}, 2, 2, true}, {{}, 1, 1, true}};
   for (const Case& c : cases) {
     tokens_.failures = c.failures;
     value_now = c.value;

@@ -29,7 +29,8 @@ class MadeBitmaps : public BitmapStore {
   }
 
   void add(std::uint32_t id, int width, int height, std::uint32_t colour, int density = 1) {
-    add(id, width, height, [colour](int, int) { return colour; }, density);
+    add(
+        id, width, height, [colour](int, int) { return colour; }, density);
   }
 
   const Bitmap* find(std::uint32_t id, BitmapUse, int density = 1) const override {
@@ -71,8 +72,9 @@ class MadeGauge {
   Element& needle(i32 resource, PanelPoint position, PanelPoint pivot,
                   std::span<const NonlinearityPoint> table = {}) {
     Element& element = add(ELEMENT_NEEDLE, resource, position);
-    element.needle = {pivot, {}, nullptr, table.empty() ? nullptr : table.data(),
-                      static_cast<u32>(table.size()), 0, 0};
+    element.needle = {
+        pivot, {}, nullptr, table.empty() ? nullptr : table.data(), static_cast<u32>(table.size()),
+        0,     0};
     return element;
   }
 

@@ -23,8 +23,7 @@ class Motion : public testing::Test {
     // A strip of ten digits of 4 x 5, each of its own red; and one of four 5 x 4 columns.
     bitmaps_.add(40, 4, 50, [](int, int y) { return digit(y / 5); });
     bitmaps_.add(41, 20, 4, [](int x, int) { return digit(x / 5); });
-    bitmaps_.add(42, 5, 4,
-                 [](int x, int) { return x == 2 ? 0u : 0xFFFFFFFFu; });  // a barred window
+    bitmaps_.add(42, 5, 4, [](int x, int) { return x == 2 ? 0u : 0xFFFFFFFFu; });  // a barred window
     // A card of 41 x 41 with a mark ten pixels above the middle.
     bitmaps_.add(50, 41, 41, [](int x, int y) { return x == 20 && y == 10 ? red : 0u; });
   }
@@ -46,8 +45,7 @@ class Motion : public testing::Test {
   Element& moving(i32 strip, i32 mask, double minimum, double maximum) {
     Element& element = gauge_.add(ELEMENT_MOVING_IMAGE, strip, {10, 12});
     element.moving_image.mask_resource_id = mask;
-    (strip == 41 ? element.moving_image.x : element.moving_image.y) = {
-        {}, nullptr, minimum, maximum};
+    (strip == 41 ? element.moving_image.x : element.moving_image.y) = {{}, nullptr, minimum, maximum};
     return element;
   }
 
@@ -58,7 +56,10 @@ class Motion : public testing::Test {
 TEST_F(Motion, NeedleWithoutTableTurnsClockwise) {
   gauge_.needle(20, {20, 20}, {1, 1});
   Scene scene(gauge_, bitmaps_);
-  struct Case { double value; const char* direction; };
+  struct Case {
+    double value;
+    const char* direction;
+  };
   for (const Case& c :
        {Case{0, "right"}, Case{90, "down"}, Case{180, "left"}, Case{-90, "up"}, Case{270, "up"},
         Case{36000045, "right down"}, Case{nan_value, "nowhere"}, Case{infinite, "nowhere"}}) {
@@ -77,7 +78,9 @@ TEST_F(Motion, NeedlePointsAtTheMarksOfItsTable) {
   for (const double zoom : {1.0, 2.0}) {
     Scene scene(gauge_, bitmaps_, zoom);
     const NeedleScale scale({20, 20}, table);
-    struct Case { double value, degrees; };
+    struct Case {
+      double value, degrees;
+    };
     for (const Case& c : {Case{0, 90}, Case{5, 135}, Case{10, 180}, Case{20, 225}, Case{30, 270},
                           Case{40, 360}, Case{-99, 90}, Case{1e9, 360}, Case{infinite, 360}})
       EXPECT_DOUBLE_EQ(scale.angle(c.value), c.degrees) << c.value;
@@ -143,11 +146,13 @@ TEST_F(Motion, SliderMovesByValueTimesScale) {
   slider.slider.x_scale = -2;
   slider.slider.y_scale = 0;
   Scene scene(gauge_, bitmaps_);
-  struct Case { double x, y; Rect box; };
-  for (const Case& c :
-       {Case{0, 0, {20, 20, 3, 3}}, Case{5, 9, {10, 20, 3, 3}}, Case{5, nan_value, {10, 20, 3, 3}},
-        Case{nan_value, 0, {}}, Case{1e30, 0, {}}, Case{-9.5, 0, {39, 20, 2, 3}},
-        Case{0.25, 0, {19, 20, 4, 3}}}) {
+  struct Case {
+    double x, y;
+    Rect box;
+  };
+  for (const Case& c : {Case{0, 0, {20, 20, 3, 3}}, Case{5, 9, {10, 20, 3, 3}},
+                        Case{5, nan_value, {10, 20, 3, 3}}, Case{nan_value, 0, {}}, Case{1e30, 0, {}},
+                        Case{-9.5, 0, {39, 20, 2, 3}}, Case{0.25, 0, {19, 20, 4, 3}}}) {
     scene.set(1, c.x, 0);
     scene.set(1, c.y, 1);
     scene.draw();
@@ -163,7 +168,10 @@ TEST_F(Motion, SliderMovesByValueTimesScale) {
 TEST_F(Motion, StripShowsATenthOfItselfWithoutAMask) {
   moving(40, -1, 0, 9);
   Scene scene(gauge_, bitmaps_);
-  struct Case { double value; int digit; };
+  struct Case {
+    double value;
+    int digit;
+  };
   for (const Case& c : {Case{0, 0}, Case{3, 3}, Case{9, 9}, Case{-5, 0}, Case{99, 9},
                         Case{infinite, -1}, Case{nan_value, -1}}) {
     scene.set(1, c.value, 1);
@@ -222,11 +230,13 @@ TEST_F(Motion, SpriteShiftsThenTurnsAboutItsCentre) {
   sprite.sprite.y.scale = 2;
   sprite.sprite.rotation.scale = -1;
   Scene scene(gauge_, bitmaps_);
-  struct Case { double x, y, rotation; PanelPoint mark; };
-  for (const Case& c :
-       {Case{0, 0, 0, {20, 10}}, Case{0, 0, -90, {30, 20}}, Case{0, 0, 90, {10, 20}},
-        Case{0, -2, 90, {6, 20}}, Case{3, 0, 180, {17, 30}}, Case{0, -6, 0, {-1, -1}},
-        Case{nan_value, 0, 0, {-1, -1}}, Case{0, 0, infinite, {-1, -1}}}) {
+  struct Case {
+    double x, y, rotation;
+    PanelPoint mark;
+  };
+  for (const Case& c : {Case{0, 0, 0, {20, 10}}, Case{0, 0, -90, {30, 20}}, Case{0, 0, 90, {10, 20}},
+                        Case{0, -2, 90, {6, 20}}, Case{3, 0, 180, {17, 30}}, Case{0, -6, 0, {-1, -1}},
+                        Case{nan_value, 0, 0, {-1, -1}}, Case{0, 0, infinite, {-1, -1}}}) {
     scene.set(1, c.x, 0);
     scene.set(1, c.y, 1);
     scene.set(1, c.rotation, 2);

@@ -31,10 +31,13 @@ class Painter : public testing::Test {
 TEST_F(Painter, IconShowsTheImageItsValueNames) {
   gauge_.icon(10, {5, 6}, 3);
   Scene scene(gauge_, bitmaps_);
-  struct Case { double value; std::uint32_t colour; };
-  for (const Case& c : {Case{0, red}, Case{1.99, green}, Case{2, blue}, Case{-0.9, red},
-                        Case{-1, grey}, Case{3, blue}, Case{1e300, blue}, Case{infinite, blue},
-                        Case{-infinite, grey}, Case{nan_value, grey}}) {
+  struct Case {
+    double value;
+    std::uint32_t colour;
+  };
+  for (const Case& c :
+       {Case{0, red}, Case{1.99, green}, Case{2, blue}, Case{-0.9, red}, Case{-1, grey}, Case{3, blue},
+        Case{1e300, blue}, Case{infinite, blue}, Case{-infinite, grey}, Case{nan_value, grey}}) {
     scene.set(1, c.value);
     scene.draw();
     EXPECT_EQ(scene.at(5, 6), c.colour) << c.value;
@@ -77,8 +80,7 @@ TEST_F(Painter, PartialRedrawEqualsAFullOne) {
     for (Scene* scene : {&partial, &full}) {
       scene->now[1].drawn = i % 7 != 0;
       scene->now[3].drawn = scene->now[3].evaluated = i % 11 != 0;
-      for (std::size_t element = 2; element < 6; ++element)
-        scene->set(element, i * 37.0 * element / 3);
+      for (std::size_t element = 2; element < 6; ++element) scene->set(element, i * 37.0 * element / 3);
     }
     full.painter->invalidate();
     partial.draw();
@@ -131,7 +133,10 @@ TEST_F(Painter, TakesTheSmallestDensityThatIsLargeEnough) {
   }
   bitmaps_.add(11, 4, 4, red, 2);  // the other icon image has no third density
   gauge_.icon(10, {5, 6}, 2);
-  struct Case { double zoom; std::uint32_t face, other; };
+  struct Case {
+    double zoom;
+    std::uint32_t face, other;
+  };
   for (const Case& c :
        {Case{0.5, grey, green}, Case{1, grey, green}, Case{1.5, green, red}, Case{2, green, red},
         Case{2.1, blue, red}, Case{3, blue, red}, Case{4, blue, red}}) {
@@ -139,8 +144,7 @@ TEST_F(Painter, TakesTheSmallestDensityThatIsLargeEnough) {
     scene.set(1, 1);
     scene.draw();
     EXPECT_EQ(scene.at(0, 0), c.face) << c.zoom;
-    EXPECT_EQ(scene.at(static_cast<int>(7 * c.zoom), static_cast<int>(8 * c.zoom)), c.other)
-        << c.zoom;
+    EXPECT_EQ(scene.at(static_cast<int>(7 * c.zoom), static_cast<int>(8 * c.zoom)), c.other) << c.zoom;
   }
 }
 

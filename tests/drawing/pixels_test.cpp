@@ -68,7 +68,10 @@ TEST(Resample, MirroredPicturesStayMirrored) {
 TEST(Affine, TurnsAboutAndBlendsExactlyAtRest) {
   const Bitmap dot = made(5, 3, [](int x, int y) { return x == 3 && y == 1 ? red : 0u; });
   const PixelView view{dot.pixels.data(), dot.width, dot.height, dot.width};
-  struct Case { double degrees; int x, y; };
+  struct Case {
+    double degrees;
+    int x, y;
+  };
   // The dot stands two pixels to the right of the pivot pixel (1, 1).
   for (const Case& c : {Case{0, 12, 10}, Case{90, 10, 12}, Case{180, 8, 10}, Case{-90, 10, 8}}) {
     std::vector<std::uint32_t> canvas(400, grey);
@@ -87,9 +90,8 @@ TEST(Affine, StaysInsideForAnyMap) {
   const PixelView view{picture.pixels.data(), picture.width, picture.height, picture.width};
   for (int i = 0; i < 3000; ++i) {
     const double size = i % 3 == 0 ? 0.01 : i % 3 == 1 ? 1 : 0.1;
-    const Affine map{number(random) * size, number(random) * size,
-                     number(random),        number(random) * size,
-                     number(random) * size, number(random) * (i % 7 ? 1 : 1e9)};
+    const Affine map{number(random) * size, number(random) * size, number(random),
+                     number(random) * size, number(random) * size, number(random) * (i % 7 ? 1 : 1e9)};
     std::vector<std::uint32_t> canvas(900, grey);
     blend_turned({canvas.data(), 30, 0, 0}, {5, 5, 20, 20}, view, map);
     for (int x = 0; x < 30; ++x) ASSERT_EQ(canvas[4 * 30 + x], grey);

@@ -28,8 +28,7 @@ class Text : public testing::Test {
   }
 
   static bool inside(const Rect& inner, const Rect& outer) {
-    return inner.x >= outer.x && inner.y >= outer.y &&
-           inner.x + inner.width <= outer.x + outer.width &&
+    return inner.x >= outer.x && inner.y >= outer.y && inner.x + inner.width <= outer.x + outer.width &&
            inner.y + inner.height <= outer.y + outer.height;
   }
 
@@ -81,8 +80,7 @@ TEST_F(Text, IsDrawnAgainOnlyWhenItChanges) {
 }
 
 TEST_F(Text, OddBoxesAreHarmless) {
-  for (const PanelSize size :
-       {PanelSize{0, 10}, {-1, -1}, {INT32_MAX, 5}, {5, INT32_MAX}, {1, 1}}) {
+  for (const PanelSize size : {PanelSize{0, 10}, {-1, -1}, {INT32_MAX, 5}, {5, INT32_MAX}, {1, 1}}) {
     part().size = size;
     part().max_characters = ~0u;
     part().weight = ~0u;

@@ -65,19 +65,18 @@ TEST_P(ShippedFlow, FliesToItsEndAndLeavesPicturesAndSound) {
   EXPECT_GE(onsets(loudness(sound)).size(), 5u) << "the switches are heard";
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Flows, ShippedFlow,
-    testing::Values(Shipped{"power_up",
-                            {"1-cold-and-dark", "2-battery", "3-meters", "4-generators", "5-night",
-                             "6-ready"}},
-                    Shipped{"engine_start",
-                            {"1-cold-and-dark", "2-apu-on-line", "3-start-air", "4-both-running"}}),
-    [](const auto& shipped) { return std::string(shipped.param.flow); });
+INSTANTIATE_TEST_SUITE_P(Flows, ShippedFlow,
+                         testing::Values(Shipped{"power_up",
+                                                 {"1-cold-and-dark", "2-battery", "3-meters",
+                                                  "4-generators", "5-night", "6-ready"}},
+                                         Shipped{"engine_start",
+                                                 {"1-cold-and-dark", "2-apu-on-line", "3-start-air",
+                                                  "4-both-running"}}),
+                         [](const auto& shipped) { return std::string(shipped.param.flow); });
 
 TEST(FlowSound, TheClickIsHeardOnceAtItsTime) {
   const TempFolder folder;
-  const std::string flow = folder.write("click.lua",
-                                        "wait(2)\nclick('Masterbat', 47, 99)\nwait(3)\n");
+  const std::string flow = folder.write("click.lua", "wait(2)\nclick('Masterbat', 47, 99)\nwait(3)\n");
   const std::string sound = folder / "click.wav";
   const Outcome outcome = tarnvale("run " + flow + " --wav " + sound);
   ASSERT_EQ(outcome.exit_code, 0) << outcome.output;

@@ -70,8 +70,8 @@ TEST_F(AirControls, AThreePositionLeverReturnsToTheCentreFromEitherSide) {
     const char* gauge;
     PanelPoint up, down, picture;
   };
-  for (const Row& row : {Row{"Antiice", {19, 24}, {19, 26}, {27, 5}},
-                         Row{"Aimain", {85, 29}, {85, 31}, {92, 10}}}) {
+  for (const Row& row :
+       {Row{"Antiice", {19, 24}, {19, 26}, {27, 5}}, Row{"Aimain", {85, 29}, {85, 31}, {92, 10}}}) {
     rig::Gauge panel(row.gauge);
     const std::pair<PanelPoint, f64> clicks[] = {{row.up, 1},   {row.down, 0}, {row.down, 2},
                                                  {row.down, 0}, {row.up, 1},   {row.up, 0}};
@@ -134,12 +134,12 @@ TEST_F(AirControls, ALightUnderTestShinesTwoSecondsAndMakesNoSound) {
     f64 lit;
   };
   const Row rows[] = {
-      {"Tempcon", {49, 3}, {49, 3}, 0},       {"Tempcon", {66, 86}, {66, 87}, 0},
-      {"Tempcon", {96, 86}, {95, 87}, 0},     {"Ramair", {7, 10}, {6, 10}, 0},
-      {"Aimain", {6, 34}, {6, 33}, 0},        {"Aimain", {164, 40}, {161, 39}, 0},
-      {"Aimain", {2, 165}, {2, 164}, 0},      {"Aimain", {2, 198}, {1, 196}, 0},
-      {"Aimain", {153, 170}, {153, 169}, 0},  {"Aimain", {152, 203}, {151, 202}, 0},
-      {"Windshield", {5, 6}, {5, 6}, 1},      {"Windshield", {69, 6}, {68, 5}, 1},
+      {"Tempcon", {49, 3}, {49, 3}, 0},      {"Tempcon", {66, 86}, {66, 87}, 0},
+      {"Tempcon", {96, 86}, {95, 87}, 0},    {"Ramair", {7, 10}, {6, 10}, 0},
+      {"Aimain", {6, 34}, {6, 33}, 0},       {"Aimain", {164, 40}, {161, 39}, 0},
+      {"Aimain", {2, 165}, {2, 164}, 0},     {"Aimain", {2, 198}, {1, 196}, 0},
+      {"Aimain", {153, 170}, {153, 169}, 0}, {"Aimain", {152, 203}, {151, 202}, 0},
+      {"Windshield", {5, 6}, {5, 6}, 1},     {"Windshield", {69, 6}, {68, 5}, 1},
   };
   aircraft.duct_left_temp_normal = aircraft.duct_right_temp_normal = 1;
   f64 now = 100;

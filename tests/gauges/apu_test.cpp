@@ -38,8 +38,8 @@ TEST_F(Apu, SettlesWhereTheGeneratorSwitchGovernsIt) {
     u32 generator;
     f64 first, at_100, speed, temperature;
   };
-  for (const Row& row : {Row{0, 12, 210, 1251, 1200}, Row{1, 12, 210, 1301, 1280},
-                         Row{2, 11, 110, 1501, 1501}}) {
+  for (const Row& row :
+       {Row{0, 12, 210, 1251, 1200}, Row{1, 12, 210, 1301, 1280}, Row{2, 11, 110, 1501, 1501}}) {
     for (const f64 night : {0.0, 1.0}) {  // the lit copy must not turn it twice as fast
       host.tokens[token::panel_lights] = night;
       cold();

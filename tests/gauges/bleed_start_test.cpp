@@ -108,9 +108,9 @@ TEST_F(EngineStart, EnginesFillTheDuctWithoutTheApu) {
     u32 light_before, light;
   };
   const Row rows[] = {
-      {30, 30, 1, 80, 0, 2}, {30, 30, 0, 79, 0, 2}, {30, 20, 1, 60, 0, 0}, {20, 30, 1, 60, 1, 1},
-      {30, 20, 0, 59, 2, 0}, {20, 20, 1, 10, 2, 0}, {25, 30, 1, 10, 2, 0}, {25, 25, 0, 9, 2, 0},
-      {20, 25, 1, 10, 1, 0},
+      {30, 30, 1, 80, 0, 2}, {30, 30, 0, 79, 0, 2}, {30, 20, 1, 60, 0, 0},
+      {20, 30, 1, 60, 1, 1}, {30, 20, 0, 59, 2, 0}, {20, 20, 1, 10, 2, 0},
+      {25, 30, 1, 10, 2, 0}, {25, 25, 0, 9, 2, 0},  {20, 25, 1, 10, 1, 0},
   };
   aircraft.apu_at_speed = 0;
   for (const Row& row : rows) {
@@ -166,8 +166,10 @@ TEST_F(EngineStart, TestLightsShineForTwoSecondsAndProlongEachOther) {
     rig::Gauge* gauge;
     PanelPoint box, light;
   };
-  const Row rows[] = {{&valves, {10, 42}, {10, 41}}, {&valves, {181, 43}, {180, 42}},
-                      {&valves, {8, 74}, {10, 76}},  {&valves, {179, 74}, {176, 75}},
+  const Row rows[] = {{&valves, {10, 42}, {10, 41}},
+                      {&valves, {181, 43}, {180, 42}},
+                      {&valves, {8, 74}, {10, 76}},
+                      {&valves, {179, 74}, {176, 75}},
                       {&panel, {14, 13}, {14, 12}}};
   f64& clock = host.tokens[token::clock_seconds];
   for (const Row& row : rows) {
@@ -215,8 +217,8 @@ TEST_F(EngineStart, StarterIsPushedOncePerPercentOfTheFirstTen) {
     std::size_t pushes;
     u32 switch_after;
   };
-  for (const Row& row : {Row{1, 0, 1}, Row{5.5, 5, 1}, Row{10, 9, 1}, Row{10.1, 10, 1},
-                         Row{25, 10, 1}, Row{25.1, 10, 2}}) {
+  for (const Row& row : {Row{1, 0, 1}, Row{5.5, 5, 1}, Row{10, 9, 1}, Row{10.1, 10, 1}, Row{25, 10, 1},
+                         Row{25.1, 10, 2}}) {
     aircraft.start_air_available = aircraft.start_master_switch = 1;
     aircraft.eng1_start_switch = aircraft.eng2_start_switch = 1;
     core_speeds(row.core_speed, row.core_speed);

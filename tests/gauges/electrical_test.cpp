@@ -44,9 +44,8 @@ TEST_F(Electrics, BatterySwitchAsksTheHostAndShowsTheHostsAnswer) {
 
 TEST_F(Electrics, OnlyATokenThatTruncatesToOneIsOn) {
   rig::Gauge battery("Masterbat"), avionics("Avimaster");
-  const std::pair<f64, u32> cases[] = {{0, 0},    {0.99, 0}, {1, 1},   {1.9, 1},
-                                       {2, 0},    {-1, 0},   {NAN, 0}, {INFINITY, 0},
-                                       {1e300, 0}};
+  const std::pair<f64, u32> cases[] = {{0, 0},  {0.99, 0}, {1, 1},        {1.9, 1},  {2, 0},
+                                       {-1, 0}, {NAN, 0},  {INFINITY, 0}, {1e300, 0}};
   for (const auto& [value, on] : cases) {
     host.tokens[token::battery] = host.tokens[token::avionics] = value;
     battery.frame();
@@ -122,8 +121,8 @@ TEST_F(Electrics, AGuardKeepsItsSwitchOff) {
     i32 guard_bitmap, switch_bitmap;
     PanelPoint guard, control;
   };
-  for (const Row& row : {Row{"Ctr", 2180, 2170, {80, 80}, {80, 110}},
-                         Row{"Acpwr", 2160, 2150, {142, 40}, {142, 80}}}) {
+  for (const Row& row :
+       {Row{"Ctr", 2180, 2170, {80, 80}, {80, 110}}, Row{"Acpwr", 2160, 2150, {142, 40}, {142, 80}}}) {
     rig::Gauge panel(row.gauge);
     panel.click(row.control.x, row.control.y);
     panel.frame();
@@ -296,8 +295,11 @@ TEST_F(Meters, EverythingRestsWithoutDcPower) {
 
 TEST_F(Electrics, LoadAndDriveMetersNeedTheirSwitches) {
   rig::Gauge load("Acload"), drive("Gendrive");
-  host.tokens = {{token::gen1_load, 60},   {token::gen2_load, 500}, {token::apu_load, 20},
-                 {token::gen1_drive, 8000}, {token::gen2_drive, -5}};
+  host.tokens = {{token::gen1_load, 60},
+                 {token::gen2_load, 500},
+                 {token::apu_load, 20},
+                 {token::gen1_drive, 8000},
+                 {token::gen2_drive, -5}};
   load.frame();
   drive.frame();
   for (int i = 0; i < 3; ++i) EXPECT_EQ(load.value(410, i), 0);

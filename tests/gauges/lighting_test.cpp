@@ -49,8 +49,7 @@ TEST_F(Lighting, PanelLightSwitchSwapsThePilotsOwnWindows) {
     PanelPoint control;
     u32 day, night;
   };
-  for (const Row& row :
-       {Row{"Cainstlg", {14, 70}, 20, 27}, Row{"Foinstlg", {61, 62}, 21, 28}}) {
+  for (const Row& row : {Row{"Cainstlg", {14, 70}, 20, 27}, Row{"Foinstlg", {61, 62}, 21, 28}}) {
     rig::Gauge panel(row.gauge);
     host.windows.clear();
     panel.click(row.control.x, row.control.y);

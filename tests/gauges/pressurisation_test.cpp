@@ -74,8 +74,8 @@ TEST_F(Pressurisation, DifferentialPressureFollowsTheAltitudeInSteps) {
 
 TEST_F(Pressurisation, CabinClimbsAThirdAsFast) {
   rig::Gauge gauge("Cabvs");
-  for (const auto& [rate, shown] : {std::pair(0., 0.), {3000., 1000.}, {-900., -300.},
-                                    {7500., 2000.}, {-1e300, -2000.}}) {
+  for (const auto& [rate, shown] :
+       {std::pair(0., 0.), {3000., 1000.}, {-900., -300.}, {7500., 2000.}, {-1e300, -2000.}}) {
     host.tokens[token::vertical_speed] = rate;
     gauge.frame();
     EXPECT_EQ(gauge.value(1370), shown) << rate;
@@ -199,11 +199,10 @@ TEST_F(Pressurisation, PressureSettingFitsItsFourDigits) {
     f64 altitude, setting;
     const char* text;
   };
-  for (const Row& row :
-       {Row{999.9, 1013, " QNH"}, Row{1000, 1013.9, "1013"}, Row{5000, 29, "0029"},
-        Row{5000, 9999.9, "9999"}, Row{5000, 123456, "9999"}, Row{5000, -7, "-007"},
-        Row{5000, -1e300, "-999"}, Row{5000, INFINITY, "9999"}, Row{5000, NAN, "0000"},
-        Row{NAN, 1013, " QNH"}, Row{INFINITY, 1013, "1013"}}) {
+  for (const Row& row : {Row{999.9, 1013, " QNH"}, Row{1000, 1013.9, "1013"}, Row{5000, 29, "0029"},
+                         Row{5000, 9999.9, "9999"}, Row{5000, 123456, "9999"}, Row{5000, -7, "-007"},
+                         Row{5000, -1e300, "-999"}, Row{5000, INFINITY, "9999"}, Row{5000, NAN, "0000"},
+                         Row{NAN, 1013, " QNH"}, Row{INFINITY, 1013, "1013"}}) {
     fly(row.altitude);
     host.tokens[token::pressure_setting] = row.setting;
     controller.frame();

@@ -26,7 +26,8 @@ class Bitmaps : public testing::Test {
   }
 
   std::string file_ = scratch_folder() + "bitmaps_test.GAU";
-  ByteList own_ = section_bytes({{10, plain_dib(2, 2, 0xFF0000)}, {20, plain_dib(4, 1, 0xFF0000)},
+  ByteList own_ = section_bytes({{10, plain_dib(2, 2, 0xFF0000)},
+                                 {20, plain_dib(4, 1, 0xFF0000)},
                                  {30, plain_dib(1, 1, 0xFF0000)}});
 };
 
@@ -56,8 +57,7 @@ TEST_F(Bitmaps, DenseOnesCountOnlyAtTheRightSize) {
 }
 
 TEST_F(Bitmaps, DamagedDenseOnesAreLeftOutAndNoted) {
-  ByteList dense =
-      section_bytes({{10, plain_dib(4, 4, 0x00FF00)}, {30, plain_dib(2, 2, 0x00FF00)}});
+  ByteList dense = section_bytes({{10, plain_dib(4, 4, 0x00FF00)}, {30, plain_dib(2, 2, 0x00FF00)}});
   dense.resize(dense.size() - 16);  // the last bitmap is cut off
   write_file(file_ + ".2x", dense);
   write_file(file_ + ".3x", ByteList(40, std::byte{'x'}));

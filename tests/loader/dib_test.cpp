@@ -42,7 +42,10 @@ TEST(Dib, IndexPastThePaletteIsBlack) {
 }
 
 TEST(Dib, KnowsWhetherAnythingOrEverythingShows) {
-  struct Case { std::vector<std::uint8_t> rows; bool opaque, empty; };
+  struct Case {
+    std::vector<std::uint8_t> rows;
+    bool opaque, empty;
+  };
   for (const Case& c : {Case{{0, 0, 0, 0}, false, true}, Case{{1, 3, 0, 0}, true, false},
                         Case{{0, 1, 0, 0}, false, false}}) {
     const ByteList bytes = DibBytes{.palette = palette, .rows = c.rows}.bytes();

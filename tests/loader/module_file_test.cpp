@@ -37,8 +37,7 @@ fs::path changed(Change change) {
 
 template <typename Field>
 fs::path with_header(Field Elf64_Ehdr::*field, Field value) {
-  return changed(
-      [&](ByteList& bytes) { reinterpret_cast<Elf64_Ehdr*>(bytes.data())->*field = value; });
+  return changed([&](ByteList& bytes) { reinterpret_cast<Elf64_Ehdr*>(bytes.data())->*field = value; });
 }
 
 std::string load_error(const fs::path& file) {
@@ -86,12 +85,15 @@ TEST(ModuleFile, SaysWhatIsWrongWithAFile) {
                 "has no section .panelres and so no bitmaps");
   EXPECT_EQ(load_error(with_header(&Elf64_Ehdr::e_shoff, Elf64_Off{~0ull})), cut);
   EXPECT_EQ(load_error("missing.GAU"), "missing.GAU: cannot be read: No such file or directory");
-  EXPECT_EQ(load_error(fs::temp_directory_path()), fs::temp_directory_path().filename().string() +
-                                                       ": cannot be read: Is a directory");
+  EXPECT_EQ(load_error(fs::temp_directory_path()),
+            fs::temp_directory_path().filename().string() + ": cannot be read: Is a directory");
 }
 
 TEST(ModuleFile, SaysWhatIsWrongWithAModule) {
-  struct Case { const char* name; const char* message; };
+  struct Case {
+    const char* name;
+    const char* message;
+  };
   const Case cases[] = {
       {"small_kind", "gauge 1 (Small), element 1: kind 9 is not an element kind"},
       {"small_bad_pointer",

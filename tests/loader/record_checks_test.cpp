@@ -98,8 +98,7 @@ TEST(RecordChecks, SoundRecordsPass) {
 
 TEST(RecordChecks, UnsafeElementsAreErrors) {
   const std::string unreadable = " points to memory that cannot be read", g = "gauge 1 (Full), ";
-  const std::string needle = g + "element 1: ", string = g + "element 2: ",
-                    icon = g + "element 4: ";
+  const std::string needle = g + "element 1: ", string = g + "element 2: ", icon = g + "element 4: ";
   using R = Records;
   expect_findings(
       {
@@ -124,8 +123,7 @@ TEST(RecordChecks, UnsafeElementsAreErrors) {
           {[](R& r) { r.elements[1].needle.table = nullptr; },
            needle + "calibration points are counted, but there is no table"},
           {[](R& r) { r.text[5] = '6'; }, string + "the text has no end within 5 characters"},
-          {[](R& r) { r.elements[2].string.text = wild<char*>(); },
-           string + "the text" + unreadable},
+          {[](R& r) { r.elements[2].string.text = wild<char*>(); }, string + "the text" + unreadable},
           {[](R& r) { r.elements[2].string.font = nullptr; }, string + "the font's name is null"},
           {[](R& r) { r.elements[2].string.font = "A\tB"; },
            string + "the font's name holds characters that cannot be printed"},
@@ -159,18 +157,15 @@ TEST(RecordChecks, UnsafeGaugesAreErrors) {
           {[](R& r) { r.gauge.service = wild<ServiceRoutine>(); },
            g + ": the service routine points to something that is not code"},
           {[](R& r) { r.gauge.mouse_areas = nullptr; }, g + ", mouse area 0: the entry is null"},
-          {[](R& r) { r.areas[1].kind = 5; },
-           g + ", mouse area 1: kind 5 is not a mouse area kind"},
-          {[](R& r) { r.areas[1].routine = nullptr; },
-           g + ", mouse area 1: the mouse routine is null"},
+          {[](R& r) { r.areas[1].kind = 5; }, g + ", mouse area 1: kind 5 is not a mouse area kind"},
+          {[](R& r) { r.areas[1].routine = nullptr; }, g + ", mouse area 1: the mouse routine is null"},
           {[](R& r) { r.areas[2].tooltip = wild<char*>(); },
            g + ", mouse area 2: the tooltip points to memory that cannot be read"},
           {[](R& r) { r.areas[3].kind = MOUSE_END; },
            g + ", mouse area 3: the table ends inside a group"},
           {[](R& r) { r.areas[2].kind = MOUSE_GROUP_END; },
            g + ", mouse area 3: it closes a group that is not open"},
-          {[](R& r) { r.linkage.module_id = 1; },
-           "Linkage: the module identifier is 0x1, not 0x13"},
+          {[](R& r) { r.linkage.module_id = 1; }, "Linkage: the module identifier is 0x1, not 0x13"},
           {[](R& r) { r.linkage.gauges[0] = nullptr; }, "Linkage: it lists no gauge"},
           {[](R& r) { r.linkage.gauges[1] = wild<GaugeHeader*>(); },
            "gauge 2: the header points to memory that cannot be read"},
@@ -190,8 +185,7 @@ TEST(RecordChecks, OdditiesAreWarnings) {
       {
           {[](R& r) { r.elements[4].gauge = nullptr; },
            g + "element 4: it names another gauge as its own"},
-          {[](R& r) { r.elements[4].reserved = 3; },
-           g + "element 4: the reserved word is 0x3, not 0"},
+          {[](R& r) { r.elements[4].reserved = 3; }, g + "element 4: the reserved word is 0x3, not 0"},
           {[](R& r) {
              r.failures[0].action = 9;
              r.elements[4].failures = r.failures;
@@ -246,8 +240,7 @@ TEST(RecordChecks, BoxesLieInTheBackground) {
   records.elements[5].moving_image.mask_resource_id = -1;
   std::vector<NumberedDib> dibs;
   for (const std::uint32_t id : {0, 10, 30, 40, 50, 60}) dibs.push_back({id, plain_dib(9, 9, 1)});
-  for (const auto& [x, inside] :
-       {std::pair{4, true}, {5, false}, {-1, false}, {INT32_MAX, false}}) {
+  for (const auto& [x, inside] : {std::pair{4, true}, {5, false}, {-1, false}, {INT32_MAX, false}}) {
     records.areas[1].x = x;
     EXPECT_EQ(artwork_findings(records, dibs).empty(), inside) << x;
   }

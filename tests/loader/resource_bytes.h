@@ -35,14 +35,13 @@ struct DibBytes {
   std::uint16_t bits = 8;
   std::vector<std::uint32_t> palette{};  // 0xOORRGGBB
   std::vector<std::uint8_t> rows{};
-  std::uint32_t colours_used = 0;      // 0: as many as there are
+  std::uint32_t colours_used = 0;  // 0: as many as there are
   std::uint32_t compression = 0;
   std::uint32_t header_size = 40;
 
   ByteList bytes() const {
     ByteList out;
-    const std::uint32_t used =
-        colours_used ? colours_used : static_cast<std::uint32_t>(palette.size());
+    const std::uint32_t used = colours_used ? colours_used : static_cast<std::uint32_t>(palette.size());
     append(out, header_size), append(out, width), append(out, height);
     append(out, std::uint16_t{1}), append(out, bits), append(out, compression);
     for (int i = 0; i < 3; ++i) append(out, std::uint32_t{0});
@@ -56,8 +55,11 @@ struct DibBytes {
 /// A bitmap of one colour, 8 bits a pixel.
 inline ByteList plain_dib(int width, int height, std::uint32_t colour) {
   const std::size_t row = (std::size_t(width) + 3) / 4 * 4;
-  return DibBytes{.width = width, .height = height, .palette = {colour},
-                  .rows = std::vector<std::uint8_t>(row * height)}.bytes();
+  return DibBytes{.width = width,
+                  .height = height,
+                  .palette = {colour},
+                  .rows = std::vector<std::uint8_t>(row * height)}
+      .bytes();
 }
 
 struct NumberedDib {
@@ -95,8 +97,8 @@ inline std::string scratch_folder() {
 }
 
 inline void write_file(const std::string& file, std::span<const std::byte> bytes) {
-  std::ofstream(file, std::ios::binary).write(reinterpret_cast<const char*>(bytes.data()),
-                                              static_cast<std::streamsize>(bytes.size()));
+  std::ofstream(file, std::ios::binary)
+      .write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
 }
 
 }  // namespace host

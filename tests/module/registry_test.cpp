@@ -132,8 +132,8 @@ void note_argument(const Element* root, uintptr_t argument) {
 }
 
 TEST(Registry, GenericRoutinesPassTheFirstGaugeWhicheverWasNamed) {
-  const PanelServices services{note, note_argument, note, note, note_argument, note, note,
-                               nullptr, nullptr, nullptr, nullptr, nullptr};
+  const PanelServices services{note, note_argument, note,    note,    note_argument, note,
+                               note, nullptr,       nullptr, nullptr, nullptr,       nullptr};
   ImportTable.entries[0].pointer = &services;
   const Element* first = Linkage.gauges[0]->element_list[0];
   for (const GaugeHeader* gauge : all_gauges()) {
@@ -155,13 +155,21 @@ TEST(Registry, GenericRoutinesPassTheFirstGaugeWhicheverWasNamed) {
 TEST(Registry, AnyTokenValueAndAnyClickAreHarmless) {
   rig::Host host;
   std::mt19937_64 bits(1);
-  const f64 extremes[] = {0.0, -0.0, 1e308, -1e308, 5e-324, std::numeric_limits<f64>::infinity(),
+  const f64 extremes[] = {0.0,
+                          -0.0,
+                          1e308,
+                          -1e308,
+                          5e-324,
+                          std::numeric_limits<f64>::infinity(),
                           -std::numeric_limits<f64>::infinity(),
-                          std::numeric_limits<f64>::quiet_NaN(), 4294967296.0, -2147483649.0};
+                          std::numeric_limits<f64>::quiet_NaN(),
+                          4294967296.0,
+                          -2147483649.0};
   for (int round = 0; round < 60; ++round) {
     for (u32 token = 1; token < 1000; ++token) {
       const bool extreme = bits() % 4 == 0;
-      host.tokens[token] = extreme ? extremes[bits() % std::size(extremes)] : std::bit_cast<f64>(bits());
+      host.tokens[token] =
+          extreme ? extremes[bits() % std::size(extremes)] : std::bit_cast<f64>(bits());
     }
     for (const GaugeHeader* header : all_gauges()) {
       if (std::strcmp(header->name, "Msnd") == 0) continue;  // it would ask for a sound device
@@ -181,8 +189,8 @@ TEST(Registry, AnyTokenValueAndAnyClickAreHarmless) {
 }
 
 TEST(Registry, RunningTotalsBesideTheCompleteCockpits) {
-  constexpr std::array<const char*, 7> kinds{"static images", "needles", "strings", "sliders",
-                                             "icons", "moving images", "sprites"};
+  constexpr std::array<const char*, 7> kinds{"static images", "needles",       "strings", "sliders",
+                                             "icons",         "moving images", "sprites"};
   constexpr std::array<int, 7> complete{120, 186, 44, 22, 839, 156, 12};
   std::array<int, 7> now{};
   int elements = 0, clicks = 0, tooltips = 0, groups = 0;

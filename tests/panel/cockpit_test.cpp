@@ -103,7 +103,8 @@ TEST_F(SmallCockpit, FindsTheGaugeUnderAPixelAtAnyZoom) {
   cockpit.frame();
   for (const double zoom : {0.5, 1.0, 1.7, 3.0}) {
     const PanelPicture picture(cockpit, 1, zoom);
-    const auto hit = picture.hit(static_cast<int>((10 + 2 * 47.5) * zoom), static_cast<int>((20 + 2 * 99.5) * zoom));
+    const auto hit =
+        picture.hit(static_cast<int>((10 + 2 * 47.5) * zoom), static_cast<int>((20 + 2 * 99.5) * zoom));
     ASSERT_TRUE(hit) << zoom;
     EXPECT_STREQ(hit->gauge->header().name, "Masterbat");
     EXPECT_NEAR(hit->point.x, 47, 1);
@@ -123,8 +124,9 @@ TEST_F(SmallCockpit, RefusesGaugesThatTheModuleDoesNotHave) {
   };
   for (const auto& each : cases) {
     try {
-      const Cockpit other(*module, parse_panel_config(std::string("[Window00]\nsize_mm=9,9\n") + each.line,
-                                                      "panel.cfg"));
+      const Cockpit other(
+          *module,
+          parse_panel_config(std::string("[Window00]\nsize_mm=9,9\n") + each.line, "panel.cfg"));
       FAIL() << each.line;
     } catch (const ConfigError& error) {
       EXPECT_STREQ(error.what(), each.message);

@@ -27,9 +27,9 @@ void expect_sound(const Layout& layout, const LayoutArea& area) {
 
 TEST(Layout, FillsScreensOfAllShapes) {
   const std::vector<PanelSize> sizes = {{930, 950}, {898, 762}, {682, 500}, {276, 202}, {1280, 497}};
-  for (const LayoutArea& area : {LayoutArea{1920, 1080, 6, 22}, LayoutArea{1080, 1920, 6, 22},
-                                 LayoutArea{3840, 2160, 12, 44}, LayoutArea{640, 480, 6, 22},
-                                 LayoutArea{5120, 1440, 2, 0}}) {
+  for (const LayoutArea& area :
+       {LayoutArea{1920, 1080, 6, 22}, LayoutArea{1080, 1920, 6, 22}, LayoutArea{3840, 2160, 12, 44},
+        LayoutArea{640, 480, 6, 22}, LayoutArea{5120, 1440, 2, 0}}) {
     for (std::size_t count = 1; count <= sizes.size(); ++count) {
       SCOPED_TRACE(std::to_string(area.width) + " wide, windows: " + std::to_string(count));
       const Layout layout = arrange(std::span(sizes).first(count), area, std::nullopt);

@@ -7,10 +7,10 @@ namespace {
 using namespace host;
 
 PanelSet two_windows() {
-  return PanelSet(parse_panel_config(
-      "[Window00]\nident=500\nident_day=20\nident_night=27\nsize_mm=9,9\nvisible=1\n"
-      "[Window02]\nident=502\nsize_mm=9,9\n",
-      "panel.cfg"));
+  return PanelSet(
+      parse_panel_config("[Window00]\nident=500\nident_day=20\nident_night=27\nsize_mm=9,9\nvisible=1\n"
+                         "[Window02]\nident=502\nsize_mm=9,9\n",
+                         "panel.cfg"));
 }
 
 TEST(PanelSet, OpensClosesAndToggles) {

@@ -15,8 +15,8 @@ std::vector<std::string> calls;
 template <char Name>
 i32 answer(PanelPoint point, u32 flags) {
   std::string bits;
-  for (const auto& [bit, text] : {std::pair{MOUSE_LEFT, "L"}, {MOUSE_RIGHT, "R"}, {MOUSE_REPEAT, "+"},
-                                  {MOUSE_DRAG, "~"}})
+  for (const auto& [bit, text] :
+       {std::pair{MOUSE_LEFT, "L"}, {MOUSE_RIGHT, "R"}, {MOUSE_REPEAT, "+"}, {MOUSE_DRAG, "~"}})
     if (flags & bit) bits += text;
   calls.push_back(std::string(1, Name) + " " + std::to_string(point.x) + "," + std::to_string(point.y) +
                   " " + bits);
@@ -102,16 +102,16 @@ TEST_F(OnAGauge, AClickGoesToTheInnermostAreaThatAnswersIt) {
     u32 button;
     const char* call;
   } cases[] = {
-      {10, 49, MOUSE_LEFT, "s 0,39 L"},    // the last row of the switch
-      {10, 50, MOUSE_LEFT, ""},            // one row below it
-      {29, 24, MOUSE_LEFT, "g 19,14 L"},   // the guard lies over the switch
-      {9, 20, MOUSE_LEFT, ""},             // one column to the left
-      {15, 35, MOUSE_LEFT, "s 5,25 L"},    // the test answers only the right button
+      {10, 49, MOUSE_LEFT, "s 0,39 L"},   // the last row of the switch
+      {10, 50, MOUSE_LEFT, ""},           // one row below it
+      {29, 24, MOUSE_LEFT, "g 19,14 L"},  // the guard lies over the switch
+      {9, 20, MOUSE_LEFT, ""},            // one column to the left
+      {15, 35, MOUSE_LEFT, "s 5,25 L"},   // the test answers only the right button
       {15, 35, MOUSE_RIGHT, "t 3,5 R"},
-      {15, 15, MOUSE_RIGHT, ""},           // neither guard nor switch answers it
+      {15, 15, MOUSE_RIGHT, ""},  // neither guard nor switch answers it
       {12, 62, MOUSE_RIGHT, "k 2,2 R"},
-      {115, 85, MOUSE_LEFT, "h 5,5 L"},    // 100 + 10 and 60 + 20: positions add up
-      {105, 65, MOUSE_LEFT, ""},           // a group alone answers nothing
+      {115, 85, MOUSE_LEFT, "h 5,5 L"},  // 100 + 10 and 60 + 20: positions add up
+      {105, 65, MOUSE_LEFT, ""},         // a group alone answers nothing
   };
   for (const auto& each : cases)
     EXPECT_EQ(click(each.x, each.y, each.button), each.call) << each.x << "," << each.y;
@@ -165,18 +165,16 @@ TEST_F(OnAGauge, TheWheelTurnsKnobsAndNeverASwitch) {
     int notches;
     std::string call;  // of every notch
   } cases[] = {
-      {55, 20, 1, "u 10,15 L"},    // up increases, wherever the pointer is on the pair
-      {55, 20, -1, "d 10,15 L"},
-      {80, 20, 2, "u 10,15 L"},
-      {71, 20, -3, "d 10,15 L"},   // between the halves
-      {115, 20, 1, "v 10,15 L"},   // the nearer half is the partner
-      {100, 20, 1, ""},            // between two knobs
-      {12, 62, 1, "k 7,7 L"},
-      {12, 62, -1, "k 7,7 R"},
-      {15, 15, 1, ""},             // guard
-      {15, 45, -1, ""},            // switch
-      {50, 100, 1, ""},            // lever
-      {115, 85, 1, ""},            // button
+      {55, 20, 1, "u 10,15 L"},  // up increases, wherever the pointer is on the pair
+      {55, 20, -1, "d 10,15 L"}, {80, 20, 2, "u 10,15 L"},
+      {71, 20, -3, "d 10,15 L"},  // between the halves
+      {115, 20, 1, "v 10,15 L"},  // the nearer half is the partner
+      {100, 20, 1, ""},           // between two knobs
+      {12, 62, 1, "k 7,7 L"},    {12, 62, -1, "k 7,7 R"},
+      {15, 15, 1, ""},   // guard
+      {15, 45, -1, ""},  // switch
+      {50, 100, 1, ""},  // lever
+      {115, 85, 1, ""},  // button
       {55, 20, 0, ""},
   };
   for (const auto& each : cases) {
@@ -202,11 +200,14 @@ TEST(HotAreas, NameTheHostsHelpPages) {
 
 TEST(HotAreas, TakeExtremeRecords) {
   constexpr i32 most = 2147483647;
-  const std::vector<MouseArea> rows = {
-      group(most, most, most, most), group(most, most, 0, 0),
-      area(most, most, most, most, CURSOR_HAND, MOUSE_LEFT, nullptr),
-      area(-most, -most, -1, -1, CURSOR_INCREASE, MOUSE_LEFT, nullptr), row_of(MOUSE_GROUP_END),
-      row_of(MOUSE_GROUP_END), row_of(MOUSE_GROUP_END), row_of(MOUSE_END)};
+  const std::vector<MouseArea> rows = {group(most, most, most, most),
+                                       group(most, most, 0, 0),
+                                       area(most, most, most, most, CURSOR_HAND, MOUSE_LEFT, nullptr),
+                                       area(-most, -most, -1, -1, CURSOR_INCREASE, MOUSE_LEFT, nullptr),
+                                       row_of(MOUSE_GROUP_END),
+                                       row_of(MOUSE_GROUP_END),
+                                       row_of(MOUSE_GROUP_END),
+                                       row_of(MOUSE_END)};
   const HotAreas areas(rows.data());
   EXPECT_EQ(areas.at({0, 0}, MOUSE_LEFT), nullptr);
   EXPECT_EQ(areas.at({most, most}, MOUSE_LEFT), nullptr);

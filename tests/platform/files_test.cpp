@@ -11,13 +11,11 @@
 namespace {
 
 HANDLE open_file(const char* path) {
-  return CreateFileA(path, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
-                     FILE_ATTRIBUTE_NORMAL, nullptr);
+  return CreateFileA(path, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL,
+                     nullptr);
 }
 
-HANDLE map_file(HANDLE file) {
-  return CreateFileMappingA(file, nullptr, PAGE_READONLY, 0, 0, nullptr);
-}
+HANDLE map_file(HANDLE file) { return CreateFileMappingA(file, nullptr, PAGE_READONLY, 0, 0, nullptr); }
 
 /// The whole contents by way of a mapping; "-" if there is none.
 std::string contents(const char* path) {

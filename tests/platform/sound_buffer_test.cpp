@@ -15,8 +15,8 @@ struct Locked {
 
 Locked lock(IDirectSoundBuffer& buffer, DWORD offset, DWORD bytes, DWORD flags = 0) {
   Locked locked;
-  locked.result = buffer.Lock(offset, bytes, &locked.part1, &locked.bytes1, &locked.part2,
-                              &locked.bytes2, flags);
+  locked.result =
+      buffer.Lock(offset, bytes, &locked.part1, &locked.bytes1, &locked.part2, &locked.bytes2, flags);
   return locked;
 }
 

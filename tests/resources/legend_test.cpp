@@ -86,8 +86,7 @@ TEST(Words, KeepApartAndOnThePlate) {
         }
         for (const Segment& mark : plate.canvas.marks()) {
           EXPECT_FALSE(meet(mark, words[i]))
-              << plate.of.name << ": " << text(words[i]) << " meet a mark at " << density
-              << " times";
+              << plate.of.name << ": " << text(words[i]) << " meet a mark at " << density << " times";
         }
       }
     });

@@ -62,8 +62,8 @@ TEST(Pictures, NeighbouringImagesOfARunDiffer) {
 
 TEST(Pictures, DrawSomethingUnlessTheyRestOnThePlate) {
   // A switch that is off under its guard, and an overlay that is off, are empty.
-  constexpr int empty[] = {360,  420,  450,  230,  290,  330,  480,  1080, 1120, 1150, 1290,
-                           1330, 1350, 1380, 2020, 2150, 2170, 2220};
+  constexpr int empty[] = {360,  420,  450,  230,  290,  330,  480,  1080, 1120,
+                           1150, 1290, 1330, 1350, 1380, 2020, 2150, 2170, 2220};
   for (const Bitmap& each : table()) {
     const Canvas picture = drawn(each, 1);
     const bool nothing = same(picture, Canvas(each.size, 1, 0));
@@ -109,15 +109,13 @@ TEST_P(Lamps, GlowWhenLitAndCanBeReadWhenDark) {
   EXPECT_LT(brightest, 180) << "and cannot be taken for a lit one";
 }
 
-INSTANTIATE_TEST_SUITE_P(Overhead, Lamps,
-                         ::testing::Values(LampCase{40, 41}, LampCase{50, 51}, LampCase{60, 61},
-                                           LampCase{80, 81}, LampCase{110, 111},
-                                           LampCase{150, 151}, LampCase{150, 152},
-                                           LampCase{2111, 2110}, LampCase{2120, 2121},
-                                           LampCase{2330, 2331}, LampCase{1020, 1021},
-                                           LampCase{1250, 1251}, LampCase{1260, 1261},
-                                           LampCase{1410, 1411}, LampCase{1440, 1441},
-                                           LampCase{3290, 3291}, LampCase{13370, 13371}));
+INSTANTIATE_TEST_SUITE_P(
+    Overhead, Lamps,
+    ::testing::Values(LampCase{40, 41}, LampCase{50, 51}, LampCase{60, 61}, LampCase{80, 81},
+                      LampCase{110, 111}, LampCase{150, 151}, LampCase{150, 152}, LampCase{2111, 2110},
+                      LampCase{2120, 2121}, LampCase{2330, 2331}, LampCase{1020, 1021},
+                      LampCase{1250, 1251}, LampCase{1260, 1261}, LampCase{1410, 1411},
+                      LampCase{1440, 1441}, LampCase{3290, 3291}, LampCase{13370, 13371}));
 
 TEST(Lamps, SpillTheirLightOverTheMetal) {
   const Canvas dark({66, 24}, 2, 1), lit({66, 24}, 2, 1);
@@ -174,8 +172,8 @@ TEST_P(Overlays, LightTheFaceAndLeaveThePlateAlone) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Instruments, Overlays,
-                         ::testing::Values(360, 420, 450, 230, 290, 330, 480, 1080, 1120, 1150,
-                                           1290, 1380, 2020));
+                         ::testing::Values(360, 420, 450, 230, 290, 330, 480, 1080, 1120, 1150, 1290,
+                                           1380, 2020));
 
 TEST(Overlays, AreOpaqueWhereTheyChangeAFace) {
   const Canvas bright = drawn(bitmap(362), 1);

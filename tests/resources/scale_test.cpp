@@ -81,8 +81,8 @@ class PrintedScale : public ::testing::TestWithParam<PrintedMark> {};
 TEST_P(PrintedScale, StandsWhereTheNeedlePoints) {
   const PrintedMark& m = GetParam();
   const std::vector<Bitmap> table = bitmap_table();
-  const auto plate = std::find_if(table.begin(), table.end(),
-                                  [&](const Bitmap& b) { return b.id == m.plate; });
+  const auto plate =
+      std::find_if(table.begin(), table.end(), [&](const Bitmap& b) { return b.id == m.plate; });
   ASSERT_NE(plate, table.end());
   const Canvas canvas = drawn(*plate, 3);
   const Element& needle = part(m.gauge, m.needle, m.nth);
@@ -91,27 +91,26 @@ TEST_P(PrintedScale, StandsWhereTheNeedlePoints) {
   EXPECT_LT(brightness(canvas, polar(pivot, m.radius, needle_angle(needle, m.beside))), 90);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Meters, PrintedScale,
-    ::testing::Values(PrintedMark{"Acdc", 340, 350, 0, -90, -75, 24.5},
-                      PrintedMark{"Acdc", 340, 350, 1, 66, 64.8, 24.5},
-                      PrintedMark{"Acdc", 340, 350, 2, 117.4, 106, 24.5},
-                      PrintedMark{"Acdc", 340, 350, 3, 30, 25, 24.5},
-                      PrintedMark{"Acload", 390, 410, 0, 25, 37, 22.5},
-                      PrintedMark{"Acload", 390, 410, 2, 75, 87, 22.5},
-                      PrintedMark{"Gendrive", 430, 440, 1, 11703, 12288, 23.5},
-                      PrintedMark{"Grdpsi", 1060, 1070, 0, 500, 530, 23.5},
-                      PrintedMark{"Ductc", 270, 280, 0, 50, 47, 22.8},
-                      PrintedMark{"Ductc", 270, 280, 1, 10, 13, 22.8},
-                      PrintedMark{"Cabvs", 1360, 1370, 0, -1500, -1250, 26},
-                      PrintedMark{"Cabvs", 1360, 1370, 0, 1500, 1750, 26},
-                      PrintedMark{"Icepsi", 1090, 1110, 1, 300, 325, 21.8},
-                      PrintedMark{"Airfoil", 1130, 1140, 0, 900, 930, 24.2},
-                      PrintedMark{"Diffpress", 1270, 1280, 0, 70, 66, 41},
-                      PrintedMark{"Diffpress", 1270, 24220, 0, 30000, 28750, 20.8},
-                      PrintedMark{"Cabalt", 1460, 1470, 0, 11000, 10750, 29},
-                      PrintedMark{"Apuins", 460, 470, 0, 750, 800, 26.5},
-                      PrintedMark{"Apuins", 460, 470, 1, 1000, 1050, 26.3}));
+INSTANTIATE_TEST_SUITE_P(Meters, PrintedScale,
+                         ::testing::Values(PrintedMark{"Acdc", 340, 350, 0, -90, -75, 24.5},
+                                           PrintedMark{"Acdc", 340, 350, 1, 66, 64.8, 24.5},
+                                           PrintedMark{"Acdc", 340, 350, 2, 117.4, 106, 24.5},
+                                           PrintedMark{"Acdc", 340, 350, 3, 30, 25, 24.5},
+                                           PrintedMark{"Acload", 390, 410, 0, 25, 37, 22.5},
+                                           PrintedMark{"Acload", 390, 410, 2, 75, 87, 22.5},
+                                           PrintedMark{"Gendrive", 430, 440, 1, 11703, 12288, 23.5},
+                                           PrintedMark{"Grdpsi", 1060, 1070, 0, 500, 530, 23.5},
+                                           PrintedMark{"Ductc", 270, 280, 0, 50, 47, 22.8},
+                                           PrintedMark{"Ductc", 270, 280, 1, 10, 13, 22.8},
+                                           PrintedMark{"Cabvs", 1360, 1370, 0, -1500, -1250, 26},
+                                           PrintedMark{"Cabvs", 1360, 1370, 0, 1500, 1750, 26},
+                                           PrintedMark{"Icepsi", 1090, 1110, 1, 300, 325, 21.8},
+                                           PrintedMark{"Airfoil", 1130, 1140, 0, 900, 930, 24.2},
+                                           PrintedMark{"Diffpress", 1270, 1280, 0, 70, 66, 41},
+                                           PrintedMark{"Diffpress", 1270, 24220, 0, 30000, 28750, 20.8},
+                                           PrintedMark{"Cabalt", 1460, 1470, 0, 11000, 10750, 29},
+                                           PrintedMark{"Apuins", 460, 470, 0, 750, 800, 26.5},
+                                           PrintedMark{"Apuins", 460, 470, 1, 1000, 1050, 26.3}));
 
 }  // namespace
 }  // namespace artwork

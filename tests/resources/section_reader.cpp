@@ -55,8 +55,7 @@ std::map<std::uint32_t, ReadBitmap> read_section(std::span<const std::uint8_t> b
   EXPECT_EQ(header.version, PANEL_RESOURCE_VERSION);
   std::uint32_t last = 0;
   for (std::uint32_t i = 0; i < header.count; ++i) {
-    const auto entry =
-        at<PanelResourceEntry>(bytes, sizeof header + i * sizeof(PanelResourceEntry));
+    const auto entry = at<PanelResourceEntry>(bytes, sizeof header + i * sizeof(PanelResourceEntry));
     EXPECT_EQ(entry.offset % 16, 0u) << entry.id;
     EXPECT_LE(std::size_t{entry.offset} + entry.size, bytes.size()) << entry.id;
     if (entry.id == PANEL_RESOURCE_NAMED || entry.offset + entry.size > bytes.size()) continue;
@@ -82,8 +81,7 @@ std::vector<std::uint8_t> elf_section(const std::string& path, const std::string
   const Elf64_Shdr names = section_at(header.e_shstrndx);
   for (std::size_t i = 0; i < header.e_shnum; ++i) {
     const Elf64_Shdr section = section_at(i);
-    const char* found =
-        reinterpret_cast<const char*>(file.data()) + names.sh_offset + section.sh_name;
+    const char* found = reinterpret_cast<const char*>(file.data()) + names.sh_offset + section.sh_name;
     if (name != found) continue;
     const auto from = file.begin() + static_cast<std::ptrdiff_t>(section.sh_offset);
     return {from, from + static_cast<std::ptrdiff_t>(section.sh_size)};

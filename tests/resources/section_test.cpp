@@ -13,9 +13,7 @@ namespace {
 using artwork::Bytes;
 using artwork::Indexed;
 
-Indexed tiny() {
-  return {3, 2, {{0, 0, 0, 0}, {30, 20, 10, 255}, {3, 2, 1, 128}}, {0, 1, 2, 2, 1, 0}};
-}
+Indexed tiny() { return {3, 2, {{0, 0, 0, 0}, {30, 20, 10, 255}, {3, 2, 1, 128}}, {0, 1, 2, 2, 1, 0}}; }
 
 TEST(PackedBitmap, HasHeaderPaletteAndRowsFromTheBottomUp) {
   const Bytes bytes = artwork::packed(tiny());

@@ -30,9 +30,9 @@ void toggle(u32 ident) { current->windows.emplace_back('t', ident); }
 void close(u32 ident) { current->windows.emplace_back('c', ident); }
 void open(u32 ident) { current->windows.emplace_back('o', ident); }
 
-constexpr PanelServices services{no_root, no_root_argument, no_root, no_root, no_root_argument,
-                                 no_root, no_root,          toggle,  take_event, look_up,
-                                 close,   open};
+constexpr PanelServices services{no_root,          no_root_argument, no_root, no_root,
+                                 no_root_argument, no_root,          no_root, toggle,
+                                 take_event,       look_up,          close,   open};
 
 f64 source_value(TokenVariable& source) {
   if (source.token != 0) look_up(&source);

@@ -37,24 +37,28 @@ class FlowApi : public testing::Test {
   static GaugeModule* module;
   std::vector<std::string> said;
   Cockpit cockpit{*module, parse_panel_config(panel, "panel.cfg")};
-  FlowSession session{cockpit, {{}, {}, [](double seconds) { return seconds / 2; },
-                                [this](const std::string& text) { said.push_back(text); }}};
+  FlowSession session{cockpit,
+                      {{},
+                       {},
+                       [](double seconds) { return seconds / 2; },
+                       [this](const std::string& text) { said.push_back(text); }}};
   LuaRunner runner;
 };
 
 GaugeModule* FlowApi::module = nullptr;
 
 TEST_F(FlowApi, ClicksAndSeesWhatFollows) {
-  EXPECT_EQ(fly("say('battery')\n"
-                "click('Masterbat', 47, 99)\n"
-                "expect_event('battery_toggle')\nexpect_event(0x102C2, 0)\n"
-                "expect(#events() == 5 and events()[1].name == 'battery_toggle' and events()[1].value == 0)\n"
-                "expect(token('battery') == 1 and token(364) == 1)\n"
-                "expect(image('Masterbat', 40) == 1)\n"
-                "expect(image('Masterbat', 2130, 1) == 1 and image('Masterbat', 2130, 2) == 0)\n"
-                "wait(0.1)\nexpect(#events() == 5, 'events stay until the next gesture')\n"
-                "click('Acdcsw', 50, 30)\nexpect(#events() == 0)"),
-            "");
+  EXPECT_EQ(
+      fly("say('battery')\n"
+          "click('Masterbat', 47, 99)\n"
+          "expect_event('battery_toggle')\nexpect_event(0x102C2, 0)\n"
+          "expect(#events() == 5 and events()[1].name == 'battery_toggle' and events()[1].value == 0)\n"
+          "expect(token('battery') == 1 and token(364) == 1)\n"
+          "expect(image('Masterbat', 40) == 1)\n"
+          "expect(image('Masterbat', 2130, 1) == 1 and image('Masterbat', 2130, 2) == 0)\n"
+          "wait(0.1)\nexpect(#events() == 5, 'events stay until the next gesture')\n"
+          "click('Acdcsw', 50, 30)\nexpect(#events() == 0)"),
+      "");
   EXPECT_EQ(said, std::vector<std::string>{"battery"});
 }
 
@@ -99,7 +103,9 @@ TEST_F(FlowApi, FailsAndRepairsASystem) {
 
 TEST_F(FlowApi, TellsMessagesAndSound) {
   session.messages = {"one", "two"};
-  EXPECT_EQ(fly("expect(#messages() == 2 and messages()[2] == 'two')\nexpect_near(sound_level(0.5), 0.25, 0)"), "");
+  EXPECT_EQ(fly("expect(#messages() == 2 and messages()[2] == 'two')\nexpect_near(sound_level(0.5), "
+                "0.25, 0)"),
+            "");
 }
 
 struct Failure {
@@ -128,7 +134,8 @@ TEST_F(FlowApi, SaysWhyAFlowFails) {
       {"value('Acdc', 350, 1, 4)", "argument 4 (axis) must be 1, 2 or 3"},
       {"text('Acdc')", "Acdc shows no text field 1"},
       {"token('batery')", "the aircraft has no token 'batery'"},
-      {"event('battery_toggel')", "the aircraft has no event 'battery_toggel'; did you mean battery_toggle?"},
+      {"event('battery_toggel')",
+       "the aircraft has no event 'battery_toggel'; did you mean battery_toggle?"},
       {"event(1)", "the aircraft has no event 1"},
       {"event(-1)", "argument 1 (event) must be a whole number from 0 to 4294967295"},
       {"wait(-1)", "a flow waits 0 to 86400 seconds at once"},

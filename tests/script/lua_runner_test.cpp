@@ -46,23 +46,31 @@ INSTANTIATE_TEST_SUITE_P(
     Texts, Failures,
     testing::Values(
         Failure{"syntax", "local x = 1\nlocal y = = 2", "flows/test.lua:2: unexpected symbol near '='"},
-        Failure{"unfinished", "if true then\n", "flows/test.lua:2: 'end' expected (to close 'if' at line 1) near <eof>"},
-        Failure{"nil_call", "\n\nclik('Masterbat')", "flows/test.lua:3: attempt to call a nil value (global 'clik')"},
+        Failure{"unfinished", "if true then\n",
+                "flows/test.lua:2: 'end' expected (to close 'if' at line 1) near <eof>"},
+        Failure{"nil_call", "\n\nclik('Masterbat')",
+                "flows/test.lua:3: attempt to call a nil value (global 'clik')"},
         Failure{"arithmetic", "local t = {}\nreturn t + 1",
                 "flows/test.lua:2: attempt to perform arithmetic on a table value (local 't')"},
         Failure{"own_error", "error('no fuel')", "flows/test.lua:1: no fuel"},
         Failure{"error_object", "error({})", "flows/test.lua:1: an error that is not a text"},
-        Failure{"host", "local a = 1\nrefuse('the lamp is dark')", "flows/test.lua:2: the lamp is dark"},
+        Failure{"host", "local a = 1\nrefuse('the lamp is dark')",
+                "flows/test.lua:2: the lamp is dark"},
         Failure{"helper", "local function check()\n  refuse('dark')\nend\n\ncheck()",
                 "flows/test.lua:2: dark (called from line 5)"},
         Failure{"in_condition", "ask(function()\n  refuse('inside')\nend)",
                 "flows/test.lua:2: inside (called from line 1)"},
-        Failure{"missing_argument", "number()", "flows/test.lua:1: argument 1 (value) must be a number"},
-        Failure{"text_for_number", "number('7')", "flows/test.lua:1: argument 1 (value) must be a number"},
-        Failure{"infinite", "number(1/0)", "flows/test.lua:1: argument 1 (value) must be a finite number"},
-        Failure{"fraction", "spot('A', 1.5, 2)", "flows/test.lua:1: argument 2 (x) must be a whole number"},
+        Failure{"missing_argument", "number()",
+                "flows/test.lua:1: argument 1 (value) must be a number"},
+        Failure{"text_for_number", "number('7')",
+                "flows/test.lua:1: argument 1 (value) must be a number"},
+        Failure{"infinite", "number(1/0)",
+                "flows/test.lua:1: argument 1 (value) must be a finite number"},
+        Failure{"fraction", "spot('A', 1.5, 2)",
+                "flows/test.lua:1: argument 2 (x) must be a whole number"},
         Failure{"short_spot", "spot({'A', 1})", "flows/test.lua:1: argument 3 (y) must be a number"},
-        Failure{"not_a_function", "ask(7)", "flows/test.lua:1: argument 1 (question) must be a function"},
+        Failure{"not_a_function", "ask(7)",
+                "flows/test.lua:1: argument 1 (question) must be a function"},
         Failure{"endless", "local n = 0\nwhile true do n = n + 1 end",
                 "flows/test.lua:2: the flow computes without ever waiting: an endless loop?"},
         Failure{"memory", "local t = {}\nfor i = 1, 40 do t[i] = string.rep(tostring(i), 1 << 24) end",
@@ -76,29 +84,33 @@ TEST_F(Flow, DeepRecursionIsAnErrorLikeAnyOther) {
 }
 
 TEST_F(Flow, HasNoWayOutOfItsRoom) {
-  for (const char* name : {"os", "io", "require", "package", "debug", "dofile", "loadfile", "load", "pcall",
-                           "xpcall", "coroutine", "collectgarbage"})
+  for (const char* name : {"os", "io", "require", "package", "debug", "dofile", "loadfile", "load",
+                           "pcall", "xpcall", "coroutine", "collectgarbage"})
     EXPECT_EQ(outcome(runner, std::string("if ") + name + " then error('open') end"), "") << name;
 }
 
 TEST_F(Flow, HasTextsTablesAndMathematics) {
   EXPECT_EQ(outcome(runner,
                     "local t = {3, 1, 2}\ntable.sort(t)\n"
-                    "if table.concat(t) .. string.format('%02d', math.floor(7.9)) ~= '12307' then error('!') end"),
+                    "if table.concat(t) .. string.format('%02d', math.floor(7.9)) ~= '12307' then "
+                    "error('!') end"),
             "");
 }
 
 TEST_F(Flow, GivesAndTakesValues) {
   EXPECT_EQ(outcome(runner, "if number(21) ~= 42 then error('!') end"), "");
-  EXPECT_EQ(outcome(runner, "if not ask(function() return 1 end) or ask(function() end) then error('!') end"), "");
+  EXPECT_EQ(
+      outcome(runner, "if not ask(function() return 1 end) or ask(function() end) then error('!') end"),
+      "");
 }
 
 TEST_F(Flow, TakesANamedControlForItsParts) {
-  EXPECT_EQ(outcome(runner,
-                    "local c = {'Ctr', 4, 5}\n"
-                    "if spot(c) ~= 'Ctr4,5' or spot(c, '!') ~= 'Ctr4,5!' or spot('Ctr', 4, 5) ~= 'Ctr4,5' "
-                    "then error(spot(c, '!')) end"),
-            "");
+  EXPECT_EQ(
+      outcome(runner,
+              "local c = {'Ctr', 4, 5}\n"
+              "if spot(c) ~= 'Ctr4,5' or spot(c, '!') ~= 'Ctr4,5!' or spot('Ctr', 4, 5) ~= 'Ctr4,5' "
+              "then error(spot(c, '!')) end"),
+      "");
 }
 
 TEST_F(Flow, RunsAgainAfterAFailure) {

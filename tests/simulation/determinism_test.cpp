@@ -22,9 +22,11 @@ std::vector<std::uint64_t> flown_in_slices(double slice_s) {
     const char* event;
   };
   constexpr Action actions[] = {
-      {1, "battery_toggle"},       {2, "apu_start"},           {40, "starter_1_engage"},
-      {52, "fuel_lever_1_toggle"}, {90, "starter_2_engage"},   {91, "fuel_lever_2_toggle"},
-      {120, "avionics_toggle"},    {121, "landing_lights_toggle"}, {150, "fuel_lever_1_toggle"},
+      {1, "battery_toggle"},        {2, "apu_start"},
+      {40, "starter_1_engage"},     {52, "fuel_lever_1_toggle"},
+      {90, "starter_2_engage"},     {91, "fuel_lever_2_toggle"},
+      {120, "avionics_toggle"},     {121, "landing_lights_toggle"},
+      {150, "fuel_lever_1_toggle"},
   };
   AircraftModel aircraft;
   double now_s = 0.0;
@@ -54,8 +56,8 @@ TEST(Determinism, Only_whole_steps_count_and_the_rest_is_kept) {
 
 TEST(Determinism, Time_neither_stops_nor_runs_backwards) {
   AircraftModel aircraft;
-  for (double seconds : {-1.0, 0.0, std::numeric_limits<double>::quiet_NaN(),
-                         std::numeric_limits<double>::infinity()}) {
+  for (double seconds :
+       {-1.0, 0.0, std::numeric_limits<double>::quiet_NaN(), std::numeric_limits<double>::infinity()}) {
     aircraft.advance(seconds);
     EXPECT_EQ(aircraft.seconds(), 0.0) << seconds;
   }

@@ -15,9 +15,7 @@ struct PoweredAircraft : AircraftModel {
 };
 
 void expect_ground_idle(const AircraftModel& aircraft, std::string_view engine) {
-  const auto value = [&](const char* what) {
-    return reading(aircraft, std::string(engine) + what);
-  };
+  const auto value = [&](const char* what) { return reading(aircraft, std::string(engine) + what); };
   EXPECT_NEAR(value("_core_speed"), 52.0, 2.0);
   EXPECT_NEAR(value("_fan_speed"), 24.0, 3.0);
   EXPECT_NEAR(value("_gas_temperature") / 4.0, 410.0, 20.0);

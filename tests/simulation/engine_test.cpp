@@ -46,8 +46,7 @@ TEST(Engine, Surroundings_show) {
        }) {
     Engine engine = idle;
     run(engine, c.inputs, 60.0);
-    EXPECT_NEAR(engine.gas_temperature_celsius - idle.gas_temperature_celsius, c.hotter_by_celsius,
-                8.0)
+    EXPECT_NEAR(engine.gas_temperature_celsius - idle.gas_temperature_celsius, c.hotter_by_celsius, 8.0)
         << c.what;
   }
   Engine high = idle;

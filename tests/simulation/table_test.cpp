@@ -7,8 +7,8 @@ namespace host {
 namespace {
 
 bool is_snake_case(std::string_view name) {
-  return !name.empty() && name.find_first_not_of("abcdefghijklmnopqrstuvwxyz0123456789_") ==
-                              std::string_view::npos;
+  return !name.empty() &&
+         name.find_first_not_of("abcdefghijklmnopqrstuvwxyz0123456789_") == std::string_view::npos;
 }
 
 TEST(Tables, Rows_ascend_with_unique_numbers_and_names) {

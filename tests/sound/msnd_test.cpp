@@ -54,7 +54,11 @@ TEST_F(SoundGauge, ARequestIsAnyValueAboveZeroAndIsTakenOnce) {
     u32 request;
     int heard;
     u32 left;
-  } cases[] = {{0, 0, 0}, {1, 15, 0}, {2, 15, 0}, {0x7FFFFFFF, 15, 0}, {0xFFFFFFFF, 0, 0xFFFFFFFF},
+  } cases[] = {{0, 0, 0},
+               {1, 15, 0},
+               {2, 15, 0},
+               {0x7FFFFFFF, 15, 0},
+               {0xFFFFFFFF, 0, 0xFFFFFFFF},
                {0x80000000, 0, 0x80000000}};
   for (const auto& test : cases) {
     aircraft.sound_requests[click_sound_request] = test.request;

@@ -42,9 +42,8 @@ class SoundFolder : public testing::Test {
   /// Where a sound lies: on a disk that somebody has unpacked with lower-case names.
   std::string file_of(std::size_t sound) const {
     std::string path = tarnvale::sound_files[sound].path;
-    std::ranges::transform(path, path.begin(), [](char c) {
-      return c == '\\' ? '/' : static_cast<char>(std::tolower(c));
-    });
+    std::ranges::transform(path, path.begin(),
+                           [](char c) { return c == '\\' ? '/' : static_cast<char>(std::tolower(c)); });
     return path;
   }
 

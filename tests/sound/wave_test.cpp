@@ -24,9 +24,7 @@ struct Image {
   Bytes bytes;
 };
 
-std::string text(Bytes bytes) {
-  return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
-}
+std::string text(Bytes bytes) { return {reinterpret_cast<const char*>(bytes.data()), bytes.size()}; }
 
 const std::string format = mono_format();
 const std::string fmt = chunk("fmt ", format);
@@ -97,13 +95,12 @@ TEST(Wave, OnlyWhatIsAskedForIsLookedAt) {
 
 /// Whether all of `part` lies in `image`.
 bool inside(Bytes image, Bytes part) {
-  return part.empty() || (part.data() >= image.data() &&
-                          part.data() + part.size() <= image.data() + image.size());
+  return part.empty() ||
+         (part.data() >= image.data() && part.data() + part.size() <= image.data() + image.size());
 }
 
 TEST(Wave, NoDamageLeadsOutsideTheImage) {
-  const std::string whole =
-      riff(chunk("junk", "odd") + fmt + samples_chunk + chunk("end ", "xy"));
+  const std::string whole = riff(chunk("junk", "odd") + fmt + samples_chunk + chunk("end ", "xy"));
   const auto check = [](const std::string& contents) {
     const Image image(contents);
     Bytes found_format;

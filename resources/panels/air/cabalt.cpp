@@ -19,8 +19,7 @@ Box text_box(int nth) {
   for (const Element* e : parts(gauge(panel))) {
     if (e->kind == ELEMENT_STRING && nth-- == 0) {
       return {static_cast<double>(e->position.x), static_cast<double>(e->position.y),
-              static_cast<double>(e->string.size.width),
-              static_cast<double>(e->string.size.height)};
+              static_cast<double>(e->string.size.width), static_cast<double>(e->string.size.height)};
     }
   }
   return {};
@@ -29,9 +28,19 @@ Box text_box(int nth) {
 void print_scale(const Scale& scale) {
   scale.marks({0, 15000, 1000, rim - 5, rim, 1.4});
   scale.marks({0, 15000, 500, rim - 3, rim, 0.8});
-  scale.numerals({{0, "0", -8}, {1000, "1"}, {2000, "2"}, {3000, "3"}, {4000, "4"}, {5000, "5"},
-                  {6000, "6"}, {7000, "7"}, {8000, "8"}, {9000, "9"}, {10000, "10"},
-                  {12000, "12"}, {15000, "15", -5}},
+  scale.numerals({{0, "0", -8},
+                  {1000, "1"},
+                  {2000, "2"},
+                  {3000, "3"},
+                  {4000, "4"},
+                  {5000, "5"},
+                  {6000, "6"},
+                  {7000, "7"},
+                  {8000, "8"},
+                  {9000, "9"},
+                  {10000, "10"},
+                  {12000, "12"},
+                  {15000, "15", -5}},
                  rim - 6.5, 8);
 }
 

@@ -18,8 +18,16 @@ void print_pressure(const Scale& scale) {
   scale.band({82, 100, rim - 1.4, 2.8, palette::range_red});
   scale.marks({10, 100, 10, rim - 7, rim, 1.6});
   scale.marks({10, 100, 5, rim - 4.5, rim, 1});
-  scale.numerals({{10, "1"}, {20, "2"}, {30, "3"}, {40, "4"}, {50, "5"}, {60, "6"}, {70, "7"},
-                  {80, "8"}, {90, "9"}, {100, "10"}},
+  scale.numerals({{10, "1"},
+                  {20, "2"},
+                  {30, "3"},
+                  {40, "4"},
+                  {50, "5"},
+                  {60, "6"},
+                  {70, "7"},
+                  {80, "8"},
+                  {90, "9"},
+                  {100, "10"}},
                  rim - 8, 10);
 }
 
@@ -27,23 +35,26 @@ void print_altitude(const Scale& scale) {
   scale.arc(0, 50000, inner, 0.7);
   scale.marks({0, 50000, 10000, inner - 4, inner, 1.3});
   scale.marks({0, 50000, 2500, inner - 2.2, inner, 0.7});
-  scale.numerals({{0, "0"}, {10000, "10"}, {20000, "20"}, {30000, "30"}, {40000, "40"}},
-                 inner - 5, 7.5);
+  scale.numerals({{0, "0"}, {10000, "10"}, {20000, "20"}, {30000, "30"}, {40000, "40"}}, inner - 5,
+                 7.5);
 }
 
 void draw_face(const Canvas& canvas, Lighting lighting) {
   painted_plate(canvas);
   corner_screws(canvas, 8, 3.4);
   const Dial d{place(panel, 1280), radius, 4};
-  meter(canvas, d, lighting, [&](Colour ink) {
-    print_pressure(Scale(canvas, part(panel, 1280), ink));
-    print_altitude(Scale(canvas, part(panel, 24220), ink));
-  }, 0);
+  meter(
+      canvas, d, lighting,
+      [&](Colour ink) {
+        print_pressure(Scale(canvas, part(panel, 1280), ink));
+        print_altitude(Scale(canvas, part(panel, 24220), ink));
+      },
+      0);
 }
 
 void draw_altitude_needle(Canvas& canvas, int) {
-  blade(canvas, {.pivot = {0, 2}, .length = 20, .tail = 0, .half_width = 1.4,
-                 .colour = palette::legend_amber});
+  blade(canvas,
+        {.pivot = {0, 2}, .length = 20, .tail = 0, .half_width = 1.4, .colour = palette::legend_amber});
 }
 
 void draw_pressure_needle(Canvas& canvas, int) {

@@ -56,11 +56,11 @@ void print_wing_scale(const Scale& scale, double rim) {
   scale.numerals({{200, "20"}, {400, "40"}, {600, "60"}, {800, "80"}, {1000, "100"}}, rim - 6, 8);
 }
 
-constexpr Pair ducts{"Ductc", 280, 32.5, {"DUCT 1", "DUCT 2"}, "\u00b0C", print_duct_scale,
+constexpr Pair ducts{"Ductc", 280,       32.5, {"DUCT 1", "DUCT 2"}, "\u00b0C", print_duct_scale,
                      {0, 12}, {0, 20.5}, 8};
-constexpr Pair engines{"Icepsi", 1110, 31.5, {"ENG 1", "ENG 2"}, "PSI", print_engine_scale,
+constexpr Pair engines{"Icepsi",     1110,    31.5, {"ENG 1", "ENG 2"}, "PSI", print_engine_scale,
                        {-0.5, 20.3}, {2, 12}, 6.5};
-constexpr Pair wings{"Airfoil", 1140, 34, {"WING 1", "WING 2"}, "PSI", print_wing_scale,
+constexpr Pair wings{"Airfoil", 1140,      34, {"WING 1", "WING 2"}, "PSI", print_wing_scale,
                      {2.5, 21}, {3, 12.5}, 7};
 
 void centre_screws(const Canvas& canvas, double x, double inset) {

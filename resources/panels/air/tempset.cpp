@@ -14,14 +14,17 @@ constexpr double needle_length = 13.5;
 
 void draw_indicator(const Canvas& canvas, int nth, Lighting lighting) {
   const Dial d{place(panel, 220, nth), radius, 2.6};
-  meter(canvas, d, lighting, [&](Colour ink) {
-    const Scale scale(canvas, part(panel, 220, nth), ink);
-    const double rim = d.face() - 1.6;
-    scale.marks({0, 10, 5, rim - 3.5, rim, 1.2});
-    scale.marks({0, 10, 1, rim - 2, rim, 0.7});
-    print(canvas, d.centre + Point{-9, 5.5}, "C", {.size = 8, .colour = ink});
-    print(canvas, d.centre + Point{9, 5.5}, "H", {.size = 8, .colour = ink});
-  }, 3);
+  meter(
+      canvas, d, lighting,
+      [&](Colour ink) {
+        const Scale scale(canvas, part(panel, 220, nth), ink);
+        const double rim = d.face() - 1.6;
+        scale.marks({0, 10, 5, rim - 3.5, rim, 1.2});
+        scale.marks({0, 10, 1, rim - 2, rim, 0.7});
+        print(canvas, d.centre + Point{-9, 5.5}, "C", {.size = 8, .colour = ink});
+        print(canvas, d.centre + Point{9, 5.5}, "H", {.size = 8, .colour = ink});
+      },
+      3);
 }
 
 void draw_face(const Canvas& canvas, Lighting lighting) {

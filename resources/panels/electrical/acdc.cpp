@@ -38,10 +38,7 @@ void print_dc_voltage(const Scale& scale) {
   scale.marks({dc_volts(20), dc_volts(36), dc_volts(4), rim - 5, rim, 1.3});
   scale.marks({dc_volts(20), dc_volts(28), dc_volts(1), rim - 3, rim, 0.7});
   scale.marks({dc_volts(28), dc_volts(36), dc_volts(2), rim - 3, rim, 0.7});
-  scale.numerals({{0, "0", -22},
-                  {dc_volts(20), "20"},
-                  {dc_volts(28), "28"},
-                  {dc_volts(36), "36", 20}},
+  scale.numerals({{0, "0", -22}, {dc_volts(20), "20"}, {dc_volts(28), "28"}, {dc_volts(36), "36", 20}},
                  rim - 6.5, 7.5);
 }
 
@@ -51,19 +48,17 @@ void print_ac_voltage(const Scale& scale) {
     scale.marks({ac_volts(volts), ac_volts(volts), 1, rim - 5, rim, 1.3});
   }
   scale.marks({0, ac_volts(150), ac_volts(10), rim - 3, rim, 0.7});
-  scale.numerals({{0, "0", -22},
-                  {ac_volts(50), "50"},
-                  {ac_volts(115), "115"},
-                  {ac_volts(150), "150", 22}},
-                 rim - 6.5, 7.5);
+  scale.numerals(
+      {{0, "0", -22}, {ac_volts(50), "50"}, {ac_volts(115), "115"}, {ac_volts(150), "150", 22}},
+      rim - 6.5, 7.5);
 }
 
 void print_ac_frequency(const Scale& scale) {
   scale.band({hertz(396), hertz(404), rim - 1.2, 2.4, palette::range_green});
   scale.marks({hertz(380), hertz(420), 10, rim - 5, rim, 1.3});
   scale.marks({hertz(380), hertz(420), 2, rim - 3, rim, 0.7});
-  scale.numerals({{hertz(380), "380", -end}, {hertz(400), "400"}, {hertz(420), "420", end}},
-                 rim - 6.5, 7.5);
+  scale.numerals({{hertz(380), "380", -end}, {hertz(400), "400"}, {hertz(420), "420", end}}, rim - 6.5,
+                 7.5);
 }
 
 constexpr Instrument instruments[] = {

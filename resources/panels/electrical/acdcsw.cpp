@@ -16,9 +16,7 @@ constexpr std::size_t positions = 8;
 using Names = std::array<std::string_view, positions>;
 
 /// Evenly over the knob's travel, the first at the lower left.
-constexpr double turned(std::size_t position) {
-  return -140 + 40.0 * static_cast<double>(position);
-}
+constexpr double turned(std::size_t position) { return -140 + 40.0 * static_cast<double>(position); }
 
 /// Four names on either side, each level with its tick.
 void draw_positions(const Canvas& canvas, Point hub, const Names& names) {
@@ -29,8 +27,8 @@ void draw_positions(const Canvas& canvas, Point hub, const Names& names) {
     constexpr double rows[] = {22, 7.5, -7.5, -22, -22, -7.5, 7.5, 22};
     const bool left = i < positions / 2;
     const double aside = i == 3 || i == 4 ? 9 : i == 0 || i == 7 ? 14 : 19.5;
-    engrave(canvas, {hub.x + (left ? -aside : aside), hub.y + rows[i]}, names[i],
-            {.size = legend_size}, left ? Anchor::right : Anchor::left);
+    engrave(canvas, {hub.x + (left ? -aside : aside), hub.y + rows[i]}, names[i], {.size = legend_size},
+            left ? Anchor::right : Anchor::left);
   }
 }
 

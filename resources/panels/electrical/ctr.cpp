@@ -27,8 +27,7 @@ void draw_plate(Canvas& canvas, int) {
   engrave(canvas, {middle, left.y}, "OFF");
   engrave(canvas, {middle, left.y + 13}, "RST");
   draw_feeders(canvas, left, right);
-  engrave(canvas, {guard.x - 8, guard.y + 35}, "AC BUS\nXFER", {.size = heading_size},
-          Anchor::right);
+  engrave(canvas, {guard.x - 8, guard.y + 35}, "AC BUS\nXFER", {.size = heading_size}, Anchor::right);
   engrave(canvas, {guard.right() + 6, guard.y + 31}, "MANUAL", {}, Anchor::left);
   engrave(canvas, {guard.right() + 6, guard.y + 55}, "AUTO", {}, Anchor::left);
 }

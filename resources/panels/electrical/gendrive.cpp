@@ -23,11 +23,9 @@ void print_scale(const Canvas& canvas, const Element& needle, Colour ink) {
   scale.band({units(130), units(full_scale), rim - 1.2, 2.4, palette::range_red});
   scale.marks({0, units(full_scale), units(20), rim - 5, rim, 1.4});
   scale.marks({0, units(full_scale), units(10), rim - 2.6, rim, 0.7});
-  scale.numerals({{0, "0", -24},
-                  {units(40), "40"},
-                  {units(100), "100"},
-                  {units(full_scale), "140", 14}},
-                 rim - 6.5, 7.5);
+  scale.numerals(
+      {{0, "0", -24}, {units(40), "40"}, {units(100), "100"}, {units(full_scale), "140", 14}},
+      rim - 6.5, 7.5);
 }
 
 void draw_meter(const Canvas& canvas, int nth, Lighting lighting) {

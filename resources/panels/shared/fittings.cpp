@@ -29,9 +29,12 @@ void fit_knob(const Canvas& canvas, Box, Point hub) { knob_seat(canvas, hub, 12.
 void fit_guard(const Canvas& canvas, Box picture, Point) { guarded_switch_off(canvas, picture); }
 
 constexpr Fitting fittings[] = {
-    {2080, three_way_hub, fit_lever},    {2130, toggle_hub, fit_lever},
-    {2140, flow_switch_hub, fit_knob},   {2160, {}, fit_guard},
-    {2180, {}, fit_guard},               {3280, pump_toggle_hub, fit_lever},
+    {2080, three_way_hub, fit_lever},
+    {2130, toggle_hub, fit_lever},
+    {2140, flow_switch_hub, fit_knob},
+    {2160, {}, fit_guard},
+    {2180, {}, fit_guard},
+    {3280, pump_toggle_hub, fit_lever},
     {4260, light_toggle_hub, fit_lever},
 };
 
@@ -58,9 +61,7 @@ Box box_of(const Element& e) {
 
 }  // namespace
 
-Box part_box(std::string_view gauge_name, int id, int nth) {
-  return box_of(part(gauge_name, id, nth));
-}
+Box part_box(std::string_view gauge_name, int id, int nth) { return box_of(part(gauge_name, id, nth)); }
 
 void fit_parts(const Canvas& canvas, std::string_view gauge_name) {
   for (const Element* e : parts(gauge(gauge_name))) {
