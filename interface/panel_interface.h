@@ -118,6 +118,12 @@ typedef struct IconPart {
   f64 switch_scale;
 } IconPart;
 
+/* Which way a needle goes from one point of its table to the next, in ascending order of value. */
+enum NeedleTurn {
+  TURN_CLOCKWISE = 0,  /* even where the whole table is more than one turn */
+  TURN_SHORTER_WAY = 1 /* for scales that run counterclockwise or step back a little */
+};
+
 /* Turns about `center`, a pixel of its own image that lies on the element's position. */
 typedef struct NeedlePart {
   PanelPoint center;
@@ -125,7 +131,7 @@ typedef struct NeedlePart {
   ValueRoutine value;
   const NonlinearityPoint* table; /* or null: the value is degrees clockwise */
   u32 table_length;
-  u32 reserved;
+  u32 turn;       /* enum NeedleTurn */
   f64 rate_limit; /* greatest speed in full scales a second; 0: none */
 } NeedlePart;
 
@@ -284,7 +290,9 @@ typedef struct PanelServices {
 /* The host stores its services' address in the entry with IMPORT_PANEL_SERVICES. */
 typedef struct ImportEntry {
   u32 identifier;
-  u32 reserved;
+#if UINTPTR_MAX == 0xFFFFFFFFFFFFFFFFu
+  u32 reserved; /* 0; only where pointers have eight bytes */
+#endif
   const void* pointer;
 } ImportEntry;
 
@@ -357,6 +365,7 @@ PANEL_OFFSET(NeedlePart, source, 8);
 PANEL_OFFSET(NeedlePart, value, 24);
 PANEL_OFFSET(NeedlePart, table, 32);
 PANEL_OFFSET(NeedlePart, table_length, 40);
+PANEL_OFFSET(NeedlePart, turn, 44);
 PANEL_OFFSET(NeedlePart, rate_limit, 48);
 PANEL_SIZE(StringPart, 88);
 PANEL_OFFSET(StringPart, source, 8);

@@ -14,12 +14,19 @@ namespace {
 
 void nothing_to_do() {}
 
+/// The host fills in the pointer.
+constexpr ImportTableRecord empty_import_table() {
+  ImportTableRecord table{};
+  table.entries[0].identifier = IMPORT_PANEL_SERVICES;
+  return table;
+}
+
 }  // namespace
 }  // namespace tarnvale
 
 extern "C" {
 
-EXPORTED constinit ImportTableRecord ImportTable{{{IMPORT_PANEL_SERVICES, 0, nullptr}, {}}};
+EXPORTED constinit ImportTableRecord ImportTable = tarnvale::empty_import_table();
 
 extern EXPORTED const LinkageRecord Linkage;
 constinit const LinkageRecord Linkage{

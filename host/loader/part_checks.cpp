@@ -54,7 +54,8 @@ void check_needle(const Element& element, const Inspector& place) {
   const NeedlePart& needle = element.needle;
   check_source(needle.source, place);
   place.callable_or_null(needle.value, "the value routine");
-  place.zero(needle.reserved, "the needle's reserved word");
+  if (needle.turn > TURN_SHORTER_WAY)
+    place.warning("a needle that turns in a way numbered " + std::to_string(needle.turn));
   if (!(needle.rate_limit >= 0 && std::isfinite(needle.rate_limit)))
     place.warning("a needle's speed of " + std::to_string(needle.rate_limit));
   if (needle.table != nullptr) check_table(element, place);
