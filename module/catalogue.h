@@ -1,11 +1,12 @@
-/// Every gauge of the module, declared with its sizes.
+/// Every gauge of the module.
 #pragma once
 
-#include "module/gauge.h"
+#include "module/bitmaps.h"
+#include "module/body.h"
 
 namespace tarnvale {
 
-#define GAUGE(gauge, elements, click_areas) extern constinit Gauge<elements, click_areas> gauge;
+#define GAUGE(gauge) extern constinit Gauge gauge;
 #include "module/catalogue.inc"
 #undef GAUGE
 

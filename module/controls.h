@@ -1,111 +1,151 @@
-/// The controls that stand on many panels, each as the value routines that show it and the mouse
-/// routines that work it. A routine is made for one variable: `shows<aircraft.wing_antiice_left>`.
+/// The controls that stand on many panels, each as the value routine that shows it and the mouse
+/// routine that works it. A routine is made for one variable: `shows<&Aircraft::wing_antiice_left>`.
 ///
 /// Switches, levers and guards click like a toggle switch; buttons, knobs and selectors like a button.
+/// What a control does is a plain function (`toggle`), which a gauge may call in a routine of its own;
+/// the row names its mouse routine (`toggles`).
 #pragma once
 
-#include "module/aircraft.h"
-#include "module/host.h"
-#include "module/mouse.h"
+#include "module/holds.h"
 
 namespace tarnvale {
 
 // ---- Showing a variable
 
 /// The variable is the image.
-template <u32& position>
+template <auto position>
 f64 shows(Element*) {
-  return position;
+  return variable<position>();
 }
 
 /// A lamp that is lit (image 1) while the variable holds `value`.
-template <u32& variable, u32 value = 1>
+template <auto watched, u32 value = 1>
 f64 lit_at(Element*) {
-  return variable == value;
+  return variable<watched>() == value;
 }
 
 /// Sets `flag` from a host token: 1 exactly while the token truncates to 1.
 void mirror(u32 token, u32& flag);
 
 /// A switch whose position is the host's state: the variable follows the token at every showing.
-template <u32 token, u32& flag>
+template <u32 token, auto flag>
 f64 mirrors(Element*) {
-  mirror(token, flag);
-  return flag;
+  mirror(token, variable<flag>());
+  return variable<flag>();
 }
 
-// ---- Switches and buttons
+// ---- Mouse routines
 
-/// A two-position switch.
-template <u32& flag>
-i32 toggles(PanelPoint, u32) {
-  flag = flag == 0;
-  request(toggle_click_sound_request);
+/// The mouse routine of a plain function: of nothing, or of the mouse flags that fired.
+template <auto act>
+i32 does(PanelPoint, u32 mouse_flags) {
+  if constexpr (std::is_invocable_v<decltype(act), u32>) {
+    act(mouse_flags);
+  } else {
+    act();
+  }
   return 0;
 }
+
+/// Tells the two buttons apart in a function that answers both.
+constexpr bool is_left(u32 mouse_flags) { return (mouse_flags & MOUSE_LEFT) != 0; }
+constexpr bool is_right(u32 mouse_flags) { return (mouse_flags & MOUSE_RIGHT) != 0; }
+
+/// Sends the host what a control means to it, and clicks.
+template <SoundRequest click, u32... events>
+void send_and_click() {
+  (send(events), ...);
+  request(click);
+}
+
+/// A two-position switch; the host hears of each move where it has something to do with it.
+template <auto flag, u32... events>
+void toggle() {
+  flip(variable<flag>());
+  send_and_click<toggle_click_sound_request, events...>();
+}
+template <auto flag, u32... events>
+inline constexpr MouseRoutine toggles = does<toggle<flag, events...>>;
 
 /// A push button that stays in and comes out again, or a two-position knob.
-template <u32& flag>
-i32 pushes(PanelPoint, u32) {
-  flag = flag == 0;
-  request(click_sound_request);
-  return 0;
+template <auto flag, u32... events>
+void push() {
+  flip(variable<flag>());
+  send_and_click<click_sound_request, events...>();
 }
-
-/// A switch with positions 0..last that goes round.
-template <u32& position, u32 last>
-i32 advances(PanelPoint, u32) {
-  position = position < last ? position + 1 : 0;
-  request(toggle_click_sound_request);
-  return 0;
-}
-
-/// The halves of a three-position lever (0 centre, 1 up, 2 down). From up or down either half brings
-/// it back to the centre.
-template <u32& lever>
-i32 lever_up(PanelPoint, u32) {
-  lever = lever != 0 ? 0 : 1;
-  request(toggle_click_sound_request);
-  return 0;
-}
-
-template <u32& lever>
-i32 lever_down(PanelPoint, u32) {
-  lever = lever != 0 ? 0 : 2;
-  request(toggle_click_sound_request);
-  return 0;
-}
-
-/// The halves of a selector with positions 0..last, which stops at both ends.
-template <u32& position>
-i32 steps_down(PanelPoint, u32) {
-  if (position > 0) --position;
-  request(click_sound_request);
-  return 0;
-}
-
-template <u32& position, u32 last>
-i32 steps_up(PanelPoint, u32) {
-  if (position < last) ++position;
-  request(click_sound_request);
-  return 0;
-}
+template <auto flag, u32... events>
+inline constexpr MouseRoutine pushes = does<push<flag, events...>>;
 
 /// A switch or a button that changes nothing here: it asks the host, and its picture follows the
 /// host's state.
-template <u32 key>
-i32 switch_sends(PanelPoint, u32) {
-  send(key);
-  request(toggle_click_sound_request);
-  return 0;
-}
+template <u32... events>
+inline constexpr MouseRoutine switch_sends =
+    does<send_and_click<toggle_click_sound_request, events...>>;
+template <u32... events>
+inline constexpr MouseRoutine button_sends = does<send_and_click<click_sound_request, events...>>;
 
-template <u32 key>
-i32 button_sends(PanelPoint, u32) {
-  send(key);
-  request(click_sound_request);
-  return 0;
+/// A switch with positions 0..last that goes round.
+template <auto position, u32 last>
+void advance() {
+  u32& at = variable<position>();
+  at = at < last ? at + 1 : 0;
+  request(toggle_click_sound_request);
 }
+template <auto position, u32 last>
+inline constexpr MouseRoutine advances = does<advance<position, last>>;
+
+/// A half of a three-position lever. From up or down either half brings it back to the centre.
+template <auto lever, Lever half>
+void move_lever() {
+  u32& at = variable<lever>();
+  at = at != centre ? u32{centre} : u32{half};
+  request(toggle_click_sound_request);
+}
+template <auto lever>
+inline constexpr MouseRoutine lever_up = does<move_lever<lever, up>>;
+template <auto lever>
+inline constexpr MouseRoutine lever_down = does<move_lever<lever, down>>;
+
+/// The halves of a selector with positions 0..last, which stops at both ends.
+template <auto position>
+void step_down() {
+  u32& at = variable<position>();
+  if (at > 0) --at;
+  request(click_sound_request);
+}
+template <auto position>
+inline constexpr MouseRoutine steps_down = does<step_down<position>>;
+
+template <auto position, u32 last>
+void step_up() {
+  u32& at = variable<position>();
+  if (at < last) ++at;
+  request(click_sound_request);
+}
+template <auto position, u32 last>
+inline constexpr MouseRoutine steps_up = does<step_up<position, last>>;
+
+/// One half of a two-button knob: the left button turns it by `fine`, the right one by `coarse`, both
+/// in the direction of their sign, between `low` and `high`. Less than a fine step from its end the
+/// knob goes there; a coarse step that would reach the end is not taken.
+template <auto value, i32 fine, i32 coarse, u32 low, u32 high>
+void turn(u32 mouse_flags) {
+  static_assert((fine < 0) == (coarse < 0), "both buttons turn one half of a knob the same way");
+  constexpr u32 small = fine < 0 ? -fine : fine, large = coarse < 0 ? -coarse : coarse;
+  constexpr u32 end = fine < 0 ? low : high;
+  u32& v = variable<value>();
+  const u32 room = fine < 0 ? (v > low ? v - low : 0) : (v < high ? high - v : 0);
+  if (room < small) {
+    v = end;
+  } else {
+    u32 by = is_left(mouse_flags) ? small : 0;
+    if (is_right(mouse_flags) && room - by > large) by += large;
+    v = fine < 0 ? v - by : v + by;
+  }
+  request(click_sound_request);
+}
+template <auto value, i32 fine, i32 coarse, u32 low, u32 high>
+inline constexpr MouseRoutine turns = does<turn<value, fine, coarse, low, high>>;
 
 // ---- Guarded switches
 
@@ -122,58 +162,43 @@ struct GuardedShared {
   u32& position;
 };
 
-template <auto& control>
+template <auto control>
 f64 guard_image(Element*) {
-  return control.open;
+  return control->open;
 }
 
 /// The switch under its guard, which forces it to rest whenever it is closed.
-template <auto& control>
+template <auto control>
 f64 guarded_image(Element*) {
-  if (control.open == 0) control.position = 0;
-  return control.position;
+  if (control->open == 0) control->position = 0;
+  return control->position;
 }
 
-template <auto& control>
-i32 moves_guard(PanelPoint, u32) {
-  control.open = control.open == 0;
+template <auto control>
+void move_guard() {
+  flip(control->open);
   request(toggle_click_sound_request);
-  return 0;
 }
+template <auto control>
+inline constexpr MouseRoutine moves_guard = does<move_guard<control>>;
 
 /// One step on while the guard is open, from the last position and under a closed guard to rest.
-template <auto& control, u32 last = 1>
-i32 works_guarded(PanelPoint, u32) {
-  control.position = control.open != 0 && control.position < last ? control.position + 1 : 0;
+template <auto control, u32 last = 1>
+void work_guarded() {
+  control->position = control->open != 0 && control->position < last ? control->position + 1 : 0;
   request(toggle_click_sound_request);
-  return 0;
 }
+template <auto control, u32 last = 1>
+inline constexpr MouseRoutine works_guarded = does<work_guarded<control, last>>;
 
 // ---- Press-to-test
 
-/// The clock of a press-to-test hold; lights that are tested together share one.
-struct TestClock {
-  u32 deadline = 0;  ///< whole seconds of the running clock
-  u32 reading = 0;   ///< the clock when last looked at
-};
-
-/// Starts or prolongs a test: two seconds from now.
-void start_test(TestClock& clock, u32& flag);
-
-/// Reads the clock and ends the test when its time is over, or when the clock has been set back.
-/// Returns whether the test goes on. `margin` is how far back a deadline may lie ahead: seconds.
-bool test_goes_on(TestClock& clock, u32& flag, u32 margin = 18);
-
-template <TestClock& clock, u32& flag>
-i32 tests(PanelPoint, u32) {
-  start_test(clock, flag);
-  return 0;
+/// Tests what `clock` and `flag` hold for; a test button is silent.
+template <auto clock, auto flag>
+void test() {
+  start_hold(*clock, variable<flag>());
 }
-
-/// The round test light (image 0 lit, 1 dark) that shines only while it is tested.
-template <TestClock& clock, u32& flag>
-f64 test_light(Element*) {
-  return test_goes_on(clock, flag) ? 0 : 1;
-}
+template <auto clock, auto flag>
+inline constexpr MouseRoutine tests = does<test<clock, flag>>;
 
 }  // namespace tarnvale

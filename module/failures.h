@@ -9,6 +9,9 @@ inline constexpr u32 key_electrical = 20;  ///< no electrical power at the panel
 
 inline constexpr FailureEntry end_of_table{0, 0, 0};
 
+/// Parts that work by hand.
+inline constexpr const FailureEntry* never = nullptr;
+
 /// Lamps, lighting and electrical read-outs: dark without power.
 inline constexpr FailureEntry dark[] = {{key_electrical, FAILURE_HIDE, 0}, end_of_table};
 

@@ -1,12 +1,13 @@
 #include "module/gauge.h"
 
+#include "module/aircraft.h"
 #include "module/host.h"
 
 namespace tarnvale {
 namespace {
 
 /// By day the lit copy is hidden. A light that reads as no number counts as dark.
-void switch_day_and_night(const GaugeFrame& gauge) {
+void switch_day_and_night(const Gauge& gauge) {
   if (gauge.lit == nullptr) return;
   const f64 light = read(gauge.light_token);
   if (light != 0.0 && light == light) {
@@ -23,8 +24,7 @@ void call(void (*routine)()) {
 }  // namespace
 
 void serve(const GaugeHeader* header, u32 service_id, uintptr_t extra_data) {
-  // The header is the first field of its gauge.
-  const GaugeFrame& gauge = *reinterpret_cast<const GaugeFrame*>(header);
+  const Gauge& gauge = gauge_of(*header);
   switch (service_id) {
     case SERVICE_START:
       if (gauge.services.start != nullptr) gauge.services.start(extra_data);

@@ -39,7 +39,7 @@ constinit const LinkageRecord Linkage{
     LINKAGE_VERSION,
     0,
     {
-#define GAUGE(gauge, elements, click_areas) &tarnvale::gauge.header,
+#define GAUGE(gauge) &tarnvale::gauge.header,
 #include "module/catalogue.inc"
 #undef GAUGE
         nullptr,

@@ -27,6 +27,7 @@ enum class Press : u32 {
 /// A click area as the mouse table holds it: the area itself, or a labelled group around it.
 struct Area {
   static constexpr std::size_t most_entries = 4;
+  const char* words;  ///< what a person calls it, unlike every other area of the gauge
   MouseArea entries[most_entries];
   std::size_t count;
 };
@@ -54,34 +55,40 @@ constexpr MouseArea click_entry(Box box, MouseRoutine routine, Press press, i32 
 }  // namespace detail
 
 /// A switch, a button or any other control that a click works.
-constexpr Area click(Box box, MouseRoutine routine, Press press = Press::left,
+constexpr Area click(const char* words, Box box, MouseRoutine routine, Press press = Press::left,
                      i32 cursor = CURSOR_HAND) {
-  return {{detail::click_entry(box, routine, press, cursor)}, 1};
+  return {words, {detail::click_entry(box, routine, press, cursor)}, 1};
 }
 
 /// The half of a knob or selector that lowers its value.
-constexpr Area decrease(Box box, MouseRoutine routine, Press press = Press::left) {
-  return click(box, routine, press, CURSOR_DECREASE);
+constexpr Area decrease(const char* words, Box box, MouseRoutine routine, Press press = Press::left) {
+  return click(words, box, routine, press, CURSOR_DECREASE);
 }
 
 /// The half of a knob or selector that raises its value.
-constexpr Area increase(Box box, MouseRoutine routine, Press press = Press::left) {
-  return click(box, routine, press, CURSOR_INCREASE);
+constexpr Area increase(const char* words, Box box, MouseRoutine routine, Press press = Press::left) {
+  return click(words, box, routine, press, CURSOR_INCREASE);
 }
 
-/// An area with a tooltip: a group at the control's place that holds the text and the area.
-constexpr Area labelled(const char* tooltip, Box box, MouseRoutine routine, Press press = Press::left,
-                        i32 cursor = CURSOR_HAND) {
+/// An area whose words the host shows as its tooltip: a group at the control's place that holds the
+/// text and the area.
+constexpr Area labelled(Area area) {
+  MouseArea inner = area.entries[0];
+  const Box box{inner.x, inner.y, inner.width, inner.height};
+  inner.x = inner.y = 0;
   MouseArea tip = detail::entry(MOUSE_TOOLTIP);
-  tip.tooltip = tooltip;
-  return {{detail::entry(MOUSE_GROUP, box), tip,
-           detail::click_entry({0, 0, box.width, box.height}, routine, press, cursor),
-           detail::entry(MOUSE_GROUP_END)},
-          4};
+  tip.tooltip = area.words;
+  return {area.words,
+          {detail::entry(MOUSE_GROUP, box), tip, inner, detail::entry(MOUSE_GROUP_END)},
+          Area::most_entries};
 }
 
-/// Tells the two buttons apart in a routine that answers both.
-constexpr bool is_left(u32 mouse_flags) { return (mouse_flags & MOUSE_LEFT) != 0; }
-constexpr bool is_right(u32 mouse_flags) { return (mouse_flags & MOUSE_RIGHT) != 0; }
+/// The same with a help text of the host's own in place of the words.
+constexpr Area labelled(u32 help_id, Area area) {
+  area = labelled(area);
+  area.entries[1].tooltip = nullptr;
+  area.entries[1].help_id = help_id;
+  return area;
+}
 
 }  // namespace tarnvale

@@ -66,10 +66,10 @@ void play_requests() {
   }
 }
 
-constinit Gauge<1, 0> msnd{
-    Face{.name = "Msnd",
-         .width_mm = 20,
-         .background = 10,
-         .services = {.start = start_sounds, .after_values = play_requests, .end = release_sounds}}};
+constinit Gauge msnd{
+    {.name = "Msnd",
+     .width_mm = 20,
+     .background = 10,
+     .services = {.start = start_sounds, .after_values = play_requests, .end = release_sounds}}};
 
 }  // namespace tarnvale

@@ -2,14 +2,12 @@
 /// other panels know of the APU's speed.
 #include "module/catalogue.h"
 #include "module/counters.h"
+#include "module/variables.h"
 
 namespace tarnvale {
 namespace {
 
 constexpr u32 rest = 10, full_scale = 1500;
-
-/// The generator switch's positions.
-enum Generator : u32 { centre, up, down };
 
 constinit u32 speed = rest;
 constinit u32 temperature = rest;
@@ -87,15 +85,17 @@ constexpr Scale<7> speed_scale{{{14, 139}, 0},         {{13, 137}, 10},   {{27, 
 constexpr Scale<6> temperature_scale{{{15, 60}, 0},    {{13, 58}, 10},   {{8, 30}, 400},
                                      {{45, 10}, 1000}, {{57, 14}, 1300}, {{63, 57}, full_scale}};
 
-}  // namespace
-
-constinit Gauge<7, 0> apuins{
-    Face{.name = "Apuins", .width_mm = 77, .background = 460},
+constinit Body body{
+    apuins,
     {
         lighting_overlay(480),
-        needle(470, {39, 118}, pivot, speed_scale, show_speed),
-        needle(470, {39, 39}, pivot, temperature_scale, show_temperature),
+        needle("APU speed", 470, {39, 118}, pivot, speed_scale, show_speed),
+        needle("APU temperature", 470, {39, 39}, pivot, temperature_scale, show_temperature),
     },
 };
+
+}  // namespace
+
+constinit Gauge apuins{{.name = "Apuins", .width_mm = 77, .background = 460}, body};
 
 }  // namespace tarnvale

@@ -3,12 +3,17 @@
 #include "module/controls.h"
 
 namespace tarnvale {
+namespace {
 
-constinit Gauge<3, 0> apulg{
-    Face{.name = "Apulg", .width_mm = 25, .background = 13360},
+constinit Body body{
+    apulg,
     {
-        lamp(13370, {1, 1}, lit_at<aircraft.apu_running>),
+        lamp("APU running lamp", 13370, {1, 1}, lit_at<&Aircraft::apu_running>),
     },
 };
+
+}  // namespace
+
+constinit Gauge apulg{{.name = "Apulg", .width_mm = 25, .background = 13360}, body};
 
 }  // namespace tarnvale

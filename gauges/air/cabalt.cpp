@@ -1,16 +1,13 @@
 /// Cabin-altitude controller (overhead): the crew sets the cabin altitude for the flight, and the
 /// controller says how high the aircraft may go with it. Higher than that the label gives way to PRESS
 /// with its sound.
-#include <windows.h>
-
 #include <algorithm>
 
 #include "module/bands.h"
 #include "module/catalogue.h"
 #include "module/controls.h"
 #include "module/counters.h"
-#include "module/host.h"
-#include "module/numbers.h"
+#include "module/readout.h"
 
 namespace tarnvale {
 namespace {
@@ -51,7 +48,7 @@ constexpr u32 low_range_end = 67, high_range_end = 78;
 /// From this differential pressure on, as high as the aircraft flies, only the selection counts.
 constexpr u32 greatest = 79;
 
-f64 altitude() { return limited(read(token::altitude), 0, 99999); }
+f64 altitude() { return limited(read(token::indicated_altitude), 0, 99999); }
 
 const Watch* watch_at(const Limits& limits, f64 altitude_ft) {
   for (const Watch& watch : limits.watches) {
@@ -61,8 +58,6 @@ const Watch* watch_at(const Limits& limits, f64 altitude_ft) {
 }
 
 bool set_too_low(const Watch* watch) { return watch != nullptr && selected < watch->least; }
-
-void write(char (&text)[6], const char* what) { wsprintfA(text, "%s", what); }
 
 /// A selection exactly between two labels keeps the last one.
 void label_limit(const Limits& limits) {
@@ -110,10 +105,10 @@ f64 write_warning(Element*) {
 /// Near the ground the setting is a matter of the altimeters.
 f64 write_pressure_setting(Element* readout) {
   if (altitude() < 1000) {
-    wsprintfA(pressure_setting, " QNH");
+    write(pressure_setting, " QNH");
   } else {
     const i32 setting = whole_i32(readout->string.source[0].value);
-    wsprintfA(pressure_setting, "%04d", std::clamp(setting, -999, 9999));
+    write(pressure_setting, "%04d", std::clamp(setting, -999, 9999));
   }
   return 0;
 }
@@ -124,30 +119,19 @@ f64 show_selected(Element*) {
 }
 
 /// A left click turns by 100 ft, a right one by 1000 ft short of the ends of the dial.
-i32 lower(PanelPoint, u32 flags) {
-  if (selected < 100) {
-    selected = 0;
-  } else if (is_left(flags)) {
-    selected -= 100;
-  } else if (is_right(flags) && selected > 1000) {
-    selected -= 1000;
-  }
-  request(click_sound_request);
-  return 0;
-}
+constexpr MouseRoutine lower = turns<&selected, -100, -1000, 0, highest_selection>;
 
 /// The knob can be turned past its end before the needle is next looked at. One turn more there and it
 /// comes round to the start of the dial.
-i32 raise(PanelPoint, u32 flags) {
+void raise(u32 buttons) {
   if (selected > highest_selection) {
     selected = 99;
-  } else if (is_left(flags)) {
+  } else if (is_left(buttons)) {
     selected += 100;
-  } else if (is_right(flags) && selected < 14000) {
+  } else if (is_right(buttons) && selected < 14000) {
     selected += 1000;
   }
   request(click_sound_request);
-  return 0;
 }
 
 constexpr Type amber{"Arial", 0x0476E8};
@@ -162,23 +146,25 @@ constexpr Scale<14> selection_scale{{{57, 73}, 0},      {{53, 54}, 1000},
                                     {{143, 73}, 10000}, {{125, 93}, 11000},
                                     {{99, 101}, 13000}, {{74, 93}, highest_selection}};
 
-}  // namespace
-
-constinit Gauge<11, 3> cabalt{
-    Face{.name = "Cabalt", .width_mm = 163, .background = 1460},
+constinit Body body{
+    cabalt,
     {
         lighting_overlay(2020),
-        text({11, 17}, display, amber, warning, write_warning),
-        text({11, 17}, display, white, label, write_label),
-        text({11, 44}, display, white, pressure_setting, write_pressure_setting,
-             {.source = token::pressure_setting}),
-        needle(1470, {100, 54}, {17, 2}, selection_scale, show_selected),
+        text("Pressure warning", {11, 17}, display, amber, warning, write_warning),
+        text("Flight altitude label", {11, 17}, display, white, label, write_label),
+        text("Pressure setting", {11, 44}, display, white, pressure_setting, write_pressure_setting)
+            .from(token::pressure_setting),
+        needle("Selected cabin altitude", 1470, {100, 54}, {17, 2}, selection_scale, show_selected),
     },
     {
-        decrease({6, 77, 15, 22}, lower, Press::either),
-        increase({22, 77, 15, 22}, raise, Press::either),
-        click({139, 38, 16, 16}, button_sends<event::cabin_altitude_button>),
+        decrease("Cabin altitude knob down", {6, 77, 15, 22}, lower, Press::either),
+        increase("Cabin altitude knob up", {22, 77, 15, 22}, does<raise>, Press::either),
+        click("Standard pressure button", {139, 38, 16, 16}, button_sends<event::altimeters_to_qnh>),
     },
 };
+
+}  // namespace
+
+constinit Gauge cabalt{{.name = "Cabalt", .width_mm = 163, .background = 1460}, body};
 
 }  // namespace tarnvale

@@ -1,4 +1,5 @@
 /// Cabin temperature (overhead). The cabin is heated from the right side and follows its selector.
+#include "module/aircraft.h"
 #include "module/catalogue.h"
 
 namespace tarnvale {
@@ -12,14 +13,16 @@ f64 cabin_temperature(Element*) {
 
 constexpr Scale<5> scale{{{4, 33}, 0}, {{10, 16}, 20}, {{24, 7}, 30}, {{43, 5}, 40}, {{64, 33}, 60}};
 
-}  // namespace
-
-constinit Gauge<5, 0> cabc{
-    Face{.name = "Cabc", .width_mm = 71, .background = 310},
+constinit Body body{
+    cabc,
     {
         lighting_overlay(330),
-        needle(320, {34, 34}, {7, 7}, scale, cabin_temperature),
+        needle("Cabin temperature", 320, {34, 34}, {7, 7}, scale, cabin_temperature),
     },
 };
+
+}  // namespace
+
+constinit Gauge cabc{{.name = "Cabc", .width_mm = 71, .background = 310}, body};
 
 }  // namespace tarnvale

@@ -16,14 +16,17 @@ constexpr Scale<9> scale{{{63, 58}, -full_scale}, {{48, 69}, -1500}, {{24, 68}, 
                          {{10, 56}, -500},        {{5, 38}, 0},      {{10, 21}, 500},
                          {{24, 9}, 1000},         {{49, 8}, 1500},   {{63, 18}, full_scale}};
 
-}  // namespace
-
-constinit Gauge<5, 0> cabvs{
-    Face{.name = "Cabvs", .width_mm = 77, .background = 1360},
+constinit Body body{
+    cabvs,
     {
         lighting_overlay(1380),
-        needle(1370, {38, 38}, {5, 2}, scale, cabin_rate, {.source = token::vertical_speed}),
+        needle("Cabin rate of climb", 1370, {38, 38}, {5, 2}, scale, cabin_rate)
+            .from(token::vertical_speed),
     },
 };
+
+}  // namespace
+
+constinit Gauge cabvs{{.name = "Cabvs", .width_mm = 77, .background = 1360}, body};
 
 }  // namespace tarnvale

@@ -1,6 +1,7 @@
 /// Differential-pressure gauge (overhead): the aircraft's altitude on one needle, the cabin's
 /// differential pressure on the other. The pressure follows the altitude in steps; the cabin-altitude
 /// controller watches it.
+#include "module/aircraft.h"
 #include "module/bands.h"
 #include "module/catalogue.h"
 #include "module/counters.h"
@@ -40,15 +41,19 @@ constexpr Scale<2> altitude_scale{{{58, 25}, 0}, {{40, 28}, highest_ft}};
 constexpr Scale<5> pressure_scale{
     {{54, 7}, 0}, {{58, 6}, lowest_pressure}, {{29, 100}, 66}, {{13, 81}, 75}, {{27, 16}, full_scale}};
 
-}  // namespace
-
-constinit Gauge<7, 0> diffpress{
-    Face{.name = "Diffpress", .width_mm = 116, .background = 1270},
+constinit Body body{
+    diffpress,
     {
         lighting_overlay(1290),
-        needle(24220, centre, {0, 2}, altitude_scale, show_altitude, {.source = token::altitude}),
-        needle(1280, centre, {9, 10}, pressure_scale, show_pressure, {.source = token::altitude}),
+        needle("Aircraft altitude", 24220, centre, {0, 2}, altitude_scale, show_altitude)
+            .from(token::indicated_altitude),
+        needle("Differential pressure", 1280, centre, {9, 10}, pressure_scale, show_pressure)
+            .from(token::indicated_altitude),
     },
 };
+
+}  // namespace
+
+constinit Gauge diffpress{{.name = "Diffpress", .width_mm = 116, .background = 1270}, body};
 
 }  // namespace tarnvale

@@ -1,5 +1,6 @@
 /// Duct temperatures (overhead): a needle for each side. The ducts' temperatures are made up here, and
 /// with them what the air-conditioning panel's overheat lights show.
+#include "module/aircraft.h"
 #include "module/catalogue.h"
 #include "module/counters.h"
 
@@ -39,8 +40,9 @@ u32 heated(const Side& side) {
 
 /// The overheat light follows one frame behind the needle. The needle's last step under the override
 /// goes one past its scale.
-template <Side& side>
+template <auto duct>
 f64 duct_temperature(Element*) {
+  Side& side = *duct;
   side.temperature = held(side.temperature, cold, full_scale);
   watch_for_overheat(side);
   side.temperature = aircraft.dc_power_on == 0 ? cold : heated(side);
@@ -51,15 +53,17 @@ constexpr PanelPoint pivot{7, 2};
 constexpr Scale<2> left_scale{{{5, 36}, 0}, {{66, 36}, full_scale}};
 constexpr Scale<2> right_scale{{{89, 35}, 0}, {{150, 35}, full_scale}};
 
-}  // namespace
-
-constinit Gauge<7, 0> ductc{
-    Face{.name = "Ductc", .width_mm = 158, .background = 270},
+constinit Body body{
+    ductc,
     {
         lighting_overlay(290),
-        needle(280, {37, 35}, pivot, left_scale, duct_temperature<left>),
-        needle(280, {121, 35}, pivot, right_scale, duct_temperature<right>),
+        needle("Left duct temperature", 280, {37, 35}, pivot, left_scale, duct_temperature<&left>),
+        needle("Right duct temperature", 280, {121, 35}, pivot, right_scale, duct_temperature<&right>),
     },
 };
+
+}  // namespace
+
+constinit Gauge ductc{{.name = "Ductc", .width_mm = 158, .background = 270}, body};
 
 }  // namespace tarnvale

@@ -2,7 +2,7 @@
 /// turns one of the starters, and the light that says that the panel is ready for a start.
 #include "module/catalogue.h"
 #include "module/controls.h"
-#include "module/host.h"
+#include "module/systems.h"
 
 namespace tarnvale {
 namespace {
@@ -13,40 +13,29 @@ enum Selected : u32 { nothing, engine2, engine1 };
 /// The engine start switches' positions.
 enum StartSwitch : u32 { off, armed, complete };
 
-/// Above this core speed, in percent, an engine runs by itself.
-constexpr f64 running_percent = 25.0;
-
-constinit TestClock test_clock;
+constinit HoldClock test_clock;
 constinit u32 testing;
 
-i32 press_start_master(PanelPoint, u32) {
-  aircraft.start_master_switch = aircraft.start_master_switch == 0;
-  if (aircraft.start_master_switch == 1) send(event::start_master_on);
-  request(toggle_click_sound_request);
-  return 0;
-}
-
-i32 centre_selector(PanelPoint, u32) {
-  aircraft.start_selector = nothing;
-  request(toggle_click_sound_request);
-  return 0;
+void press_start_master() {
+  toggle<&Aircraft::start_master_switch>();
+  if (aircraft.start_master_switch == 1) send(event::ignition_arm);
 }
 
 /// The selector gives its engine's starter one turn even when no start is armed.
-template <u32 engine, u32 starter>
-i32 selects(PanelPoint, u32) {
+template <u32 engine, u32... starter>
+void select() {
   aircraft.start_selector = engine;
-  send(starter);
-  request(toggle_click_sound_request);
-  return 0;
+  send_and_click<toggle_click_sound_request, starter...>();
 }
+template <u32 engine, u32... starter>
+constexpr MouseRoutine selects = does<select<engine, starter...>>;
 
 /// Lit (image 0) with the master on until both engines run.
 f64 start_light(Element*) {
-  const bool tested = test_goes_on(test_clock, testing);
+  const bool tested = hold_goes_on(test_clock, testing);
   const bool ready =
-      aircraft.start_master_switch == 1 && (read(token::eng1_core_speed) < running_percent ||
-                                            read(token::eng2_core_speed) < running_percent);
+      aircraft.start_master_switch == 1 && (read(token::engine_1_core_speed) < running_percent ||
+                                            read(token::engine_2_core_speed) < running_percent);
   return tested || ready ? 0 : 1;
 }
 
@@ -60,33 +49,38 @@ void turn_starter(u32 engine, u32& start_switch, f64 core_speed, u32 starter) {
 }
 
 f64 selector(Element*) {
-  const f64 core_speed1 = read(token::eng1_core_speed);
-  const f64 core_speed2 = read(token::eng2_core_speed);
-  turn_starter(engine1, aircraft.eng1_start_switch, core_speed1, event::starter1);
-  turn_starter(engine2, aircraft.eng2_start_switch, core_speed2, event::starter2);
+  const f64 core_speed1 = read(token::engine_1_core_speed);
+  const f64 core_speed2 = read(token::engine_2_core_speed);
+  turn_starter(engine1, aircraft.eng1_start_switch, core_speed1, event::starter_1_engage);
+  turn_starter(engine2, aircraft.eng2_start_switch, core_speed2, event::starter_2_engage);
   return aircraft.start_selector;
 }
 
-}  // namespace
-
-constinit Gauge<11, 7> engstart{
-    Face{.name = "Engstart", .width_mm = 179, .background = 250},
+constinit Body body{
+    engstart,
     {
-        icon(260, {78, 64}, 3, selector),
-        icon(2040, {157, 1}, 3, shows<aircraft.eng2_start_switch>),
-        icon(2040, {114, 1}, 3, shows<aircraft.eng1_start_switch>),
-        lamp(2110, {14, 12}, start_light),
-        icon(2130, {66, 1}, 2, shows<aircraft.start_master_switch>),
+        icon("Start selector", {260, 3}, {78, 64}, selector),
+        icon("Engine 2 start switch", {2040, 3}, {157, 1}, shows<&Aircraft::eng2_start_switch>),
+        icon("Engine 1 start switch", {2040, 3}, {114, 1}, shows<&Aircraft::eng1_start_switch>),
+        lamp("Ready light", bitmap::round_light, {14, 12}, start_light),
+        icon("Start master switch", bitmap::toggle_switch, {66, 1},
+             shows<&Aircraft::start_master_switch>),
     },
     {
-        click({61, 1, 22, 42}, press_start_master),
-        click({109, 1, 22, 42}, advances<aircraft.eng1_start_switch, complete>),
-        click({152, 1, 22, 42}, advances<aircraft.eng2_start_switch, complete>),
-        click({80, 52, 35, 28}, centre_selector),
-        click({44, 52, 35, 28}, selects<engine1, event::starter1>),
-        click({116, 52, 35, 28}, selects<engine2, event::starter2>),
-        click({14, 13, 25, 25}, tests<test_clock, testing>),
+        click("Start master switch", {61, 1, 22, 42}, does<press_start_master>),
+        click("Engine 1 start switch", {109, 1, 22, 42},
+              advances<&Aircraft::eng1_start_switch, complete>),
+        click("Engine 2 start switch", {152, 1, 22, 42},
+              advances<&Aircraft::eng2_start_switch, complete>),
+        click("Start selector off", {80, 52, 35, 28}, selects<nothing>),
+        click("Start selector engine 1", {44, 52, 35, 28}, selects<engine1, event::starter_1_engage>),
+        click("Start selector engine 2", {116, 52, 35, 28}, selects<engine2, event::starter_2_engage>),
+        click("Ready light test", {14, 13, 25, 25}, tests<&test_clock, &testing>),
     },
 };
+
+}  // namespace
+
+constinit Gauge engstart{{.name = "Engstart", .width_mm = 179, .background = 250}, body};
 
 }  // namespace tarnvale

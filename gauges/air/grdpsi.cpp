@@ -4,6 +4,7 @@
 #include "module/catalogue.h"
 #include "module/counters.h"
 #include "module/host.h"
+#include "module/systems.h"
 
 namespace tarnvale {
 namespace {
@@ -14,16 +15,13 @@ constexpr u32 one_engine = 60, both_engines = 80;
 /// The APU gives a little less while the ground unit carries the buses and it idles.
 constexpr u32 apu_on_ground_power = 420, apu_on_its_own = 440;
 
-/// An engine above this core speed, in percent, gives bleed air.
-constexpr f64 running_percent = 25.0;
-
 constinit u32 pressure = rest;
 
 /// What the engines give without help. An engine just at the edge of running has not decided yet, and
 /// the duct stays empty until it has.
 u32 engine_bleed() {
-  const f64 eng1 = read(token::eng1_core_speed);
-  const f64 eng2 = read(token::eng2_core_speed);
+  const f64 eng1 = read(token::engine_1_core_speed);
+  const f64 eng2 = read(token::engine_2_core_speed);
   const bool runs1 = eng1 > running_percent, stands1 = eng1 < running_percent;
   const bool runs2 = eng2 > running_percent, stands2 = eng2 < running_percent;
   if (runs1 && runs2) return both_engines;
@@ -72,14 +70,16 @@ f64 duct_pressure(Element*) {
 
 constexpr Scale<4> scale{{{15, 59}, 0}, {{13, 57}, 10}, {{63, 59}, 700}, {{50, 63}, full_scale}};
 
-}  // namespace
-
-constinit Gauge<5, 0> grdpsi{
-    Face{.name = "Grdpsi", .width_mm = 70, .background = 1060},
+constinit Body body{
+    grdpsi,
     {
         lighting_overlay(1080),
-        needle(1070, {36, 37}, {7, 7}, scale, duct_pressure),
+        needle("Duct pressure", 1070, {36, 37}, {7, 7}, scale, duct_pressure),
     },
 };
+
+}  // namespace
+
+constinit Gauge grdpsi{{.name = "Grdpsi", .width_mm = 70, .background = 1060}, body};
 
 }  // namespace tarnvale

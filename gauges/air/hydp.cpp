@@ -4,40 +4,54 @@
 #include "module/controls.h"
 
 namespace tarnvale {
+namespace {
 
-constinit Gauge<33, 8> hydp{
-    Face{.name = "Hydp", .width_mm = 208, .background = 3270},
+constinit Body body{
+    hydp,
     {
-        lamp(3290, {25, 53}, shows<aircraft.hyd_pump_upper_1>),
-        icon(3280, {35, 78}, 2, shows<aircraft.hyd_pump_upper_1>),
-        lamp(3290, {25, 130}, shows<aircraft.hyd_pump_lower_1>),
-        icon(3280, {35, 155}, 2, shows<aircraft.hyd_pump_lower_1>),
+        lamp("System 1 engine 1 pump lamp", 3290, {25, 53}, shows<&Aircraft::hyd_pump_upper_1>),
+        icon("System 1 engine 1 pump switch", bitmap::pump_switch, {35, 78},
+             shows<&Aircraft::hyd_pump_upper_1>),
+        lamp("System 2 engine 1 pump lamp", 3290, {25, 130}, shows<&Aircraft::hyd_pump_lower_1>),
+        icon("System 2 engine 1 pump switch", bitmap::pump_switch, {35, 155},
+             shows<&Aircraft::hyd_pump_lower_1>),
 
-        lamp(3310, {65, 53}, shows<aircraft.hyd_pump_upper_2>),
-        icon(3280, {75, 78}, 2, shows<aircraft.hyd_pump_upper_2>),
-        lamp(3310, {65, 130}, shows<aircraft.hyd_pump_lower_2>),
-        icon(3280, {75, 155}, 2, shows<aircraft.hyd_pump_lower_2>),
+        lamp("System 1 engine 2 pump lamp", 3310, {65, 53}, shows<&Aircraft::hyd_pump_upper_2>),
+        icon("System 1 engine 2 pump switch", bitmap::pump_switch, {75, 78},
+             shows<&Aircraft::hyd_pump_upper_2>),
+        lamp("System 2 engine 2 pump lamp", 3310, {65, 130}, shows<&Aircraft::hyd_pump_lower_2>),
+        icon("System 2 engine 2 pump switch", bitmap::pump_switch, {75, 155},
+             shows<&Aircraft::hyd_pump_lower_2>),
 
-        lamp(3320, {105, 53}, shows<aircraft.hyd_pump_upper_3>),
-        icon(3280, {115, 78}, 2, shows<aircraft.hyd_pump_upper_3>),
-        lamp(3320, {105, 130}, shows<aircraft.hyd_pump_lower_3>),
-        icon(3280, {115, 155}, 2, shows<aircraft.hyd_pump_lower_3>),
+        lamp("System 1 electric pump lamp", 3320, {105, 53}, shows<&Aircraft::hyd_pump_upper_3>),
+        icon("System 1 electric pump switch", bitmap::pump_switch, {115, 78},
+             shows<&Aircraft::hyd_pump_upper_3>),
+        lamp("System 2 electric pump lamp", 3320, {105, 130}, shows<&Aircraft::hyd_pump_lower_3>),
+        icon("System 2 electric pump switch", bitmap::pump_switch, {115, 155},
+             shows<&Aircraft::hyd_pump_lower_3>),
 
-        lamp(3330, {145, 53}, shows<aircraft.hyd_pump_upper_4>),
-        icon(3280, {155, 78}, 2, shows<aircraft.hyd_pump_upper_4>),
-        lamp(3330, {145, 130}, shows<aircraft.hyd_pump_lower_4>),
-        icon(3280, {155, 155}, 2, shows<aircraft.hyd_pump_lower_4>),
+        lamp("System 1 standby pump lamp", 3330, {145, 53}, shows<&Aircraft::hyd_pump_upper_4>),
+        icon("System 1 standby pump switch", bitmap::pump_switch, {155, 78},
+             shows<&Aircraft::hyd_pump_upper_4>),
+        lamp("System 2 standby pump lamp", 3330, {145, 130}, shows<&Aircraft::hyd_pump_lower_4>),
+        icon("System 2 standby pump switch", bitmap::pump_switch, {155, 155},
+             shows<&Aircraft::hyd_pump_lower_4>),
     },
     {
-        click({31, 72, 26, 34}, toggles<aircraft.hyd_pump_upper_1>),
-        click({31, 149, 26, 34}, toggles<aircraft.hyd_pump_lower_1>),
-        click({71, 72, 26, 34}, toggles<aircraft.hyd_pump_upper_2>),
-        click({71, 149, 26, 34}, toggles<aircraft.hyd_pump_lower_2>),
-        click({111, 72, 26, 34}, toggles<aircraft.hyd_pump_upper_3>),
-        click({111, 149, 26, 34}, toggles<aircraft.hyd_pump_lower_3>),
-        click({151, 72, 26, 34}, toggles<aircraft.hyd_pump_upper_4>),
-        click({151, 149, 26, 34}, toggles<aircraft.hyd_pump_lower_4>),
+        click("System 1 engine 1 pump switch", {31, 72, 26, 34}, toggles<&Aircraft::hyd_pump_upper_1>),
+        click("System 2 engine 1 pump switch", {31, 149, 26, 34}, toggles<&Aircraft::hyd_pump_lower_1>),
+        click("System 1 engine 2 pump switch", {71, 72, 26, 34}, toggles<&Aircraft::hyd_pump_upper_2>),
+        click("System 2 engine 2 pump switch", {71, 149, 26, 34}, toggles<&Aircraft::hyd_pump_lower_2>),
+        click("System 1 electric pump switch", {111, 72, 26, 34}, toggles<&Aircraft::hyd_pump_upper_3>),
+        click("System 2 electric pump switch", {111, 149, 26, 34},
+              toggles<&Aircraft::hyd_pump_lower_3>),
+        click("System 1 standby pump switch", {151, 72, 26, 34}, toggles<&Aircraft::hyd_pump_upper_4>),
+        click("System 2 standby pump switch", {151, 149, 26, 34}, toggles<&Aircraft::hyd_pump_lower_4>),
     },
 };
+
+}  // namespace
+
+constinit Gauge hydp{{.name = "Hydp", .width_mm = 208, .background = 3270}, body};
 
 }  // namespace tarnvale

@@ -7,87 +7,96 @@
 namespace tarnvale {
 namespace {
 
-/// Which way a selector's knob leans: the way it was last turned, for two seconds.
-struct Lean {
-  u32 way = 0;  ///< 0 upright, 1 turned down, 2 turned up
-  TestClock clock;
-};
+/// Which way each selector's knob leans: the way it was last turned, for two seconds.
+enum Lean : u32 { upright, turned_down, turned_up };
 
-constinit Lean left_lean{};
-constinit Lean right_lean{};
+constinit u32 left_lean, right_lean;
+constinit HoldClock left_lean_clock, right_lean_clock;
 
-template <Lean& lean>
+template <auto lean, auto clock>
 f64 leaning_knob(Element*) {
-  test_goes_on(lean.clock, lean.way);
-  return lean.way;
+  hold_goes_on(*clock, *lean);
+  return *lean;
 }
 
-void start_leaning(Lean& lean, u32 way) {
-  start_test(lean.clock, lean.way);
-  lean.way = way;
+template <auto lean, auto clock, Lean way>
+void start_leaning() {
+  start_hold(*clock, *lean);
+  *lean = way;
 }
 
 /// At its end a selector still clicks, but its knob does not turn.
-template <u32& selector, Lean& lean>
-i32 turns_down(PanelPoint point, u32 flags) {
-  if (selector > 0) start_leaning(lean, 1);
-  return steps_down<selector>(point, flags);
+template <auto selector, auto lean, auto clock>
+void turn_colder() {
+  if (variable<selector>() > 0) start_leaning<lean, clock, turned_down>();
+  step_down<selector>();
 }
 
-template <u32& selector, Lean& lean>
-i32 turns_up(PanelPoint point, u32 flags) {
+template <auto selector, auto lean, auto clock>
+void turn_hotter() {
   constexpr u32 last = 9;
-  if (selector < last) start_leaning(lean, 2);
-  return steps_up<selector, last>(point, flags);
+  if (variable<selector>() < last) start_leaning<lean, clock, turned_up>();
+  step_up<selector, last>();
 }
 
 constinit GuardedShared temp_override{.position = aircraft.temp_override_switch};
 
-constinit TestClock test_clock;
+constinit HoldClock test_clock;
 constinit u32 testing, testing_left_duct, testing_right_duct;
 
 /// Image 0 is the lit one: a hot duct, or a test.
-template <u32& tested, u32& temperature_normal>
+template <auto tested, auto temperature_normal>
 f64 duct_light(Element*) {
-  return test_goes_on(test_clock, tested) ? 0 : temperature_normal;
+  return hold_goes_on(test_clock, *tested) ? 0 : variable<temperature_normal>();
 }
+
+constinit Body body{
+    tempcon,
+    {
+        icon("Right temperature selector", {190, 3}, {122, 92},
+             leaning_knob<&right_lean, &right_lean_clock>),
+        icon("Left temperature selector", {190, 3}, {9, 92},
+             leaning_knob<&left_lean, &left_lean_clock>),
+        icon("Right automatic control switch", 180, {140, 161}, shows<&Aircraft::aircon_right_auto>),
+        icon("Left automatic control switch", 180, {30, 161}, shows<&Aircraft::aircon_left_auto>),
+        icon("Override guard", bitmap::red_guard, {78, 124}, guard_image<&temp_override>),
+        icon("Override switch", bitmap::disconnect_switch, {78, 124}, guarded_image<&temp_override>),
+        lamp("Right duct hot light", bitmap::round_light, {95, 87},
+             duct_light<&testing_right_duct, &Aircraft::duct_right_temp_normal>),
+        lamp("Left duct hot light", bitmap::round_light, {66, 87},
+             duct_light<&testing_left_duct, &Aircraft::duct_left_temp_normal>),
+        lamp("Test light", bitmap::round_light, {49, 3}, test_light<&test_clock, &testing>),
+        icon("Trim 2 knob", bitmap::flow_knob, {133, 45}, shows<&Aircraft::aircon_valve_right>),
+        icon("Trim 1 knob", bitmap::flow_knob, {23, 45}, shows<&Aircraft::aircon_valve_left>),
+        icon("Pack 2 switch", bitmap::toggle_switch, {108, 39}, shows<&Aircraft::aircon_right_on>),
+        icon("Pack 1 switch", bitmap::toggle_switch, {62, 39}, shows<&Aircraft::aircon_left_on>),
+    },
+    {
+        click("Pack 1 switch", {58, 38, 20, 43}, toggles<&Aircraft::aircon_left_on>),
+        click("Pack 2 switch", {104, 38, 20, 43}, toggles<&Aircraft::aircon_right_on>),
+        click("Trim 1 knob", {21, 43, 30, 30}, pushes<&Aircraft::aircon_valve_left>),
+        click("Trim 2 knob", {131, 43, 30, 30}, pushes<&Aircraft::aircon_valve_right>),
+        click("Override switch", {78, 148, 27, 40}, works_guarded<&temp_override>),
+        click("Override guard", {78, 124, 27, 22}, moves_guard<&temp_override>),
+        click("Left automatic control switch", {26, 158, 20, 38}, toggles<&Aircraft::aircon_left_auto>),
+        click("Right automatic control switch", {136, 158, 20, 38},
+              toggles<&Aircraft::aircon_right_auto>),
+        decrease("Left temperature selector down", {8, 93, 25, 50},
+                 does<turn_colder<&Aircraft::temp_selector_left, &left_lean, &left_lean_clock>>),
+        increase("Left temperature selector up", {35, 93, 25, 50},
+                 does<turn_hotter<&Aircraft::temp_selector_left, &left_lean, &left_lean_clock>>),
+        decrease("Right temperature selector down", {123, 93, 25, 50},
+                 does<turn_colder<&Aircraft::temp_selector_right, &right_lean, &right_lean_clock>>),
+        increase("Right temperature selector up", {150, 93, 25, 50},
+                 does<turn_hotter<&Aircraft::temp_selector_right, &right_lean, &right_lean_clock>>),
+        click("Test light", {49, 3, 26, 26}, tests<&test_clock, &testing>),
+        click("Left duct hot light test", {66, 86, 25, 28}, tests<&test_clock, &testing_left_duct>),
+        click("Right duct hot light test", {96, 86, 25, 28}, tests<&test_clock, &testing_right_duct>),
+    },
+};
 
 }  // namespace
 
-constinit Gauge<27, 15> tempcon{
-    Face{.name = "Tempcon", .width_mm = 180, .background = 170},
-    {
-        icon(190, {122, 92}, 3, leaning_knob<right_lean>),
-        icon(190, {9, 92}, 3, leaning_knob<left_lean>),
-        icon(180, {140, 161}, 2, shows<aircraft.aircon_right_auto>),
-        icon(180, {30, 161}, 2, shows<aircraft.aircon_left_auto>),
-        icon(2160, {78, 124}, 2, guard_image<temp_override>),
-        icon(2150, {78, 124}, 2, guarded_image<temp_override>),
-        lamp(2110, {95, 87}, duct_light<testing_right_duct, aircraft.duct_right_temp_normal>),
-        lamp(2110, {66, 87}, duct_light<testing_left_duct, aircraft.duct_left_temp_normal>),
-        lamp(2110, {49, 3}, test_light<test_clock, testing>),
-        icon(2140, {133, 45}, 2, shows<aircraft.aircon_valve_right>),
-        icon(2140, {23, 45}, 2, shows<aircraft.aircon_valve_left>),
-        icon(2130, {108, 39}, 2, shows<aircraft.aircon_right_on>),
-        icon(2130, {62, 39}, 2, shows<aircraft.aircon_left_on>),
-    },
-    {
-        click({58, 38, 20, 43}, toggles<aircraft.aircon_left_on>),
-        click({104, 38, 20, 43}, toggles<aircraft.aircon_right_on>),
-        click({21, 43, 30, 30}, pushes<aircraft.aircon_valve_left>),
-        click({131, 43, 30, 30}, pushes<aircraft.aircon_valve_right>),
-        click({78, 148, 27, 40}, works_guarded<temp_override>),
-        click({78, 124, 27, 22}, moves_guard<temp_override>),
-        click({26, 158, 20, 38}, toggles<aircraft.aircon_left_auto>),
-        click({136, 158, 20, 38}, toggles<aircraft.aircon_right_auto>),
-        decrease({8, 93, 25, 50}, turns_down<aircraft.temp_selector_left, left_lean>),
-        increase({35, 93, 25, 50}, turns_up<aircraft.temp_selector_left, left_lean>),
-        decrease({123, 93, 25, 50}, turns_down<aircraft.temp_selector_right, right_lean>),
-        increase({150, 93, 25, 50}, turns_up<aircraft.temp_selector_right, right_lean>),
-        click({49, 3, 26, 26}, tests<test_clock, testing>),
-        click({66, 86, 25, 28}, tests<test_clock, testing_left_duct>),
-        click({96, 86, 25, 28}, tests<test_clock, testing_right_duct>),
-    },
-};
+constinit Gauge tempcon{{.name = "Tempcon", .width_mm = 180, .background = 170}, body};
 
 }  // namespace tarnvale

@@ -8,30 +8,32 @@ namespace {
 
 constinit u32 toggle_up = 0;
 
-template <u32& automatic, u32& selector>
+template <auto automatic, auto selector>
 f64 selector_in_use(Element*) {
-  return automatic == 1 ? selector : 0;
+  return variable<automatic>() == 1 ? variable<selector>() : 0;
 }
 
 constexpr PanelPoint pivot{0, 1};
 constexpr Scale<2> left_scale{{{7, 36}, 0}, {{38, 36}, 10}};
 constexpr Scale<2> right_scale{{{144, 39}, 0}, {{175, 39}, 10}};
 
-}  // namespace
-
-constinit Gauge<9, 1> tempset{
-    Face{.name = "Tempset", .width_mm = 183, .background = 210},
+constinit Body body{
+    tempset,
     {
         lighting_overlay(230),
-        needle(220, {23, 40}, pivot, left_scale,
-               selector_in_use<aircraft.aircon_left_auto, aircraft.temp_selector_left>),
-        needle(220, {160, 43}, pivot, right_scale,
-               selector_in_use<aircraft.aircon_right_auto, aircraft.temp_selector_right>),
-        icon(2130, {86, 19}, 2, shows<toggle_up>),
+        needle("Left selected temperature", 220, {23, 40}, pivot, left_scale,
+               selector_in_use<&Aircraft::aircon_left_auto, &Aircraft::temp_selector_left>),
+        needle("Right selected temperature", 220, {160, 43}, pivot, right_scale,
+               selector_in_use<&Aircraft::aircon_right_auto, &Aircraft::temp_selector_right>),
+        icon("Recirculation fan switch", bitmap::toggle_switch, {86, 19}, shows<&toggle_up>),
     },
     {
-        click({81, 17, 22, 45}, toggles<toggle_up>),
+        click("Recirculation fan switch", {81, 17, 22, 45}, toggles<&toggle_up>),
     },
 };
+
+}  // namespace
+
+constinit Gauge tempset{{.name = "Tempset", .width_mm = 183, .background = 210}, body};
 
 }  // namespace tarnvale

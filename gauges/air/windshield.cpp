@@ -6,32 +6,32 @@
 namespace tarnvale {
 namespace {
 
-constinit TestClock test_clock;
+constinit HoldClock test_clock;
 constinit u32 testing_left, testing_right;
 
-template <u32& tested>
-f64 green_light(Element*) {
-  return test_goes_on(test_clock, tested);
-}
+constinit Body body{
+    windshield,
+    {
+        icon("Right windshield switch", {2190, 4}, {68, 43},
+             shows<&Aircraft::windshield_right_selector>),
+        icon("Left windshield switch", {2190, 4}, {23, 43}, shows<&Aircraft::windshield_left_selector>),
+        lamp("Right windshield light", 1020, {68, 5}, held_lit<&test_clock, &testing_right>),
+        lamp("Left windshield light", 1020, {5, 6}, held_lit<&test_clock, &testing_left>),
+        icon("Windshield heat knob", 1010, {29, 15}, shows<&Aircraft::windshield_switch>),
+    },
+    {
+        click("Windshield heat knob", {35, 8, 28, 28}, toggles<&Aircraft::windshield_switch>),
+        click("Left windshield switch", {20, 41, 18, 46},
+              advances<&Aircraft::windshield_left_selector, 3>),
+        click("Right windshield switch", {65, 41, 18, 46},
+              advances<&Aircraft::windshield_right_selector, 3>),
+        click("Left windshield light test", {5, 6, 23, 23}, tests<&test_clock, &testing_left>),
+        click("Right windshield light test", {69, 6, 23, 23}, tests<&test_clock, &testing_right>),
+    },
+};
 
 }  // namespace
 
-constinit Gauge<11, 5> windshield{
-    Face{.name = "Windshield", .width_mm = 95, .background = 490},
-    {
-        icon(2190, {68, 43}, 4, shows<aircraft.windshield_right_selector>),
-        icon(2190, {23, 43}, 4, shows<aircraft.windshield_left_selector>),
-        lamp(1020, {68, 5}, green_light<testing_right>),
-        lamp(1020, {5, 6}, green_light<testing_left>),
-        icon(1010, {29, 15}, 2, shows<aircraft.windshield_switch>),
-    },
-    {
-        click({35, 8, 28, 28}, toggles<aircraft.windshield_switch>),
-        click({20, 41, 18, 46}, advances<aircraft.windshield_left_selector, 3>),
-        click({65, 41, 18, 46}, advances<aircraft.windshield_right_selector, 3>),
-        click({5, 6, 23, 23}, tests<test_clock, testing_left>),
-        click({69, 6, 23, 23}, tests<test_clock, testing_right>),
-    },
-};
+constinit Gauge windshield{{.name = "Windshield", .width_mm = 95, .background = 490}, body};
 
 }  // namespace tarnvale

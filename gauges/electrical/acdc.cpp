@@ -3,23 +3,24 @@
 /// gives no reading keeps its last one.
 #include "module/catalogue.h"
 #include "module/controls.h"
-#include "module/host.h"
 #include "module/numbers.h"
+#include "module/systems.h"
 
 namespace tarnvale {
 namespace {
 
+/// The selectors' positions that are no generator.
 constexpr u32 position_off = 0;
-constexpr u32 position_apu = 1;       // of the AC selector
-constexpr u32 position_external = 7;  // of the AC selector
-constexpr u32 position_tie = 4;       // of the DC selector: fed by external power where connected
+constexpr u32 position_apu = 1;       // AC
+constexpr u32 position_external = 7;  // AC
+constexpr u32 position_tie = 4;       // DC: fed by external power where connected
 
 /// The last reading of each meter.
 constinit i32 dc_load, dc_voltage, ac_frequency, ac_voltage;
 
 bool external_power() { return aircraft.ext_power_switch == 1; }
 
-/// The source's reading at each selector position differs a little, as no two shunts are alike.
+/// Each selector position reads the battery's amperes with an offset of its own.
 f64 selected_dc_load(f64 amperes) {
   constexpr f64 offset[] = {0, 0, -2, 6, -15, 8, -3, 4};
   const u32 position = aircraft.dc_meter_selector;
@@ -48,7 +49,7 @@ i32 selected_dc_voltage(f64 source) {
 }
 
 f64 show_dc_voltage(Element*) {
-  dc_voltage = aircraft.dc_power_on == 0 ? 0 : selected_dc_voltage(read(token::dc_volts));
+  dc_voltage = aircraft.dc_power_on == 0 ? 0 : selected_dc_voltage(read(token::dc_voltmeter));
   return dc_voltage;
 }
 
@@ -57,8 +58,8 @@ f64 selected_ac_voltage() {
   const u32 position = aircraft.ac_meter_selector;
   if (position == position_off) return 0;
   if (position == position_external) return external_power() ? 270 : 0;
-  if (position == position_apu && aircraft.apu_gen_switch != 1) return 0;
-  return read(position <= 4 ? token::gen1_meter : token::gen2_meter) + offset[position];
+  if (position == position_apu && aircraft.apu_gen_switch != up) return 0;
+  return read(position <= 4 ? token::ac_bus_1_voltmeter : token::ac_bus_2_voltmeter) + offset[position];
 }
 
 f64 show_ac_voltage(Element*) {
@@ -69,12 +70,12 @@ f64 show_ac_voltage(Element*) {
 /// The frequency meter's scale runs from 380 to 420 hertz as 0 to 40. The APU's governor holds 400, and
 /// a little above once both engines turn and take the load off it.
 i32 apu_frequency() {
-  constexpr f64 turning_percent = 10.0;
-  if (aircraft.apu_gen_switch == 0) return 0;
-  const f64 eng1 = read(token::eng1_core_speed);
-  const f64 eng2 = read(token::eng2_core_speed);
-  if (aircraft.apu_gen_switch == 1 && eng1 > turning_percent && eng2 > turning_percent) return 22;
-  if (aircraft.apu_gen_switch == 1 && eng1 < turning_percent && eng2 < turning_percent) return 20;
+  constexpr f64 turning = generator_turning_percent;
+  if (aircraft.apu_gen_switch == centre) return 0;
+  const f64 eng1 = read(token::engine_1_core_speed);
+  const f64 eng2 = read(token::engine_2_core_speed);
+  if (aircraft.apu_gen_switch == up && eng1 > turning && eng2 > turning) return 22;
+  if (aircraft.apu_gen_switch == up && eng1 < turning && eng2 < turning) return 20;
   return ac_frequency < 360 ? ac_frequency : 360;
 }
 
@@ -84,7 +85,8 @@ i32 selected_ac_frequency() {
   if (position == position_off) return 0;
   if (position == position_apu) return apu_frequency();
   if (position == position_external) return external_power() ? 18 : 0;
-  return whole_i32(read(position <= 4 ? token::gen1_load : token::gen2_load) + offset[position]);
+  return whole_i32(read(position <= 4 ? token::generator_1_load : token::generator_2_load) +
+                   offset[position]);
 }
 
 f64 show_ac_frequency(Element*) {
@@ -98,17 +100,19 @@ constexpr Scale<4> dc_voltage_scale{{{9, 95}, 0}, {{11, 92}, 45}, {{49, 83}, 66}
 constexpr Scale<3> ac_voltage_scale{{{94, 96}, 0}, {{135, 85}, 270}, {{145, 93}, 360}};
 constexpr Scale<4> ac_frequency_scale{{{95, 16}, 0}, {{119, 4}, 20}, {{144, 16}, 40}, {{144, 17}, 360}};
 
-}  // namespace
-
-constinit Gauge<11, 0> acdc{
-    Face{.name = "Acdc", .width_mm = 157, .background = 340},
+constinit Body body{
+    acdc,
     {
         lighting_overlay(360),
-        needle(350, {37, 38}, pivot, dc_load_scale, show_dc_load),
-        needle(350, {36, 112}, pivot, dc_voltage_scale, show_dc_voltage),
-        needle(350, {121, 112}, pivot, ac_voltage_scale, show_ac_voltage),
-        needle(350, {120, 37}, pivot, ac_frequency_scale, show_ac_frequency),
+        needle("DC ammeter", 350, {37, 38}, pivot, dc_load_scale, show_dc_load),
+        needle("DC voltmeter", 350, {36, 112}, pivot, dc_voltage_scale, show_dc_voltage),
+        needle("AC voltmeter", 350, {121, 112}, pivot, ac_voltage_scale, show_ac_voltage),
+        needle("AC frequency meter", 350, {120, 37}, pivot, ac_frequency_scale, show_ac_frequency),
     },
 };
+
+}  // namespace
+
+constinit Gauge acdc{{.name = "Acdc", .width_mm = 157, .background = 340}, body};
 
 }  // namespace tarnvale

@@ -3,19 +3,24 @@
 #include "module/controls.h"
 
 namespace tarnvale {
+namespace {
 
-constinit Gauge<5, 4> acdcsw{
-    Face{.name = "Acdcsw", .width_mm = 172, .background = 370},
+constinit Body body{
+    acdcsw,
     {
-        icon(380, {14, 7}, 8, shows<aircraft.dc_meter_selector>),
-        icon(380, {108, 7}, 8, shows<aircraft.ac_meter_selector>),
+        icon("DC meter selector", {380, 8}, {14, 7}, shows<&Aircraft::dc_meter_selector>),
+        icon("AC meter selector", {380, 8}, {108, 7}, shows<&Aircraft::ac_meter_selector>),
     },
     {
-        decrease({6, 7, 34, 56}, steps_down<aircraft.dc_meter_selector>),
-        increase({42, 7, 34, 56}, steps_up<aircraft.dc_meter_selector, 7>),
-        decrease({100, 7, 34, 56}, steps_down<aircraft.ac_meter_selector>),
-        increase({136, 7, 34, 56}, steps_up<aircraft.ac_meter_selector, 7>),
+        decrease("DC meter selector down", {6, 7, 34, 56}, steps_down<&Aircraft::dc_meter_selector>),
+        increase("DC meter selector up", {42, 7, 34, 56}, steps_up<&Aircraft::dc_meter_selector, 7>),
+        decrease("AC meter selector down", {100, 7, 34, 56}, steps_down<&Aircraft::ac_meter_selector>),
+        increase("AC meter selector up", {136, 7, 34, 56}, steps_up<&Aircraft::ac_meter_selector, 7>),
     },
 };
+
+}  // namespace
+
+constinit Gauge acdcsw{{.name = "Acdcsw", .width_mm = 172, .background = 370}, body};
 
 }  // namespace tarnvale

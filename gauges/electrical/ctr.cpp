@@ -2,43 +2,47 @@
 /// generator, and the guarded bus tie switch.
 #include "module/catalogue.h"
 #include "module/controls.h"
-#include "module/host.h"
+#include "module/systems.h"
 
 namespace tarnvale {
 namespace {
 
 constinit Guarded bus_tie;
 
-/// Below this core speed, in percent, an engine does not turn its generator.
-constexpr f64 turning_percent = 10.0;
-
 /// Lit when the generator is switched off its bus, or on while its engine does not turn it.
-template <u32& generator_switch, u32 core_speed>
+template <auto generator_switch, u32 core_speed>
 f64 generator_warning(Element*) {
-  if (generator_switch == 2) return 1;
-  return generator_switch == 1 && read(core_speed) < turning_percent;
+  const u32 lever = variable<generator_switch>();
+  if (lever == down) return 1;
+  return lever == up && read(core_speed) < generator_turning_percent;
 }
+
+constinit Body body{
+    ctr,
+    {
+        icon("Generator 1 switch", bitmap::three_way_lever, {62, 23}, shows<&Aircraft::gen1_switch>)
+            .from(token::ac_bus_1_voltmeter),
+        icon("Generator 2 switch", bitmap::three_way_lever, {104, 23}, shows<&Aircraft::gen2_switch>)
+            .from(token::ac_bus_2_voltmeter),
+        lamp("Generator 1 lamp", bitmap::off_lamp, {8, 32},
+             generator_warning<&Aircraft::gen1_switch, token::engine_1_core_speed>),
+        lamp("Generator 2 lamp", bitmap::off_lamp, {145, 31},
+             generator_warning<&Aircraft::gen2_switch, token::engine_2_core_speed>),
+        icon("Bus transfer switch", bitmap::wide_guarded_switch, {76, 73}, guarded_image<&bus_tie>),
+        icon("Bus transfer guard", bitmap::wide_guard, {76, 73}, guard_image<&bus_tie>),
+    },
+    {
+        click("Generator 1 switch up", {58, 19, 20, 22}, lever_up<&Aircraft::gen1_switch>),
+        click("Generator 1 switch down", {58, 42, 20, 22}, lever_down<&Aircraft::gen1_switch>),
+        click("Generator 2 switch up", {100, 19, 20, 22}, lever_up<&Aircraft::gen2_switch>),
+        click("Generator 2 switch down", {100, 42, 20, 22}, lever_down<&Aircraft::gen2_switch>),
+        click("Bus transfer switch", {76, 98, 30, 40}, works_guarded<&bus_tie>),
+        click("Bus transfer guard", {76, 74, 30, 22}, moves_guard<&bus_tie>),
+    },
+};
 
 }  // namespace
 
-constinit Gauge<13, 6> ctr{
-    Face{.name = "Ctr", .width_mm = 182, .background = 120},
-    {
-        icon(2080, {62, 23}, 3, shows<aircraft.gen1_switch>, {.source = token::gen1_meter}),
-        icon(2080, {104, 23}, 3, shows<aircraft.gen2_switch>, {.source = token::gen2_meter}),
-        lamp(2120, {8, 32}, generator_warning<aircraft.gen1_switch, token::eng1_core_speed>),
-        lamp(2120, {145, 31}, generator_warning<aircraft.gen2_switch, token::eng2_core_speed>),
-        icon(2170, {76, 73}, 2, guarded_image<bus_tie>),
-        icon(2180, {76, 73}, 2, guard_image<bus_tie>),
-    },
-    {
-        click({58, 19, 20, 22}, lever_up<aircraft.gen1_switch>),
-        click({58, 42, 20, 22}, lever_down<aircraft.gen1_switch>),
-        click({100, 19, 20, 22}, lever_up<aircraft.gen2_switch>),
-        click({100, 42, 20, 22}, lever_down<aircraft.gen2_switch>),
-        click({76, 98, 30, 40}, works_guarded<bus_tie>),
-        click({76, 74, 30, 22}, moves_guard<bus_tie>),
-    },
-};
+constinit Gauge ctr{{.name = "Ctr", .width_mm = 182, .background = 120}, body};
 
 }  // namespace tarnvale

@@ -6,23 +6,26 @@
 namespace tarnvale {
 namespace {
 
-constexpr u32& level = aircraft.instrument_light_level;
+constexpr auto level = &Aircraft::instrument_light_level;
 constinit u32 lights_shown = 0;
 
-}  // namespace
-
-constinit Gauge<5, 3> foinstlg{
-    Face{.name = "Foinstlg", .width_mm = 104, .background = 20180},
+constinit Body body{
+    foinstlg,
     {
-        icon(13310, {60, 62}, 2, mirrors<token::panel_lights, lights_shown>),
-        icon(13290, {21, 13}, 3, shows<level>),
+        icon("Panel lights button", bitmap::panel_lights_button, {60, 62},
+             mirrors<token::panel_lights, &lights_shown>),
+        icon("Instrument lights knob", bitmap::instrument_lights_knob, {21, 13}, shows<level>),
     },
     {
-        decrease({9, 16, 20, 28}, steps_down<level>),
-        increase({31, 16, 20, 28}, steps_up<level, 2>),
-        click({60, 61, 28, 28},
+        decrease("Instrument lights knob down", {9, 16, 20, 28}, steps_down<level>),
+        increase("Instrument lights knob up", {31, 16, 20, 28}, steps_up<level, 2>),
+        click("Panel lights button", {60, 61, 28, 28},
               presses_panel_lights<window::first_officer_day, window::first_officer_night>),
     },
 };
+
+}  // namespace
+
+constinit Gauge foinstlg{{.name = "Foinstlg", .width_mm = 104, .background = 20180}, body};
 
 }  // namespace tarnvale

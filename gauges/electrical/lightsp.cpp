@@ -1,41 +1,46 @@
 /// Light-switch panel with the fire test (pedestal): landing, recognition and navigation lights.
 #include "module/catalogue.h"
 #include "module/controls.h"
-#include "module/host.h"
 #include "module/numbers.h"
 
 namespace tarnvale {
 namespace {
 
 /// Starts the fire test with DC power; a second press, or one without power, ends it.
-i32 press_fire_test(PanelPoint, u32) {
-  if (aircraft.dc_power_on != 1 || aircraft.fire_test_active != 0) {
+void press_fire_test() {
+  SharedHoldClock clock{aircraft.fire_test_deadline, aircraft.fire_test_clock};
+  if (aircraft.dc_power_on == 1 && aircraft.fire_test_active == 0) {
+    start_hold(clock, aircraft.fire_test_active);
+  } else {
     aircraft.fire_test_active = 0;
-    return 0;
   }
-  aircraft.fire_test_active = 1;
-  aircraft.fire_test_clock = whole_u32(read(token::clock_seconds));
-  aircraft.fire_test_deadline = aircraft.fire_test_clock + 2;
-  return 0;
 }
+
+constinit Body body{
+    lightsp,
+    {
+        icon("Navigation lights switch", bitmap::light_lever, {157, 5}).from(token::navigation_lights),
+        icon("Recognition lights switch", bitmap::light_lever, {131, 5})
+            .from(token::recognition_lights),
+        icon("Right landing light lever", bitmap::landing_light_lever, {57, 12})
+            .from(token::landing_lights),
+        icon("Middle landing light lever", bitmap::landing_light_lever, {33, 12})
+            .from(token::landing_lights),
+        icon("Left landing light lever", bitmap::landing_light_lever, {9, 12})
+            .from(token::landing_lights),
+    },
+    {
+        click("Landing lights levers", {1, 9, 80, 28}, switch_sends<event::landing_lights_toggle>),
+        click("Recognition lights switch", {127, 2, 20, 40},
+              switch_sends<event::recognition_lights_toggle>),
+        click("Navigation lights switch", {154, 2, 20, 40},
+              switch_sends<event::navigation_lights_toggle>),
+        click("Fire test button", {88, 21, 23, 23}, does<press_fire_test>),
+    },
+};
 
 }  // namespace
 
-constinit Gauge<11, 4> lightsp{
-    Face{.name = "Lightsp", .width_mm = 178, .background = 4280},
-    {
-        icon(4260, {157, 5}, 2, nullptr, {.source = token::navigation_lights}),
-        icon(4260, {131, 5}, 2, nullptr, {.source = token::recognition_lights}),
-        icon(4310, {57, 12}, 2, nullptr, {.source = token::landing_lights}),
-        icon(4310, {33, 12}, 2, nullptr, {.source = token::landing_lights}),
-        icon(4310, {9, 12}, 2, nullptr, {.source = token::landing_lights}),
-    },
-    {
-        click({1, 9, 80, 28}, switch_sends<event::landing_lights_toggle>),
-        click({127, 2, 20, 40}, switch_sends<event::recognition_lights_toggle>),
-        click({154, 2, 20, 40}, switch_sends<event::navigation_lights_toggle>),
-        click({88, 21, 23, 23}, press_fire_test),
-    },
-};
+constinit Gauge lightsp{{.name = "Lightsp", .width_mm = 178, .background = 4280}, body};
 
 }  // namespace tarnvale

@@ -2,36 +2,32 @@
 /// panel-light switch leaves the main panels' windows alone.
 #include "module/catalogue.h"
 #include "module/controls.h"
-#include "module/host.h"
 
 namespace tarnvale {
 namespace {
 
 constinit u32 panel_lights_shown = 0;
 
-i32 press_panel_lights(PanelPoint, u32) {
-  panel_lights_shown = panel_lights_shown == 0;
-  send(event::panel_lights_toggle);
-  request(toggle_click_sound_request);
-  return 0;
-}
+constinit Body body{
+    lightspp,
+    {
+        icon("Panel lights switch", bitmap::light_lever, {137, 13},
+             mirrors<token::panel_lights, &panel_lights_shown>),
+        icon("Strobe lights switch", bitmap::light_lever, {19, 13}).from(token::strobe_lights),
+        icon("Taxi lights switch", bitmap::light_lever, {51, 13}).from(token::taxi_lights),
+        icon("Beacon lights switch", bitmap::light_lever, {87, 13}).from(token::beacon_lights),
+    },
+    {
+        click("Beacon lights switch", {82, 11, 22, 41}, switch_sends<event::beacon_lights_toggle>),
+        click("Taxi lights switch", {47, 11, 22, 41}, switch_sends<event::taxi_lights_toggle>),
+        click("Strobe lights switch", {14, 11, 22, 41}, switch_sends<event::strobe_lights_toggle>),
+        click("Panel lights switch", {132, 11, 22, 41},
+              toggles<&panel_lights_shown, event::panel_lights_toggle>),
+    },
+};
 
 }  // namespace
 
-constinit Gauge<9, 4> lightspp{
-    Face{.name = "Lightspp", .width_mm = 166, .background = 4290},
-    {
-        icon(4260, {137, 13}, 2, mirrors<token::panel_lights, panel_lights_shown>),
-        icon(4260, {19, 13}, 2, nullptr, {.source = token::strobe_lights}),
-        icon(4260, {51, 13}, 2, nullptr, {.source = token::taxi_lights}),
-        icon(4260, {87, 13}, 2, nullptr, {.source = token::beacon_lights}),
-    },
-    {
-        click({82, 11, 22, 41}, switch_sends<event::beacon_lights_toggle>),
-        click({47, 11, 22, 41}, switch_sends<event::taxi_lights_toggle>),
-        click({14, 11, 22, 41}, switch_sends<event::strobe_lights_toggle>),
-        click({132, 11, 22, 41}, press_panel_lights),
-    },
-};
+constinit Gauge lightspp{{.name = "Lightspp", .width_mm = 166, .background = 4290}, body};
 
 }  // namespace tarnvale

@@ -1,7 +1,7 @@
 /// Battery panel (overhead): battery and external power switches, and which source feeds the buses.
 #include "module/catalogue.h"
 #include "module/controls.h"
-#include "module/host.h"
+#include "module/systems.h"
 
 namespace tarnvale {
 namespace {
@@ -12,38 +12,34 @@ f64 external_power_light(Element*) {
   return aircraft.ext_power_switch == 0 ? 1 : 2;
 }
 
-f64 apu_feeds_buses(Element*) { return aircraft.apu_gen_switch == 1 && aircraft.ext_power_switch == 0; }
-
 /// The battery takes the alternators with it; the host's battery state is what stays.
-i32 press_battery(PanelPoint, u32) {
-  aircraft.dc_power_on = aircraft.dc_power_on == 0;
-  send(event::battery_toggle);
-  send(event::alternators_toggle);
-  send(event::alternator1_toggle);
-  send(event::alternator2_toggle);
-  send(event::alternator3_toggle);
-  request(toggle_click_sound_request);
-  return 0;
-}
+constexpr MouseRoutine press_battery =
+    toggles<&Aircraft::dc_power_on, event::battery_toggle, event::alternators_with_battery,
+            event::alternator_1_with_battery, event::alternator_2_with_battery,
+            event::apu_alternator_with_battery>;
+
+constinit Body body{
+    masterbat,
+    {
+        icon("Battery switch", bitmap::toggle_switch, {39, 78},
+             mirrors<token::battery, &Aircraft::dc_power_on>),
+        icon("External power switch", bitmap::toggle_switch, {111, 73},
+             shows<&Aircraft::ext_power_switch>),
+        lamp("External power lamp", {30, 3}, {145, 80}, external_power_light),
+        icon("Bus tie button", bitmap::flow_knob, {68, 80}, shows<&Aircraft::battery_panel_button_on>),
+        lamp("Battery lamp", 40, {12, 43}, lit_at<&Aircraft::dc_power_on>),
+        lamp("APU on bus lamp", 50, {98, 43}, apu_on_bus),
+        lamp("APU generator lamp", 60, {54, 8}, lit_at<&Aircraft::apu_gen_switch>),
+    },
+    {
+        click("Battery switch", {36, 76, 22, 46}, press_battery),
+        click("External power switch", {106, 70, 22, 46}, toggles<&Aircraft::ext_power_switch>),
+        click("Bus tie button", {66, 78, 30, 30}, pushes<&Aircraft::battery_panel_button_on>),
+    },
+};
 
 }  // namespace
 
-constinit Gauge<15, 3> masterbat{
-    Face{.name = "Masterbat", .width_mm = 174, .background = 20},
-    {
-        icon(2130, {39, 78}, 2, mirrors<token::battery, aircraft.dc_power_on>),
-        icon(2130, {111, 73}, 2, shows<aircraft.ext_power_switch>),
-        lamp(30, {145, 80}, external_power_light, 3),
-        icon(2140, {68, 80}, 2, shows<aircraft.battery_panel_button_on>),
-        lamp(40, {12, 43}, lit_at<aircraft.dc_power_on>),
-        lamp(50, {98, 43}, apu_feeds_buses),
-        lamp(60, {54, 8}, lit_at<aircraft.apu_gen_switch>),
-    },
-    {
-        click({36, 76, 22, 46}, press_battery),
-        click({106, 70, 22, 46}, toggles<aircraft.ext_power_switch>),
-        click({66, 78, 30, 30}, pushes<aircraft.battery_panel_button_on>),
-    },
-};
+constinit Gauge masterbat{{.name = "Masterbat", .width_mm = 174, .background = 20}, body};
 
 }  // namespace tarnvale

@@ -16,8 +16,8 @@ class EngineStart : public testing::Test {
   rig::Gauge panel{"Engstart"};
 
   void core_speeds(f64 eng1, f64 eng2) {
-    host.tokens[token::eng1_core_speed] = eng1;
-    host.tokens[token::eng2_core_speed] = eng2;
+    host.tokens[token::engine_1_core_speed] = eng1;
+    host.tokens[token::engine_2_core_speed] = eng2;
   }
   f64 pressure(int frames = 1) {
     duct.frame(frames);

@@ -108,7 +108,7 @@ TEST_F(Electrics, GeneratorWarningFollowsSwitchAndCoreSpeed) {
   };
   for (const Row& row : {Row{0, 0, 0}, Row{1, 9.9, 1}, Row{1, 10, 0}, Row{1, 55, 0}, Row{2, 55, 1}}) {
     aircraft.gen2_switch = row.position;
-    host.tokens[token::eng2_core_speed] = row.core_speed;
+    host.tokens[token::engine_2_core_speed] = row.core_speed;
     panel.frame();
     EXPECT_EQ(panel.value(2120, 1), row.warning) << row.position << " at " << row.core_speed;
     EXPECT_EQ(panel.value(2120, 0), 0) << "the other side stays dark";
@@ -209,11 +209,11 @@ TEST_F(Meters, DcMetersReadTheSelectedSource) {
   for (u32 position = 0; position < 8; ++position) {
     aircraft.dc_meter_selector = position;
     host.tokens[token::dc_amperes] = 10;
-    host.tokens[token::dc_volts] = 84;
+    host.tokens[token::dc_voltmeter] = 84;
     meters.frame();
     EXPECT_EQ(dc_load(), load_at_10[position]) << position;
     EXPECT_EQ(dc_volts(), volts_at_84[position]) << position;
-    host.tokens[token::dc_volts] = 40;
+    host.tokens[token::dc_voltmeter] = 40;
     meters.frame();
     EXPECT_EQ(dc_volts(), volts_at_40[position]) << position;
   }
@@ -230,25 +230,25 @@ TEST_F(Meters, DcMetersReadTheSelectedSource) {
 
 TEST_F(Meters, DcVoltmeterKeepsItsReadingAtTheMiddle) {
   aircraft.dc_meter_selector = 1;
-  host.tokens[token::dc_volts] = 200;
+  host.tokens[token::dc_voltmeter] = 200;
   meters.frame();
   EXPECT_EQ(dc_volts(), 182);
-  host.tokens[token::dc_volts] = 66;
+  host.tokens[token::dc_voltmeter] = 66;
   meters.frame();
   EXPECT_EQ(dc_volts(), 90) << "a kept reading is cut to the end of the scale";
-  host.tokens[token::dc_volts] = 70;
+  host.tokens[token::dc_voltmeter] = 70;
   meters.frame();
   EXPECT_EQ(dc_volts(), 52);
-  host.tokens[token::dc_volts] = 66;
+  host.tokens[token::dc_voltmeter] = 66;
   meters.frame();
   EXPECT_EQ(dc_volts(), 52);
 }
 
 TEST_F(Meters, AcMetersReadTheSelectedSource) {
-  host.tokens[token::gen1_meter] = 180;
-  host.tokens[token::gen2_meter] = 170;
-  host.tokens[token::gen1_load] = 12;
-  host.tokens[token::gen2_load] = 14;
+  host.tokens[token::ac_bus_1_voltmeter] = 180;
+  host.tokens[token::ac_bus_2_voltmeter] = 170;
+  host.tokens[token::generator_1_load] = 12;
+  host.tokens[token::generator_2_load] = 14;
   aircraft.apu_gen_switch = 1;
   aircraft.ext_power_switch = 1;
   const f64 volts[] = {0, 269, 272, 270, 271, 258, 260, 270};
@@ -273,8 +273,8 @@ TEST_F(Meters, ApuFrequencyKeepsItsReadingWhileTheEnginesDisagree) {
   };
   for (const Row& row : {Row{0, 0, 20}, Row{30, 0, 20}, Row{30, 30, 22}, Row{0, 30, 22},
                          Row{10, 10, 22}, Row{5, 5, 20}}) {
-    host.tokens[token::eng1_core_speed] = row.eng1;
-    host.tokens[token::eng2_core_speed] = row.eng2;
+    host.tokens[token::engine_1_core_speed] = row.eng1;
+    host.tokens[token::engine_2_core_speed] = row.eng2;
     meters.frame();
     EXPECT_EQ(ac_frequency(), row.load) << row.eng1 << "/" << row.eng2;
   }
@@ -285,7 +285,7 @@ TEST_F(Meters, ApuFrequencyKeepsItsReadingWhileTheEnginesDisagree) {
 
 TEST_F(Meters, EverythingRestsWithoutDcPower) {
   aircraft.dc_meter_selector = aircraft.ac_meter_selector = 2;
-  for (const u32 t : {token::dc_amperes, token::dc_volts, token::gen1_meter, token::gen1_load}) {
+  for (const u32 t : {token::dc_amperes, token::dc_voltmeter, token::ac_bus_1_voltmeter, token::generator_1_load}) {
     host.tokens[t] = 50;
   }
   power(false);
@@ -295,11 +295,11 @@ TEST_F(Meters, EverythingRestsWithoutDcPower) {
 
 TEST_F(Electrics, LoadAndDriveMetersNeedTheirSwitches) {
   rig::Gauge load("Acload"), drive("Gendrive");
-  host.tokens = {{token::gen1_load, 60},
-                 {token::gen2_load, 500},
-                 {token::apu_load, 20},
-                 {token::gen1_drive, 8000},
-                 {token::gen2_drive, -5}};
+  host.tokens = {{token::generator_1_load, 60},
+                 {token::generator_2_load, 500},
+                 {token::auxiliary_load, 20},
+                 {token::engine_1_oil_temperature, 8000},
+                 {token::engine_2_oil_temperature, -5}};
   load.frame();
   drive.frame();
   for (int i = 0; i < 3; ++i) EXPECT_EQ(load.value(410, i), 0);

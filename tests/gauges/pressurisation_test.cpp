@@ -16,7 +16,7 @@ class Pressurisation : public testing::Test {
   rig::Gauge pressure{"Diffpress"};
   rig::Gauge controller{"Cabalt"};
 
-  void fly(f64 altitude_ft) { host.tokens[token::altitude] = altitude_ft; }
+  void fly(f64 altitude_ft) { host.tokens[token::indicated_altitude] = altitude_ft; }
   f64 pressure_at(f64 altitude_ft) {
     fly(altitude_ft);
     pressure.frame();

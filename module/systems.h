@@ -1,0 +1,22 @@
+/// What several panels know about the aircraft's systems.
+#pragma once
+
+#include "module/variables.h"
+
+namespace tarnvale {
+
+/// Above this core speed, in percent, an engine runs by itself and gives bleed air.
+inline constexpr f64 running_percent = 25.0;
+
+/// Below this core speed, in percent, an engine does not turn its generator.
+inline constexpr f64 generator_turning_percent = 10.0;
+
+/// The ground unit goes before the APU's generator, which feeds the buses when it is up alone.
+inline bool apu_feeds_buses() {
+  return aircraft.apu_gen_switch == up && aircraft.ext_power_switch == 0;
+}
+
+/// The lamps that say so.
+inline f64 apu_on_bus(Element*) { return apu_feeds_buses(); }
+
+}  // namespace tarnvale
