@@ -19,7 +19,7 @@ f64 generator_load(Element* needle) {
 }
 
 /// The third meter serves whichever of the APU and the ground unit feeds the buses; the APU goes
-/// first. A crew on ground power sees its load too, which is why the ground unit is shown at all.
+/// first.
 f64 auxiliary_load(Element* needle) {
   if (aircraft.dc_power_on != 1) return 0;
   if (aircraft.apu_gen_switch == up) return metered(needle) + 45;
