@@ -91,21 +91,6 @@ TEST_F(Playing, SoundsAddUpAndAreCutOffAtFullLevel) {
   EXPECT_EQ(render(4), both({111, 32767, -32768, 0}));
 }
 
-TEST_F(Playing, VolumeIsInHundredthsOfADecibel) {
-  const Buffer buffer = mono_16(std::vector<std::int16_t>(20000, 10000));
-  const struct {
-    LONG volume;
-    int level;
-  } cases[] = {{-2000, 1000}, {-600, 5012}, {DSBVOLUME_MIN, 0}, {DSBVOLUME_MAX, 10000}};
-  for (const auto& test : cases) {
-    EXPECT_EQ(buffer->SetVolume(test.volume), DS_OK);
-    buffer->SetCurrentPosition(0);
-    buffer->Play(0, 0, 0);
-    EXPECT_NEAR(render(3000).back().left, test.level, 2) << test.volume;
-  }
-  EXPECT_EQ(buffer->SetVolume(1), DSERR_INVALIDPARAM);
-}
-
 TEST_F(Playing, LoopsUntilStopped) {
   const Buffer buffer = mono_16({1, 2, 3, 4});
   buffer->Play(0, 0, DSBPLAY_LOOPING);
@@ -123,9 +108,7 @@ TEST_F(Playing, GoesOnWhereItWasStoppedOrPut) {
   const auto last_of = [](std::size_t frames) { return render(frames).back().left; };
   buffer->Play(0, 0, 0);
   EXPECT_EQ(last_of(1000), 999);
-  EXPECT_EQ(position(*buffer), 2000u);
   buffer->Stop();
-  EXPECT_EQ(position(*buffer), 2000u);
   EXPECT_EQ(last_of(1), 0);
   buffer->Play(0, 0, 0);
   render(499);  // a start in the middle fades in
@@ -138,7 +121,6 @@ TEST_F(Playing, GoesOnWhereItWasStoppedOrPut) {
   buffer->Play(0, 0, 0);  // plays already: no new start
   render(499);
   EXPECT_EQ(last_of(2), 0);
-  EXPECT_EQ(position(*buffer), 0u) << "at the end, ready to play again";
   buffer->Play(0, 0, 0);
   EXPECT_EQ(last_of(1000), 999);
   EXPECT_EQ(buffer->SetCurrentPosition(8000), DSERR_INVALIDPARAM);

@@ -62,7 +62,7 @@ class RenderedSound : public testing::Test {
   HRESULT create(WAVEFORMATEX format, DWORD bytes, Buffer& buffer) {
     DSBUFFERDESC description{};
     description.dwSize = sizeof(DSBUFFERDESC1);
-    description.dwFlags = DSBCAPS_STATIC | DSBCAPS_CTRLVOLUME;
+    description.dwFlags = DSBCAPS_STATIC;
     description.dwBufferBytes = bytes;
     description.lpwfxFormat = &format;
     IDirectSoundBuffer* made = nullptr;
@@ -84,8 +84,9 @@ class RenderedSound : public testing::Test {
   static void fill(IDirectSoundBuffer& buffer, const std::vector<Sample>& samples) {
     void* part = nullptr;
     DWORD bytes = 0;
-    ASSERT_EQ(buffer.Lock(0, 0, &part, &bytes, nullptr, nullptr, DSBLOCK_ENTIREBUFFER), DS_OK);
-    ASSERT_EQ(bytes, samples.size() * sizeof(Sample));
+    const auto size = static_cast<DWORD>(samples.size() * sizeof(Sample));
+    ASSERT_EQ(buffer.Lock(0, size, &part, &bytes, nullptr, nullptr, 0), DS_OK);
+    ASSERT_EQ(bytes, size);
     std::memcpy(part, samples.data(), bytes);
     ASSERT_EQ(buffer.Unlock(part, bytes, nullptr, 0), DS_OK);
   }
@@ -98,12 +99,6 @@ class RenderedSound : public testing::Test {
     DWORD status = 0xFFFF;
     EXPECT_EQ(buffer.GetStatus(&status), DS_OK);
     return status;
-  }
-
-  static DWORD position(IDirectSoundBuffer& buffer) {
-    DWORD play = 0;
-    EXPECT_EQ(buffer.GetCurrentPosition(&play, nullptr), DS_OK);
-    return play;
   }
 
   std::unique_ptr<IDirectSound, Release> sound_;
