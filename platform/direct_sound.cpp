@@ -18,10 +18,10 @@ bool is_complete(const DSBUFFERDESC& description) {
          description.dwBufferBytes <= DSBSIZE_MAX;
 }
 
-std::shared_ptr<Pcm> make_pcm(const DSBUFFERDESC& description) {
+std::shared_ptr<Pcm> make_pcm(const WAVEFORMATEX& format, DWORD bytes) {
   auto pcm = std::make_shared<Pcm>();
-  pcm->format = *description.lpwfxFormat;
-  pcm->bytes.resize(description.dwBufferBytes);
+  pcm->format = format;
+  pcm->bytes.resize(bytes);
   clear(*pcm);
   return pcm;
 }
@@ -59,9 +59,11 @@ HRESULT DirectSound::CreateSoundBuffer(LPCDSBUFFERDESC description, LPDIRECTSOUN
   if (outer != nullptr) return DSERR_NOAGGREGATION;
   if (!level_set_) return DSERR_PRIOLEVELNEEDED;
   if (description == nullptr || !is_complete(*description)) return DSERR_INVALIDPARAM;
-  if (!is_playable(*description->lpwfxFormat)) return DSERR_BADFORMAT;
+  WAVEFORMATEX format;
+  const HRESULT readable = read_format(*description->lpwfxFormat, format);
+  if (FAILED(readable)) return readable;
   try {
-    return give_buffer(make_pcm(*description), buffer);
+    return give_buffer(make_pcm(format, description->dwBufferBytes), buffer);
   } catch (const std::bad_alloc&) {
     return DSERR_OUTOFMEMORY;
   }

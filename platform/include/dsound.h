@@ -1,5 +1,6 @@
 /// The sound calls of the operating system that the module makes, for systems that lack them: real
-/// names, types and constants; buffers are secondary ones of PCM, 8 or 16 bit, mono or stereo.
+/// names, types and constants; buffers are secondary ones of PCM, 8 or 16 bit, mono or stereo, by a plain
+/// or an extensible format.
 #pragma once
 
 #include <windows.h>
@@ -41,6 +42,8 @@ inline constexpr DWORD DSBSTATUS_LOOPING = 0x4;
 
 // ---- Records ------------------------------------------------------------------------------------
 
+// As they lie in a file: no gap before the extension, which has `cbSize` bytes.
+#pragma pack(push, 1)
 struct WAVEFORMATEX {
   WORD wFormatTag;
   WORD nChannels;
@@ -51,6 +54,8 @@ struct WAVEFORMATEX {
   WORD cbSize;
 };
 typedef WAVEFORMATEX* LPWAVEFORMATEX;
+#pragma pack(pop)
+static_assert(sizeof(WAVEFORMATEX) == 18);
 
 /// The short description: 20 bytes where pointers have four.
 struct DSBUFFERDESC1 {
@@ -104,7 +109,8 @@ struct IDirectSoundBuffer : IUnknown {
 typedef IDirectSoundBuffer* LPDIRECTSOUNDBUFFER;
 
 struct IDirectSound : IUnknown {
-  /// Needs a cooperative level. Fails for a format or size that cannot be played.
+  /// Needs a cooperative level. DSERR_BADFORMAT for samples that cannot be played, DSERR_INVALIDPARAM for
+  /// a format or size that makes no sense.
   virtual HRESULT CreateSoundBuffer(LPCDSBUFFERDESC description, LPDIRECTSOUNDBUFFER* buffer,
                                     LPUNKNOWN outer) = 0;
   /// A second buffer over the same samples, with its own position and status.

@@ -44,18 +44,18 @@ TEST_F(Playing, StartsBetweenPullsOfAnySize) {
 }
 
 TEST_F(Playing, EveryFormatKeepsItsLevelAndSides) {
-  const Buffer stereo_16 =
-      buffer_of<std::int16_t>(pcm_format(2, 16, PLATFORM_AUDIO_RATE), {100, -200, 300, -400});
+  const Buffer stereo_16 = buffer_of(extensible(pcm_format(2, 16, PLATFORM_AUDIO_RATE)),
+                                     std::vector<std::int16_t>{100, -200, 300, -400});
   stereo_16->Play(0, 0, 0);
   EXPECT_EQ(render(3), (std::vector<Frame>{{100, -200}, {300, -400}, {}}));
 
   const Buffer mono_8 =
-      buffer_of<BYTE>(pcm_format(1, 8, PLATFORM_AUDIO_RATE), {0x80, 0xFF, 0x00, 0x81});
+      buffer_of(pcm_format(1, 8, PLATFORM_AUDIO_RATE), std::vector<BYTE>{0x80, 0xFF, 0x00, 0x81});
   mono_8->Play(0, 0, 0);
   EXPECT_EQ(render(5), both({0, 32512, -32768, 256, 0}));
 
   const Buffer stereo_8 =
-      buffer_of<BYTE>(pcm_format(2, 8, PLATFORM_AUDIO_RATE), {0x00, 0xFF, 0x80, 0x80, 0x55});
+      buffer_of(pcm_format(2, 8, PLATFORM_AUDIO_RATE), std::vector<BYTE>{0x00, 0xFF, 0x80, 0x80, 0x55});
   stereo_8->Play(0, 0, 0);
   EXPECT_EQ(render(3), (std::vector<Frame>{{-32768, 32512}, {}, {}})) << "half a frame at the end";
 }

@@ -10,6 +10,7 @@
 #include <span>
 #include <vector>
 
+#include "platform/pcm.h"
 #include "platform/platform_host.h"
 
 /// One stereo frame of the mix.
@@ -44,6 +45,14 @@ inline WAVEFORMATEX pcm_format(WORD channels, WORD bits, DWORD rate) {
   return {WAVE_FORMAT_PCM, channels, rate, rate * block, block, bits, 0};
 }
 
+/// The extensible form of a plain format.
+inline platform::ExtensibleFormat extensible(WAVEFORMATEX format) {
+  const WORD bits = format.wBitsPerSample;
+  format.wFormatTag = platform::extensible_tag;
+  format.cbSize = 22;
+  return {format, bits, 0, platform::pcm_form};
+}
+
 class RenderedSound : public testing::Test {
  protected:
   void SetUp() override {
@@ -59,12 +68,13 @@ class RenderedSound : public testing::Test {
     platform_register_window("Main", nullptr);
   }
 
-  HRESULT create(WAVEFORMATEX format, DWORD bytes, Buffer& buffer) {
+  template <typename Format>
+  HRESULT create(Format format, DWORD bytes, Buffer& buffer) {
     DSBUFFERDESC description{};
     description.dwSize = sizeof(DSBUFFERDESC1);
     description.dwFlags = DSBCAPS_STATIC;
     description.dwBufferBytes = bytes;
-    description.lpwfxFormat = &format;
+    description.lpwfxFormat = reinterpret_cast<LPWAVEFORMATEX>(&format);
     IDirectSoundBuffer* made = nullptr;
     const HRESULT result = sound_->CreateSoundBuffer(&description, &made, nullptr);
     buffer.reset(made);
@@ -72,8 +82,8 @@ class RenderedSound : public testing::Test {
   }
 
   /// A buffer with these samples.
-  template <typename Sample>
-  Buffer buffer_of(WAVEFORMATEX format, const std::vector<Sample>& samples) {
+  template <typename Format, typename Sample>
+  Buffer buffer_of(Format format, const std::vector<Sample>& samples) {
     Buffer buffer;
     EXPECT_EQ(create(format, static_cast<DWORD>(samples.size() * sizeof(Sample)), buffer), DS_OK);
     fill(*buffer, samples);

@@ -51,6 +51,30 @@ TEST_F(SoundBuffers, OnlyPlayableDescriptionsAreAccepted) {
   }
 }
 
+TEST_F(SoundBuffers, AnExtensibleFormatIsPcmAndWhole) {
+  const auto changed = [](auto change) {
+    auto format = extensible(pcm_format(2, 16, 44100));
+    change(format);
+    return format;
+  };
+  const struct {
+    const char* what;
+    platform::ExtensibleFormat format;
+    HRESULT result;
+  } cases[] = {
+      {"12 of 16 bits used", changed([](auto& format) { format.used_bits = 12; }), DS_OK},
+      {"all bits used", changed([](auto& format) { format.used_bits = 0; }), DS_OK},
+      {"17 of 16 bits", changed([](auto& format) { format.used_bits = 17; }), DSERR_INVALIDPARAM},
+      {"cut off", changed([](auto& format) { format.head.cbSize = 21; }), DSERR_INVALIDPARAM},
+      {"float", changed([](auto& format) { format.form.Data1 = 3; }), DSERR_BADFORMAT},
+      {"24 bit", extensible(pcm_format(2, 24, 44100)), DSERR_BADFORMAT},
+  };
+  for (const auto& test : cases) {
+    Buffer buffer;
+    EXPECT_EQ(create(test.format, 1000, buffer), test.result) << test.what;
+  }
+}
+
 TEST_F(SoundBuffers, NeedACooperativeLevelOfAWindowThatExists) {
   IDirectSound* other = nullptr;
   ASSERT_EQ(DirectSoundCreate(nullptr, &other, nullptr), DS_OK);
