@@ -93,7 +93,8 @@ TEST_F(SoundObjects, TheDeviceGetsTheWholeFormatAsItStandsInTheFile) {
       {"long", adpcm, adpcm},
       {"without the size of an extension", plain, plain + number(0, 2)},
       {"the least", plain.substr(0, 14), plain.substr(0, 14) + number(0, 4)},
-      {"an extension that is not there", plain + number(8, 2), plain + number(8, 2) + number(0, 8)},
+      {"an extension that is not there", plain + number(8, 2),
+       plain + number(8, 2) + std::string(8, '\0')},
   };
   for (const auto& test : cases) {
     folder_.write("tone.wav", riff(chunk("fmt ", test.chunk) + chunk("data", "abcd")));
