@@ -13,7 +13,7 @@ struct WavFacts {
   double seconds = 0;
 };
 
-/// Reads the format and the length from a file's chunks; zeros for what it does not say.
+/// Reads the format and the length; zeros for a file that is no sound.
 WavFacts read_wav_facts(const std::filesystem::path& file);
 
 }  // namespace host
