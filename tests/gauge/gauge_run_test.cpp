@@ -1,3 +1,5 @@
+#include "host/gauge/gauge_run.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -6,7 +8,7 @@
 #include <set>
 #include <string>
 
-#include "tests/drawing/fixture.h"
+#include "tests/gauge/made_gauge.h"
 
 namespace host {
 namespace {
