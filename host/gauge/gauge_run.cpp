@@ -17,34 +17,25 @@ std::uint32_t failure_action(const FailureEntry* table, const TokenSource& token
   return 0;
 }
 
-bool exact_copies(const ElementInputs& a, const ElementInputs& b) {
-  const PanelPoint one = a.element().position, other = b.element().position;
-  return one.x == other.x && one.y == other.y && a.same_as(b);
-}
-
 }  // namespace
 
 GaugeRun::GaugeRun(const GaugeHeader& gauge) : gauge_(&gauge) {
-  for (const ChainLink& link : element_chain(gauge))
-    slots_.push_back({ElementInputs(*link.element), link.end});
-  link_copies();
+  const std::vector<ChainLink> chain = element_chain(gauge);
+  for (const ChainLink& link : chain) inputs_.emplace_back(*link.element);
+  const std::vector<Covers> covers = find_covers(inputs_);
+  for (std::size_t i = 0; i < chain.size(); ++i) slots_.push_back({chain[i].end, covers[i], i});
+  find_groups();
   hidden_.resize(slots_.size());
   now_.resize(slots_.size());
-  for (std::size_t i = 0; i < slots_.size(); ++i) now_[i].element = &slots_[i].inputs.element();
+  for (std::size_t i = 0; i < slots_.size(); ++i) now_[i].element = chain[i].element;
   shown_ = before_ = now_;
 }
 
-void GaugeRun::link_copies() {
+void GaugeRun::find_groups() {
   for (std::size_t i = slots_.size(); i-- > 0;) {
-    Slot& slot = slots_[i];
-    slot.later_copy = slots_.size();
-    slot.group = i;
-    for (std::size_t later = i + 1; later < slots_.size(); ++later) {
-      if (!exact_copies(slot.inputs, slots_[later].inputs)) continue;
-      slot.later_copy = later;
-      slot.group = slots_[later].group;
-      break;
-    }
+    const auto& [lit, same_place] = slots_[i].covers;
+    const std::size_t later = lit < slots_.size() ? lit : same_place;
+    if (later < slots_.size()) slots_[i].group = slots_[later].group;
   }
 }
 
@@ -73,40 +64,43 @@ void GaugeRun::frame(const TokenSource& tokens) {
 }
 
 void GaugeRun::hide_chain(std::size_t index) {
-  if (hidden_[index] || !(slots_[index].inputs.element().image_flags & IMAGE_HIDE_CHAIN)) return;
+  if (hidden_[index] || !(inputs_[index].element().image_flags & IMAGE_HIDE_CHAIN)) return;
   std::fill(hidden_.begin() + index, hidden_.begin() + slots_[index].chain_end, true);
 }
 
-void GaugeRun::take(std::size_t index, const TokenSource& tokens) {
-  const Slot& slot = slots_[index];
-  ElementState& state = now_[index];
-  hide_chain(index);  // a routine further up may have hidden it just now
-  const bool covered = slot.later_copy < slots_.size() && !hidden_[slot.later_copy];
-  state.evaluated = state.drawn = !hidden_[index] && !covered;
-  if (!state.evaluated) return;
-  slot.inputs.evaluate(tokens, state);
-  fail(slot, failure_action(slot.inputs.element().failures, tokens), state);
-  if (slot.inputs.element().kind == ELEMENT_NEEDLE) limit_speed(slot, state);
-  shown_[slot.group] = state;
+bool GaugeRun::covered(const Slot& slot) const {
+  const auto shown = [this](std::size_t index) { return index < hidden_.size() && !hidden_[index]; };
+  return shown(slot.covers.lit) || shown(slot.covers.same_place);
 }
 
-void GaugeRun::fail(const Slot& slot, std::uint32_t action, ElementState& state) const {
-  const ElementState& last = shown_[slot.group];
+void GaugeRun::take(std::size_t index, const TokenSource& tokens) {
+  hide_chain(index);  // a routine further up may have hidden it just now
+  ElementState& state = now_[index];
+  state.evaluated = state.drawn = !hidden_[index] && !covered(slots_[index]);
+  if (!state.evaluated) return;
+  inputs_[index].evaluate(tokens, state);
+  fail(index, failure_action(state.element->failures, tokens), state);
+  if (state.element->kind == ELEMENT_NEEDLE) limit_speed(index, state);
+  shown_[slots_[index].group] = state;
+}
+
+void GaugeRun::fail(std::size_t index, std::uint32_t action, ElementState& state) const {
+  const ElementState& last = shown_[slots_[index].group];
   if (action == FAILURE_FREEZE && last.evaluated) {
     state.values = last.values;
     state.text = last.text;
   } else if (action == FAILURE_ZERO) {
     state.values = {};
-    if (slot.inputs.element().kind == ELEMENT_STRING) state.text.assign(1, '0');
+    if (state.element->kind == ELEMENT_STRING) state.text.assign(1, '0');
   } else if (action == FAILURE_HIDE) {
     state.drawn = false;
   }
 }
 
-void GaugeRun::limit_speed(const Slot& slot, ElementState& state) const {
-  const NeedlePart& needle = slot.inputs.element().needle;
+void GaugeRun::limit_speed(std::size_t index, ElementState& state) const {
+  const NeedlePart& needle = state.element->needle;
   if (!(needle.rate_limit > 0)) return;
-  const ElementState& last = shown_[slot.group];
+  const ElementState& last = shown_[slots_[index].group];
   const double to = state.values[0];
   const double from = last.evaluated ? last.reached.value_or(to) : to;
   const bool followable = std::isfinite(from) && std::isfinite(to);
@@ -116,9 +110,8 @@ void GaugeRun::limit_speed(const Slot& slot, ElementState& state) const {
 // Routines hide pictures, their own as a rule, while the frame runs.
 void GaugeRun::settle() {
   for (std::size_t i = 0; i < slots_.size(); ++i) {
-    const Slot& slot = slots_[i];
     hide_chain(i);
-    if (hidden_[i] || slot.inputs.element().image_flags & IMAGE_HIDE_PICTURE) now_[i].drawn = false;
+    if (hidden_[i] || now_[i].element->image_flags & IMAGE_HIDE_PICTURE) now_[i].drawn = false;
   }
 }
 

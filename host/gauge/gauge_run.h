@@ -5,7 +5,7 @@
 #include <span>
 #include <vector>
 
-#include "host/gauge/element_inputs.h"
+#include "host/gauge/lit_copies.h"
 
 namespace host {
 
@@ -36,21 +36,22 @@ class GaugeRun {
 
  private:
   struct Slot {
-    ElementInputs inputs;
-    std::size_t chain_end;       // the first slot that does not hang below this one
-    std::size_t later_copy = 0;  // the nearest exact copy further on, or the number of slots
-    std::size_t group = 0;       // the last of its exact copies: all of them show the same thing
+    std::size_t chain_end;  // the first slot that does not hang below this one
+    Covers covers;
+    std::size_t group;  // the last of its copies: all of them show the same thing
   };
 
-  void link_copies();
+  void find_groups();
+  bool covered(const Slot& slot) const;
   void hide_chain(std::size_t index);
   void take(std::size_t index, const TokenSource& tokens);
-  void fail(const Slot& slot, std::uint32_t action, ElementState& state) const;
-  void limit_speed(const Slot& slot, ElementState& state) const;
+  void fail(std::size_t index, std::uint32_t action, ElementState& state) const;
+  void limit_speed(std::size_t index, ElementState& state) const;
   void settle();
 
   const GaugeHeader* gauge_;
   double frame_seconds_ = 1.0 / 18;
+  std::vector<ElementInputs> inputs_;
   std::vector<Slot> slots_;
   std::vector<char> hidden_;         // by slot
   std::vector<ElementState> shown_;  // by group: what it last showed
