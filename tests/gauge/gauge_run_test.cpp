@@ -1,3 +1,5 @@
+#include "host/gauge/gauge_run.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -6,7 +8,7 @@
 #include <set>
 #include <string>
 
-#include "tests/drawing/fixture.h"
+#include "tests/gauge/made_gauge.h"
 
 namespace host {
 namespace {
@@ -153,7 +155,7 @@ TEST_F(GaugeRunTest, LaterShownCopyCovers) {
   EXPECT_EQ(calls, "ababab");
 }
 
-TEST_F(GaugeRunTest, OnlyExactCopiesCover) {
+TEST_F(GaugeRunTest, OnlyTheSameThingCovers) {
   struct Case {
     const char* what;
     void (*change)(Element&);
@@ -168,7 +170,8 @@ TEST_F(GaugeRunTest, OnlyExactCopiesCover) {
          e.failures = &none;
        },
        true},
-      {"position", [](Element& e) { e.position.y = 9; }, false},
+      {"a place near by", [](Element& e) { e.position.y = 9; }, true},
+      {"a place far away", [](Element& e) { e.position.y = 14; }, false},
       {"bitmap", [](Element& e) { e.resource_id = 9; }, false},
       {"routine", [](Element& e) { e.icon.value = b; }, false},
       {"no routine", [](Element& e) { e.icon.value = nullptr; }, false},
