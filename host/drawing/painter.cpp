@@ -16,11 +16,6 @@ Scale scale_to(const Rect& place, PanelSize size) {
   return {1.0 * place.width / size.width, 1.0 * place.height / size.height};
 }
 
-void fill(Surface target, const Rect& part, std::uint32_t colour) {
-  for (int y = part.y; y < part.y + part.height; ++y)
-    std::fill_n(target.at(part.x, y), part.width, colour);
-}
-
 }  // namespace
 
 // A face without sprites is opaque: black is a paint like any other there. Behind a face with sprites
@@ -147,7 +142,7 @@ bool GaugePainter::Layers::covered_by_face(const Rect& part) const {
 
 void GaugePainter::Layers::update_base() {
   for (const Rect& part : base_dirty.parts()) {
-    if (!covered_by_face(part)) fill(base_surface(), part, black);
+    if (!covered_by_face(part)) fill_pixels(base_surface(), part, black);
     compose(base_surface(), part, 0, base_end);
   }
 }
