@@ -146,18 +146,10 @@ TEST_F(Motion, StripShowsATenthOfItselfWithoutAMask) {
   EXPECT_EQ(scene.at(10, 16), digit(1));
 }
 
-TEST_F(Motion, RangeMayRunBackwards) {
-  moving(40, -1, 9, 0);
-  Scene scene(gauge_, bitmaps_);
-  scene.set(1, 2, 1);
-  scene.draw();
-  EXPECT_EQ(scene.at(10, 12), digit(7));
-}
-
 TEST_F(Motion, StripShowsThroughItsMask) {
-  moving(41, 42, 0, 3);
+  moving(41, 42, 3, 0);  // and its range runs backwards
   Scene scene(gauge_, bitmaps_);
-  scene.set(1, 2, 0);
+  scene.set(1, 1, 0);
   scene.draw();
   EXPECT_EQ(scene.box_without(grey), (Rect{10, 12, 5, 4}));
   for (int x = 0; x < 5; ++x) EXPECT_EQ(scene.at(10 + x, 13), x == 2 ? grey : digit(2));
