@@ -4,6 +4,7 @@
 
 #include "host/app/commands.h"
 #include "host/app/installation.h"
+#include "host/app/start_notes.h"
 #include "host/panel/panel_picture.h"
 #include "host/window/flight_deck.h"
 
@@ -82,6 +83,7 @@ void write_picture(Cockpit& cockpit, const ShowOptions& options) {
 int show(const ShowOptions& options) {
   const CockpitOptions located_options = located(options.cockpit);
   GaugeModule module(located_options.module);
+  say_artwork_notes(module);
   const bool window = options.picture.empty();
   prepare_platform(located_options, window ? PLATFORM_AUDIO_DEVICE : PLATFORM_AUDIO_NONE);
   Cockpit cockpit(module, shelf(module, options.gauges), located_options.rate);
