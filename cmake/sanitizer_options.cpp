@@ -12,5 +12,6 @@ extern "C" const char* __lsan_default_suppressions() {
          "leak:libglib\n"
          "leak:libSDL2\n"
          "leak:libX11\n"
+         "leak:libdbus\n"
          "leak:_dri.so\n";
 }

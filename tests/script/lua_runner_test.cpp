@@ -38,6 +38,8 @@ struct Failure {
   const char* message;
 };
 
+void PrintTo(const Failure& failure, std::ostream* out) { *out << failure.message; }
+
 class Failures : public Flow, public testing::WithParamInterface<Failure> {};
 
 TEST_P(Failures, NameFileAndLine) { EXPECT_EQ(outcome(runner, GetParam().text), GetParam().message); }
@@ -50,8 +52,6 @@ INSTANTIATE_TEST_SUITE_P(
                 "flows/test.lua:2: 'end' expected (to close 'if' at line 1) near <eof>"},
         Failure{"nil_call", "\n\nclik('Masterbat')",
                 "flows/test.lua:3: attempt to call a nil value (global 'clik')"},
-        Failure{"arithmetic", "local t = {}\nreturn t + 1",
-                "flows/test.lua:2: attempt to perform arithmetic on a table value (local 't')"},
         Failure{"own_error", "error('no fuel')", "flows/test.lua:1: no fuel"},
         Failure{"error_object", "error({})", "flows/test.lua:1: an error that is not a text"},
         Failure{"host", "local a = 1\nrefuse('the lamp is dark')",
@@ -61,8 +61,6 @@ INSTANTIATE_TEST_SUITE_P(
         Failure{"in_condition", "ask(function()\n  refuse('inside')\nend)",
                 "flows/test.lua:2: inside (called from line 1)"},
         Failure{"missing_argument", "number()",
-                "flows/test.lua:1: argument 1 (value) must be a number"},
-        Failure{"text_for_number", "number('7')",
                 "flows/test.lua:1: argument 1 (value) must be a number"},
         Failure{"infinite", "number(1/0)",
                 "flows/test.lua:1: argument 1 (value) must be a finite number"},

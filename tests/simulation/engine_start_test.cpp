@@ -136,6 +136,16 @@ TEST_P(EngineStart, Nothing_burns_without_sparks_of_its_own) {
   }
 }
 
+TEST_P(EngineStart, Goes_on_while_the_other_engine_runs) {
+  AircraftModel aircraft(StartCondition::ready);
+  send(aircraft, own("fuel_lever_#_toggle"));
+  aircraft.advance(120.0);
+  send(aircraft, own("fuel_lever_#_toggle"));
+  send(aircraft, own("starter_#_engage"));
+  aircraft.advance(60.0);
+  expect_ground_idle(aircraft, own("engine_#_"));
+}
+
 TEST_P(EngineStart, A_fuel_lever_closed_during_the_start_leaves_the_engine_cranking) {
   PoweredAircraft aircraft;
   send(aircraft, own("fuel_lever_#_toggle"));
