@@ -47,11 +47,8 @@ std::uint32_t token_number(const std::string& name) {
   std::uint32_t number = 0;
   const auto [end, error] = std::from_chars(name.data(), name.data() + name.size(), number);
   if (error == std::errc{} && end == name.data() + name.size()) return number;
-  const auto rows = AircraftModel::tokens();
-  const auto row = std::ranges::find(rows, name, &TableRow::name);
-  if (row == rows.end())
-    throw std::runtime_error("there is no token '" + name + "'; see: tarnvale list tokens");
-  return row->number;
+  if (const TableRow* row = find_row(AircraftModel::tokens(), name)) return row->number;
+  throw std::runtime_error("there is no token '" + name + "'; see: tarnvale list tokens");
 }
 
 void hold_reading(AircraftModel& aircraft, const std::string& reading) {
@@ -66,7 +63,7 @@ void hold_reading(AircraftModel& aircraft, const std::string& reading) {
 
 void set_up(Cockpit& cockpit, const ShowOptions& options) {
   for (const std::string& reading : options.readings) hold_reading(cockpit.aircraft(), reading);
-  if (options.night) hold_reading(cockpit.aircraft(), "10=1");
+  if (options.night) cockpit.aircraft().hold_token(token::panel_lights, 1);
   for (int frame = 0; frame < 3; ++frame) cockpit.frame();  // needles have left their stops
 }
 
