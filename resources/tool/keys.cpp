@@ -95,6 +95,7 @@ Keys::Keys(const DrawingCode& code) {
   const std::map<std::string, std::uint64_t> objects = object_digests(code.objects);
   Digest base;
   base.add(file_digest(code.kit));
+  base.add(std::string_view(cairo_version_string()));
   add_print(base);
   for (const NamedUnit& named : units()) {
     const auto object = objects.find(std::string(named.file));

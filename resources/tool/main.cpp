@@ -12,6 +12,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -33,32 +34,23 @@ struct Arguments {
 
 Arguments parsed(int count, char** words) {
   Arguments arguments;
+  std::string scale = "1";
+  const std::map<std::string, std::string*> options{
+      {"--out", &arguments.out},         {"--dense", &arguments.dense},
+      {"--cache", &arguments.cache},     {"--kit", &arguments.kit},
+      {"--png", &arguments.png},         {"--objects", &arguments.objects},
+      {"--compose", &arguments.compose}, {"--scale", &scale}};
   for (int i = 1; i < count; ++i) {
     const std::string word = words[i];
-    const auto next = [&] { return i + 1 < count ? std::string(words[++i]) : std::string(); };
-    if (word == "--out")
-      arguments.out = next();
-    else if (word == "--dense")
-      arguments.dense = next();
-    else if (word == "--cache")
-      arguments.cache = next();
-    else if (word == "--kit")
-      arguments.kit = next();
-    else if (word == "--objects")
-      arguments.objects = next();
-    else if (word == "--png")
-      arguments.png = next();
-    else if (word == "--compose")
-      arguments.compose = next();
-    else if (word == "--scale")
-      arguments.scale = std::atoi(next().c_str());
-    else if (word == "--boxes")
-      arguments.boxes = true;
-    else if (word == "--list")
-      arguments.list = true;
-    else
+    if (const auto option = options.find(word); option != options.end()) {
+      if (i + 1 < count) *option->second = words[++i];
+    } else if (word == "--boxes" || word == "--list") {
+      (word == "--list" ? arguments.list : arguments.boxes) = true;
+    } else {
       arguments.names.push_back(word);
+    }
   }
+  arguments.scale = std::atoi(scale.c_str());
   return arguments;
 }
 
