@@ -1,0 +1,269 @@
+#include "tests/module/walk.h"
+
+#include <algorithm>
+#include <cstring>
+#include <random>
+#include <sstream>
+
+#include "module/tokens.h"
+
+namespace walk {
+namespace {
+
+using namespace tarnvale;
+
+struct TokenName {
+  u32 number;
+  const char* name;
+  f64 low, high;  ///< that it takes in flight
+};
+
+/// The range of a token by its unit.
+std::pair<f64, f64> range_of(std::string_view unit) {
+  constexpr std::pair<std::string_view, std::pair<f64, f64>> ranges[] = {
+      {"0/1", {0, 1}},
+      {"percent", {0, 110}},
+      {"feet", {0, 42000}},
+      {"feet/minute", {-5000, 5000}},
+      {"hectopascals", {950, 1050}},
+      {"amperes, discharge negative", {-100, 100}},
+      {"meter divisions", {0, 90}},
+  };
+  for (const auto& [name, range] : ranges) {
+    if (name == unit) return range;
+  }
+  return {0, 16384};
+}
+
+std::vector<TokenName> token_names() {
+  std::vector<TokenName> names;
+#define TOKEN(number, name, unit) \
+  names.push_back({number, #name, range_of(unit).first, range_of(unit).second});
+#define EVENT(number, name)
+#include "module/tokens.inc"
+#undef TOKEN
+#undef EVENT
+  std::erase_if(names, [](const TokenName& t) { return t.number == token::clock_seconds; });
+  return names;
+}
+
+/// What a gauge shows: the values of its parts and the letters of its texts.
+using Picture = std::vector<std::pair<f64, std::string>>;
+
+Picture picture(const rig::Gauge& gauge) {
+  Picture all;
+  for (const rig::NamedPart& part : gauge.parts()) {
+    const bool text = part.element->kind == ELEMENT_STRING;
+    all.emplace_back(gauge.value(part), text ? part.element->string.text : "");
+  }
+  return all;
+}
+
+std::string sounds_of_click() {
+  std::string sounds;
+  if (rig::heard(toggle_click_sound_request)) sounds += "toggle";
+  if (rig::heard(click_sound_request)) sounds += "push";
+  for (u32& other : aircraft.sound_requests) {
+    if (std::exchange(other, 0u) != 0) sounds += " other";
+  }
+  return sounds;
+}
+
+class Walk {
+ public:
+  Result run() {
+    host_.follows = true;
+    result_.gauges = rig::built_gauges();
+    list_stimuli();
+    for (const TokenName& token : tokens_) randomize(token);
+    for (int step = 0; step < 30000; ++step) {
+      whole_cockpit_ = step % 5 == 0;
+      change_surroundings();
+      stimulate(result_.stimuli[random(result_.stimuli.size())]);
+    }
+    result_.tokens = host_.looked_up;
+    return std::move(result_);
+  }
+
+ private:
+  std::size_t random(std::size_t below) { return static_cast<std::size_t>(bits_() % below); }
+
+  void randomize(const TokenName& token) {
+    const f64 whole = static_cast<f64>(random(static_cast<std::size_t>(token.high - token.low) + 1));
+    host_.tokens[token.number] = token.low + whole;
+  }
+
+  void list_stimuli() {
+    for (std::size_t g = 0; g < result_.gauges.size(); ++g) {
+      rig::Gauge& gauge = result_.gauges[g];
+      for (const rig::NamedArea& area : gauge.areas()) {
+        result_.stimuli.push_back({.gauge = g, .area = area, .name = area.name});
+      }
+      host_.looked_up.clear();
+      gauge.frame();
+      for (const TokenName& token : tokens_) {
+        if (!host_.looked_up.contains(token.number)) continue;
+        result_.stimuli.push_back({.gauge = g, .token = token.number, .name = token.name});
+      }
+    }
+  }
+
+  /// Time passes, so that what was held is over, and now and then something else has happened.
+  void change_surroundings() {
+    host_.tokens[token::clock_seconds] += 10;
+    if (random(4) == 0) randomize(tokens_[random(tokens_.size())]);
+    if (random(2) == 0) host_.tokens[token::battery] = 1;
+    if (random(16) == 0) aircraft.ground_power_connected = static_cast<u32>(random(2));
+  }
+
+  /// The stimulus's own gauge, and now and then all.
+  std::vector<rig::Gauge*> watched(std::size_t own) {
+    if (!whole_cockpit_) return {&result_.gauges[own]};
+    std::vector<rig::Gauge*> all;
+    for (rig::Gauge& gauge : result_.gauges) all.push_back(&gauge);
+    return all;
+  }
+
+  void stimulate(Stimulus& stimulus) {
+    constexpr int settling = 4;  // frames until what one gauge has changed is seen on all others
+    const std::vector<rig::Gauge*> gauges = watched(stimulus.gauge);
+    std::vector<Picture> idle, before;
+    run(gauges, settling);
+    for (const rig::Gauge* gauge : gauges) idle.push_back(picture(*gauge));
+    run(gauges, settling);
+    for (const rig::Gauge* gauge : gauges) before.push_back(picture(*gauge));
+    act(stimulus);
+    run(gauges, 1);
+    note_move(stimulus, before[gauges.size() > 1 ? stimulus.gauge : 0]);
+    run(gauges, settling);
+    for (std::size_t g = 0; g < gauges.size(); ++g) compare(stimulus, *gauges[g], idle[g], before[g]);
+  }
+
+  static void run(const std::vector<rig::Gauge*>& gauges, int frames) {
+    for (; frames > 0; --frames) {
+      for (rig::Gauge* gauge : gauges) gauge->frame();
+    }
+  }
+
+  void act(Stimulus& stimulus) {
+    if (!stimulus.area) {
+      randomize(*std::ranges::find(tokens_, stimulus.token, &TokenName::number));
+      return;
+    }
+    const u32 buttons = stimulus.area->area->mouse_flags & (MOUSE_LEFT | MOUSE_RIGHT);
+    const bool right = buttons == MOUSE_RIGHT || (buttons != MOUSE_LEFT && random(2) == 0);
+    sounds_of_click();  // what the frames asked for
+    const Aircraft was = aircraft;
+    host_.events.clear();
+    result_.gauges[stimulus.gauge].click(stimulus.name, right ? MOUSE_RIGHT : MOUSE_LEFT);
+    stimulus.sounds.insert(sounds_of_click());
+    for (const auto& [event, value] : host_.events) result_.events.insert(event);
+    Aircraft now = aircraft;
+    std::ranges::copy(was.sound_requests, now.sound_requests);
+    stimulus.heeded |= !host_.events.empty() || std::memcmp(&was, &now, sizeof was) != 0;
+  }
+
+  void note_move(Stimulus& stimulus, const Picture& before) {
+    const rig::Gauge& gauge = result_.gauges[stimulus.gauge];
+    const rig::NamedPart* part = stimulus.area ? part_of(gauge, stimulus.name) : nullptr;
+    if (part == nullptr) return;
+    stimulus.moves.emplace(before[static_cast<std::size_t>(part - gauge.parts().data())].first,
+                           gauge.value(*part));
+  }
+
+  /// Notes what the stimulus changed; what moves by itself says nothing.
+  void compare(Stimulus& stimulus, const rig::Gauge& gauge, const Picture& idle,
+               const Picture& before) {
+    const Picture after = picture(gauge);
+    for (std::size_t i = 0; i < after.size(); ++i) {
+      const rig::NamedPart& part = gauge.parts()[i];
+      const Place place{gauge.header().name, part.name};
+      if (part.element->kind == ELEMENT_ICON) result_.shown[place].insert(after[i].first);
+      if (idle[i] == before[i] && before[i] != after[i]) stimulus.changed.insert(place);
+    }
+  }
+
+  rig::Host host_;
+  std::mt19937_64 bits_{1};
+  const std::vector<TokenName> tokens_ = token_names();
+  bool whole_cockpit_ = true;
+  Result result_;
+};
+
+/// What a name says of sides: of "system_2_engine_1_pump" {"system", 2} and {"engine", 1}. Left and A
+/// are 1, right and B are 2.
+std::map<std::string, int> sides_of(const std::string& name) {
+  std::map<std::string, int> sides;
+  std::istringstream words(name);
+  std::string word, before = "side";
+  while (std::getline(words, word, '_')) {
+    const std::string one_two[] = {"1", "left", "a", "2", "right", "b"};
+    const auto found = std::ranges::find(one_two, word);
+    if (found != std::end(one_two)) sides[before] = found - one_two < 3 ? 1 : 2;
+    before = word == "left" || word == "right" ? before : word;
+  }
+  return sides;
+}
+
+}  // namespace
+
+std::string Stimulus::text() const {
+  return std::string(result().gauges[gauge].header().name) + ' ' + name;
+}
+
+const Stimulus* Result::find(std::string_view gauge, std::string_view name) const {
+  const auto found = std::ranges::find_if(stimuli, [&](const Stimulus& s) {
+    return gauges[s.gauge].header().name == gauge && s.name == name;
+  });
+  return found != stimuli.end() ? &*found : nullptr;
+}
+
+const Result& result() {
+  static const Result all = Walk().run();
+  return all;
+}
+
+const rig::NamedPart* part_of(const rig::Gauge& gauge, std::string_view control) {
+  static const std::map<std::string, std::string> other_names{
+      {"landing_lights_levers", "left_landing_light_lever"},
+      {"cabin_altitude_knob_down", "selected_cabin_altitude"},
+      {"cabin_altitude_knob_up", "selected_cabin_altitude"},
+  };
+  std::string name(control);
+  if (const auto other = other_names.find(name); other != other_names.end()) name = other->second;
+  while (true) {
+    const auto part = std::ranges::find(gauge.parts(), name, &rig::NamedPart::name);
+    if (part != gauge.parts().end()) return &*part;
+    if (name.find('_') == std::string::npos) return nullptr;
+    name.erase(name.rfind('_'));
+  }
+}
+
+std::string mirrored(const std::string& name) {
+  if (sides_of(name).size() != 1) return "";
+  constexpr std::pair<const char*, const char*> pairs[] = {
+      {"1", "2"}, {"2", "1"}, {"left", "right"}, {"right", "left"}, {"a", "b"}, {"b", "a"}};
+  std::istringstream words(name);
+  std::string word, other;
+  while (std::getline(words, word, '_')) {
+    for (const auto& [one, two] : pairs) {
+      if (word == one) {
+        word = two;
+        break;
+      }
+    }
+    other += (other.empty() ? "" : "_") + word;
+  }
+  return other;
+}
+
+bool opposite(const std::string& one, const std::string& two) {
+  const std::map<std::string, int> a = sides_of(one), b = sides_of(two);
+  if (a.size() == 1 && b.size() == 1) return a.begin()->second != b.begin()->second;
+  return std::ranges::any_of(a, [&](const auto& side) {
+    const auto same = b.find(side.first);
+    return same != b.end() && same->second != side.second;
+  });
+}
+
+}  // namespace walk
