@@ -12,40 +12,20 @@ namespace {
 
 using namespace tarnvale;
 
-struct TokenName {
+struct Token {
   u32 number;
   const char* name;
-  f64 low, high;  ///< that it takes in flight
+  bool on_off;
 };
 
-/// The range of a token by its unit.
-std::pair<f64, f64> range_of(std::string_view unit) {
-  constexpr std::pair<std::string_view, std::pair<f64, f64>> ranges[] = {
-      {"0/1", {0, 1}},
-      {"percent", {0, 110}},
-      {"feet", {0, 42000}},
-      {"feet/minute", {-5000, 5000}},
-      {"hectopascals", {950, 1050}},
-      {"amperes, discharge negative", {-100, 100}},
-      {"meter divisions", {0, 90}},
-  };
-  for (const auto& [name, range] : ranges) {
-    if (name == unit) return range;
-  }
-  return {0, 16384};
-}
-
-std::vector<TokenName> token_names() {
-  std::vector<TokenName> names;
-#define TOKEN(number, name, unit) \
-  names.push_back({number, #name, range_of(unit).first, range_of(unit).second});
+/// All but the clock.
+constexpr Token tokens[] = {
+#define TOKEN(number, name, unit) {number, #name, std::string_view(unit) == "0/1"},
 #define EVENT(number, name)
 #include "module/tokens.inc"
 #undef TOKEN
 #undef EVENT
-  std::erase_if(names, [](const TokenName& t) { return t.number == token::clock_seconds; });
-  return names;
-}
+};
 
 /// What a gauge shows: the values of its parts and the letters of its texts.
 using Picture = std::vector<std::pair<f64, std::string>>;
@@ -75,7 +55,7 @@ class Walk {
     host_.follows = true;
     result_.gauges = rig::built_gauges();
     list_stimuli();
-    for (const TokenName& token : tokens_) randomize(token);
+    for (const Token& token : tokens) randomize(token);
     for (int step = 0; step < 30000; ++step) {
       whole_cockpit_ = step % 5 == 0;
       change_surroundings();
@@ -88,9 +68,10 @@ class Walk {
  private:
   std::size_t random(std::size_t below) { return static_cast<std::size_t>(bits_() % below); }
 
-  void randomize(const TokenName& token) {
-    const f64 whole = static_cast<f64>(random(static_cast<std::size_t>(token.high - token.low) + 1));
-    host_.tokens[token.number] = token.low + whole;
+  void randomize(const Token& token) {
+    constexpr f64 values[] = {0, 1, 5, 9, 12, 30, 60, 75, 84, 110, 3000, 9000, 22000, 40000};
+    if (token.number == token::clock_seconds) return;
+    host_.tokens[token.number] = values[random(token.on_off ? 2 : std::size(values))];
   }
 
   void list_stimuli() {
@@ -101,8 +82,8 @@ class Walk {
       }
       host_.looked_up.clear();
       gauge.frame();
-      for (const TokenName& token : tokens_) {
-        if (!host_.looked_up.contains(token.number)) continue;
+      for (const Token& token : tokens) {
+        if (!host_.looked_up.contains(token.number) || token.number == token::clock_seconds) continue;
         result_.stimuli.push_back({.gauge = g, .token = token.number, .name = token.name});
       }
     }
@@ -111,7 +92,7 @@ class Walk {
   /// Time passes, so that what was held is over, and now and then something else has happened.
   void change_surroundings() {
     host_.tokens[token::clock_seconds] += 10;
-    if (random(4) == 0) randomize(tokens_[random(tokens_.size())]);
+    if (random(4) == 0) randomize(tokens[random(std::size(tokens))]);
     if (random(2) == 0) host_.tokens[token::battery] = 1;
     if (random(16) == 0) aircraft.ground_power_connected = static_cast<u32>(random(2));
   }
@@ -147,7 +128,7 @@ class Walk {
 
   void act(Stimulus& stimulus) {
     if (!stimulus.area) {
-      randomize(*std::ranges::find(tokens_, stimulus.token, &TokenName::number));
+      randomize(*std::ranges::find(tokens, stimulus.token, &Token::number));
       return;
     }
     const u32 buttons = stimulus.area->area->mouse_flags & (MOUSE_LEFT | MOUSE_RIGHT);
@@ -185,7 +166,6 @@ class Walk {
 
   rig::Host host_;
   std::mt19937_64 bits_{1};
-  const std::vector<TokenName> tokens_ = token_names();
   bool whole_cockpit_ = true;
   Result result_;
 };

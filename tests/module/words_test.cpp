@@ -33,23 +33,10 @@ TEST(Words, ArePlainAndUnlikeAllOthersOfTheGauge) {
   }
 }
 
-/// Flags by day, and what the part does without electrical power: the action, or 0 for nothing.
-struct Kind {
-  u32 flags, failure;
-};
-bool operator==(const Kind& a, const Kind& b) { return a.flags == b.flags && a.failure == b.failure; }
-void PrintTo(const Kind& kind, std::ostream* out) {
-  *out << "flags " << kind.flags << ", without power " << kind.failure;
-}
-
+/// Flags by day, and what the part does without electrical power.
+using Kind = std::pair<u32, u32>;
 constexpr Kind lamp{0x7, FAILURE_HIDE}, by_hand{0x3, 0}, needle{0x83, FAILURE_ZERO},
     electric_picture{0x3, FAILURE_HIDE};
-
-Kind kind_of(const Element& e) {
-  constexpr u32 electrical = 20;
-  const bool fails = e.failures != nullptr && e.failures->key == electrical;
-  return {e.image_flags, fails ? e.failures->action : 0};
-}
 
 /// A lamp shines by itself and goes dark without power; what a hand moves does neither.
 TEST(Words, SayWhetherAPartShinesAndWhatItDoesWithoutPower) {
@@ -64,7 +51,7 @@ TEST(Words, SayWhetherAPartShinesAndWhatItDoesWithoutPower) {
       if (e.kind == ELEMENT_ICON && part.name != "instrument_lighting") {
         expected = shines || lit_buttons.contains(text) ? lamp : by_hand;
       }
-      EXPECT_EQ(kind_of(e), expected) << text;
+      EXPECT_EQ(Kind(e.image_flags, e.failures != nullptr ? e.failures->action : 0), expected) << text;
     }
   }
 }
