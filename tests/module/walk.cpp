@@ -27,14 +27,16 @@ constexpr Token tokens[] = {
 #undef EVENT
 };
 
-/// What a gauge shows: the values of its parts and the letters of its texts.
-using Picture = std::vector<std::pair<f64, std::string>>;
+/// What a gauge shows: the values of its parts, and of a text the letters as a number.
+using Picture = std::vector<f64>;
 
 Picture picture(const rig::Gauge& gauge) {
   Picture all;
   for (const rig::NamedPart& part : gauge.parts()) {
-    const bool text = part.element->kind == ELEMENT_STRING;
-    all.emplace_back(gauge.value(part), text ? part.element->string.text : "");
+    const Element& e = *part.element;
+    const bool text = e.kind == ELEMENT_STRING;
+    all.push_back(text ? static_cast<f64>(std::hash<std::string_view>()(e.string.text) >> 12)
+                       : gauge.value(part));
   }
   return all;
 }
@@ -50,16 +52,16 @@ std::string sounds_of_click() {
 }
 
 class Walk {
+  static constexpr int rounds = 60, steps_a_stimulus = 4;
+
  public:
   Result run() {
     host_.follows = true;
     result_.gauges = rig::built_gauges();
     list_stimuli();
     for (const Token& token : tokens) randomize(token);
-    for (int step = 0; step < 30000; ++step) {
-      whole_cockpit_ = step % 5 == 0;
-      change_surroundings();
-      stimulate(result_.stimuli[random(result_.stimuli.size())]);
+    for (int round = 0; round < rounds; ++round) {
+      for (std::size_t g = 0; g < result_.gauges.size(); ++g) visit(g);
     }
     result_.tokens = host_.looked_up;
     return std::move(result_);
@@ -67,6 +69,19 @@ class Walk {
 
  private:
   std::size_t random(std::size_t below) { return static_cast<std::size_t>(bits_() % below); }
+
+  /// Stays with a gauge long enough for its guards to be opened and its selectors to be turned far.
+  void visit(std::size_t gauge) {
+    std::vector<Stimulus*> own;
+    for (Stimulus& stimulus : result_.stimuli) {
+      if (stimulus.gauge == gauge) own.push_back(&stimulus);
+    }
+    for (std::size_t step = 0; step < own.size() * steps_a_stimulus; ++step) {
+      whole_cockpit_ = random(9) == 0;
+      change_surroundings();
+      stimulate(*own[random(own.size())]);
+    }
+  }
 
   void randomize(const Token& token) {
     constexpr f64 values[] = {0, 1, 5, 9, 12, 30, 60, 75, 84, 110, 3000, 9000, 22000, 40000};
@@ -92,6 +107,7 @@ class Walk {
   /// Time passes, so that what was held is over, and now and then something else has happened.
   void change_surroundings() {
     host_.tokens[token::clock_seconds] += 10;
+    aircraft.start_air_available = 0;  // a start would move its switches by itself
     if (random(4) == 0) randomize(tokens[random(std::size(tokens))]);
     if (random(2) == 0) host_.tokens[token::battery] = 1;
     if (random(16) == 0) aircraft.ground_power_connected = static_cast<u32>(random(2));
@@ -106,7 +122,7 @@ class Walk {
   }
 
   void stimulate(Stimulus& stimulus) {
-    constexpr int settling = 4;  // frames until what one gauge has changed is seen on all others
+    constexpr int settling = 3;  // frames until what one gauge has changed is seen on all others
     const std::vector<rig::Gauge*> gauges = watched(stimulus.gauge);
     std::vector<Picture> idle, before;
     run(gauges, settling);
@@ -148,8 +164,7 @@ class Walk {
     const rig::Gauge& gauge = result_.gauges[stimulus.gauge];
     const rig::NamedPart* part = stimulus.area ? part_of(gauge, stimulus.name) : nullptr;
     if (part == nullptr) return;
-    stimulus.moves.emplace(before[static_cast<std::size_t>(part - gauge.parts().data())].first,
-                           gauge.value(*part));
+    stimulus.moves.emplace(before[part->index - 1], gauge.value(*part));
   }
 
   /// Notes what the stimulus changed; what moves by itself says nothing.
@@ -159,7 +174,7 @@ class Walk {
     for (std::size_t i = 0; i < after.size(); ++i) {
       const rig::NamedPart& part = gauge.parts()[i];
       const Place place{gauge.header().name, part.name};
-      if (part.element->kind == ELEMENT_ICON) result_.shown[place].insert(after[i].first);
+      if (part.element->kind == ELEMENT_ICON) result_.shown[place].insert(after[i]);
       if (idle[i] == before[i] && before[i] != after[i]) stimulus.changed.insert(place);
     }
   }

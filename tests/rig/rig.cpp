@@ -58,18 +58,13 @@ constexpr PanelServices services{no_root,          no_root_argument, no_root, no
                                  no_root_argument, no_root,          no_root, toggle,
                                  take_event,       look_up,          close,   open};
 
-/// A value of an element: its source and its routine.
-struct Reading {
-  TokenVariable* source;
-  ValueRoutine routine;
-};
-
 /// In the host's order. A string has a second source and one routine.
 std::vector<Reading> readings(Element& e) {
   switch (e.kind) {
     case ELEMENT_ICON: return {{&e.icon.source, e.icon.value}};
     case ELEMENT_NEEDLE: return {{&e.needle.source, e.needle.value}};
-    case ELEMENT_STRING: return {{&e.string.source[0], e.string.value}, {&e.string.source[1], nullptr}};
+    case ELEMENT_STRING:
+      return {{&e.string.source[0], e.string.value}, {&e.string.source[1], nullptr, false}};
     case ELEMENT_SLIDER:
       return {{&e.slider.x_source, e.slider.x_value}, {&e.slider.y_source, e.slider.y_value}};
     case ELEMENT_MOVING_IMAGE:
@@ -83,16 +78,14 @@ std::vector<Reading> readings(Element& e) {
   }
 }
 
-/// Takes an element's values and gives the sum: all but one stand still in most parts.
-f64 evaluate(Element& e) {
-  const std::vector<Reading> all = readings(e);
+/// Takes an element's values and gives their sum: all but one stand still in most parts.
+f64 evaluate(Element* e, const std::vector<Reading>& all) {
   for (const Reading& r : all) {
     if (r.source->token != 0) look_up(r.source);
   }
   f64 sum = 0;
   for (const Reading& r : all) {
-    const bool second_source = e.kind == ELEMENT_STRING && r.source == &e.string.source[1];
-    if (!second_source) sum += r.routine != nullptr ? r.routine(&e) : r.source->value;
+    if (r.evaluated) sum += r.routine != nullptr ? r.routine(e) : r.source->value;
   }
   return sum;
 }
@@ -142,7 +135,8 @@ Gauge::Gauge(const GaugeHeader& header)
       chain_(chain_of(header)),
       covered_by_(chain_.size()),
       values_(chain_.size()) {
-  for (std::size_t i = 1; i < chain_.size(); ++i) {
+  for (std::size_t i = 0; i < chain_.size(); ++i) {
+    readings_.push_back(readings(*chain_[i]));
     for (std::size_t later = i + 1; later < chain_.size(); ++later) {
       if (is_copy(*chain_[later], *chain_[i])) covered_by_[i] = later;
     }
@@ -159,7 +153,7 @@ void Gauge::frame(int count) {
     const std::size_t shown = std::ranges::find_if(chain_, hides_chain) - chain_.begin();
     const auto covered = [&](std::size_t i) { return covered_by_[i] != 0 && covered_by_[i] < shown; };
     for (std::size_t i = 1; i < shown; ++i) {
-      if (!covered(i)) values_[i] = evaluate(*chain_[i]);
+      if (!covered(i)) values_[i] = evaluate(chain_[i], readings_[i]);
     }
     for (std::size_t i = 1; i < shown; ++i) {
       if (covered(i)) values_[i] = values_[covered_by_[i]];

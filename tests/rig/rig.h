@@ -42,6 +42,13 @@ class Host {
   bool follows = false;
 };
 
+/// A value of an element: its source and its routine.
+struct Reading {
+  TokenVariable* source;
+  ValueRoutine routine;  ///< null: the value is the source's
+  bool evaluated = true;
+};
+
 /// A running gauge of the module.
 class Gauge {
  public:
@@ -73,6 +80,7 @@ class Gauge {
   std::vector<NamedPart> parts_;
   std::vector<NamedArea> areas_;
   std::vector<Element*> chain_;
+  std::vector<std::vector<Reading>> readings_;
   std::vector<std::size_t> covered_by_;  ///< a later copy of each element, or 0
   std::vector<f64> values_;
 };
