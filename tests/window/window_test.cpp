@@ -190,7 +190,14 @@ class TallyInAWindow : public InAWindow {
     return {2 * (100 + x) + 1, 2 * (120 + y) + 1 - scrolled};
   }
 
-  std::string told() const { return file_text(folder / "log"); }
+  // The areas' lines, without the host's own notes.
+  std::string told() const {
+    std::istringstream log(file_text(folder / "log"));
+    std::string lines;
+    for (std::string line; std::getline(log, line);)
+      if (!line.starts_with("warning: ")) lines += line + "\n";
+    return lines;
+  }
   bool tells(const std::string& text) {
     return eventually([&] { return told() == text; });
   }
