@@ -122,7 +122,7 @@ class Walk {
   }
 
   void stimulate(Stimulus& stimulus) {
-    constexpr int settling = 3;  // frames until what one gauge has changed is seen on all others
+    constexpr int settling = 2;  // frames until what one gauge has changed is seen on all others
     const std::vector<rig::Gauge*> gauges = watched(stimulus.gauge);
     std::vector<Picture> idle, before;
     run(gauges, settling);
