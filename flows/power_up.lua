@@ -88,10 +88,11 @@ press("Ctr", "generator_1_switch_up")
 press("Ctr", "generator_2_switch_up")
 wait(2)
 for side = 1, 2 do
-  local generator, drive = "generator_" .. side, "drive_" .. side
+  local generator, oil = "generator_" .. side, "drive_" .. side .. "_oil_temperature"
+  local load = generator .. "_load"
   expect(image("Ctr", generator .. "_lamp") == 0, generator .. " is off its bus")
-  expect_near(value("Acload", generator .. "_load"), token(generator .. "_load"), 1, generator .. "'s load")
-  expect(value("Gendrive", drive .. "_oil_temperature") > 1000, drive .. " is as cold as one that stands")
+  expect_near(value("Acload", load), token(load), 1, load)
+  expect(value("Gendrive", oil) > 1000, oil .. " is that of a standing drive")
 end
 press("Ctr", "bus_transfer_switch")
 expect(image("Ctr", "bus_transfer_switch") == 0, "the bus transfer switch moves under its guard")

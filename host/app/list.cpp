@@ -92,6 +92,8 @@ void list_sounds(const CockpitOptions& options) {
 
 int list(const ListOptions& options) {
   const CockpitOptions cockpit = located(options.cockpit);
+  if (!options.gauge.empty() && options.what != "names")
+    throw std::runtime_error("only names can be listed for one gauge, not " + options.what);
   if (options.what == "gauges") list_gauges(cockpit);
   if (options.what == "names")
     std::fputs(list_names(GaugeModule(cockpit.module), options.gauge).c_str(), stdout);
