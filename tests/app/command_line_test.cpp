@@ -40,6 +40,7 @@ class BadInput : public testing::TestWithParam<Case> {
       folder.write("large/Tarnvale.GAU.names", std::string((1 << 20) + 1, '#'));
       std::filesystem::create_directories(folder / "odd/Tarnvale.GAU.names");
       std::filesystem::create_directory(folder / "nameless");
+      std::filesystem::create_directory_symlink(cockpit_dir / "Sound", folder / "nameless/Sound");
       for (const std::string place : {"nameless", "wrong", "large", "odd"})
         std::filesystem::create_symlink(module_file, folder / (place + "/Tarnvale.GAU"));
       std::filesystem::create_directory(folder / "closed");

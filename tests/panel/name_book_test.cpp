@@ -85,7 +85,9 @@ TEST_F(NamesFile, AWrongLineIsToldWithItsNumberAndLeftOut) {
       {"Panel\t\telement 1\tX", "'' is no name: small letters, digits and underscores, at most 64"},
       {"Panel\t" + many + "\telement 1\tX",
        "'" + many + "' is no name: small letters, digits and underscores, at most 64"},
-      {"Panel\tx\telement 1\t\x01\x80", "'??' are no words: 1 to 80 characters that can be printed"},
+      {"Panel\tx\telement 1\t\x01\x80",
+       "'?"
+       "?' are no words: 1 to 80 characters that can be printed"},
       {"Panel\tx\telement\tX", "'element' is no place: element N or box X,Y,WIDTH,HEIGHT"},
       {"Panel\tx\telement 0\tX", "0 is outside 1 to 4096"},
       {"Panel\tx\telement 3\tX", "the gauge has no element 3"},
