@@ -94,22 +94,26 @@ class CommandLine {
   void add_show() {
     CLI::App* sub = add("show", "Draw gauges, in a window or into a file", show_, show);
     add_cockpit(sub, show_.cockpit);
-    sub->add_option("gauges", show_.gauges, "Names of gauges")->required();
+    sub->add_option("gauges", show_.gauges, "Names of gauges, or a window's ident")->required();
     sub->add_option("--zoom", show_.deck.zoom, "Size, 1 is the gauges' own")
         ->check(CLI::Range(0.1, 8.0));
     sub->add_option("--scale", show_.deck.scale, "Scale of the desktop")->check(CLI::Range(0.5, 8.0));
     sub->add_flag("--areas", show_.areas, "Outline the click areas");
     sub->add_flag("--night", show_.night, "With the panel lights on");
     sub->add_option("--set", show_.readings, "token=value, by name or number: hold a token variable");
-    sub->add_option("--png", show_.picture, "Write a picture to this file instead of opening a window");
+    CLI::Option* picture = sub->add_option("--png", show_.picture,
+                                           "Write a picture to this file instead of opening a window");
+    sub->add_flag("--labels", show_.labels, "Outline, number and name the click areas in the picture")
+        ->needs(picture);
   }
 
   void add_list() {
     CLI::App* sub = add("list", "List what the cockpit has", list_, list);
     add_cockpit(sub, list_.cockpit);
-    sub->add_option("what", list_.what, "gauges, windows, tokens, events or sounds")
+    sub->add_option("what", list_.what, "gauges, names, windows, tokens, events or sounds")
         ->required()
-        ->check(CLI::IsMember({"gauges", "windows", "tokens", "events", "sounds"}));
+        ->check(CLI::IsMember({"gauges", "names", "windows", "tokens", "events", "sounds"}));
+    sub->add_option("gauge", list_.gauge, "The gauge whose names to list; else all");
   }
 
   void add_check() {

@@ -1,5 +1,6 @@
 #include "host/app/commands.h"
 #include "host/app/installation.h"
+#include "host/app/lookup.h"
 #include "host/app/start_notes.h"
 #include "host/window/flight_deck.h"
 
@@ -12,6 +13,7 @@ int fly(const FlyOptions& options) {
   // A muted cockpit plays into a mix that nobody takes, so that its sound engine finds all well.
   prepare_platform(cockpit_options, options.mute ? PLATFORM_AUDIO_RENDERED : PLATFORM_AUDIO_DEVICE);
   Cockpit cockpit(module, read_panel_config(cockpit_options.panel), cockpit_options.rate);
+  say_notes(cockpit.names());
   for (std::uint32_t ident : options.open) {
     if (!cockpit.panels().find(ident))
       throw std::runtime_error("--open: there is no window " + std::to_string(ident));

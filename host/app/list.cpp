@@ -5,8 +5,9 @@
 #include "host/app/columns.h"
 #include "host/app/commands.h"
 #include "host/app/installation.h"
-#include "host/sound/wav_facts.h"
+#include "host/app/list_names.h"
 #include "host/panel/text.h"
+#include "host/sound/wav_facts.h"
 
 namespace host {
 namespace {
@@ -91,7 +92,11 @@ void list_sounds(const CockpitOptions& options) {
 
 int list(const ListOptions& options) {
   const CockpitOptions cockpit = located(options.cockpit);
+  if (!options.gauge.empty() && options.what != "names")
+    throw std::runtime_error("only names can be listed for one gauge, not " + options.what);
   if (options.what == "gauges") list_gauges(cockpit);
+  if (options.what == "names")
+    std::fputs(list_names(GaugeModule(cockpit.module), options.gauge).c_str(), stdout);
   if (options.what == "windows") list_windows(cockpit);
   if (options.what == "tokens") list_rows(AircraftModel::tokens());
   if (options.what == "events") list_rows(AircraftModel::events());

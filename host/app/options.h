@@ -35,9 +35,10 @@ struct RunOptions {
 
 struct ShowOptions {
   CockpitOptions cockpit;
-  std::vector<std::string> gauges;
-  DeckOptions deck;  ///< its zoom also for the file
+  std::vector<std::string> gauges;  ///< or the ident of one window
+  DeckOptions deck;                 ///< its zoom also for the file
   bool areas = false;
+  bool labels = false;  ///< only in a picture
   bool night = false;
   std::vector<std::string> readings;  ///< token=value
   std::filesystem::path picture;      ///< empty: a window
@@ -46,6 +47,7 @@ struct ShowOptions {
 struct ListOptions {
   CockpitOptions cockpit;
   std::string what;
+  std::string gauge;  ///< whose names; empty: all
 };
 
 }  // namespace host

@@ -7,6 +7,7 @@
 
 #include "host/app/commands.h"
 #include "host/app/installation.h"
+#include "host/app/lookup.h"
 #include "host/app/progress.h"
 #include "host/app/start_notes.h"
 #include "host/script/flow_api.h"
@@ -54,6 +55,7 @@ class FlowRun {
   ~FlowRun() { platform_on_message(nullptr, nullptr); }
 
   void fly() {
+    say_notes(cockpit_.names());
     LuaRunner runner;
     bind_flow_api(runner, session_);
     session_.frame();  // the cockpit stands before the person takes a seat

@@ -4,6 +4,8 @@
 
 #include "host/app/commands.h"
 #include "host/app/installation.h"
+#include "host/app/labelled_picture.h"
+#include "host/app/lookup.h"
 #include "host/app/start_notes.h"
 #include "host/panel/panel_picture.h"
 #include "host/window/flight_deck.h"
@@ -13,12 +15,6 @@ namespace {
 
 constexpr int gap = 12;          // panel pixels between the gauges
 constexpr int row_width = 1200;  // a row ends beyond this
-
-const GaugeHeader& find_gauge(const GaugeModule& module, const std::string& name) {
-  if (const GaugeHeader* gauge = module.find(name)) return *gauge;
-  throw std::runtime_error(module.file().filename().string() + " has no gauge '" + name +
-                           "'; see: tarnvale list gauges");
-}
 
 // A panel of one window, with the gauges in rows.
 PanelConfig shelf(const GaugeModule& module, const std::vector<std::string>& names) {
@@ -43,10 +39,31 @@ PanelConfig shelf(const GaugeModule& module, const std::vector<std::string>& nam
   return {"show", {window}};
 }
 
-std::uint32_t token_number(const std::string& name) {
+std::optional<std::uint32_t> as_number(const std::string& text) {
   std::uint32_t number = 0;
-  const auto [end, error] = std::from_chars(name.data(), name.data() + name.size(), number);
-  if (error == std::errc{} && end == name.data() + name.size()) return number;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+  if (error == std::errc{} && end == text.data() + text.size()) return number;
+  return std::nullopt;
+}
+
+// One window of the cockpit's own panel.
+PanelConfig panel_window(const std::filesystem::path& panel, std::uint32_t ident) {
+  PanelConfig config = read_panel_config(panel);
+  std::erase_if(config.windows,
+                [&](const WindowConfig& window) { return window.ident != ident || !window.drawn; });
+  if (config.windows.empty()) throw std::runtime_error("there is no window " + std::to_string(ident));
+  config.windows.front().visible = true;
+  return config;
+}
+
+PanelConfig panel_of(const GaugeModule& module, const ShowOptions& options,
+                     const std::filesystem::path& panel) {
+  const auto ident = options.gauges.size() == 1 ? as_number(options.gauges.front()) : std::nullopt;
+  return ident ? panel_window(panel, *ident) : shelf(module, options.gauges);
+}
+
+std::uint32_t token_number(const std::string& name) {
+  if (const auto number = as_number(name)) return *number;
   if (const TableRow* row = find_row(AircraftModel::tokens(), name)) return row->number;
   throw std::runtime_error("there is no token '" + name + "'; see: tarnvale list tokens");
 }
@@ -69,10 +86,11 @@ void set_up(Cockpit& cockpit, const ShowOptions& options) {
 
 void write_picture(Cockpit& cockpit, const ShowOptions& options) {
   PanelPicture picture(cockpit, 0, options.deck.zoom.value_or(1.0));
-  picture.mark_areas(options.areas);
+  picture.mark_areas(options.areas || options.labels);
   std::vector<Rect> changed;
   picture.draw(1.0, changed);
-  write_png(picture.canvas(), options.picture.string());
+  write_png(options.labels ? labelled_picture(cockpit, picture) : picture.canvas(),
+            options.picture.string());
 }
 
 }  // namespace
@@ -83,7 +101,8 @@ int show(const ShowOptions& options) {
   say_artwork_notes(module);
   const bool window = options.picture.empty();
   prepare_platform(located_options, window ? PLATFORM_AUDIO_DEVICE : PLATFORM_AUDIO_NONE);
-  Cockpit cockpit(module, shelf(module, options.gauges), located_options.rate);
+  Cockpit cockpit(module, panel_of(module, options, located_options.panel), located_options.rate);
+  say_notes(cockpit.names());
   set_up(cockpit, options);
   if (!window) {
     write_picture(cockpit, options);

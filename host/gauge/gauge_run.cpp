@@ -39,6 +39,12 @@ void GaugeRun::find_groups() {
   }
 }
 
+const ElementState* GaugeRun::showing(std::size_t index) const {
+  for (std::size_t i = index; i < slots_.size(); ++i)
+    if (slots_[i].group == slots_[index].group && now_[i].evaluated) return &now_[i];
+  return nullptr;
+}
+
 void GaugeRun::start(std::uintptr_t module_handle) {
   if (gauge_->service == nullptr) return;
   gauge_->service(gauge_, SERVICE_START, module_handle);

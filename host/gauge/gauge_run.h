@@ -34,6 +34,10 @@ class GaugeRun {
   std::span<const ElementState> now() const { return now_; }
   std::span<const ElementState> before() const { return before_; }
 
+  /// What the element with that number shows, or the copy that stands in for it now; null while they are
+  /// hidden, and for a number that the chain does not have.
+  const ElementState* showing(std::size_t index) const;
+
  private:
   struct Slot {
     std::size_t chain_end;  // the first slot that does not hang below this one

@@ -8,14 +8,6 @@
 namespace host {
 namespace {
 
-std::uint32_t color_of(const HotArea& area) {
-  if (area.cursor == CURSOR_INCREASE) return 0xFF35E07Au;
-  if (area.cursor == CURSOR_DECREASE) return 0xFFFF5B50u;
-  if (area.flags & MOUSE_DRAG) return 0xFFD07BFFu;
-  if (!(area.flags & MOUSE_LEFT)) return 0xFF54A8FFu;
-  return 0xFFFFD84Au;
-}
-
 void outline(Canvas& canvas, const Rect& box, int line, std::uint32_t color) {
   const int right = box.x + box.width, bottom = box.y + box.height;
   for (const Rect& side :
@@ -24,19 +16,32 @@ void outline(Canvas& canvas, const Rect& box, int line, std::uint32_t color) {
     fill_pixels(surface_of(canvas), intersection(side, whole_of(canvas)), color);
 }
 
+double zoom_of(PanelSize gauge, const Rect& place) {
+  return static_cast<double>(place.width) / std::max(1, gauge.width);
+}
+
 }  // namespace
 
-void draw_area_marks(Canvas& canvas, const HotAreas& areas, PanelSize gauge, const Rect& place) {
-  const double zoom = static_cast<double>(place.width) / std::max(1, gauge.width);
+std::uint32_t mark_color(const HotArea& area) {
+  if (area.cursor == CURSOR_INCREASE) return 0xFF35E07Au;
+  if (area.cursor == CURSOR_DECREASE) return 0xFFFF5B50u;
+  if (area.flags & MOUSE_DRAG) return 0xFFD07BFFu;
+  if (!(area.flags & MOUSE_LEFT)) return 0xFF54A8FFu;
+  return 0xFFFFD84Au;
+}
+
+Rect mark_place(const Box& box, PanelSize gauge, const Rect& place) {
+  const double zoom = zoom_of(gauge, place);
   const auto pixels = [&](std::int64_t length) {
     return static_cast<int>(std::lround(static_cast<double>(length) * zoom));
   };
-  const int line = std::max(1, static_cast<int>(zoom));
+  return {place.x + pixels(box.x), place.y + pixels(box.y), pixels(box.width), pixels(box.height)};
+}
+
+void draw_area_marks(Canvas& canvas, const HotAreas& areas, PanelSize gauge, const Rect& place) {
+  const int line = std::max(1, static_cast<int>(zoom_of(gauge, place)));
   for (const HotArea& area : areas.areas())
-    outline(canvas,
-            {place.x + pixels(area.box.x), place.y + pixels(area.box.y), pixels(area.box.width),
-             pixels(area.box.height)},
-            line, color_of(area));
+    outline(canvas, mark_place(area.box, gauge, place), line, mark_color(area));
 }
 
 }  // namespace host

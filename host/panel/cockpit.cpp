@@ -6,7 +6,11 @@
 
 namespace host {
 Cockpit::Cockpit(GaugeModule& module, PanelConfig config, double rate)
-    : module_(module), config_(std::move(config)), panels_(config_), rate_(rate) {
+    : module_(module),
+      names_(read_names(module)),
+      config_(std::move(config)),
+      panels_(config_),
+      rate_(rate) {
   for (const WindowConfig& window : config_.windows) place_gauges(window);
   set_service_target(this);
   module_.connect(panel_services());
@@ -44,7 +48,8 @@ CockpitGauge& Cockpit::gauge_for(const Placement& placement) {
   if (size.width < 1 || size.height < 1)
     throw ConfigError(at_line(config_.file, placement.line,
                               std::string(header->name) + " has no background picture"));
-  CockpitGauge& gauge = *gauges_.emplace_back(std::make_unique<CockpitGauge>(*header, size));
+  CockpitGauge& gauge =
+      *gauges_.emplace_back(std::make_unique<CockpitGauge>(*header, size, names_.of(*header)));
   gauge.run.set_frame_seconds(1.0 / rate_);
   return gauge;
 }

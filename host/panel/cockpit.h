@@ -12,6 +12,7 @@
 #include "host/loader/gauge_module.h"
 #include "host/panel/aircraft_tokens.h"
 #include "host/panel/hot_areas.h"
+#include "host/panel/name_book.h"
 #include "host/panel/panel_config.h"
 #include "host/panel/panel_set.h"
 #include "host/panel/services.h"
@@ -20,14 +21,15 @@ namespace host {
 
 /// One gauge of the cockpit. It runs once a frame, in however many open windows it stands.
 struct CockpitGauge {
-  CockpitGauge(const GaugeHeader& gauge, PanelSize background)
-      : run(gauge), areas(gauge.mouse_areas), size(background) {}
+  CockpitGauge(const GaugeHeader& gauge, PanelSize background, const GaugeNames& gauge_names)
+      : run(gauge), areas(gauge.mouse_areas), size(background), names(gauge_names) {}
 
   const GaugeHeader& header() const { return run.gauge(); }
 
   GaugeRun run;
   HotAreas areas;
   PanelSize size;  ///< of its background
+  const GaugeNames& names;
   bool started = false;
   std::uint64_t frame = 0;    ///< the cockpit's frame that it last ran in
   bool moving = false;        ///< something it shows has changed with that frame
@@ -76,6 +78,7 @@ class Cockpit : private ServiceTarget {
   PanelSet& panels() { return panels_; }
   const PanelSet& panels() const { return panels_; }
   const PanelConfig& config() const { return config_; }
+  const NameBook& names() const { return names_; }
   const GaugeModule& module() const { return module_; }
   const std::vector<CockpitWindow>& windows() const { return windows_; }
 
@@ -106,6 +109,7 @@ class Cockpit : private ServiceTarget {
   void run(CockpitGauge& gauge);
 
   GaugeModule& module_;
+  NameBook names_;
   PanelConfig config_;
   PanelSet panels_;
   AircraftModel aircraft_;

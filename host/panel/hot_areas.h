@@ -21,6 +21,12 @@ struct Box {
   bool contains(PanelPoint point) const {
     return point.x >= x && point.x - x < width && point.y >= y && point.y - y < height;
   }
+
+  PanelPoint middle() const {
+    return {static_cast<i32>(x + width / 2), static_cast<i32>(y + height / 2)};
+  }
+
+  bool operator==(const Box&) const = default;
 };
 
 /// One click area, placed on the gauge.

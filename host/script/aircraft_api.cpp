@@ -1,22 +1,15 @@
 #include <algorithm>
 
 #include "host/script/flow_api.h"
+#include "host/script/nearest.h"
 
 namespace host {
 namespace {
 
-// The name that begins most like a mistaken one, for the person who mistyped it.
 std::string suggestion(std::span<const TableRow> rows, std::string_view name) {
-  std::string_view best;
-  std::size_t longest = 3;
-  for (const TableRow& row : rows) {
-    const auto [end, unused] = std::ranges::mismatch(row.name, name);
-    const auto common = static_cast<std::size_t>(end - row.name.begin());
-    if (common <= longest) continue;
-    longest = common;
-    best = row.name;
-  }
-  return best.empty() ? "" : "; did you mean " + std::string(best) + "?";
+  std::vector<std::string_view> names;
+  for (const TableRow& row : rows) names.push_back(row.name);
+  return did_you_mean(name, names);
 }
 
 std::uint32_t number_of(const LuaCall& call, int index, const char* what,

@@ -1,10 +1,12 @@
 /// The functions that flows call.
 ///
-/// Gestures. A spot is a pixel of a gauge's background: click("Masterbat", 47, 99), or a control with
-/// a name of the flow's own: local battery = {"Masterbat", 47, 99}, then click(battery).
+/// Gestures. A spot is a control, click("Masterbat", "battery_switch"), or a pixel of a gauge's
+/// background, click("Masterbat", 47, 99); either may have a name of the flow's own:
+/// local battery = {"Masterbat", "battery_switch"}, then click(battery).
 ///     click(spot)  right_click(spot)  hold(spot, seconds)  right_hold(spot, seconds)
 ///     drag(spot, x, y [, seconds])    to another pixel of the same gauge
-///     wheel(spot, notches)            away from the person is positive
+///     wheel(spot, notches)            away from the person is positive; a control's name without the
+///                                     _up and _down of its halves will do
 ///
 /// Time.
 ///     wait(seconds)  now()
@@ -14,10 +16,14 @@
 ///     token(which)  set_token(which, value)  release_token(which)
 ///     event(which [, value])  fail(key)  repair(key)
 ///
-/// What the cockpit shows. `nth` counts the elements with that bitmap in the gauge, from 1.
-///     image(gauge, bitmap [, nth])         the image of an icon, from 0; nil while it shows nothing
-///     value(gauge, bitmap [, nth [, axis]])  what a needle or another moving part shows
-///     text(gauge [, nth])                  what a text field shows
+/// What the cockpit shows. A part goes by its name, or by a bitmap and `nth`, which counts the elements
+/// with that bitmap in the gauge from 1.
+///     image(gauge, part)          image(gauge, bitmap [, nth])
+///         the image of an icon, from 0; nil while it shows nothing
+///     value(gauge, part [, axis])  value(gauge, bitmap [, nth [, axis]])
+///         what a needle or another moving part shows
+///     text(gauge, part)           text(gauge [, nth])
+///         what a text field shows
 ///     events()     the key events since the last gesture: {number=, name=, value=, seconds=}
 ///     messages()   the texts that the module has shown in message boxes
 ///     sound_level(seconds)                 of the last part of the sound, 0 to 1

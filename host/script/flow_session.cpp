@@ -10,7 +10,13 @@ namespace host {
 namespace {
 
 std::string place_name(const Spot& spot) {
+  if (!spot.control.empty()) return spot.control + " of " + spot.gauge;
   return std::to_string(spot.point.x) + "," + std::to_string(spot.point.y) + " of " + spot.gauge;
+}
+
+// A control that lies under another one is not worked by mistake for it.
+bool is_reached(const CockpitGauge& gauge, const Spot& spot, std::uint32_t button) {
+  return !spot.area || gauge.areas.at(spot.point, button) == spot.area;
 }
 
 }  // namespace
@@ -50,7 +56,7 @@ CockpitGauge& FlowSession::begin_gesture(const Spot& spot) {
 }
 
 void FlowSession::press(CockpitGauge& gauge, const Spot& spot, std::uint32_t button) {
-  if (!pointer_.press(gauge.areas, spot.point, button, seconds()))
+  if (!is_reached(gauge, spot, button) || !pointer_.press(gauge.areas, spot.point, button, seconds()))
     throw std::runtime_error("nothing answers the " +
                              std::string(button == MOUSE_LEFT ? "left" : "right") + " button at " +
                              place_name(spot));
@@ -81,7 +87,8 @@ void FlowSession::drag(const Spot& spot, PanelPoint to, double duration) {
 void FlowSession::wheel(const Spot& spot, int notches) {
   CockpitGauge& gauge = begin_gesture(spot);
   for (int i = 0; i < std::abs(notches); ++i) {
-    if (!Pointer::wheel(gauge.areas, spot.point, notches > 0 ? 1 : -1))
+    if (!is_reached(gauge, spot, MOUSE_LEFT) ||
+        !Pointer::wheel(gauge.areas, spot.point, notches > 0 ? 1 : -1))
       throw std::runtime_error("the wheel works nothing at " + place_name(spot));
     wait(1.0 / cockpit_.rate());
   }

@@ -17,6 +17,8 @@ namespace host {
 struct Spot {
   std::string gauge;
   PanelPoint point;
+  std::string control;            ///< its name; empty: whatever is there
+  const HotArea* area = nullptr;  ///< with a name: the one that the gesture is meant for
 };
 
 /// What surrounds the flow.

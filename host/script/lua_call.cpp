@@ -2,6 +2,7 @@
 
 #include <lua.hpp>
 
+#include <algorithm>
 #include <cmath>
 #include <stdexcept>
 
@@ -24,6 +25,7 @@ bool LuaCall::is_number(int index) const {
   return has(index) && lua_type(state_, index) == LUA_TNUMBER;
 }
 bool LuaCall::is_table(int index) const { return has(index) && lua_istable(state_, index); }
+bool LuaCall::is_text(int index) const { return has(index) && lua_type(state_, index) == LUA_TSTRING; }
 
 double LuaCall::number(int index, const char* what) const {
   if (!is_number(index)) wrong(index, what, "a number");
@@ -54,7 +56,7 @@ std::uint32_t LuaCall::key(int index, const char* what) const {
 }
 
 std::string LuaCall::text(int index, const char* what) const {
-  if (!has(index) || lua_type(state_, index) != LUA_TSTRING) wrong(index, what, "a text");
+  if (!is_text(index)) wrong(index, what, "a text");
   std::size_t size = 0;
   const char* text = lua_tolstring(state_, index, &size);
   return {text, size};
@@ -75,7 +77,8 @@ std::string LuaCall::shown(int index) const {
   return result;
 }
 
-void LuaCall::unpack(int index, int size) {
+void LuaCall::unpack(int index, int most) {
+  const int size = static_cast<int>(std::min<lua_Unsigned>(lua_rawlen(state_, index), most));
   luaL_checkstack(state_, size, nullptr);
   for (int i = 1; i <= size; ++i) {
     lua_rawgeti(state_, index + i - 1, i);

@@ -20,6 +20,7 @@ class LuaCall {
   bool has(int index) const;
   bool is_number(int index) const;
   bool is_table(int index) const;
+  bool is_text(int index) const;
 
   double number(int index, const char* what) const;
   double number_or(int index, const char* what, double fallback) const;
@@ -31,9 +32,9 @@ class LuaCall {
   bool truth(int index) const;         ///< false for nil, false and nothing
   std::string shown(int index) const;  ///< any value as a person reads it
 
-  /// Replaces the table at `index` by its first `size` fields, so that control = {"Name", x, y}
-  /// can stand for its parts.
-  void unpack(int index, int size);
+  /// Replaces the table at `index` by its fields, at most `most`, so that control = {"Name", x, y} can
+  /// stand for its parts.
+  void unpack(int index, int most);
 
   /// Calls the function at `index` without arguments and returns whether it gave something true.
   bool ask(int index, const char* what) const;

@@ -2,6 +2,7 @@
 #include <cmath>
 
 #include "host/script/flow_api.h"
+#include "host/script/named_things.h"
 
 namespace host {
 namespace {
@@ -21,7 +22,14 @@ CockpitGauge& gauge_that_ran(LuaCall& call, FlowSession& session) {
   return gauge;
 }
 
-const ElementState& element_argument(LuaCall& call, FlowSession& session) {
+// An element of a gauge as the call names it.
+struct ElementArgument {
+  const ElementState* state;  // null while it is hidden
+  std::string what;
+  int next;  // the argument behind it
+};
+
+ElementArgument nth_argument(LuaCall& call, FlowSession& session) {
   CockpitGauge& gauge = gauge_that_ran(call, session);
   const int bitmap = call.whole(2, "bitmap");
   const int nth = call.whole_or(3, "nth", 1);
@@ -30,32 +38,54 @@ const ElementState& element_argument(LuaCall& call, FlowSession& session) {
   if (!state)
     throw std::runtime_error(call.text(1, "gauge") + " shows no element " + std::to_string(nth) +
                              " with bitmap " + std::to_string(bitmap));
-  return *state;
+  return {state, "that element", 4};
+}
+
+ElementArgument element_argument(LuaCall& call, FlowSession& session) {
+  if (!call.is_text(2)) return nth_argument(call, session);
+  const std::string gauge = call.text(1, "gauge"), part = call.text(2, "part");
+  return {named_part(session, gauge, part), part + " of " + gauge, 3};
 }
 
 void give_image(LuaCall& call, FlowSession& session) {
-  const ElementState& state = element_argument(call, session);
-  if (state.element->kind != ELEMENT_ICON) throw std::runtime_error("that element is not an icon");
-  const double value = state.values[0];
-  if (!state.drawn || std::isnan(value) || value <= -1) return call.give_nothing();
-  const double last = std::max(1.0, static_cast<double>(state.element->icon.image_count)) - 1;
+  const auto [state, what, next] = element_argument(call, session);
+  if (!state) return call.give_nothing();
+  if (state->element->kind != ELEMENT_ICON) throw std::runtime_error(what + " is not an icon");
+  const double value = state->values[0];
+  if (!state->drawn || std::isnan(value) || value <= -1) return call.give_nothing();
+  const double last = std::max(1.0, static_cast<double>(state->element->icon.image_count)) - 1;
   call.give(std::min(std::trunc(value) + 0.0, last));
 }
 
 void give_value(LuaCall& call, FlowSession& session) {
-  const int axis = call.whole_or(4, "axis", 1);
-  if (axis < 1 || axis > 3) throw std::invalid_argument("argument 4 (axis) must be 1, 2 or 3");
-  call.give(element_argument(call, session).values[static_cast<std::size_t>(axis - 1)]);
+  const auto [state, what, next] = element_argument(call, session);
+  const int axis = call.whole_or(next, "axis", 1);
+  if (axis < 1 || axis > 3)
+    throw std::invalid_argument("argument " + std::to_string(next) + " (axis) must be 1, 2 or 3");
+  if (!state) throw std::runtime_error(what + " is hidden");
+  call.give(state->values[static_cast<std::size_t>(axis - 1)]);
 }
 
-void give_text(LuaCall& call, FlowSession& session) {
+const ElementState* nth_text(LuaCall& call, FlowSession& session) {
   CockpitGauge& gauge = gauge_that_ran(call, session);
   const int nth = call.whole_or(2, "nth", 1);
   const auto* state =
       nth_element(gauge, nth, [](const Element& element) { return element.kind == ELEMENT_STRING; });
-  if (!state)
-    throw std::runtime_error(call.text(1, "gauge") + " shows no text field " + std::to_string(nth));
-  call.give(state->drawn ? std::string_view(state->text) : std::string_view());
+  if (state) return state;
+  throw std::runtime_error(call.text(1, "gauge") + " shows no text field " + std::to_string(nth));
+}
+
+void give_text(LuaCall& call, FlowSession& session) {
+  const ElementState* state = nullptr;
+  if (call.is_text(2)) {
+    const auto argument = element_argument(call, session);
+    state = argument.state;
+    if (state && state->element->kind != ELEMENT_STRING)
+      throw std::runtime_error(argument.what + " is not a text");
+  } else {
+    state = nth_text(call, session);
+  }
+  call.give(state && state->drawn ? std::string_view(state->text) : std::string_view());
 }
 
 void give_events(LuaCall& call, const FlowSession& session) {

@@ -22,11 +22,11 @@ int cursor_at(const std::optional<ViewHit>& hit) {
   return area ? area->cursor : CURSOR_ARROW;
 }
 
-std::string tooltip_at(const std::optional<ViewHit>& hit) {
+Hint tooltip_at(const std::optional<ViewHit>& hit) {
   if (!hit) return {};
-  if (hit->caption == CaptionPart::tear) return "Tear off into its own window";
-  if (hit->caption == CaptionPart::close) return "Close";
-  return hit->gauge ? std::string(hit->gauge->gauge->areas.tooltip(hit->gauge->point)) : std::string();
+  if (hit->caption == CaptionPart::tear) return {"Tear off into its own window", {}};
+  if (hit->caption == CaptionPart::close) return {"Close", {}};
+  return hit->gauge ? hint_at(*hit->gauge->gauge, hit->gauge->point) : Hint{};
 }
 
 }  // namespace
@@ -88,10 +88,10 @@ void MouseHand::move(int dx, int dy, double now) {
 void MouseHand::look(double now) {
   const auto under = hit();
   cursors_.show(cursor_at(under));
-  std::string text = tooltip_at(under);
-  if (text != tooltip_) hide_tooltip();
-  tooltip_ = std::move(text);
-  if (!tooltip_.empty() && !tooltip_shown_) tooltip_due_ = now + tooltip_delay;
+  Hint hint = tooltip_at(under);
+  if (hint != tooltip_) hide_tooltip();
+  tooltip_ = std::move(hint);
+  if (!tooltip_.words.empty() && !tooltip_shown_) tooltip_due_ = now + tooltip_delay;
 }
 
 void MouseHand::hide_tooltip() {
@@ -103,8 +103,8 @@ void MouseHand::hide_tooltip() {
 void MouseHand::show_tooltip() {
   View* view = views_.find(view_id_);
   tooltip_due_ = Pointer::never;
-  if (!view || tooltip_.empty()) return;
-  Overlay overlay = draw_tooltip(tooltip_, view->scale());
+  if (!view || tooltip_.words.empty()) return;
+  Overlay overlay = draw_tooltip(tooltip_.words, tooltip_.how, view->scale());
   const PanelSize size = view->screen().size();
   const int below = static_cast<int>(22 * view->scale());
   overlay.x = std::clamp(x_ + below / 2, 0, std::max(0, size.width - overlay.width));
@@ -182,7 +182,7 @@ double MouseHand::next_tick() const { return std::min(tooltip_due_, pointer_.nex
 void MouseHand::reset() {
   let_go();
   hide_tooltip();
-  tooltip_.clear();
+  tooltip_ = {};
   scrolling_ = false;
 }
 

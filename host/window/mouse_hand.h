@@ -4,8 +4,8 @@
 #include <SDL.h>
 
 #include <optional>
-#include <string>
 
+#include "host/panel/hints.h"
 #include "host/panel/pointer.h"
 #include "host/window/cursors.h"
 #include "host/window/journal.h"
@@ -63,7 +63,7 @@ class MouseHand {
   Uint32 view_id_ = 0;  ///< 0: outside of every view
   int x_ = 0;           ///< pixels of that view
   int y_ = 0;
-  std::string tooltip_;
+  Hint tooltip_;
   double tooltip_due_ = Pointer::never;
   bool tooltip_shown_ = false;
 };

@@ -33,19 +33,30 @@ std::vector<std::string> wrapped(const std::string& text, double size, double wi
   return lines;
 }
 
-Overlay draw_card(const std::vector<std::string>& lines, double size, double padding, double scale,
-                  Color color, bool bold) {
-  double widest = 0;
-  for (const std::string& line : lines) widest = std::max(widest, Sketch::text_width(line, size, bold));
-  const double line_height = size * 1.15;
-  const int width = pixels(widest + 2 * padding);
-  const int height = pixels(line_height * static_cast<double>(lines.size()) + 2 * padding * 0.7);
+struct Line {
+  std::string text;
+  double size;
+  Color color;
+  bool bold = false;
+};
+
+constexpr double line_spacing = 1.15;
+
+Overlay draw_card(const std::vector<Line>& lines, double padding, double scale) {
+  double widest = 0, tall = 0;
+  for (const Line& line : lines) {
+    widest = std::max(widest, Sketch::text_width(line.text, line.size, line.bold));
+    tall += line.size * line_spacing;
+  }
+  const int width = pixels(widest + 2 * padding), height = pixels(tall + 2 * padding * 0.7);
   Sketch sketch(width, height);
   sketch.rounded_box(0, 0, width, height, 5 * scale, paper);
   sketch.box_outline(0, 0, width, height, 5 * scale, scale, edge);
-  for (std::size_t i = 0; i < lines.size(); ++i)
-    sketch.text(lines[i], padding, padding * 0.7 + line_height * static_cast<double>(i), size, bold,
-                color);
+  double y = padding * 0.7;
+  for (const Line& line : lines) {
+    sketch.text(line.text, padding, y, line.size, line.bold, line.color);
+    y += line.size * line_spacing;
+  }
   return sketch.finish();
 }
 
@@ -82,17 +93,22 @@ CaptionPart caption_part(int x, int width, double scale) {
   return CaptionPart::none;
 }
 
-Overlay draw_tooltip(const std::string& text, double scale) {
-  return draw_card({text}, 16 * scale, 8 * scale, scale, ink, false);
+Overlay draw_tooltip(const std::string& text, const std::string& below, double scale) {
+  std::vector<Line> lines{{text, 16 * scale, ink}};
+  if (!below.empty()) lines.push_back({below, 14 * scale, soft_ink});
+  return draw_card(lines, 8 * scale, scale);
 }
 
 Overlay draw_note(const std::string& text, int width, double scale) {
   const double size = 17 * scale, padding = 12 * scale;
-  return draw_card(wrapped(text, size, width - 2 * padding), size, padding, scale, ink, false);
+  std::vector<Line> lines;
+  for (const std::string& line : wrapped(text, size, width - 2 * padding))
+    lines.push_back({line, size, ink});
+  return draw_card(lines, padding, scale);
 }
 
 Overlay draw_badge(const std::string& text, double scale) {
-  return draw_card({text}, 20 * scale, 14 * scale, scale, accent, true);
+  return draw_card({{text, 20 * scale, accent, true}}, 14 * scale, scale);
 }
 
 Overlay draw_turn_cursor(bool increase, double scale) {

@@ -20,8 +20,8 @@ Overlay draw_caption(const std::string& title, const std::string& key, int width
 /// The button under a point of a caption of that width.
 CaptionPart caption_part(int x, int width, double scale);
 
-/// A short text beside the pointer.
-Overlay draw_tooltip(const std::string& text, double scale);
+/// A short text beside the pointer, and below it another one in a smaller letter unless that is empty.
+Overlay draw_tooltip(const std::string& text, const std::string& below, double scale);
 
 /// Messages, one a line, wrapped to at most `width` pixels; a badge is larger and stands alone.
 Overlay draw_note(const std::string& text, int width, double scale);

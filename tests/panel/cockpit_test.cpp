@@ -167,6 +167,29 @@ TEST_F(OwnPanel, GaugesStandInsideTheirWindowsAndApart) {
   }
 }
 
+TEST_F(OwnPanel, EveryNamedControlIsReachedAndEveryNamedPartShows) {
+  EXPECT_EQ(cockpit.names().notes, std::vector<std::string>());
+  EXPECT_EQ(cockpit.names().missing, "");
+  for (std::uint32_t ident = 500; ident < 509; ++ident) cockpit.panels().open(ident);
+  cockpit.frame();
+  for (const GaugeHeader* header : module.gauges()) {
+    const CockpitGauge& gauge = *cockpit.find(header->name);
+    for (const Named& named : gauge.names.areas) {
+      const HotArea& area = gauge.areas.areas()[named.index];
+      const std::string name = std::string(header->name) + " " + named.name;
+      for (const u32 button : {MOUSE_LEFT, MOUSE_RIGHT}) {
+        const HotArea* reached = gauge.areas.at(area.box.middle(), button);
+        EXPECT_TRUE(!(area.flags & button) || reached == &area) << name;
+      }
+      if (area.cursor != CURSOR_INCREASE && area.cursor != CURSOR_DECREASE) continue;
+      const auto turned = gauge.areas.wheel(area.box.middle(), area.cursor == CURSOR_INCREASE);
+      EXPECT_TRUE(turned && turned->area == &area) << name;
+    }
+    for (const Named& part : gauge.names.parts)
+      EXPECT_NE(gauge.run.showing(part.index), nullptr) << header->name << " " << part.name;
+  }
+}
+
 TEST_F(OwnPanel, HasEveryWindowThatGaugesOpenAndClose) {
   for (std::uint32_t ident : {500, 501, 502, 503, 504, 505, 506, 507, 20, 21, 27, 28})
     EXPECT_TRUE(cockpit.panels().find(ident)) << ident;

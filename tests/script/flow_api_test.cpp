@@ -13,6 +13,7 @@ constexpr const char* panel =
     "[Window00]\nident=500\nident_day=20\nident_night=27\nsize_mm=600,400\nvisible=1\n"
     "gauge00=Tarnvale!Masterbat, 0,0\ngauge01=Tarnvale!Acdcsw, 200,0\ngauge02=Tarnvale!Acdc, 400,0\n"
     "gauge03=Tarnvale!Cainstlg, 0,200\ngauge04=Tarnvale!Acpwr, 200,200\n"
+    "gauge05=Tarnvale!Cabalt, 400,200\n"
     "[Window Titles]\nWindow02=Overhead\n"
     "[Window02]\nident=502\nsize_mm=200,200\ngauge00=Tarnvale!Avimaster, 0,0\n";
 
@@ -72,6 +73,23 @@ TEST_F(FlowApi, TurnsKnobsWithTheWheelAndReadsNeedles) {
             "");
 }
 
+TEST_F(FlowApi, GoesByTheNamesOfControlsAndParts) {
+  EXPECT_EQ(
+      fly("click('masterbat', 'battery_switch')\n"
+          "expect(image('Masterbat', 'battery_switch') == 1)\n"
+          "expect(image('Masterbat', 'battery_lamp') == 1)\n"
+          "hold({'Masterbat', 'battery_switch'}, 1)\nexpect_near(now(), 20 / 18, 1e-9)\n"
+          "expect(image('Masterbat', 'battery_lamp') == 0)\n"
+          "set_token('battery', 1)\nset_token(750, 40)\nwheel('Acdcsw', 'dc_meter_selector', "
+          "2)\nwait(0.2)\n"
+          "expect_near(value('Acdc', 'dc_ammeter'), 38, 0)\n"
+          "expect(value('Acdc', 'dc_ammeter', 2) == 0, 'an axis that a needle does not have')\n"
+          "wheel('Acdcsw', 'dc_meter_selector_up', -1)\nclick('Acdcsw', 'dc_meter_selector_down')\n"
+          "expect(image('Acdcsw', 'dc_meter_selector') == 0)\n"
+          "expect(text('Cabalt', 'pressure_setting') ~= '')"),
+      "");
+}
+
 TEST_F(FlowApi, CountsTimeInWholeFrames) {
   EXPECT_EQ(fly("wait(1)\nexpect_near(now(), 1, 1e-9)\nwait(0)\nexpect_near(now(), 1, 1e-9)\n"
                 "wait(0.06)\nexpect_near(now(), 20 / 18, 1e-9)\n"
@@ -85,6 +103,7 @@ TEST_F(FlowApi, SeesOneOfTheDayAndNightCopies) {
   EXPECT_EQ(fly("expect(image('Cainstlg', 13310) == 0)\n"
                 "click('Cainstlg', 27, 83)\nwait(0.1)\n"
                 "expect(image('Cainstlg', 13310) == 1, 'the lit copy shows')\n"
+                "expect(image('Cainstlg', 'panel_lights_button') == 1, 'the lit copy has its name')\n"
                 "expect(window_open(27) and window_open(500) and not window_open(20))"),
             "");
 }
@@ -109,8 +128,8 @@ TEST_F(FlowApi, TellsMessagesAndSound) {
 }
 
 struct Failure {
-  const char* text;
-  const char* message;
+  std::string text;
+  std::string message;
 };
 
 TEST_F(FlowApi, SaysWhyAFlowFails) {
@@ -127,6 +146,24 @@ TEST_F(FlowApi, SaysWhyAFlowFails) {
       {"wheel('Masterbat', 47, 99, 1)", "the wheel works nothing at 47,99 of Masterbat"},
       {"click('Altimeter', 1, 1)", "no window has a gauge 'Altimeter'"},
       {"click('Avimaster', 50, 30)", "Avimaster is not shown: its window 'Overhead' (502) is closed"},
+      {"click('Masterbat', 'batery_swich')",
+       "Masterbat has no control 'batery_swich'; did you mean battery_switch?"},
+      {"click('Masterbat', 'battery_lamp')", "Masterbat has no control 'battery_lamp'"},
+      {"click('Acdcsw', 'dc_meter_selector')",
+       "Acdcsw has no control 'dc_meter_selector'; did you mean dc_meter_selector_down or "
+       "dc_meter_selector_up?"},
+      {"right_click('Masterbat', 'battery_switch')",
+       "nothing answers the right button at battery_switch of Masterbat"},
+      {"wheel('Masterbat', 'battery_switch', 1)",
+       "the wheel works nothing at battery_switch of Masterbat"},
+      {"click('Altimeter', 'knob')", "no window has a gauge 'Altimeter'"},
+      {"click('Masterbat')", "argument 2 (x) must be a number"},
+      {"image('Masterbat', 'batterylamp')",
+       "Masterbat has no part 'batterylamp'; did you mean battery_lamp?"},
+      {"image('Masterbat', '" + std::string(70, 'x') + "')", "Masterbat has no part 'xxx"},
+      {"image('Acdc', 'dc_ammeter')", "dc_ammeter of Acdc is not an icon"},
+      {"text('Acdc', 'dc_ammeter')", "dc_ammeter of Acdc is not a text"},
+      {"value('Acdc', 'dc_ammeter', 4)", "argument 3 (axis) must be 1, 2 or 3"},
       {"image('Masterbat', 9999)", "Masterbat shows no element 1 with bitmap 9999"},
       {"image('Masterbat', 40, 2)", "Masterbat shows no element 2 with bitmap 40"},
       {"image('Acdc', 350)", "that element is not an icon"},
@@ -145,8 +182,7 @@ TEST_F(FlowApi, SaysWhyAFlowFails) {
   };
   for (const Failure& each : failures) {
     const std::string message = fly(each.text);
-    EXPECT_EQ(message.rfind(std::string("t.lua:1: ") + each.message, 0), 0u)
-        << each.text << "\n  " << message;
+    EXPECT_EQ(message.rfind("t.lua:1: " + each.message, 0), 0u) << each.text << "\n  " << message;
   }
 }
 

@@ -133,6 +133,16 @@ TEST_F(InAWindow, TheBatteryComesOnWithAClickAndTheRecordFliesAgain) {
   EXPECT_EQ(again.exit_code, 0) << again.output << file_text(record);
 }
 
+TEST_F(InAWindow, ARestOnAControlSaysWhatItIs) {
+  const PanelPoint hint{62, 132};  // the paper of the hint beside its words, bare plate without it
+  const int plate = green(look(hint.x, hint.y));
+  screen->hands(move_to(45, 97) + "sleep 0.05 " + move_to(47, 99));
+  EXPECT_TRUE(eventually([&] { return green(look(hint.x, hint.y)) < plate / 2; })) << "no hint";
+  screen->hands(move_to(385, 85));
+  EXPECT_TRUE(eventually([&] { return green(look(hint.x, hint.y)) == plate; })) << "the hint stays";
+  EXPECT_EQ(leave(), 0);
+}
+
 TEST_F(InAWindow, TheWheelTurnsASelectorAndLeavesASwitchAlone) {
   click(47, 99, 4);   // the wheel over the battery switch
   click(240, 35, 4);  // and over the DC selector
