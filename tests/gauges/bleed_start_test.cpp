@@ -61,14 +61,6 @@ TEST_F(EngineStart, ValvesMakeTheLineUp) {
   }
 }
 
-TEST_F(EngineStart, DuctPressureLampShowsWhatTheDuctSays) {
-  for (const u32 light : {0u, 1u, 2u}) {
-    aircraft.duct_pressure_light = light;
-    valves.frame();
-    EXPECT_EQ(valves.value("duct_pressure_lamp"), light);
-  }
-}
-
 TEST_F(EngineStart, ApuFillsTheDuctAndItLeaksWhenClosed) {
   for (const f64 night : {0.0, 1.0}) {  // the lit copy must not fill it twice as fast
     host.tokens[token::panel_lights] = night;

@@ -6,6 +6,7 @@
 #include <numbers>
 #include <span>
 
+#include "tests/module/sides.h"
 #include "tests/module/walk.h"
 
 namespace {
@@ -73,7 +74,7 @@ TEST(Needles, PointAlongOneArc) {
 TEST(Needles, OfAPairHaveOneScale) {
   for_each_needle([](const rig::Gauge& gauge, const NamedPart& part) {
     for (const NamedPart& other : gauge.parts()) {
-      if (walk::mirrored(part.name) != other.name) continue;
+      if (sides::mirrored(part.name) != other.name) continue;
       const auto table = table_of(*part.element), others = table_of(*other.element);
       ASSERT_EQ(table.size(), others.size());
       for (std::size_t i = 0; i < table.size(); ++i) {

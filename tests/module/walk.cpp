@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstring>
 #include <random>
-#include <sstream>
 
 #include "module/tokens.h"
 
@@ -111,6 +110,7 @@ class Walk {
     if (random(4) == 0) randomize(tokens[random(std::size(tokens))]);
     if (random(2) == 0) host_.tokens[token::battery] = 1;
     if (random(16) == 0) aircraft.ground_power_connected = static_cast<u32>(random(2));
+    if (random(16) == 0) aircraft.duct_pressure_light = static_cast<u32>(random(3));
   }
 
   /// The stimulus's own gauge, and now and then all.
@@ -185,21 +185,6 @@ class Walk {
   Result result_;
 };
 
-/// What a name says of sides: of "system_2_engine_1_pump" {"system", 2} and {"engine", 1}. Left and A
-/// are 1, right and B are 2.
-std::map<std::string, int> sides_of(const std::string& name) {
-  std::map<std::string, int> sides;
-  std::istringstream words(name);
-  std::string word, before = "side";
-  while (std::getline(words, word, '_')) {
-    const std::string one_two[] = {"1", "left", "a", "2", "right", "b"};
-    const auto found = std::ranges::find(one_two, word);
-    if (found != std::end(one_two)) sides[before] = found - one_two < 3 ? 1 : 2;
-    before = word == "left" || word == "right" ? before : word;
-  }
-  return sides;
-}
-
 }  // namespace
 
 std::string Stimulus::text() const {
@@ -232,33 +217,6 @@ const rig::NamedPart* part_of(const rig::Gauge& gauge, std::string_view control)
     if (name.find('_') == std::string::npos) return nullptr;
     name.erase(name.rfind('_'));
   }
-}
-
-std::string mirrored(const std::string& name) {
-  if (sides_of(name).size() != 1) return "";
-  constexpr std::pair<const char*, const char*> pairs[] = {
-      {"1", "2"}, {"2", "1"}, {"left", "right"}, {"right", "left"}, {"a", "b"}, {"b", "a"}};
-  std::istringstream words(name);
-  std::string word, other;
-  while (std::getline(words, word, '_')) {
-    for (const auto& [one, two] : pairs) {
-      if (word == one) {
-        word = two;
-        break;
-      }
-    }
-    other += (other.empty() ? "" : "_") + word;
-  }
-  return other;
-}
-
-bool opposite(const std::string& one, const std::string& two) {
-  const std::map<std::string, int> a = sides_of(one), b = sides_of(two);
-  if (a.size() == 1 && b.size() == 1) return a.begin()->second != b.begin()->second;
-  return std::ranges::any_of(a, [&](const auto& side) {
-    const auto same = b.find(side.first);
-    return same != b.end() && same->second != side.second;
-  });
 }
 
 }  // namespace walk

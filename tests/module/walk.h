@@ -47,12 +47,4 @@ const Result& result();
 /// Null for a button that is printed on its plate.
 const rig::NamedPart* part_of(const rig::Gauge& gauge, std::string_view control);
 
-/// A name with the other side in place of the only one that it names: "pump_2" for "pump_1". Empty if
-/// it names none or several.
-std::string mirrored(const std::string& name);
-
-/// Whether two names mean different sides of one thing. Left, 1 and A are one side, right, 2 and B the
-/// other.
-bool opposite(const std::string& one, const std::string& two);
-
 }  // namespace walk
