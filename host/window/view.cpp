@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "host/drawing/pixels.h"
 #include "host/panel/panel_scene.h"
 #include "host/window/compose.h"
 
@@ -93,7 +94,8 @@ bool View::moving() const {
 
 void View::change(const Rect& rect) {
   const PanelSize size = screen_.size();
-  if (const auto part = shared(rect, {0, 0, size.width, size.height})) changed_.push_back(*part);
+  const Rect part = intersection(rect, {0, 0, size.width, size.height});
+  if (!is_empty(part)) changed_.push_back(part);
 }
 
 void View::draw_panels(double blend) {
