@@ -173,9 +173,14 @@ bool Aircraft::place_in_flight(const InFlight& where) {
   airframe.report(flight);
   air.update(flight);
   start_engines_at_once(trim.thrust_n);
+  // The crew sets the thrust for the next ten minutes, which burn weight away, not for the first one.
+  const double burned_kg =
+      300.0 / 3600.0 * (engines[0].fuel_flow_kg_per_h + engines[1].fuel_flow_kg_per_h);
+  const double thrust_n = trim.thrust_n * (1.0 - burned_kg / mass_properties(fuel.load()).mass_kg);
+  start_engines_at_once(thrust_n);
   update_systems(0.0);
   update_navigation(0.0);
-  return trim.found && std::abs(engines[0].thrust_n * 2.0 - trim.thrust_n) < 1.0;
+  return trim.found && std::abs(engines[0].thrust_n * 2.0 - thrust_n) < 1.0;
 }
 
 void Aircraft::start_engines_at_once(double thrust_n) {

@@ -66,13 +66,14 @@ double pitch_coefficient(const Flow& flow, const Surfaces& s) {
   // The tail meets a falling effectiveness at angles that no trim asks for.
   const double alpha = std::clamp(flow.alpha, -0.8, 0.8);
   const double stall = std::max(0.0, flow.wing.separated - 0.3) * (alpha < 0.0 ? -1.0 : 1.0);
-  return 0.03 + flow.flaps.pitching_moment - 1.3 * alpha + 1.6 * s.elevator_rad +
-         3.0 * s.stabiliser_rad - 22.0 * flow.pitch - 0.25 * stall;
+  const double in_wake = 1.0 - 0.5 * flow.wing.separated;
+  return 0.03 + flow.flaps.pitching_moment - 1.3 * alpha + 1.6 * in_wake * s.elevator_rad +
+         3.0 * s.stabiliser_rad - 22.0 * flow.pitch - 0.45 * stall;
 }
 
 double roll_coefficient(const Flow& flow, const Surfaces& s, double lift) {
   return -0.13 * flow.beta - 0.45 * flow.roll + (0.10 + 0.15 * lift) * flow.yaw +
-         0.062 * s.aileron_rad + 0.015 * s.rudder_rad;
+         0.068 * s.aileron_rad + 0.015 * s.rudder_rad;
 }
 
 double yaw_coefficient(const Flow& flow, const Surfaces& s, double lift) {

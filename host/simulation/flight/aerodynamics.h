@@ -7,13 +7,14 @@
 ///   CL = CLwing(alpha, flaps, M) + 6 q^ - 0.35 de - 0.9 ih - 0.8 dumpers, and 6 % more on the ground
 ///   CD = 0.0175 + k CL^2 G(h) + flaps + 0.020 gear + 0.035 speed brake + 0.06 dumpers + wave + stall
 ///        k = 1/(pi 7.9 0.80) = 0.0504, wave = 20 (M - 0.70)^4 (Lock), G = (16h/b)^2/(1 + (16h/b)^2) (McCormick)
-///   Cm = 0.03 + flaps - 1.3 alpha + 1.6 de + 3.0 ih - 22 q^ - 0.25 stall, about 25 % of the mean chord
+///   Cm = 0.03 + flaps - 1.3 alpha + 1.6 de + 3.0 ih - 22 q^ - 0.45 stall, about 25 % of the mean chord;
+///        the high tail loses half of the elevator in the stalled wing's wake
 ///   CY = -0.85 beta + 0.17 dr
-///   Cl = -0.13 beta - 0.45 p^ + (0.10 + 0.15 CL) r^ + 0.062 da + 0.015 dr
+///   Cl = -0.13 beta - 0.45 p^ + (0.10 + 0.15 CL) r^ + 0.068 da + 0.015 dr
 ///   Cn =  0.14 beta - (0.03 + 0.05 CL) p^ - 0.22 r^ - 0.004 da + 0.09 dr, and the yaw damper
 ///
 /// Controls have the sign of the pilot's hand: de and ih pull the nose up, da rolls right, dr yaws right.
-/// The yaw damper answers what yaw a steady turn at that bank does not need, with 0.25 per radian of r^.
+/// The yaw damper answers what yaw a steady turn at that bank does not need, with 0.45 per radian of r^.
 #pragma once
 
 #include "host/simulation/base/vector.h"

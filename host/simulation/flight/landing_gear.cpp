@@ -12,12 +12,13 @@ struct Leg {
   Vector foot_m;  // of the extended wheel, from 25 % of the mean chord
   double spring_n_per_m, damper_n_s_per_m, stroke_m;
   double brake_n;
-  int pedal;  // -1: no brake
+  int pedal;               // -1: no brake
+  double cornering_per_m;  // sideways stiffness as a part of the load
 };
 
-constexpr std::array<Leg, 3> legs{{{{10.5, 0.0, wheel_depth_m}, 155e3, 25e3, 0.40, 0.0, -1},
-                                   {{-1.2, -2.5, wheel_depth_m}, 650e3, 100e3, 0.45, 75e3, 0},
-                                   {{-1.2, 2.5, wheel_depth_m}, 650e3, 100e3, 0.45, 75e3, 1}}};
+constexpr std::array<Leg, 3> legs{{{{10.5, 0.0, wheel_depth_m}, 155e3, 25e3, 0.40, 0.0, -1, 3.0},
+                                   {{-1.2, -2.5, wheel_depth_m}, 650e3, 100e3, 0.45, 75e3, 0, 6.0},
+                                   {{-1.2, 2.5, wheel_depth_m}, 650e3, 100e3, 0.45, 75e3, 1, 6.0}}};
 
 // Belly, nose, tail and wing tips.
 constexpr std::array<Vector, 5> bare_points{
@@ -25,7 +26,8 @@ constexpr std::array<Vector, 5> bare_points{
 constexpr double bare_spring_n_per_m = 1.5e6, bare_damper_n_s_per_m = 150e3, bare_friction = 0.4;
 
 constexpr double bottom_spring_n_per_m = 4e6;
-constexpr double tyre_spring_n_per_m = 1.0e6, tyre_damper_n_s_per_m = 60e3;
+constexpr double carcass_spring_n_per_m = 1.0e6;  // along the wheel
+constexpr double carcass_damping_s = 0.06;        // damper to spring
 constexpr double relaxation_m = 0.7;
 constexpr double grip = 0.7, antiskid_grip = 0.5, rolling_resistance = 0.015;
 
@@ -65,11 +67,10 @@ double leg_load_n(const Leg& leg, const Contact& c) {
 }
 
 /// A bristle's force against its stretch, at most `most_n`; the stretch keeps to what the force holds.
-double bristle_n(double& stretch_m, double slip_mps, double most_n) {
-  const double reach_m = most_n / tyre_spring_n_per_m;
+double bristle_n(double& stretch_m, double slip_mps, double spring_n_per_m, double most_n) {
+  const double reach_m = most_n / spring_n_per_m;
   stretch_m = std::clamp(stretch_m, -reach_m, reach_m);
-  return std::clamp(-tyre_spring_n_per_m * stretch_m - tyre_damper_n_s_per_m * slip_mps, -most_n,
-                    most_n);
+  return std::clamp(-spring_n_per_m * (stretch_m + carcass_damping_s * slip_mps), -most_n, most_n);
 }
 
 double along_limit_n(const Leg& leg, double load_n, const GroundMotion& m) {
@@ -78,18 +79,19 @@ double along_limit_n(const Leg& leg, double load_n, const GroundMotion& m) {
          rolling_resistance * load_n;
 }
 
-Vector tyre_force_n(double dt_s, Tyre& tyre, const Contact& c, const Rolling& wheel, double load_n,
-                    double along_most_n) {
+Vector tyre_force_n(double dt_s, Tyre& tyre, const Leg& leg, const Contact& c, const Rolling& wheel,
+                    double load_n, double along_most_n) {
   const double roll_mps = dot(c.velocity_mps, wheel.along);
   const double slip_mps = dot(c.velocity_mps, wheel.across);
   tyre.along_m += roll_mps * dt_s;
   tyre.across_m = (tyre.across_m + slip_mps * dt_s) / (1.0 + std::abs(roll_mps) * dt_s / relaxation_m);
-  const double along_n = bristle_n(tyre.along_m, roll_mps, along_most_n);
+  const double along_n = bristle_n(tyre.along_m, roll_mps, carcass_spring_n_per_m, along_most_n);
   // The damping is the standing carcass's; a rolling one relaxes instead.
   const double standing_slip_mps = slip_mps / (1.0 + std::abs(roll_mps));
   const double across_most_n =
       std::sqrt(std::max(0.0, grip * grip * load_n * load_n - along_n * along_n));
-  const double across_n = bristle_n(tyre.across_m, standing_slip_mps, across_most_n);
+  const double across_n =
+      bristle_n(tyre.across_m, standing_slip_mps, leg.cornering_per_m * load_n, across_most_n);
   return wheel.along * along_n + wheel.across * across_n;
 }
 
@@ -117,16 +119,15 @@ GroundForces LandingGear::update(double dt_s, const GroundMotion& m) {
   for (std::size_t i = 0; i < legs.size(); ++i) {
     const Leg& leg = legs[i];
     const Contact c = contact_of(leg.foot_m, m);
-    const bool carries = m.gear[i] >= 1.0 && c.depth_m > 0.0;
-    load_n[i] = carries ? leg_load_n(leg, c) : 0.0;
-    if (!carries) {
+    load_n[i] = m.gear[i] >= 1.0 && c.depth_m > 0.0 ? leg_load_n(leg, c) : 0.0;
+    if (load_n[i] <= 0.0) {
       tyres[i] = {};
       continue;
     }
     const Rolling wheel = rolling_of(m.down, i == 0 ? m.steering_rad : 0.0);
     add(sum, c,
         m.down * -load_n[i] +
-            tyre_force_n(dt_s, tyres[i], c, wheel, load_n[i], along_limit_n(leg, load_n[i], m)));
+            tyre_force_n(dt_s, tyres[i], leg, c, wheel, load_n[i], along_limit_n(leg, load_n[i], m)));
     sum.main_wheel_down = sum.main_wheel_down || i > 0;
   }
   if (m.height_m < 20.0) add_bare_points(sum, m);

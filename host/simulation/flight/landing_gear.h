@@ -7,7 +7,8 @@
 /// systems with friction", 1995; lateral relaxation as in Pacejka, Tyre and Vehicle Dynamics, ch. 1):
 ///
 ///   along:  deflection grows with the slip of a held wheel up to what brake and rolling resistance hold
-///   across: s' = v - |u| s / 0.7 m, force k s, at most 0.7 of the load
+///   across: s' = v - |u| s / 0.7 m, force k s, at most 0.7 of the load; k is 6 of the load a metre for the
+///           main wheels and 3 for the nose wheel, which makes the aircraft run straight by itself
 ///
 /// so that a standing aircraft is held by springs and does not creep, and a rolling one corners by its
 /// slip angle. The antiskid lets a brake use 0.5 of its wheel's load at most. Without gear the fuselage,

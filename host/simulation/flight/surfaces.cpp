@@ -8,8 +8,8 @@ namespace host::simulation {
 namespace {
 
 constexpr double control_lag_s = 0.08;  // hydraulic jacks
-constexpr double stabiliser_middle_rad = 3.0 * radians_per_degree;
-constexpr double stabiliser_travel_rad = 6.0 * radians_per_degree;
+constexpr double stabiliser_middle_rad = 3.5 * radians_per_degree;
+constexpr double stabiliser_travel_rad = 7.0 * radians_per_degree;
 constexpr std::array<double, 3> gear_rate_per_s{1.0 / 8.0, 1.0 / 9.0, 1.0 / 9.5};
 
 double unit(double ratio) { return std::clamp(ratio, -1.0, 1.0); }

@@ -13,7 +13,7 @@ inline constexpr double full_flap_deg = flap_detents_deg.back();
 /// Radians; each sign is that of the control that moves it.
 struct Surfaces {
   double elevator_rad = 0.0;                  ///< 25 degrees pulled, 15 pushed
-  double stabiliser_rad = 0.0;                ///< nose-up trim positive: -3 .. 9 degrees
+  double stabiliser_rad = 0.0;                ///< nose-up trim positive: -3.5 .. 10.5 degrees
   double aileron_rad = 0.0;                   ///< 20 degrees either way
   double rudder_rad = 0.0;                    ///< 25 degrees either way
   double flap_deg = 0.0;                      ///< 2.5 degrees a second: full flap in 17 s

@@ -13,7 +13,9 @@ double wanted_heading_deg(const NavReceiver& nav, const Selections& selections) 
   const bool captured = nav.localizer && std::abs(nav.course_deviation) < 1.0;
   if (!captured) return selections.heading_bug_deg;
   const double course_deg = landing_system().course_true_deg - magnetic_variation_deg;
-  return course_deg + std::clamp(40.0 * nav.course_deviation, -30.0, 30.0);
+  const double aside_m = nav.course_deviation * localizer_full_scale_deg * radians_per_degree *
+                         nav.distance_nm * metres_per_nautical_mile;
+  return course_deg + std::clamp(0.045 * aside_m, -30.0, 30.0);
 }
 
 /// On the localizer what counts is where the aircraft goes, not where it points in a crosswind.

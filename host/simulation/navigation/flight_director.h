@@ -5,7 +5,7 @@
 /// holds it. It gives an attitude, not a surface: whoever keeps the bars centred flies it.
 ///
 ///   bank  = 1.3 per degree of heading error, at most 25 degrees
-///   track = course + 40 per full scale of localizer, at most 30 degrees to the side
+///   track = course + 0.045 degrees per metre beside it, at most 30 degrees to the side
 ///   path  = 3 degree slope less 4 per full scale; else 5 ft/min per foot, at most 1,500 ft/min
 ///   pitch = pitch now + (wanted path - path now), at most 10 down and 15 up, smoothed over 1 s
 #pragma once

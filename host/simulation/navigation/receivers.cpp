@@ -8,9 +8,6 @@
 namespace host::simulation {
 namespace {
 
-constexpr double localizer_full_scale_deg = 2.5;
-constexpr double slope_full_scale_deg = 0.7;
-constexpr double vor_full_scale_deg = 10.0;
 constexpr double mast_ft = 50.0;
 
 /// The station as seen from the aircraft.

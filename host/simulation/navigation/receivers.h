@@ -12,6 +12,10 @@
 
 namespace host::simulation {
 
+inline constexpr double localizer_full_scale_deg = 2.5;
+inline constexpr double slope_full_scale_deg = 0.7;
+inline constexpr double vor_full_scale_deg = 10.0;
+
 enum class ToFrom { off = 0, to = 1, from = 2 };
 
 /// A VOR, localizer, glide slope and DME receiver. Directions are magnetic.
