@@ -173,9 +173,9 @@ bool Aircraft::place_in_flight(const InFlight& where) {
   airframe.report(flight);
   air.update(flight);
   start_engines_at_once(trim.thrust_n);
-  // The crew sets the thrust for the next ten minutes, which burn weight away, not for the first one.
+  // The crew sets the thrust for the minutes to come, which burn weight away, not for the first one.
   const double burned_kg =
-      300.0 / 3600.0 * (engines[0].fuel_flow_kg_per_h + engines[1].fuel_flow_kg_per_h);
+      200.0 / 3600.0 * (engines[0].fuel_flow_kg_per_h + engines[1].fuel_flow_kg_per_h);
   const double thrust_n = trim.thrust_n * (1.0 - burned_kg / mass_properties(fuel.load()).mass_kg);
   start_engines_at_once(thrust_n);
   update_systems(0.0);

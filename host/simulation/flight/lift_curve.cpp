@@ -15,7 +15,7 @@ struct FlapRow {
   FlapEffect effect;
 };
 
-constexpr std::array<FlapRow, 6> flap_rows{{{0.0, {0.20, 1.70, 0.000, 0.000}},
+constexpr std::array<FlapRow, 6> flap_rows{{{0.0, {0.20, 1.74, 0.000, 0.000}},
                                             {6.0, {0.36, 1.90, 0.006, -0.010}},
                                             {11.0, {0.48, 2.05, 0.011, -0.018}},
                                             {18.0, {0.62, 2.22, 0.020, -0.028}},

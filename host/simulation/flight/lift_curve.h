@@ -10,7 +10,7 @@
 /// (shock-induced separation). The shape is the usual one of class-room polars (Anderson, Fundamentals
 /// of Aerodynamics, ch. 4), the figures are this aircraft's own.
 ///
-/// Check values at Mach 0.2: clean CLmax 1.70 at 18 degrees, flaps 42 CLmax 2.72.
+/// Check values at Mach 0.2: clean CLmax 1.74 at 18.5 degrees, flaps 42 CLmax 2.72.
 #pragma once
 
 namespace host::simulation {

@@ -9,6 +9,9 @@ namespace {
 
 constexpr double newtons_per_unit = 1e5;  // so that all unknowns are of a size
 
+// Near the stall, where lift hardly grows any more, a full step would leap over it.
+constexpr double longest_rad = 0.01;
+
 /// The unknowns: angle of attack, stabiliser (radians), thrust of both engines (100 kN).
 using Unknowns = Vector;
 
@@ -38,10 +41,10 @@ Trim trim_level(Airframe& airframe, AirframeInputs inputs, double airspeed_mps, 
   airframe.velocity_mps =
       Vector{std::cos(heading_rad), std::sin(heading_rad), 0.0} * airspeed_mps + inputs.wind_mps;
   inputs.gust_mps = {};
-  Unknowns at{0.08, 0.05, 0.4};
+  Unknowns at{0.03, 0.05, 0.4};
   const auto left_over = [&](const Unknowns& u) { return imbalance(airframe, inputs, heading_rad, u); };
   double miss = 1.0;
-  for (int round = 0; round < 40 && miss > 1e-13; ++round) {
+  for (int round = 0; round < 100 && miss > 1e-13; ++round) {
     constexpr double nudge = 1e-6;
     const Vector here = left_over(at);
     const auto slope = [&](const Vector& step) {
@@ -49,8 +52,8 @@ Trim trim_level(Airframe& airframe, AirframeInputs inputs, double airspeed_mps, 
     };
     const Vector step =
         solved({slope({nudge, 0, 0}), slope({0, nudge, 0}), slope({0, 0, nudge})}, here);
-    const double longest = 0.05 / std::max({std::abs(step.x), std::abs(step.y), 0.05});
-    at = at - step * longest;
+    const double part = longest_rad / std::max({std::abs(step.x), std::abs(step.y), longest_rad});
+    at = at - step * part;
     miss = length(left_over(at));
   }
   const bool reachable = std::abs(trim_for_stabiliser(at.y)) <= 1.0;
