@@ -25,6 +25,7 @@ Aircraft::Aircraft(int steps_per_second) {
 
 void Aircraft::step() {
   ++clock.steps;
+  controls = controls.limited();
   fly(clock.step_s());
   update_systems(clock.step_s());
   update_fuel(clock.step_s());
@@ -144,6 +145,7 @@ void Aircraft::make_ready() {
 
 void Aircraft::place_on_runway() {
   chocks_in = false;
+  controls = controls.limited();
   controls.parking_brake_set = true;
   controls.gear_down = true;
   airframe.surfaces.settle(controls);
@@ -160,6 +162,7 @@ bool Aircraft::place_in_flight(const InFlight& where) {
   controls = {};
   controls.flap_detent = where.flap_detent;
   controls.gear_down = where.gear_down;
+  controls = controls.limited();
   airframe.surfaces.settle(controls);
   airframe.gear = {};
   airframe.main_wheel_down = false;

@@ -119,6 +119,20 @@ TEST(Flight, Each_control_moves_its_own_axis_its_own_way) {
   EXPECT_NEAR(degrees(aircraft.flight.rate_rad_per_s.x), 20.0, 2.5) << "full aileron at 200 kt";
 }
 
+TEST(Flight, Senseless_controls_count_as_the_nearest_sensible_ones) {
+  const double nonsense = std::nan("");
+  Aircraft aircraft = flying({.airspeed_kt = 150, .flap_detent = 99, .gear_down = true});
+  EXPECT_EQ(aircraft.airframe.surfaces.flap_deg, 42.0);
+  aircraft.controls.throttle = {nonsense, 7.0};
+  aircraft.controls.elevator = aircraft.controls.brake[0] = nonsense;
+  aircraft.controls.speed_brake = -3.0;
+  aircraft.step();
+  EXPECT_EQ(aircraft.controls.throttle, (std::array{0.0, 1.0}));
+  EXPECT_EQ(aircraft.controls.elevator, 0.0);
+  EXPECT_EQ(aircraft.controls.speed_brake, 0.0);
+  EXPECT_TRUE(std::isfinite(aircraft.airframe.position_m.z));
+}
+
 /// The greatest swing of a signal in each of the windows that follow one another.
 template <typename Signal>
 std::vector<double> swings(Aircraft& aircraft, double window_s, int windows, Signal signal) {

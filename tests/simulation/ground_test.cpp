@@ -93,6 +93,11 @@ TEST(Ground, Takes_off_in_the_length_that_its_weight_needs_straight_ahead) {
   EXPECT_GT(at_36_t.climb_fpm, 2000.0);
   EXPECT_NEAR(runway_axes(usual.flight.position_m).right_m, 0.0, 0.1);
 
+  for (int pace : {10, 18, 120}) {
+    Aircraft other = on_the_runway(pace);
+    EXPECT_NEAR(take_off(other, 126.0).roll_m, at_36_t.roll_m, 25.0) << pace << " steps a second";
+  }
+
   Aircraft full = on_the_runway();
   full.fuel.wing_kg = {3890.0, 3890.0};
   full.fuel.centre_kg = 2220.0;

@@ -10,7 +10,6 @@ namespace host::simulation {
 /// Flap angles of the lever's detents.
 inline constexpr std::array<double, 6> flap_detents_deg{0.0, 6.0, 11.0, 18.0, 25.0, 42.0};
 
-/// Ratios outside their range count as the nearer end.
 struct FlightControls {
   double elevator = 0.0;             ///< -1 pushed .. 1 pulled
   double aileron = 0.0;              ///< -1 left .. 1 right
@@ -26,6 +25,9 @@ struct FlightControls {
   std::array<double, 2> brake{};  ///< left and right pedal: 0 .. 1
   double tiller = 0.0;            ///< -1 left .. 1 right
   bool parking_brake_set = false;
+
+  /// The same within the ranges above: a ratio beyond its end stands at it, one that is no number at 0.
+  FlightControls limited() const;
 };
 
 }  // namespace host::simulation

@@ -75,8 +75,7 @@ double bristle_n(double& stretch_m, double slip_mps, double spring_n_per_m, doub
 
 double along_limit_n(const Leg& leg, double load_n, const GroundMotion& m) {
   const double pedal = leg.pedal < 0 ? 0.0 : m.brake[static_cast<std::size_t>(leg.pedal)];
-  return std::min(leg.brake_n * std::clamp(pedal, 0.0, 1.0), antiskid_grip * load_n) +
-         rolling_resistance * load_n;
+  return std::min(leg.brake_n * pedal, antiskid_grip * load_n) + rolling_resistance * load_n;
 }
 
 Vector tyre_force_n(double dt_s, Tyre& tyre, const Leg& leg, const Contact& c, const Rolling& wheel,

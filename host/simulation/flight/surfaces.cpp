@@ -15,18 +15,17 @@ constexpr std::array<double, 3> gear_rate_per_s{1.0 / 8.0, 1.0 / 9.0, 1.0 / 9.5}
 double unit(double ratio) { return std::clamp(ratio, -1.0, 1.0); }
 
 double elevator_rad(const FlightControls& controls) {
-  const double pull = unit(controls.elevator);
-  return pull * (pull > 0.0 ? 25.0 : 15.0) * radians_per_degree;
+  return controls.elevator * (controls.elevator > 0.0 ? 25.0 : 15.0) * radians_per_degree;
 }
 
 double steering_rad(const FlightControls& controls) {
-  return (60.0 * unit(controls.tiller) + 6.0 * unit(controls.rudder)) * radians_per_degree;
+  return (60.0 * controls.tiller + 6.0 * controls.rudder) * radians_per_degree;
 }
 
 }  // namespace
 
 double stabiliser_for_trim_rad(double pitch_trim) {
-  return stabiliser_middle_rad + stabiliser_travel_rad * unit(pitch_trim);
+  return stabiliser_middle_rad + stabiliser_travel_rad * pitch_trim;
 }
 
 double trim_for_stabiliser(double stabiliser_rad) {
@@ -43,13 +42,11 @@ void Surfaces::update(double dt_s, const FlightControls& controls) {
   follow(steering_rad, simulation::steering_rad(controls));
   stabiliser_rad = approach(stabiliser_rad, stabiliser_for_trim_rad(controls.pitch_trim),
                             1.0 * radians_per_degree, dt_s);
-  flap_deg =
-      approach(flap_deg, flap_detents_deg[std::min(controls.flap_detent, flap_detents_deg.size() - 1)],
-               2.5, dt_s);
+  flap_deg = approach(flap_deg, flap_detents_deg[controls.flap_detent], 2.5, dt_s);
   for (std::size_t leg = 0; leg < gear.size(); ++leg) {
     gear[leg] = approach(gear[leg], controls.gear_down ? 1.0 : 0.0, gear_rate_per_s[leg], dt_s);
   }
-  speed_brake = approach(speed_brake, std::clamp(controls.speed_brake, 0.0, 1.0), 1.0 / 3.0, dt_s);
+  speed_brake = approach(speed_brake, controls.speed_brake, 1.0 / 3.0, dt_s);
   lift_dumpers = approach(lift_dumpers, controls.lift_dumpers_out ? 1.0 : 0.0, 1.0 / 0.8, dt_s);
 }
 

@@ -22,6 +22,7 @@ struct Surfaces {
   double lift_dumpers = 0.0;                  ///< 0..1 in 0.8 s
   double steering_rad = 0.0;  ///< nose wheel, right positive: tiller 60 degrees, pedals 6
 
+  /// The controls stand within their limits.
   void update(double dt_s, const FlightControls& controls);
 
   /// Everything at once where the controls ask for it.
