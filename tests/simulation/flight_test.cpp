@@ -1,5 +1,6 @@
 // How the aircraft flies, against what mechanics say of any aircraft and what its figures say of this one.
 
+#include "host/simulation/world/terrain.h"
 #include "tests/simulation/flown.h"
 
 namespace host::simulation {
@@ -117,6 +118,25 @@ TEST(Flight, Each_control_moves_its_own_axis_its_own_way) {
   aircraft.controls.aileron = 1.0;
   run(aircraft, 1.25);
   EXPECT_NEAR(degrees(aircraft.flight.rate_rad_per_s.x), 20.0, 2.5) << "full aileron at 200 kt";
+}
+
+TEST(Flight, Near_the_ground_the_same_lift_costs_less_drag) {
+  AirMotion motion;
+  motion.airspeed_mps = {68.0, 0.0, 8.0};
+  const AirForces high = air_forces(motion, {});
+  motion.height_m = 3.0;
+  const AirForces low = air_forces(motion, {});
+  EXPECT_GT(low.lift_coefficient, high.lift_coefficient);
+  EXPECT_LT(low.drag_coefficient, 0.93 * high.drag_coefficient);
+}
+
+TEST(Flight, The_radio_altimeter_measures_from_the_hills_and_the_approach_is_level) {
+  const Aircraft out = flying({.altitude_ft = 5000, .along_m = 26000, .right_m = 3000});
+  const double hill_m = ground_elevation_m(out.airframe.position_m) - 364.0 * 0.3048;
+  EXPECT_GT(hill_m, 1.0);
+  EXPECT_LT(hill_m, 151.0);
+  EXPECT_NEAR(out.flight.height_ft, 5000.0 - 364.0 - hill_m / 0.3048, 1.0);
+  EXPECT_EQ(ground_elevation_m(on_runway_axes(-5900.0, 0.0)), 364.0 * 0.3048);
 }
 
 TEST(Flight, Senseless_controls_count_as_the_nearest_sensible_ones) {

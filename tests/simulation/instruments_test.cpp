@@ -80,6 +80,22 @@ TEST(Instruments, Bars_and_pointers_move_toward_where_to_fly) {
   EXPECT_EQ(token(aircraft, 46), 0.0);
 }
 
+// 10 km before the runway's middle on its course: the landing system and the beacon lie straight ahead, the
+// station TRN (15 km north, 9 km east of the middle) where geometry has it.
+TEST(Instruments, Each_needle_and_window_shows_its_own_station) {
+  const Aircraft aircraft = flying({.altitude_ft = 2100, .airspeed_kt = 180, .along_m = -10000});
+  const double north_m = 15000.0 + 10000.0 * std::cos(72.0 * M_PI / 180.0);
+  const double east_m = 9000.0 + 10000.0 * std::sin(72.0 * M_PI / 180.0);
+  const double up_m = (2100.0 - 364.0) * 0.3048;
+  const double relative_deg = degrees(std::atan2(east_m, north_m)) - 72.0 + 360.0;
+  EXPECT_NEAR(token(aircraft, 59), relative_deg, 0.1);
+  EXPECT_NEAR(token(aircraft, 35), std::hypot(north_m, east_m, up_m) / 1852.0, 0.01);
+  EXPECT_NEAR(token(aircraft, 31), std::hypot(11800.0, up_m) / 1852.0, 0.01);
+  for (std::uint32_t ahead : {550u, 39u}) {
+    EXPECT_NEAR(std::remainder(token(aircraft, ahead), 360.0), 0.0, 0.1) << ahead;
+  }
+}
+
 TEST(Instruments, Knobs_turn_what_they_say) {
   struct Case {
     std::uint32_t up, down, token;
