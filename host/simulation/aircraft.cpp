@@ -2,8 +2,6 @@
 
 #include <cmath>
 
-#include "host/simulation/flight/trim.h"
-
 namespace host::simulation {
 
 Aircraft::Aircraft(int steps_per_second) {
@@ -156,7 +154,7 @@ void Aircraft::place_on_runway() {
   update_navigation(0.0);
 }
 
-bool Aircraft::place_in_flight(const InFlight& where) {
+void Aircraft::put_in_the_air(const InFlight& where) {
   chocks_in = false;
   turbulence = {};
   controls = {};
@@ -169,12 +167,21 @@ bool Aircraft::place_in_flight(const InFlight& where) {
   airframe.put_at_altitude(on_runway_axes(where.along_m, where.right_m), where.altitude_ft);
   airframe.report(flight);
   air.update(flight);
+}
+
+Trim Aircraft::trim_for(const InFlight& where) {
   const double mach = where.mach > 0.0 ? where.mach : mach_at(where.airspeed_kt, air.pressure_hpa);
   const double heading_rad = (where.heading_deg + magnetic_variation_deg) * radians_per_degree;
   const Trim trim = trim_level(airframe, surroundings(), mach * air.sound_mps, heading_rad);
   controls.pitch_trim = trim_for_stabiliser(trim.stabiliser_rad);
   airframe.report(flight);
   air.update(flight);
+  return trim;
+}
+
+bool Aircraft::place_in_flight(const InFlight& where) {
+  put_in_the_air(where);
+  const Trim trim = trim_for(where);
   start_engines_at_once(trim.thrust_n);
   // The crew sets the thrust for the minutes to come, which burn weight away, not for the first one.
   const double burned_kg =

@@ -8,6 +8,7 @@
 #include "host/simulation/flight/airframe.h"
 #include "host/simulation/flight/flight_controls.h"
 #include "host/simulation/flight/flight_state.h"
+#include "host/simulation/flight/trim.h"
 #include "host/simulation/navigation/flight_director.h"
 #include "host/simulation/navigation/receivers.h"
 #include "host/simulation/placement.h"
@@ -69,6 +70,8 @@ struct Aircraft {
   void fly(double dt_s);
   AirframeInputs surroundings() const;
   EngineInputs engine_inputs(std::size_t engine) const;
+  void put_in_the_air(const InFlight& where);
+  Trim trim_for(const InFlight& where);
   void start_engines_at_once(double thrust_n);
   void update_systems(double dt_s);
   void update_engine_start(double dt_s);

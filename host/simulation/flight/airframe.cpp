@@ -45,7 +45,9 @@ Loads Airframe::flying_loads(const AirframeInputs& inputs) {
   motion.density_kg_per_m3 = inputs.density_kg_per_m3;
   motion.sound_mps = inputs.sound_mps;
   motion.height_m = -position_m.z - ground_elevation_m(position_m);
-  airspeed_mps = length(motion.airspeed_mps);
+  // A pitot tube feels what comes from ahead and below, not a wind from the side or from behind.
+  airspeed_mps =
+      motion.airspeed_mps.x > 0.0 ? std::hypot(motion.airspeed_mps.x, motion.airspeed_mps.z) : 0.0;
   motion.turn_rate_rad_per_s = turn_rate_rad_per_s(down, airspeed_mps);
   air = air_forces(motion, surfaces);
   return {air.force_n + Vector{inputs.thrust_n[0] + inputs.thrust_n[1], 0.0, 0.0},
