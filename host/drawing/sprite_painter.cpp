@@ -1,6 +1,7 @@
 /// Sprites: cards and horizons. The middle of the image's pixel `texture_center` lies on the middle
 /// of the background pixel with the same numbers. The image is first shifted, then turned about
-/// that point of the gauge, so that a horizon moves along the aircraft's own axis.
+/// that point of the gauge, so that a horizon moves along the aircraft's own axis. A card shows the
+/// heading that its value gives on top, so the picture turns counterclockwise for positive degrees.
 #include <cmath>
 
 #include "host/drawing/turning_painter.h"
@@ -34,7 +35,7 @@ class SpritePainter final : public TurningPainter {
   // shape in step with the background.
   Affine map(const Look& look) const override {
     const Affine shifted = shifted_by(step_pixels(look.a) / scale_.x, step_pixels(look.b) / scale_.y);
-    return onto_gauge_ * scaled_by(scale_.x, scale_.y) * turned_by(360.0 * look.turn / steps_) *
+    return onto_gauge_ * scaled_by(scale_.x, scale_.y) * turned_by(-360.0 * look.turn / steps_) *
            shifted * onto_center_;
   }
 

@@ -1,8 +1,18 @@
 #include "host/simulation/aircraft.h"
 
+#include <cmath>
+
 namespace host::simulation {
 
-Aircraft::Aircraft() {
+Aircraft::Aircraft(int steps_per_second) {
+  clock.steps_per_second = steps_per_second;
+  nav[0].frequency_mhz = landing_system().frequency_mhz;
+  nav[1].frequency_mhz = vor_stations()[0].frequency_mhz;
+  adf.frequency_khz = ndb_station().frequency_khz;
+  airframe.surfaces.settle(controls);
+  airframe.stand_at(on_runway_axes(stand_along_m, stand_right_m), runway_true_deg * radians_per_degree,
+                    mass_properties(fuel.load()));
+  airframe.report(flight);
   air.update(flight);
   for (Engine& engine : engines) {
     engine.gas_temperature_celsius = air.temperature_celsius;
@@ -13,7 +23,38 @@ Aircraft::Aircraft() {
 
 void Aircraft::step() {
   ++clock.steps;
-  update_systems(step_s);
+  controls = controls.limited();
+  fly(clock.step_s());
+  update_systems(clock.step_s());
+  update_fuel(clock.step_s());
+  update_navigation(clock.step_s());
+}
+
+AirframeInputs Aircraft::surroundings() const {
+  AirframeInputs inputs;
+  inputs.mass = mass_properties(fuel.load());
+  inputs.thrust_n = {engines[0].thrust_n, engines[1].thrust_n};
+  inputs.brake = controls.parking_brake_set ? std::array{1.0, 1.0} : controls.brake;
+  inputs.density_kg_per_m3 = air.density_kg_per_m3;
+  inputs.sound_mps = air.sound_mps;
+  inputs.wind_mps = air.weather.wind.velocity_mps();
+  inputs.gust_mps = turbulence.gust_mps;
+  return inputs;
+}
+
+void Aircraft::fly(double dt_s) {
+  airframe.surfaces.update(dt_s, controls);
+  if (chocks_in && controls.parking_brake_set) {
+    chocks_in = false;
+    airframe.stand_at(airframe.position_m, airframe.attitude.angles().heading_rad,
+                      mass_properties(fuel.load()));
+  }
+  if (!chocks_in) {
+    turbulence.update(dt_s, flight.on_ground ? 0.0 : air.weather.wind.gust_mps,
+                      flight.true_airspeed_mps);
+    airframe.update(dt_s, surroundings());
+  }
+  airframe.report(flight);
 }
 
 void Aircraft::update_systems(double dt_s) {
@@ -35,18 +76,33 @@ void Aircraft::update_engine_start(double dt_s) {
             });
 }
 
+EngineInputs Aircraft::engine_inputs(std::size_t engine) const {
+  return {
+      .fuel_lever_open = fuel.lever_open[engine],
+      .ignition = engine_start.ignition(engine) && electrics.has_dc(),
+      .crank_speed_percent = engine_start.crank_speed_percent[engine],
+      .fuel_available = fuel.at_engine[engine],
+      .throttle_ratio = controls.throttle[engine],
+      .antiice_bleed = air_controls.engine_antiice_on,
+      .air_temperature_celsius = air.temperature_celsius,
+      .air_pressure_hpa = air.pressure_hpa,
+      .mach = air.mach,
+      .airspeed_kt = air.indicated_airspeed_kt,
+      .in_flight = !flight.on_ground,
+  };
+}
+
 void Aircraft::update_engines(double dt_s) {
-  for (std::size_t i = 0; i < engines.size(); ++i) {
-    engines[i].update(dt_s, {
-                                .fuel_lever_open = fuel.lever_open[i],
-                                .ignition = engine_start.ignition(i) && electrics.has_dc(),
-                                .crank_speed_percent = engine_start.crank_speed_percent[i],
-                                .throttle_ratio = throttle_ratio[i],
-                                .antiice_bleed = air_controls.engine_antiice_on,
-                                .air_temperature_celsius = air.temperature_celsius,
-                                .air_pressure_hpa = air.pressure_hpa,
-                            });
-  }
+  for (std::size_t i = 0; i < engines.size(); ++i) engines[i].update(dt_s, engine_inputs(i));
+}
+
+void Aircraft::update_fuel(double dt_s) {
+  fuel.update(dt_s, {
+                        .flow_kg_per_h = {engines[0].fuel_flow_kg_per_h, engines[1].fuel_flow_kg_per_h},
+                        .altitude_ft = flight.altitude_ft,
+                        .has_dc = electrics.has_dc(),
+                        .standing = flight.on_ground && length(flight.velocity_mps) < 0.1,
+                    });
 }
 
 void Aircraft::update_electrics(double dt_s) {
@@ -61,6 +117,14 @@ void Aircraft::update_electrics(double dt_s) {
             });
 }
 
+void Aircraft::update_navigation(double dt_s) {
+  const bool powered = electrics.avionics_on && electrics.has_dc();
+  for (NavReceiver& receiver : nav) receiver.update(flight, powered);
+  adf.update(flight, powered);
+  marker = powered ? marker_overhead(flight) : 0;
+  if (powered) flight_director.update(dt_s, flight, air.indicated_altitude_ft, nav[0], selections);
+}
+
 void Aircraft::start_both_engines() {
   electrics.battery_on = true;
   engine_start.ignition_armed = true;
@@ -71,10 +135,75 @@ void Aircraft::start_both_engines() {
 }
 
 void Aircraft::make_ready() {
-  constexpr int warm_up_steps = 600 * steps_per_second;
+  constexpr int warm_up_s = 600;
   electrics.avionics_on = true;
   start_both_engines();
-  for (int i = 0; i < warm_up_steps; ++i) update_systems(step_s);
+  for (int i = 0; i < warm_up_s * clock.steps_per_second; ++i) update_systems(clock.step_s());
+}
+
+void Aircraft::place_on_runway() {
+  chocks_in = false;
+  controls = controls.limited();
+  controls.parking_brake_set = true;
+  controls.gear_down = true;
+  airframe.surfaces.settle(controls);
+  airframe.stand_at(on_runway_axes(line_up_along_m, 0.0), runway_true_deg * radians_per_degree,
+                    mass_properties(fuel.load()));
+  airframe.report(flight);
+  update_systems(0.0);
+  update_navigation(0.0);
+}
+
+void Aircraft::put_in_the_air(const InFlight& where) {
+  chocks_in = false;
+  turbulence = {};
+  controls = {};
+  controls.flap_detent = where.flap_detent;
+  controls.gear_down = where.gear_down;
+  controls = controls.limited();
+  airframe.surfaces.settle(controls);
+  airframe.gear = {};
+  airframe.main_wheel_down = false;
+  airframe.put_at_altitude(on_runway_axes(where.along_m, where.right_m), where.altitude_ft);
+  airframe.report(flight);
+  air.update(flight);
+}
+
+Trim Aircraft::trim_for(const InFlight& where) {
+  const double mach = where.mach > 0.0 ? where.mach : mach_at(where.airspeed_kt, air.pressure_hpa);
+  const double heading_rad = (where.heading_deg + magnetic_variation_deg) * radians_per_degree;
+  const Trim trim = trim_level(airframe, surroundings(), mach * air.sound_mps, heading_rad);
+  controls.pitch_trim = trim_for_stabiliser(trim.stabiliser_rad);
+  airframe.report(flight);
+  air.update(flight);
+  return trim;
+}
+
+bool Aircraft::place_in_flight(const InFlight& where) {
+  put_in_the_air(where);
+  const Trim trim = trim_for(where);
+  start_engines_at_once(trim.thrust_n);
+  // The crew sets the thrust for the minutes to come, which burn weight away, not for the first one.
+  const double burned_kg =
+      200.0 / 3600.0 * (engines[0].fuel_flow_kg_per_h + engines[1].fuel_flow_kg_per_h);
+  const double thrust_n = trim.thrust_n * (1.0 - burned_kg / mass_properties(fuel.load()).mass_kg);
+  start_engines_at_once(thrust_n);
+  update_systems(0.0);
+  update_navigation(0.0);
+  return trim.found && std::abs(engines[0].thrust_n * 2.0 - thrust_n) < 1.0;
+}
+
+void Aircraft::start_engines_at_once(double thrust_n) {
+  electrics.battery_on = electrics.avionics_on = true;
+  fuel.lever_open = fuel.boost_pump_on = fuel.at_engine = {true, true};
+  engine_start = {};
+  double low = 0.0, high = 1.0;
+  for (int halving = 0; halving < 50; ++halving) {
+    controls.throttle.fill((low + high) / 2.0);
+    engines[0].settle(engine_inputs(0));
+    (engines[0].thrust_n * 2.0 < thrust_n ? low : high) = controls.throttle[0];
+  }
+  engines[1].settle(engine_inputs(1));
 }
 
 }  // namespace host::simulation

@@ -5,7 +5,13 @@
 
 #include "host/simulation/base/clock.h"
 #include "host/simulation/flight/air_data.h"
+#include "host/simulation/flight/airframe.h"
+#include "host/simulation/flight/flight_controls.h"
 #include "host/simulation/flight/flight_state.h"
+#include "host/simulation/flight/trim.h"
+#include "host/simulation/navigation/flight_director.h"
+#include "host/simulation/navigation/receivers.h"
+#include "host/simulation/placement.h"
 #include "host/simulation/program_windows.h"
 #include "host/simulation/systems/air_controls.h"
 #include "host/simulation/systems/apu.h"
@@ -19,22 +25,31 @@ namespace host::simulation {
 
 struct Aircraft {
   Clock clock;
+  FlightControls controls;
   FlightState flight;
+  Airframe airframe;
+  Turbulence turbulence;
+  /// Under the wheels until the crew first sets the parking brake; they hold the aircraft altogether.
+  bool chocks_in = true;
   AirData air;
   AirControls air_controls;
   Lights lights;
   FuelControls fuel;
-  std::array<double, 2> throttle_ratio{};  ///< 0 idle .. 1 take-off
   EngineStart engine_start;
   std::array<Engine, 2> engines;
   Apu apu;
   Electrics electrics;
+  std::array<NavReceiver, 2> nav;
+  AdfReceiver adf;
+  int marker = 0;  ///< as marker_overhead()
+  Selections selections;
+  FlightDirector flight_director;
   ProgramWindows windows;
 
-  /// Parked, everything off.
-  Aircraft();
+  /// Parked, everything off. From 10 to 120 steps a second; 60 is what the cockpit runs with.
+  explicit Aircraft(int steps_per_second = usual_steps_per_second);
 
-  /// Runs one step of `step_s`.
+  /// Runs one step.
   void step();
 
   /// What the automatic start does: battery, fuel levers, ignition and both starters.
@@ -44,11 +59,26 @@ struct Aircraft {
   /// minutes ago.
   void make_ready();
 
+  /// Lines it up on the runway as it is, at rest, without chocks, the parking brake set.
+  void place_on_runway();
+
+  /// Puts it into trimmed, straight and level flight, made ready, boost pumps on. Returns false where it cannot fly so;
+  /// it is then as near to it as it comes.
+  bool place_in_flight(const InFlight& where);
+
  private:
+  void fly(double dt_s);
+  AirframeInputs surroundings() const;
+  EngineInputs engine_inputs(std::size_t engine) const;
+  void put_in_the_air(const InFlight& where);
+  Trim trim_for(const InFlight& where);
+  void start_engines_at_once(double thrust_n);
   void update_systems(double dt_s);
   void update_engine_start(double dt_s);
   void update_engines(double dt_s);
+  void update_fuel(double dt_s);
   void update_electrics(double dt_s);
+  void update_navigation(double dt_s);
 };
 
 }  // namespace host::simulation

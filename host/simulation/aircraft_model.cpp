@@ -41,13 +41,23 @@ void AircraftModel::advance(double seconds) {
   // Time arrives in slices that are rarely a whole number of steps and never quite exact: a
   // millionth of a step is forgiven, so that three thirds of a second are a second.
   constexpr double forgiven_steps = 1e-6;
-  systems_->pending_steps += seconds * simulation::steps_per_second;
+  systems_->pending_steps += seconds * systems_->aircraft.clock.steps_per_second;
   const double due = std::floor(systems_->pending_steps + forgiven_steps);
   systems_->pending_steps -= due;
   for (double done = 0.0; done < due; ++done) systems_->aircraft.step();
 }
 
 double AircraftModel::seconds() const { return systems_->aircraft.clock.elapsed_s(); }
+
+simulation::FlightControls& AircraftModel::controls() { return systems_->aircraft.controls; }
+
+simulation::Weather& AircraftModel::weather() { return systems_->aircraft.air.weather; }
+
+void AircraftModel::place_on_runway() { systems_->aircraft.place_on_runway(); }
+
+bool AircraftModel::place_in_flight(const simulation::InFlight& where) {
+  return systems_->aircraft.place_in_flight(where);
+}
 
 bool AircraftModel::key_event(std::uint32_t number, std::uint32_t value) {
   const simulation::EventRow* row = simulation::find_event(number);

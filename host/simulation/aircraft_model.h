@@ -6,11 +6,15 @@
 #include <optional>
 #include <span>
 
+#include "host/simulation/flight/air_data.h"
+#include "host/simulation/flight/flight_controls.h"
+#include "host/simulation/placement.h"
 #include "host/simulation/table_row.h"
 
 namespace host {
 
-/// How the crew finds the aircraft. Either way it stands on its chocks, the brakes released.
+/// How the crew finds the aircraft. Either way it stands on its chocks, the brakes released; the chocks go
+/// when the parking brake is first set.
 enum class StartCondition {
   cold,   ///< everything off
   ready,  ///< both engines at a warm idle, battery and avionics on
@@ -28,6 +32,19 @@ class AircraftModel {
 
   /// Seconds simulated so far, whole steps only.
   double seconds() const;
+
+  /// What flies the aircraft: hands and feet, a script or an autopilot write here between steps.
+  simulation::FlightControls& controls();
+
+  /// The day's weather: pressure, temperature, wind and gusts.
+  simulation::Weather& weather();
+
+  /// Lines it up for take-off as it is, at rest, the parking brake set.
+  void place_on_runway();
+
+  /// Puts it into trimmed, straight and level flight with everything running. Returns false where it
+  /// cannot fly so; it is then as near to it as it comes.
+  bool place_in_flight(const simulation::InFlight& where);
 
   /// Applies a host key event at once. Returns false for a number that the aircraft does not know.
   bool key_event(std::uint32_t number, std::uint32_t value);

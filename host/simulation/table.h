@@ -37,8 +37,10 @@ extern const SystemRows electrics_rows;
 extern const SystemRows engine_rows;
 extern const SystemRows engine_start_rows;
 extern const SystemRows flight_rows;
+extern const SystemRows flight_director_rows;
 extern const SystemRows fuel_rows;
 extern const SystemRows lights_rows;
+extern const SystemRows navigation_rows;
 extern const SystemRows program_windows_rows;
 
 /// All rows of all systems, ascending by number.

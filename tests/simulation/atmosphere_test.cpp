@@ -37,5 +37,22 @@ TEST(AirData, Altimeter_on_qnh_reads_the_elevation_and_on_standard_the_pressure_
   EXPECT_NEAR(air.indicated_altitude_ft, airfield_elevation_ft, 1e-6);
 }
 
+// Printed tables of calibrated airspeed against Mach number.
+TEST(AirData, Airspeeds_agree_with_the_compressible_tables) {
+  struct Case {
+    double mach, altitude_ft, calibrated_kt;
+  };
+  for (const auto& [mach, altitude_ft, calibrated_kt] : {
+           Case{0.378, 0, 250.0},
+           Case{0.452, 10000, 250.0},
+           Case{0.75, 33000, 265.0},
+           Case{0.80, 36089, 265.3},
+       }) {
+    const double hpa = standard_pressure_at(altitude_ft);
+    EXPECT_NEAR(calibrated_airspeed_kt(mach, hpa), calibrated_kt, 0.7) << mach;
+    EXPECT_NEAR(mach_at(calibrated_kt, hpa), mach, 0.002) << mach;
+  }
+}
+
 }  // namespace
 }  // namespace host::simulation

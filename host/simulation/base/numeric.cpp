@@ -17,4 +17,9 @@ double lag(double value, double target, double time_constant_s, double dt_s) {
   return value + (target - value) * std::min(1.0, dt_s / time_constant_s);
 }
 
+double approach(double value, double target, double rate_per_s, double dt_s) {
+  const double most = rate_per_s * dt_s;
+  return value + std::clamp(target - value, -most, most);
+}
+
 }  // namespace host::simulation

@@ -17,4 +17,7 @@ double on_curve(std::span<const CurvePoint> curve, double x);
 /// A first-order lag: one step of `value` toward `target`.
 double lag(double value, double target, double time_constant_s, double dt_s);
 
+/// One step of `value` toward `target` at a constant rate.
+double approach(double value, double target, double rate_per_s, double dt_s);
+
 }  // namespace host::simulation

@@ -6,7 +6,14 @@ namespace {
 
 constexpr double hpa_per_inch_of_mercury = 33.8639;
 
+constexpr double pressure_knob_hpa = 1.0;
+
 constexpr TokenRow tokens[] = {
+    {{61, "indicated_airspeed", "knots"},
+     [](const Aircraft& a) { return a.air.indicated_airspeed_kt; }},
+    {{63, "maximum_airspeed", "1/128 knots"},
+     [](const Aircraft& a) { return 128.0 * a.air.maximum_airspeed_kt; }},
+    {{64, "mach", "1/20480"}, [](const Aircraft& a) { return 20480.0 * a.air.mach; }},
     {{74, "indicated_altitude", "feet"}, [](const Aircraft& a) { return a.air.indicated_altitude_ft; }},
     {{75, "pressure_setting", "hectopascals"},
      [](const Aircraft& a) { return a.air.pressure_setting_hpa; }},
@@ -19,6 +26,10 @@ constexpr TokenRow tokens[] = {
 constexpr EventRow events[] = {
     {{0x101F8, "altimeters_to_qnh", ""},
      [](Aircraft& a, std::uint32_t) { a.air.set_altimeters_to_qnh(); }},
+    {{0x1015B, "pressure_setting_up", ""},
+     [](Aircraft& a, std::uint32_t) { a.air.turn_pressure_setting(pressure_knob_hpa); }},
+    {{0x1015C, "pressure_setting_down", ""},
+     [](Aircraft& a, std::uint32_t) { a.air.turn_pressure_setting(-pressure_knob_hpa); }},
 };
 
 }  // namespace

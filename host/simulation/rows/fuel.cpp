@@ -19,7 +19,16 @@ void toggle_pump(Aircraft& aircraft, std::uint32_t) {
   aircraft.fuel.boost_pump_on[engine] = !aircraft.fuel.boost_pump_on[engine];
 }
 
+double gallons(double kg) { return kg / kg_per_gallon; }
+
 constexpr TokenRow tokens[] = {
+    {{303, "right_tank_quantity", "gallons"},
+     [](const Aircraft& a) { return gallons(a.fuel.wing_kg[1]); }},
+    {{304, "left_tank_quantity", "gallons"},
+     [](const Aircraft& a) { return gallons(a.fuel.wing_kg[0]); }},
+    {{305, "centre_tank_quantity", "gallons"},
+     [](const Aircraft& a) { return gallons(a.fuel.centre_kg); }},
+    {{386, "total_fuel", "gallons"}, [](const Aircraft& a) { return gallons(a.fuel.total_kg()); }},
     {{token::fuel_lever[0], "fuel_lever_1", "0 closed, 1 open"}, lever<0>},
     {{token::fuel_lever[1], "fuel_lever_2", "0 closed, 1 open"}, lever<1>},
 };
@@ -34,6 +43,7 @@ constexpr EventRow events[] = {
      [](Aircraft& a, std::uint32_t) { a.fuel.feed = FuelFeed::tank_1_both; }},
     {{0x10161, "feed_both_from_tank_2", ""},
      [](Aircraft& a, std::uint32_t) { a.fuel.feed = FuelFeed::tank_2_both; }},
+    {{0x10461, "fuel_request", ""}, [](Aircraft& a, std::uint32_t) { a.fuel.toggle_refuelling(); }},
 };
 
 }  // namespace

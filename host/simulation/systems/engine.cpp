@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "host/simulation/base/numeric.h"
+#include "host/simulation/base/units.h"
 
 namespace host::simulation {
 namespace {
@@ -40,40 +41,65 @@ constexpr CurvePoint lit_fuel_flow[] = {{15.0, 130.0}, {30.0, 220.0},  {52.0, 33
                                         {75.0, 850.0}, {96.0, 2500.0}, {102.0, 3000.0}};
 constexpr double unlit_fuel_flow_kg_per_h = 120.0;
 
-double idle_correction(double air_temperature_celsius) {
-  return std::sqrt((air_temperature_celsius + 273.15) / 288.15);
+// Temperature and pressure rise where the intake stops the air.
+double ram_temperature_ratio(double mach) { return 1.0 + 0.2 * mach * mach; }
+double ram_pressure_ratio(double mach) { return std::pow(ram_temperature_ratio(mach), 3.5); }
+
+double temperature_correction(const EngineInputs& inputs) {
+  const double kelvin = inputs.air_temperature_celsius + kelvin_at_0_celsius;
+  return std::sqrt(kelvin * ram_temperature_ratio(inputs.mach) / 288.15);
 }
+
+// Idle follows the temperature of the air; the take-off rating is a governed speed of the shaft.
+constexpr double flight_idle_percent = 58.0;
+double wanted_core_speed(const EngineInputs& inputs) {
+  const double throttle = std::clamp(inputs.throttle_ratio, 0.0, 1.0);
+  const double correction = throttle + (1.0 - throttle) * temperature_correction(inputs);
+  return std::max(on_curve(throttle_speed, throttle) * correction,
+                  inputs.in_flight ? flight_idle_percent : 0.0);
+}
+
+// A draught on the apron turns nothing.
+constexpr double least_wind_kt = 60.0;
+double windmill_core_percent(const EngineInputs& inputs) {
+  return inputs.airspeed_kt > least_wind_kt ? 0.07 * inputs.airspeed_kt : 0.0;
+}
+double windmill_fan_percent(const EngineInputs& inputs) {
+  return inputs.airspeed_kt > least_wind_kt ? 0.06 * inputs.airspeed_kt : 0.0;
+}
+
+bool has_fuel(const EngineInputs& inputs) { return inputs.fuel_lever_open && inputs.fuel_available; }
 
 }  // namespace
 
 void Engine::update_flame(double dt_s, const EngineInputs& inputs) {
   if (lit) {
-    lit = inputs.fuel_lever_open && core_speed_percent > flame_out_speed_percent;
+    lit = has_fuel(inputs) && core_speed_percent > flame_out_speed_percent;
     fuel_without_flame_s = 0.0;
     return;
   }
-  const bool fuel = inputs.fuel_lever_open && core_speed_percent > fuel_speed_percent;
+  const bool fuel = has_fuel(inputs) && core_speed_percent > fuel_speed_percent;
   fuel_without_flame_s = fuel && inputs.ignition ? fuel_without_flame_s + dt_s : 0.0;
   lit = fuel_without_flame_s > light_off_delay_s;
 }
 
 double Engine::core_acceleration(const EngineInputs& inputs) const {
-  const double crank_room = inputs.crank_speed_percent - core_speed_percent;
+  const double turned_to = std::max(inputs.crank_speed_percent, windmill_core_percent(inputs));
+  const double crank_room = turned_to - core_speed_percent;
   if (!lit) {
     const double run_down = -0.15 - 0.05 * core_speed_percent;
     return crank_room > 0.0 ? crank_room / starter_spool_s : run_down;
   }
-  const double wanted =
-      on_curve(throttle_speed, inputs.throttle_ratio) * idle_correction(inputs.air_temperature_celsius);
-  const double limit = on_curve(acceleration_limit, core_speed_percent) +
-                       (inputs.crank_speed_percent > 0.0 ? starter_assist : 0.0);
-  return std::clamp((wanted - core_speed_percent) / governor_s, -deceleration_limit,
+  const bool assisted = inputs.crank_speed_percent > 0.0 || turned_to > fuel_speed_percent;
+  const double limit =
+      on_curve(acceleration_limit, core_speed_percent) + (assisted ? starter_assist : 0.0);
+  return std::clamp((wanted_core_speed(inputs) - core_speed_percent) / governor_s, -deceleration_limit,
                     std::max(limit, -deceleration_limit));
 }
 
 void Engine::update_gas(double dt_s, double acceleration, const EngineInputs& inputs) {
   const double ambient = inputs.air_temperature_celsius;
-  const double density = inputs.air_pressure_hpa / 1013.25;
+  const double density = inputs.air_pressure_hpa / 1013.25 * ram_pressure_ratio(inputs.mach);
   if (lit) {
     const double surge = core_speed_percent > 52.0 ? std::max(0.0, acceleration) : 0.0;
     const double target = on_curve(lit_temperature, core_speed_percent) + (ambient - 15.0) +
@@ -87,7 +113,7 @@ void Engine::update_gas(double dt_s, double acceleration, const EngineInputs& in
   // Air drawn through a turning engine cools it; one that stands cools for minutes.
   const double cooling_s = core_speed_percent > 5.0 ? 25.0 : 300.0;
   gas_temperature_celsius = lag(gas_temperature_celsius, ambient, cooling_s, dt_s);
-  const bool fuel = inputs.fuel_lever_open && core_speed_percent > fuel_speed_percent;
+  const bool fuel = has_fuel(inputs) && core_speed_percent > fuel_speed_percent;
   fuel_flow_kg_per_h = fuel ? unlit_fuel_flow_kg_per_h : 0.0;
 }
 
@@ -106,13 +132,36 @@ void Engine::update(double dt_s, const EngineInputs& inputs) {
   const double acceleration = core_acceleration(inputs);
   core_speed_percent = std::max(0.0, core_speed_percent + acceleration * dt_s);
   // The fan is carried up by the gas but runs down by itself, long after the core.
-  const double fan_target = on_curve(fan_speed, core_speed_percent);
+  const double fan_target =
+      std::max(on_curve(fan_speed, core_speed_percent), windmill_fan_percent(inputs));
   const double fan_s = fan_target > fan_speed_percent ? 0.9 : lit ? 1.5 : 6.0;
   fan_speed_percent = lag(fan_speed_percent, fan_target, fan_s, dt_s);
   const double fan_ratio = fan_speed_percent / 96.0;
   pressure_ratio = 1.0 + 0.38 * fan_ratio * fan_ratio;
   update_gas(dt_s, acceleration, inputs);
   update_oil(dt_s, inputs);
+  update_thrust(inputs);
+}
+
+void Engine::update_thrust(const EngineInputs& inputs) {
+  constexpr double rated_n = 48000.0, rated_fan_percent = 96.0;
+  const double pressure = inputs.air_pressure_hpa / 1013.25;
+  const double n = fan_speed_percent / rated_fan_percent / temperature_correction(inputs);
+  const double m = inputs.mach;
+  thrust_n = rated_n * pressure * (n * n - 0.55 * n * m + 0.45 * n * n * m * m);
+}
+
+void Engine::settle(const EngineInputs& inputs) {
+  constexpr double long_s = 1e6;
+  lit = has_fuel(inputs);
+  core_speed_percent = lit ? wanted_core_speed(inputs)
+                           : std::max(inputs.crank_speed_percent, windmill_core_percent(inputs));
+  fan_speed_percent = std::max(on_curve(fan_speed, core_speed_percent), windmill_fan_percent(inputs));
+  const double fan_ratio = fan_speed_percent / 96.0;
+  pressure_ratio = 1.0 + 0.38 * fan_ratio * fan_ratio;
+  update_gas(long_s, 0.0, inputs);
+  update_oil(long_s, inputs);
+  update_thrust(inputs);
 }
 
 }  // namespace host::simulation
