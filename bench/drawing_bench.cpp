@@ -7,7 +7,10 @@
 #include <cstring>
 #include <deque>
 
-#include "tests/drawing/made_gauge.h"
+#include "host/drawing/painter.h"
+#include "host/gauge/gauge_run.h"
+#include "tests/drawing/made_bitmaps.h"
+#include "tests/gauge/made_gauge.h"
 
 namespace {
 

@@ -4,7 +4,6 @@
 #include <memory>
 #include <new>
 
-#include "platform/guid.h"
 #include "platform/sound_buffer.h"
 #include "platform/sound_device.h"
 #include "platform/window_list.h"
@@ -19,10 +18,10 @@ bool is_complete(const DSBUFFERDESC& description) {
          description.dwBufferBytes <= DSBSIZE_MAX;
 }
 
-std::shared_ptr<Pcm> make_pcm(const DSBUFFERDESC& description) {
+std::shared_ptr<Pcm> make_pcm(const WAVEFORMATEX& format, DWORD bytes) {
   auto pcm = std::make_shared<Pcm>();
-  pcm->format = *description.lpwfxFormat;
-  pcm->bytes.resize(description.dwBufferBytes);
+  pcm->format = format;
+  pcm->bytes.resize(bytes);
   clear(*pcm);
   return pcm;
 }
@@ -35,10 +34,6 @@ HRESULT give_buffer(std::shared_ptr<Pcm> pcm, LPDIRECTSOUNDBUFFER* buffer) {
 
 class DirectSound final : public IDirectSound {
  public:
-  HRESULT QueryInterface(REFIID interface_id, LPVOID* object) override {
-    return query_interface(this, IID_IDirectSound, interface_id, object);
-  }
-  ULONG AddRef() override { return ++references_; }
   ULONG Release() override;
   HRESULT CreateSoundBuffer(LPCDSBUFFERDESC description, LPDIRECTSOUNDBUFFER* buffer,
                             LPUNKNOWN outer) override;
@@ -48,13 +43,10 @@ class DirectSound final : public IDirectSound {
  private:
   ~DirectSound() = default;
 
-  ULONG references_ = 1;
   bool level_set_ = false;
 };
 
 ULONG DirectSound::Release() {
-  const ULONG left = --references_;
-  if (left > 0) return left;
   delete this;
   sound_device().release();
   return 0;
@@ -67,10 +59,11 @@ HRESULT DirectSound::CreateSoundBuffer(LPCDSBUFFERDESC description, LPDIRECTSOUN
   if (outer != nullptr) return DSERR_NOAGGREGATION;
   if (!level_set_) return DSERR_PRIOLEVELNEEDED;
   if (description == nullptr || !is_complete(*description)) return DSERR_INVALIDPARAM;
-  if ((description->dwFlags & DSBCAPS_PRIMARYBUFFER) != 0) return DSERR_UNSUPPORTED;
-  if (!is_playable(*description->lpwfxFormat)) return DSERR_BADFORMAT;
+  WAVEFORMATEX format;
+  const HRESULT readable = read_format(*description->lpwfxFormat, format);
+  if (FAILED(readable)) return readable;
   try {
-    return give_buffer(make_pcm(*description), buffer);
+    return give_buffer(make_pcm(format, description->dwBufferBytes), buffer);
   } catch (const std::bad_alloc&) {
     return DSERR_OUTOFMEMORY;
   }
@@ -94,12 +87,6 @@ HRESULT DirectSound::SetCooperativeLevel(HWND window, DWORD level) {
 
 }  // namespace
 }  // namespace platform
-
-const GUID IID_IUnknown = {0x00000000, 0x0000, 0x0000, {0xC0, 0, 0, 0, 0, 0, 0, 0x46}};
-const GUID IID_IDirectSound = {
-    0x279AFA83, 0x4981, 0x11CE, {0xA5, 0x21, 0x00, 0x20, 0xAF, 0x0B, 0xE5, 0x60}};
-const GUID IID_IDirectSoundBuffer = {
-    0x279AFA85, 0x4981, 0x11CE, {0xA5, 0x21, 0x00, 0x20, 0xAF, 0x0B, 0xE5, 0x60}};
 
 HRESULT DirectSoundCreate(LPCGUID device, LPDIRECTSOUND* sound, LPUNKNOWN outer) {
   if (sound == nullptr) return DSERR_INVALIDPARAM;

@@ -1,6 +1,7 @@
 #include "platform/pcm.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace platform {
 namespace {
@@ -9,7 +10,14 @@ std::int16_t sample_8(const BYTE* at) { return static_cast<std::int16_t>((*at - 
 
 std::int16_t sample_16(const BYTE* at) { return static_cast<std::int16_t>(at[0] | at[1] << 8); }
 
-}  // namespace
+/// Makes an extensible format the plain one that it stands for.
+HRESULT take_extension(const ExtensibleFormat& given, WAVEFORMATEX& plain) {
+  if (plain.cbSize < sizeof given - sizeof given.head) return DSERR_INVALIDPARAM;
+  if (given.used_bits > plain.wBitsPerSample) return DSERR_INVALIDPARAM;
+  if (std::memcmp(&given.form, &pcm_form, sizeof pcm_form) != 0) return DSERR_BADFORMAT;
+  plain.wFormatTag = WAVE_FORMAT_PCM;
+  return DS_OK;
+}
 
 bool is_playable(const WAVEFORMATEX& format) {
   const bool layout = (format.nChannels == 1 || format.nChannels == 2) &&
@@ -18,6 +26,18 @@ bool is_playable(const WAVEFORMATEX& format) {
   const bool rate =
       format.nSamplesPerSec >= DSBFREQUENCY_MIN && format.nSamplesPerSec <= DSBFREQUENCY_MAX;
   return format.wFormatTag == WAVE_FORMAT_PCM && layout && rate;
+}
+
+}  // namespace
+
+HRESULT read_format(const WAVEFORMATEX& format, WAVEFORMATEX& plain) {
+  plain = format;
+  if (format.wFormatTag == extensible_tag) {
+    const auto& extensible = reinterpret_cast<const ExtensibleFormat&>(format);
+    if (const HRESULT result = take_extension(extensible, plain); FAILED(result)) return result;
+  }
+  plain.cbSize = 0;
+  return is_playable(plain) ? DS_OK : DSERR_BADFORMAT;
 }
 
 void clear(Pcm& pcm) {

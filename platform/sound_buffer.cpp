@@ -1,23 +1,12 @@
 #include "platform/sound_buffer.h"
 
 #include <algorithm>
-#include <cmath>
 #include <new>
 #include <utility>
 
-#include "platform/guid.h"
 #include "platform/sound_device.h"
 
 namespace platform {
-namespace {
-
-/// The factor for a volume in hundredths of a decibel.
-float gain_of(LONG volume) {
-  return volume <= DSBVOLUME_MIN ? 0.0f : std::pow(10.0f, static_cast<float>(volume) / 2000.0f);
-}
-
-}  // namespace
-
 SoundBuffer::SoundBuffer(std::shared_ptr<Pcm> pcm) : pcm_(std::move(pcm)) {}
 
 SoundBuffer::~SoundBuffer() = default;
@@ -34,26 +23,10 @@ SoundBuffer* SoundBuffer::create(std::shared_ptr<Pcm> pcm) {
   return nullptr;
 }
 
-HRESULT SoundBuffer::QueryInterface(REFIID interface_id, LPVOID* object) {
-  return query_interface(this, IID_IDirectSoundBuffer, interface_id, object);
-}
-
-ULONG SoundBuffer::AddRef() { return ++references_; }
-
 ULONG SoundBuffer::Release() {
-  const ULONG left = --references_;
-  if (left > 0) return left;
   delete this;
   sound_device().release();
   return 0;
-}
-
-HRESULT SoundBuffer::GetCurrentPosition(LPDWORD play, LPDWORD write) {
-  const std::size_t frame = voice_.playing() ? voice_.frame() : frame_;
-  const auto position = static_cast<DWORD>(frame * pcm_->format.nBlockAlign);
-  if (play != nullptr) *play = position;
-  if (write != nullptr) *write = position;
-  return DS_OK;
 }
 
 HRESULT SoundBuffer::GetStatus(LPDWORD status) {
@@ -70,9 +43,7 @@ HRESULT SoundBuffer::GetStatus(LPDWORD status) {
 HRESULT SoundBuffer::Lock(DWORD offset, DWORD bytes, LPVOID* part1, LPDWORD bytes1, LPVOID* part2,
                           LPDWORD bytes2, DWORD flags) {
   if (lost()) return DSERR_BUFFERLOST;
-  if (flags == DSBLOCK_ENTIREBUFFER) bytes = size();
-  const bool known = flags == 0 || flags == DSBLOCK_ENTIREBUFFER;
-  if (!known || part1 == nullptr || bytes1 == nullptr) return DSERR_INVALIDPARAM;
+  if (flags != 0 || part1 == nullptr || bytes1 == nullptr) return DSERR_INVALIDPARAM;
   if (offset >= size() || bytes == 0 || bytes > size()) return DSERR_INVALIDPARAM;
   *bytes1 = std::min(bytes, size() - offset);
   *part1 = pcm_->bytes.data() + offset;
@@ -134,18 +105,10 @@ HRESULT SoundBuffer::SetCurrentPosition(DWORD position) {
   return DS_OK;
 }
 
-HRESULT SoundBuffer::SetVolume(LONG volume) {
-  if (volume < DSBVOLUME_MIN || volume > DSBVOLUME_MAX) return DSERR_INVALIDPARAM;
-  volume_ = volume;
-  voice_.set_gain(gain_of(volume));
-  return DS_OK;
-}
-
 HRESULT SoundBuffer::Restore() {
   if (!lost()) return DS_OK;
   if (!sound_device().reopen() || !voice_.create()) return DSERR_BUFFERLOST;
   clear(*pcm_);
-  voice_.set_gain(gain_of(volume_));
   frame_ = 0;
   return DS_OK;
 }

@@ -13,22 +13,18 @@ namespace platform {
 /// A position in the samples is kept here while nothing plays, in the voice while it plays.
 class SoundBuffer final : public IDirectSoundBuffer {
  public:
-  /// A buffer over `pcm`, with one reference; null if the device has no room for it.
+  /// A buffer over `pcm`; null if the device has no room for it.
   static SoundBuffer* create(std::shared_ptr<Pcm> pcm);
 
   const std::shared_ptr<Pcm>& pcm() const { return pcm_; }
   bool lost() const { return !voice_.alive(); }
 
-  HRESULT QueryInterface(REFIID interface_id, LPVOID* object) override;
-  ULONG AddRef() override;
   ULONG Release() override;
-  HRESULT GetCurrentPosition(LPDWORD play, LPDWORD write) override;
   HRESULT GetStatus(LPDWORD status) override;
   HRESULT Lock(DWORD offset, DWORD bytes, LPVOID* part1, LPDWORD bytes1, LPVOID* part2, LPDWORD bytes2,
                DWORD flags) override;
   HRESULT Play(DWORD reserved, DWORD priority, DWORD flags) override;
   HRESULT SetCurrentPosition(DWORD position) override;
-  HRESULT SetVolume(LONG volume) override;
   HRESULT Stop() override;
   HRESULT Unlock(LPVOID part1, DWORD bytes1, LPVOID part2, DWORD bytes2) override;
   HRESULT Restore() override;
@@ -43,9 +39,7 @@ class SoundBuffer final : public IDirectSoundBuffer {
   Voice voice_;
   unsigned loaded_version_ = 0;  ///< of the samples that the voice has; 0: none
   std::size_t frame_ = 0;        ///< where playing starts
-  LONG volume_ = DSBVOLUME_MAX;
   bool looping_ = false;
-  ULONG references_ = 1;
 };
 
 }  // namespace platform

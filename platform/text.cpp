@@ -1,71 +1,67 @@
 #include <windows.h>
 
-#include <array>
-#include <charconv>
+#include <algorithm>
 #include <cstdarg>
-#include <string_view>
+#include <cstdio>
+#include <string>
 
 namespace {
 
-constexpr std::size_t text_limit = 1024;  // with the final zero
+constexpr int text_limit = 1024;  // with the final zero
 
 /// The text so far; what does not fit is dropped.
 struct Text {
   char* start;
-  std::size_t length = 0;
+  int length = 0;
 
   void put(char c) {
     if (length + 1 < text_limit) start[length++] = c;
   }
-  void put(std::string_view part) {
-    for (const char c : part) put(c);
-  }
-  void fill(char c, std::size_t count) {
-    while (count-- > 0) put(c);
+
+  template <typename Value>
+  void print(const char* format, int width, int precision, Value value) {
+    const int room = text_limit - length;
+    const int wanted = std::snprintf(start + length, room, format, width, precision, value);
+    length += std::clamp(wanted, 0, room - 1);
   }
 };
 
-/// How a conversion stands in its field.
+/// What stands between a percent sign and its letter, as the C library takes it.
 struct Field {
-  bool left = false;
   bool zeros = false;
-  std::size_t width = 0;
+  int width = 0;       ///< below 0: at the left end of its field
+  int precision = -1;  ///< below 0: none
 };
 
-/// `sign` is what zeros come after.
-void put_field(Text& text, const Field& field, std::string_view sign, std::string_view body) {
-  const std::size_t used = sign.size() + body.size();
-  const std::size_t missing = field.width > used ? field.width - used : 0;
-  const bool zeros = field.zeros && !field.left;
-  if (!field.left && !zeros) text.fill(' ', missing);
-  text.put(sign);
-  if (zeros) text.fill('0', missing);
-  text.put(body);
-  if (field.left) text.fill(' ', missing);
-}
-
-void put_number(Text& text, const Field& field, ULONG magnitude, bool negative, int base, bool upper) {
-  std::array<char, 16> digits{};
-  const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), magnitude, base).ptr;
-  if (upper) {
-    for (char& c : digits) c = c >= 'a' && c <= 'f' ? static_cast<char>(c - 'a' + 'A') : c;
+int read_number(const char*& format) {
+  int number = 0;
+  for (; *format >= '0' && *format <= '9'; ++format) {
+    number = std::min(number * 10 + (*format - '0'), text_limit);
   }
-  const std::string_view body(digits.data(), static_cast<std::size_t>(end - digits.data()));
-  put_field(text, field, negative ? "-" : "", body);
+  return number;
 }
 
-/// Reads flags and width; leaves `format` on the conversion letter.
+/// Leaves `format` on the letter.
 Field read_field(const char*& format) {
   Field field;
-  for (; *format == '-' || *format == '0'; ++format) {
-    (*format == '-' ? field.left : field.zeros) = true;
-  }
-  for (; *format >= '0' && *format <= '9'; ++format) {
-    field.width = field.width * 10 + static_cast<std::size_t>(*format - '0');
-    if (field.width > text_limit) field.width = text_limit;
-  }
+  bool left = false;
+  for (; *format == '-' || *format == '0'; ++format) (*format == '-' ? left : field.zeros) = true;
+  field.width = left ? -read_number(format) : read_number(format);
+  if (*format == '.') field.precision = read_number(++format);
   if (*format == 'l') ++format;  // a LONG is an int here
   return field;
+}
+
+/// A number has at least one digit, whatever its precision.
+void put_number(Text& text, const Field& field, char letter, LONG value) {
+  std::string format = field.zeros ? "%0*.*" : "%*.*";
+  format += letter;
+  text.print(format.c_str(), field.width, field.precision == 0 ? 1 : field.precision, value);
+}
+
+/// Zeros fill up numbers only.
+void put_string(Text& text, const Field& field, const char* string) {
+  text.print("%*.*s", field.width, field.precision, string);
 }
 
 struct Arguments {
@@ -75,22 +71,18 @@ struct Arguments {
 void put_conversion(Text& text, const Field& field, char letter, Arguments& arguments) {
   switch (letter) {
     case 'd':
-    case 'i': {
-      const LONG value = va_arg(arguments.list, LONG);
-      const auto bits = static_cast<ULONG>(value);
-      return put_number(text, field, value < 0 ? 0 - bits : bits, value < 0, 10, false);
-    }
-    case 'u': return put_number(text, field, va_arg(arguments.list, ULONG), false, 10, false);
+    case 'i':
+    case 'u':
     case 'x':
-    case 'X': return put_number(text, field, va_arg(arguments.list, ULONG), false, 16, letter == 'X');
+    case 'X': return put_number(text, field, letter, va_arg(arguments.list, LONG));
     case 'c': {
-      const auto character = static_cast<char>(va_arg(arguments.list, int));
-      const std::size_t length = character == '\0' ? 0 : 1;  // a zero would end the text
-      return put_field(text, field, "", {&character, length});
+      // As a string: a zero, which would end the text, is left out.
+      const char character[] = {static_cast<char>(va_arg(arguments.list, int)), '\0'};
+      return put_string(text, field, character);
     }
     case 's': {
       const char* string = va_arg(arguments.list, const char*);
-      return put_field(text, field, "", string != nullptr ? string : "(null)");
+      return put_string(text, field, string != nullptr ? string : "(null)");
     }
     default: return text.put(letter);  // a second % among them
   }
@@ -114,5 +106,5 @@ int wsprintfA(LPSTR destination, LPCSTR format, ...) {
   }
   va_end(arguments.list);
   destination[text.length] = '\0';
-  return static_cast<int>(text.length);
+  return text.length;
 }

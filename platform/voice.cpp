@@ -83,8 +83,4 @@ void Voice::seek(std::size_t frame) {
   if (alive()) alSourcei(source_, AL_SAMPLE_OFFSET, static_cast<ALint>(frame));
 }
 
-void Voice::set_gain(float gain) {
-  if (alive()) alSourcef(source_, AL_GAIN, gain);
-}
-
 }  // namespace platform

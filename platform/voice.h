@@ -33,9 +33,6 @@ class Voice {
   std::size_t frame() const;
   void seek(std::size_t frame);
 
-  /// A factor, 0 to 1.
-  void set_gain(float gain);
-
  private:
   ALuint source_ = 0;
   ALuint buffer_ = 0;

@@ -28,13 +28,15 @@ bool fill(IDirectSoundBuffer* buffer, const SoundObject& sound) {
   return true;
 }
 
-/// A new buffer with the sound's samples; null if it cannot be made or filled.
+/// A new buffer with the sound's samples; null if it cannot be made or filled. Which formats can be
+/// played is for the device to say.
 IDirectSoundBuffer* filled_buffer(IDirectSound* direct_sound, SoundObject& sound) {
+  if (sound.format.empty()) return nullptr;
   DSBUFFERDESC description{};
   description.dwSize = sizeof(DSBUFFERDESC1);  // the short form: no spatial sound
   description.dwFlags = buffer_flags;
   description.dwBufferBytes = size_of(sound);
-  description.lpwfxFormat = &sound.format;
+  description.lpwfxFormat = reinterpret_cast<WAVEFORMATEX*>(sound.format.data());
   IDirectSoundBuffer* buffer = nullptr;
   if (FAILED(direct_sound->CreateSoundBuffer(&description, &buffer, nullptr))) return nullptr;
   if (fill(buffer, sound)) return buffer;
@@ -51,11 +53,15 @@ IDirectSoundBuffer* further_buffer(IDirectSound* direct_sound, SoundObject& soun
   return doubled ? buffer : filled_buffer(direct_sound, sound);
 }
 
-/// Takes over what the source holds. A short format is filled up with zeros.
-void copy_wave(const WaveSource& source, SoundObject& sound) {
-  const std::size_t known = std::min(source.format.size(), sizeof sound.format);
-  if (known > 0) std::memcpy(&sound.format, source.format.data(), known);
-  sound.samples.assign(source.samples.begin(), source.samples.end());
+/// The format as it stands in the file. Whoever reads it goes by the sizes it tells, so zeros follow
+/// where the file has less than that.
+std::vector<std::byte> whole_format(Bytes chunk) {
+  if (chunk.empty()) return {};
+  WAVEFORMATEX head{};
+  std::memcpy(&head, chunk.data(), std::min(chunk.size(), sizeof head));
+  std::vector<std::byte> format(chunk.begin(), chunk.end());
+  format.resize(std::max(chunk.size(), sizeof head + head.cbSize));
+  return format;
 }
 
 bool make_buffers(IDirectSound* direct_sound, SoundObject& sound, std::size_t count) {
@@ -90,7 +96,8 @@ using OwnedSound = std::unique_ptr<SoundObject, decltype(&destroy_sound)>;
 
 OwnedSound load_sound(IDirectSound* direct_sound, const WaveSource& source, i32 buffer_count) {
   OwnedSound sound(new SoundObject, destroy_sound);
-  copy_wave(source, *sound);
+  sound->format = whole_format(source.format);
+  sound->samples.assign(source.samples.begin(), source.samples.end());
   const auto count = static_cast<std::size_t>(std::max(buffer_count, 1));
   if (!make_buffers(direct_sound, *sound, count)) sound.reset();
   return sound;

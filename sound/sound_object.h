@@ -13,7 +13,7 @@ namespace tarnvale {
 /// The samples are a copy of the file's: a buffer that is lost with its device can be filled again
 /// at any time, whatever has become of the file.
 struct SoundObject {
-  WAVEFORMATEX format{};  ///< all zeros if the file has none that can be used
+  std::vector<std::byte> format;  ///< a WAVEFORMATEX and what follows it; empty if there is none
   std::vector<std::byte> samples;
   std::vector<IDirectSoundBuffer*> buffers;  ///< at least one; the first is null if it cannot play
   i32 current = 0;                           ///< index of the buffer played last

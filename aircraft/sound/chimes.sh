@@ -35,12 +35,15 @@ announcement_chime() {
   shape "$1" "$1.both" sinc 250-4500 gain -n -10 fade t 0.004 1.25 0.12
 }
 
-# Nearing the selected altitude: a C major chord, C6 E6 G6, each with its octave for a bright edge.
+# Nearing the selected altitude: a C major chord, C6 E6 G6, each with its octave for a bright edge. An
+# aircraft that stays near it hears the chord again and again.
 altitude_alert() {
-  part chord synth 0.95 sine 1046.50 synth 0.95 sine mix 1318.51 synth 0.95 sine mix 1567.98 gain -6
-  part shine synth 0.95 sine 2093.00 synth 0.95 sine mix 2637.02 synth 0.95 sine mix 3135.96 gain -14
+  local span
+  span=$(repeating_seconds 18)
+  part chord synth 1 sine 1046.50 synth 1 sine mix 1318.51 synth 1 sine mix 1567.98 gain -6
+  part shine synth 1 sine 2093.00 synth 1 sine mix 2637.02 synth 1 sine mix 3135.96 gain -14
   mix alert chord shine
-  shape swell alert fade t 0.006 0.95 0.09
+  shape swell alert fade t 0.006 "$span" 0.09
   finish_at -4 swell
 }
 

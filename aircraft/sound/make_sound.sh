@@ -5,12 +5,9 @@
 set -euo pipefail
 export LC_ALL=C
 
-here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+# shellcheck source=aircraft/sound/chapters.sh
+source "$(dirname "${BASH_SOURCE[0]}")/chapters.sh"
 cue=$(realpath "$1") file=$(realpath -m "$2")
-for chapter in studio switches chimes warnings machinery voices; do
-  # shellcheck source=/dev/null
-  source "$here/$chapter.sh"
-done
 
 IFS='|' read -r _ recipe words <"$cue"
 read -r recipe <<<"$recipe"

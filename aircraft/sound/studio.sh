@@ -54,6 +54,21 @@ hammer() {
 # tidy NAME FROM: silence cut from both ends.
 tidy() { shape "$1" "$2" silence 1 0.002 0.5% reverse silence 1 0.002 0.5% reverse; }
 
+# Some sounds are asked for anew on every frame while their cause lasts, 18 times a second, and start
+# again on the first frame that finds them at their end. One that ended on a frame would miss it every
+# other time: the sound device works in steps of some 20 ms, and pictures delay frames by as much. So they
+# end midway between two frames, as far as can be from either, and always follow themselves after the same
+# number of frames.
+
+# repeating_seconds FRAMES: the length of a sound that comes again after this many frames.
+repeating_seconds() { calc "($1 - 0.5) / 18"; }
+
+# repeating_frames SECONDS: after how many frames a sound of at least this length can come again.
+repeating_frames() { calc "int($1 * 18 + 0.5) + 1"; }
+
+# cut_to_repeat NAME FROM FRAMES: the part up to there.
+cut_to_repeat() { shape "$1" "$2" trim 0 "$(repeating_seconds "$3")"; }
+
 # finish FROM [FADE_IN FADE_OUT]: the sound as it is delivered, its ends faded so that nothing clicks.
 finish() {
   sox_steady "$1.sox" -b 16 -e signed-integer finished.wav fade t "${2:-0.004}" "$(soxi -D "$1.sox")" "${3:-0.005}"

@@ -1,6 +1,6 @@
 # Sounds that must win against everything else in the cockpit.
 
-# The fire bell: a hammer on a steel gong, twenty strokes a second.
+# The fire bell: a hammer on a steel gong, twenty strokes a second, thirty in the 27 frames to its repeat.
 fire_bell() {
   burst blow 2000 9000 0.012 -24
   ring gong1 1180 0.9 -24
@@ -11,7 +11,8 @@ fire_bell() {
   ring gong6 6120 0.2 -32
   mix stroke blow gong1 gong2 gong3 gong4 gong5 gong6
   hammer bell stroke 0.05 10 1.5
-  finish_at -1 bell
+  cut_to_repeat ringing bell 27
+  finish_at -1 ringing 0.004 0.015
 }
 
 # horn NAME PITCH SECONDS: a diaphragm horn: two reeds a little apart, hard driven through a short bell.
@@ -29,26 +30,32 @@ stick_shaker() {
   burst clack 900 6500 0.035 -9
   mix blow column knock rattle clack
   hammer shaker blow 0.0625 4 1.5
-  horn tone 415 1.5
+  horn tone 415 "$(repeating_seconds 27)"
   shape rattling shaker gain -n -3 overdrive 8 0 gain -n -6
   shape behind tone gain -n -6
   mix stall rattling behind
-  finish_at -1 stall
+  cut_to_repeat warning stall 27
+  finish_at -1 warning
 }
 
-# Cabin altitude: a horn that stops and starts; it rings on in the gaps, the last one too, so that the
-# beat holds when the warning repeats.
+# Cabin altitude: a horn that stops and starts every seven frames; it rings on in the gaps, the last one
+# too, so that the beat holds when the warning repeats.
 cabin_horn() {
-  horn blast 330 0.26
+  local beat
+  beat=$(calc "7 / 18")
+  horn blast 330 0.25
   shape blown blast gain -3 pad 0 0.3 reverb 45 50 30 100 0 -2
-  shape warning blown trim 0 0.4 fade t 0 0.4 0.01 repeat 3
-  finish_at -1 warning
+  shape beats blown trim 0 "$beat" fade t 0 "$beat" 0.01 repeat 3
+  cut_to_repeat warning beats 28
+  finish_at -1 warning 0.004 0.01
 }
 
 # For the people outside, at the nose gear: a long two-tone air horn.
 ground_horn() {
-  horn low 277 1.4
-  horn high 349 1.4
+  local span
+  span=$(repeating_seconds 27)
+  horn low 277 "$span"
+  horn high 349 "$span"
   shape lower low gain -6
   shape higher high gain -7
   mix blast lower higher
@@ -63,10 +70,13 @@ whoop() {
   shape "$1" "$1.sweep" gain -n -9 fade t 0.01 0.36 0.03
 }
 
-# Ground proximity: two whoops, then the order.
+# Ground proximity: two whoops, then the order, put off so that the whole has a length that repeats.
 ground_proximity() {
+  local spoken_for frames
   whoop up
   spoken order "$WARNING_VOICE" ALARM_SOUND "$1" -15
-  mix warning up up@0.4 order@0.82
+  spoken_for=$(soxi -D order.sox)
+  frames=$(repeating_frames "$(calc "0.82 + $spoken_for")")
+  mix warning up up@0.4 "order@$(calc "$(repeating_seconds "$frames") - $spoken_for")"
   finish_at -1 warning
 }

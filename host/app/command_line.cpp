@@ -66,17 +66,17 @@ class CommandLine {
   void add_fly() {
     CLI::App* sub = add("fly", "Sit in the cockpit: opens a window", fly_, fly);
     add_cockpit(sub, fly_.cockpit);
-    sub->add_option("--scale", fly_.scale,
+    sub->add_option("--scale", fly_.deck.scale,
                     "Scale of the desktop, 1 is 96 dots an inch; else its own setting")
         ->check(CLI::Range(0.5, 8.0));
-    sub->add_option("--zoom", fly_.zoom,
+    sub->add_option("--zoom", fly_.deck.zoom,
                     "Size of the panels, 1 is their own; else what fits the screen")
         ->check(CLI::Range(0.1, 8.0));
     sub->add_option("--open", fly_.open, "Windows to open at once, by their idents");
-    sub->add_option("--pictures", fly_.pictures, "Folder for screenshots")->capture_default_str();
-    sub->add_option("--record", fly_.record,
+    sub->add_option("--pictures", fly_.deck.pictures, "Folder for screenshots")->capture_default_str();
+    sub->add_option("--record", fly_.deck.record,
                     "Write your inputs to this file, as a flow that can be run again");
-    sub->add_option("--exit-after", fly_.exit_after, "Leave after so many seconds")
+    sub->add_option("--exit-after", fly_.deck.exit_after, "Leave after so many seconds")
         ->check(CLI::NonNegativeNumber);
     sub->add_flag("--mute", fly_.mute, "Fly without sound");
   }
@@ -95,8 +95,9 @@ class CommandLine {
     CLI::App* sub = add("show", "Draw gauges, in a window or into a file", show_, show);
     add_cockpit(sub, show_.cockpit);
     sub->add_option("gauges", show_.gauges, "Names of gauges")->required();
-    sub->add_option("--zoom", show_.zoom, "Size, 1 is the gauges' own")->check(CLI::Range(0.1, 8.0));
-    sub->add_option("--scale", show_.scale, "Scale of the desktop")->check(CLI::Range(0.5, 8.0));
+    sub->add_option("--zoom", show_.deck.zoom, "Size, 1 is the gauges' own")
+        ->check(CLI::Range(0.1, 8.0));
+    sub->add_option("--scale", show_.deck.scale, "Scale of the desktop")->check(CLI::Range(0.5, 8.0));
     sub->add_flag("--areas", show_.areas, "Outline the click areas");
     sub->add_flag("--night", show_.night, "With the panel lights on");
     sub->add_option("--set", show_.readings, "token=value, by name or number: hold a token variable");

@@ -1,6 +1,6 @@
 #include "host/app/commands.h"
-#include "host/app/flight_deck.h"
 #include "host/app/installation.h"
+#include "host/window/flight_deck.h"
 
 namespace host {
 
@@ -15,7 +15,7 @@ int fly(const FlyOptions& options) {
       throw std::runtime_error("--open: there is no window " + std::to_string(ident));
     cockpit.panels().open(ident);
   }
-  FlightDeck deck(cockpit, options);
+  FlightDeck deck(cockpit, options.deck);
   deck.fly();
   return exit_fine;
 }

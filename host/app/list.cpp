@@ -5,7 +5,7 @@
 #include "host/app/columns.h"
 #include "host/app/commands.h"
 #include "host/app/installation.h"
-#include "host/app/wav_facts.h"
+#include "host/sound/wav_facts.h"
 #include "host/panel/text.h"
 
 namespace host {

@@ -3,12 +3,11 @@
 
 #include <cstdint>
 #include <filesystem>
-#include <optional>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "host/panel/cockpit.h"
+#include "host/window/deck_options.h"
 
 namespace host {
 
@@ -21,12 +20,8 @@ struct CockpitOptions {
 
 struct FlyOptions {
   CockpitOptions cockpit;
-  std::optional<double> scale;           ///< of texts and borders; else the desktop's setting
-  std::optional<double> zoom;            ///< screen pixels per panel pixel at scale 1; else what fits
-  std::vector<std::uint32_t> open;       ///< idents to open besides those that are open from the start
-  std::filesystem::path pictures = ".";  ///< where screenshots go
-  std::filesystem::path record;          ///< a flow to write the person's inputs to; empty: none
-  std::optional<double> exit_after;      ///< seconds
+  DeckOptions deck;
+  std::vector<std::uint32_t> open;  ///< idents to open besides those that are open from the start
   bool mute = false;
 };
 
@@ -41,8 +36,7 @@ struct RunOptions {
 struct ShowOptions {
   CockpitOptions cockpit;
   std::vector<std::string> gauges;
-  std::optional<double> zoom;
-  std::optional<double> scale;
+  DeckOptions deck;  ///< its zoom also for the file
   bool areas = false;
   bool night = false;
   std::vector<std::string> readings;  ///< token=value

@@ -3,9 +3,9 @@
 #include <stdexcept>
 
 #include "host/app/commands.h"
-#include "host/app/flight_deck.h"
 #include "host/app/installation.h"
 #include "host/panel/panel_picture.h"
+#include "host/window/flight_deck.h"
 
 namespace host {
 namespace {
@@ -70,7 +70,7 @@ void set_up(Cockpit& cockpit, const ShowOptions& options) {
 }
 
 void write_picture(Cockpit& cockpit, const ShowOptions& options) {
-  PanelPicture picture(cockpit, 0, options.zoom.value_or(1.0));
+  PanelPicture picture(cockpit, 0, options.deck.zoom.value_or(1.0));
   picture.mark_areas(options.areas);
   std::vector<Rect> changed;
   picture.draw(1.0, changed);
@@ -90,10 +90,7 @@ int show(const ShowOptions& options) {
     write_picture(cockpit, options);
     return exit_fine;
   }
-  FlyOptions deck_options;
-  deck_options.scale = options.scale;
-  deck_options.zoom = options.zoom;
-  FlightDeck deck(cockpit, deck_options);
+  FlightDeck deck(cockpit, options.deck);
   deck.mark_areas(options.areas);
   deck.fly();
   return exit_fine;

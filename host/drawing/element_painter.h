@@ -4,7 +4,7 @@
 #include <memory>
 
 #include "host/drawing/pictures.h"
-#include "host/panel/gauge_run.h"
+#include "host/gauge/element_state.h"
 #include "interface/panel_interface.h"
 
 namespace host {

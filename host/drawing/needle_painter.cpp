@@ -2,24 +2,17 @@
 /// turned by the direction of the mark, without one by the value in degrees clockwise. The middle
 /// of the image's pivot pixel lies on the middle of the background pixel at the needle's position.
 #include <cmath>
-#include <optional>
 
-#include "host/drawing/needle_scale.h"
 #include "host/drawing/turning_painter.h"
+#include "host/gauge/needle_geometry.h"
 
 namespace host {
 namespace {
 
-std::optional<NeedleScale> scale_of(const Element& element) {
-  const NeedlePart& needle = element.needle;
-  if (needle.table == nullptr || needle.table_length == 0) return std::nullopt;
-  return NeedleScale(element.position, {needle.table, needle.table_length});
-}
-
 class NeedlePainter final : public TurningPainter {
  public:
   NeedlePainter(const Element& element, const TurningPicture& picture, Scale scale)
-      : TurningPainter(picture), scale_(scale_of(element)) {
+      : TurningPainter(picture), scale_(needle_scale(element)) {
     const PanelPoint pivot = element.needle.center;
     onto_pivot_ = shifted_by(-(pivot.x + 0.5), -(pivot.y + 0.5)) * picture.to_image;
     onto_gauge_ =
@@ -30,9 +23,7 @@ class NeedlePainter final : public TurningPainter {
 
   Look look(const Moment& moment) override {
     const double before = needle_value(moment.before), now = needle_value(moment.now);
-    if (!std::isfinite(now)) return {};
-    const double angle = scale_ ? scale_->angle_between(before, now, moment.blend)
-                                : mixed_angle(before, now, moment.blend);
+    const double angle = needle_angle_between(scale_, before, now, moment.blend);
     if (!std::isfinite(angle)) return {};
     return {.shown = true, .turn = turn_step(angle, steps_)};
   }
@@ -50,7 +41,7 @@ class NeedlePainter final : public TurningPainter {
     return std::hypot(x, y) * scale;
   }
 
-  std::optional<NeedleScale> scale_;
+  NeedleScale scale_;
   Affine onto_pivot_;  // the picture, with the pivot in the corner, in background pixels
   Affine onto_gauge_;
   int steps_ = 0;

@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
+#include "host/gauge/element_state.h"
 #include "host/loader/bitmap.h"
-#include "host/panel/gauge_run.h"
 #include "interface/panel_interface.h"
 
 namespace host {

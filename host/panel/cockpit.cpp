@@ -96,7 +96,7 @@ void Cockpit::run(CockpitGauge& gauge) {
   gauge.frame = frames_;
   if (!gauge.started) gauge.run.start(module_.handle());
   gauge.started = true;
-  gauge.run.frame(aircraft_);
+  gauge.run.frame(tokens_);
   gauge.moving = !std::ranges::equal(gauge.run.before(), gauge.run.now());
   gauge.changes += gauge.moving;
 }

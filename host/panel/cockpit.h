@@ -8,13 +8,13 @@
 #include <vector>
 
 #include "host/drawing/painter.h"
+#include "host/gauge/gauge_run.h"
 #include "host/loader/gauge_module.h"
-#include "host/panel/gauge_run.h"
+#include "host/panel/aircraft_tokens.h"
 #include "host/panel/hot_areas.h"
 #include "host/panel/panel_config.h"
 #include "host/panel/panel_set.h"
 #include "host/panel/services.h"
-#include "host/simulation/aircraft_model.h"
 
 namespace host {
 
@@ -109,6 +109,7 @@ class Cockpit : private ServiceTarget {
   PanelConfig config_;
   PanelSet panels_;
   AircraftModel aircraft_;
+  AircraftTokens tokens_{aircraft_};
   double rate_;
   std::uint64_t frames_ = 0;
   std::vector<std::unique_ptr<CockpitGauge>> gauges_;

@@ -3,17 +3,17 @@
 
 #include <array>
 
-#include "host/simulation/air_controls.h"
-#include "host/simulation/air_data.h"
-#include "host/simulation/apu.h"
-#include "host/simulation/clock.h"
-#include "host/simulation/electrics.h"
-#include "host/simulation/engine.h"
-#include "host/simulation/engine_start.h"
-#include "host/simulation/flight_state.h"
-#include "host/simulation/fuel.h"
-#include "host/simulation/lights.h"
+#include "host/simulation/base/clock.h"
+#include "host/simulation/flight/air_data.h"
+#include "host/simulation/flight/flight_state.h"
 #include "host/simulation/program_windows.h"
+#include "host/simulation/systems/air_controls.h"
+#include "host/simulation/systems/apu.h"
+#include "host/simulation/systems/electrics.h"
+#include "host/simulation/systems/engine.h"
+#include "host/simulation/systems/engine_start.h"
+#include "host/simulation/systems/fuel.h"
+#include "host/simulation/systems/lights.h"
 
 namespace host::simulation {
 

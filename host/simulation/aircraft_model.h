@@ -8,8 +8,6 @@
 #include <string>
 #include <string_view>
 
-#include "host/panel/gauge_run.h"
-
 namespace host {
 
 /// A row of the token table or of the event table, for listings and for scripts.
@@ -26,11 +24,11 @@ enum class StartCondition {
 };
 
 /// The simulated aircraft. Deterministic: the same calls give the same values to the bit.
-class AircraftModel : public TokenSource {
+class AircraftModel {
  public:
   AircraftModel();  ///< cold
   explicit AircraftModel(StartCondition condition);
-  ~AircraftModel() override;
+  ~AircraftModel();
 
   /// Moves time on. Runs whole steps of a fixed length and keeps the rest for the next call.
   void advance(double seconds);
@@ -41,11 +39,12 @@ class AircraftModel : public TokenSource {
   /// Applies a host key event at once. Returns false for a number that the aircraft does not know.
   bool key_event(std::uint32_t number, std::uint32_t value);
 
-  double token(std::uint32_t number) const override;
+  /// What a host token variable reads; 0 for a number that the aircraft does not know.
+  double token(std::uint32_t number) const;
 
   /// Fails or repairs the system behind a failure key.
   void set_failed(std::uint32_t key, bool failed);
-  bool failed(std::uint32_t key) const override;
+  bool failed(std::uint32_t key) const;
 
   /// Puts a token to a value by its name or number, for scripts and tests: a held reading that
   /// the models no longer change. An empty value lets it go again.

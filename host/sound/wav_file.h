@@ -1,38 +1,39 @@
 /// A WAV file that grows: 44.1 kHz, 16 bit, stereo.
 #pragma once
 
+#include <sndfile.h>
+
 #include <cstdint>
-#include <fstream>
+#include <memory>
 #include <span>
 #include <string>
 
 namespace host {
 
-/// All errors are std::runtime_error and name the file.
+/// All errors are std::runtime_error and name the file. The header is true after every write: a run
+/// that is broken off leaves a file that plays.
 class WavFile {
  public:
   /// No file: what is written is dropped.
   WavFile() = default;
   /// Makes or replaces the file.
   explicit WavFile(const std::string& path);
-  /// Finishes the file if that has not been done; an error is not reported any more.
-  ~WavFile();
-  WavFile(const WavFile&) = delete;
-  WavFile& operator=(const WavFile&) = delete;
 
   /// Appends interleaved samples, left first.
   void write(std::span<const std::int16_t> samples);
 
-  /// Puts the sizes into the header and closes the file. A second time does nothing.
+  /// Closes the file; what is written afterwards is dropped. Destruction does the same, but silently.
   void finish();
 
  private:
-  void write_header();
-  void check() const;
+  struct Close {
+    void operator()(SNDFILE* file) const { sf_close(file); }
+  };
+
+  [[noreturn]] void fail() const;
 
   std::string path_;
-  std::ofstream out_;
-  std::uint64_t data_bytes_ = 0;
+  std::unique_ptr<SNDFILE, Close> file_;
 };
 
 }  // namespace host

@@ -1,5 +1,6 @@
 /// The sound calls of the operating system that the module makes, for systems that lack them: real
-/// names, types and constants; buffers are secondary ones of PCM, 8 or 16 bit, mono or stereo.
+/// names, types and constants; buffers are secondary ones of PCM, 8 or 16 bit, mono or stereo, by a plain
+/// or an extensible format.
 #pragma once
 
 #include <windows.h>
@@ -9,14 +10,10 @@
 constexpr HRESULT MAKE_DSHRESULT(DWORD code) { return static_cast<HRESULT>(0x88780000u | code); }
 
 inline constexpr HRESULT DS_OK = S_OK;
-inline constexpr HRESULT DSERR_INVALIDCALL = MAKE_DSHRESULT(50);
 inline constexpr HRESULT DSERR_PRIOLEVELNEEDED = MAKE_DSHRESULT(70);
 inline constexpr HRESULT DSERR_BADFORMAT = MAKE_DSHRESULT(100);
 inline constexpr HRESULT DSERR_NODRIVER = MAKE_DSHRESULT(120);
 inline constexpr HRESULT DSERR_BUFFERLOST = MAKE_DSHRESULT(150);
-inline constexpr HRESULT DSERR_UNSUPPORTED = E_NOTIMPL;
-inline constexpr HRESULT DSERR_NOINTERFACE = E_NOINTERFACE;
-inline constexpr HRESULT DSERR_GENERIC = E_FAIL;
 inline constexpr HRESULT DSERR_OUTOFMEMORY = E_OUTOFMEMORY;
 inline constexpr HRESULT DSERR_INVALIDPARAM = E_INVALIDARG;
 inline constexpr HRESULT DSERR_NOAGGREGATION = CLASS_E_NOAGGREGATION;
@@ -28,7 +25,6 @@ inline constexpr WORD WAVE_FORMAT_PCM = 1;
 inline constexpr DWORD DSSCL_NORMAL = 1;
 inline constexpr DWORD DSSCL_WRITEPRIMARY = 4;
 
-inline constexpr DWORD DSBCAPS_PRIMARYBUFFER = 0x01;
 inline constexpr DWORD DSBCAPS_STATIC = 0x02;
 inline constexpr DWORD DSBCAPS_LOCSOFTWARE = 0x08;
 inline constexpr DWORD DSBCAPS_CTRLPAN = 0x40;
@@ -43,13 +39,11 @@ inline constexpr DWORD DSBPLAY_LOOPING = 0x1;
 inline constexpr DWORD DSBSTATUS_PLAYING = 0x1;
 inline constexpr DWORD DSBSTATUS_BUFFERLOST = 0x2;
 inline constexpr DWORD DSBSTATUS_LOOPING = 0x4;
-inline constexpr DWORD DSBLOCK_ENTIREBUFFER = 0x2;
-
-inline constexpr LONG DSBVOLUME_MIN = -10000;  // hundredths of a decibel
-inline constexpr LONG DSBVOLUME_MAX = 0;
 
 // ---- Records ------------------------------------------------------------------------------------
 
+// As they lie in a file: no gap before the extension, which has `cbSize` bytes.
+#pragma pack(push, 1)
 struct WAVEFORMATEX {
   WORD wFormatTag;
   WORD nChannels;
@@ -60,6 +54,8 @@ struct WAVEFORMATEX {
   WORD cbSize;
 };
 typedef WAVEFORMATEX* LPWAVEFORMATEX;
+#pragma pack(pop)
+static_assert(sizeof(WAVEFORMATEX) == 18);
 
 /// The short description: 20 bytes where pointers have four.
 struct DSBUFFERDESC1 {
@@ -81,11 +77,9 @@ struct DSBUFFERDESC {
 };
 typedef const DSBUFFERDESC* LPCDSBUFFERDESC;
 
-// ---- Objects: counted references; the last Release destroys the object --------------------------
+// ---- Objects: each has one reference; Release destroys it ---------------------------------------
 
 struct IUnknown {
-  virtual HRESULT QueryInterface(REFIID interface_id, LPVOID* object) = 0;
-  virtual ULONG AddRef() = 0;
   virtual ULONG Release() = 0;
 
  protected:
@@ -96,8 +90,6 @@ typedef IUnknown* LPUNKNOWN;
 /// One sound in memory. After its device went away it is lost: Lock and Play fail with
 /// DSERR_BUFFERLOST until Restore succeeds, and then its samples must be written again.
 struct IDirectSoundBuffer : IUnknown {
-  /// In bytes. `write` is the same place: samples are taken when playing starts. Either may be null.
-  virtual HRESULT GetCurrentPosition(LPDWORD play, LPDWORD write) = 0;
   virtual HRESULT GetStatus(LPDWORD status) = 0;
   /// Gives `bytes` bytes from `offset`; what reaches beyond the end continues at the start as the
   /// second part (null and 0 when there is none).
@@ -105,8 +97,8 @@ struct IDirectSoundBuffer : IUnknown {
                        LPDWORD bytes2, DWORD flags) = 0;
   /// From the current position; from the start after it has played to its end.
   virtual HRESULT Play(DWORD reserved, DWORD priority, DWORD flags) = 0;
+  /// In bytes.
   virtual HRESULT SetCurrentPosition(DWORD position) = 0;
-  virtual HRESULT SetVolume(LONG volume) = 0;
   virtual HRESULT Stop() = 0;
   virtual HRESULT Unlock(LPVOID part1, DWORD bytes1, LPVOID part2, DWORD bytes2) = 0;
   virtual HRESULT Restore() = 0;
@@ -117,7 +109,8 @@ struct IDirectSoundBuffer : IUnknown {
 typedef IDirectSoundBuffer* LPDIRECTSOUNDBUFFER;
 
 struct IDirectSound : IUnknown {
-  /// Needs a cooperative level. Fails for a format or size that cannot be played.
+  /// Needs a cooperative level. DSERR_BADFORMAT for samples that cannot be played, DSERR_INVALIDPARAM for
+  /// a format or size that makes no sense.
   virtual HRESULT CreateSoundBuffer(LPCDSBUFFERDESC description, LPDIRECTSOUNDBUFFER* buffer,
                                     LPUNKNOWN outer) = 0;
   /// A second buffer over the same samples, with its own position and status.
@@ -132,10 +125,6 @@ struct IDirectSound : IUnknown {
 typedef IDirectSound* LPDIRECTSOUND;
 
 extern "C" {
-
-WINBASEAPI extern const GUID IID_IUnknown;
-WINBASEAPI extern const GUID IID_IDirectSound;
-WINBASEAPI extern const GUID IID_IDirectSoundBuffer;
 
 /// Opens the default device (`device` null). DSERR_NODRIVER when there is none.
 WINBASEAPI HRESULT DirectSoundCreate(LPCGUID device, LPDIRECTSOUND* sound, LPUNKNOWN outer);

@@ -7,7 +7,7 @@
 #include <cstdint>
 
 #define WINBASEAPI           __attribute__((visibility("default")))
-#define DECLARE_HANDLE(name) typedef struct name##__* name
+#define DECLARE_HANDLE(name) typedef struct name##_handle* name
 
 // ---- Types: sizes are the real ones, whatever this system's `long` is ---------------------------
 
@@ -25,7 +25,6 @@ typedef const char* LPCSTR;
 typedef void* LPVOID;
 typedef const void* LPCVOID;
 typedef DWORD* LPDWORD;
-typedef LONG* LPLONG;
 
 typedef void* HANDLE;
 typedef HANDLE HGLOBAL;
@@ -43,9 +42,7 @@ struct GUID {
   WORD Data3;
   BYTE Data4[8];
 };
-typedef GUID IID;
 typedef const GUID* LPCGUID;
-typedef const IID& REFIID;
 
 // ---- Constants ----------------------------------------------------------------------------------
 
@@ -70,9 +67,6 @@ constexpr bool SUCCEEDED(HRESULT result) { return result >= 0; }
 constexpr bool FAILED(HRESULT result) { return result < 0; }
 
 inline constexpr HRESULT S_OK = 0;
-inline constexpr HRESULT E_NOTIMPL = static_cast<HRESULT>(0x80004001u);
-inline constexpr HRESULT E_NOINTERFACE = static_cast<HRESULT>(0x80004002u);
-inline constexpr HRESULT E_FAIL = static_cast<HRESULT>(0x80004005u);
 inline constexpr HRESULT E_OUTOFMEMORY = static_cast<HRESULT>(0x8007000Eu);
 inline constexpr HRESULT E_INVALIDARG = static_cast<HRESULT>(0x80070057u);
 inline constexpr HRESULT CLASS_E_NOAGGREGATION = static_cast<HRESULT>(0x80040110u);
@@ -88,8 +82,9 @@ WINBASEAPI HWND FindWindowA(LPCSTR class_name, LPCSTR title);
 /// Returns IDOK.
 WINBASEAPI int MessageBoxA(HWND owner, LPCSTR text, LPCSTR caption, UINT type);
 
-/// Formats with %d %i %u %x %X %c %s %% (and `l`, which changes nothing: LONG has 32 bits), a width,
-/// zero fill and '-'. At most 1024 bytes with the final zero. Returns the characters written.
+/// Formats with %d %i %u %x %X %c %s %% (and `l`, which changes nothing: LONG has 32 bits), '-', zero fill
+/// of numbers, a width and a precision. At most 1024 bytes with the final zero. Returns the characters
+/// written.
 WINBASEAPI int wsprintfA(LPSTR text, LPCSTR format, ...);
 
 // ---- Resources: libraries of this system carry none of the kinds asked for here -----------------

@@ -59,7 +59,8 @@ void wash(const Canvas& canvas, const Dial& d, Lighting lighting) {
 Path ring(Point c, double radius, double from, double to) {
   return [=](cairo_t* cr) {
     cairo_new_sub_path(cr);
-    cairo_arc(cr, c.x, c.y, radius, radians(from), radians(to));
+    const auto arc = from <= to ? cairo_arc : cairo_arc_negative;  // a scale may run either way
+    arc(cr, c.x, c.y, radius, radians(from), radians(to));
   };
 }
 

@@ -1,10 +1,10 @@
 #include "resources/kit/records.h"
 
-#include <algorithm>
-#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <string>
+
+#include "host/gauge/needle_geometry.h"
 
 extern "C" const LinkageRecord Linkage;
 
@@ -17,13 +17,6 @@ namespace {
 }
 
 const Element* after(const Element* element) { return element->next ? *element->next : nullptr; }
-
-double turned_to(const Element& needle, const NonlinearityPoint& entry) {
-  const double degrees =
-      std::atan2(entry.point.y - needle.position.y, entry.point.x - needle.position.x) * 180 /
-      3.14159265358979;
-  return degrees < 0 ? degrees + 360 : degrees;
-}
 
 bool same(const Element& a, const Element& b) {
   return a.kind == b.kind && a.resource_id == b.resource_id && a.position.x == b.position.x &&
@@ -90,20 +83,7 @@ std::vector<Box> click_boxes(const GaugeHeader& of) {
 }
 
 double needle_angle(const Element& needle, double value) {
-  const NonlinearityPoint* table = needle.needle.table;
-  const u32 length = needle.needle.table_length;
-  if (table == nullptr || length == 0) return value;
-  double angle = turned_to(needle, table[0]);
-  for (u32 i = 0; i + 1 < length; ++i) {
-    const double from = table[i].value, to = table[i + 1].value;
-    double sweep = turned_to(needle, table[i + 1]) - turned_to(needle, table[i]);
-    if (sweep < 0) sweep += 360;
-    const double share = to == from ? 0 : (value - from) / (to - from);
-    if (share <= 0) return angle;
-    if (share <= 1 || (i + 2 == length)) return angle + sweep * std::min(share, 1.0);
-    angle += sweep;
-  }
-  return angle;
+  return host::needle_angle(host::needle_scale(needle), value);
 }
 
 }  // namespace artwork

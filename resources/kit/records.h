@@ -32,8 +32,8 @@ Point place(std::string_view gauge_name, int id, int nth = 0);
 /// The click areas of a gauge in plate pixels, in the order of its table.
 std::vector<Box> click_boxes(const GaugeHeader& of);
 
-/// Degrees clockwise from the right at which `needle` points for `value`. Between two entries of its
-/// table the needle turns clockwise; beyond the ends it stays.
+/// Degrees clockwise from the right at which the cockpit will point `needle` for `value`, not reduced
+/// to one turn.
 double needle_angle(const Element& needle, double value);
 
 }  // namespace artwork

@@ -204,6 +204,21 @@ TEST(SoundFiles, BeginAndEndWithoutSilenceOrSteps) {
   }
 }
 
+// What is asked for again on every frame starts again after the same number of frames each time, even if a
+// frame or the device is late by nearly half of one: it ends in the middle between two.
+TEST(SoundFiles, RepeatAfterWholeFrames) {
+  const struct {
+    const char* file;
+    int frames;
+  } repeated[] = {
+      {"Tarv_fire.wav", 27},    {"Tarv_stall.wav", 27}, {"Ground/Tarv_gndwarn.wav", 27},
+      {"Tarv_cabwarn.wav", 28}, {"Tarv_gpws.wav", 24},  {"Tarv_altalert.wav", 18},
+  };
+  for (const auto& [file, frames] : repeated) {
+    EXPECT_NEAR(samples(file).size() / rate * 18, frames - 0.5, 0.01) << file;
+  }
+}
+
 TEST(SoundFiles, SpeakAtOneLoudnessAndWarnAboveIt) {
   double sum = 0, count = 0;
   for (const Sound& sound : sounds)

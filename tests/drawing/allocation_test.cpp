@@ -5,6 +5,7 @@
 #include <cstring>
 #include <new>
 
+#include "host/gauge/gauge_run.h"
 #include "tests/drawing/fixture.h"
 
 namespace {

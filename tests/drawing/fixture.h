@@ -5,7 +5,9 @@
 
 #include <ostream>
 
-#include "tests/drawing/made_gauge.h"
+#include "host/drawing/painter.h"
+#include "tests/drawing/made_bitmaps.h"
+#include "tests/gauge/made_gauge.h"
 
 namespace host {
 

@@ -3,7 +3,6 @@
 #include <cmath>
 #include <limits>
 
-#include "host/drawing/needle_scale.h"
 #include "tests/drawing/fixture.h"
 
 namespace host {
@@ -77,59 +76,15 @@ TEST_F(Motion, NeedlePointsAtTheMarksOfItsTable) {
   gauge_.needle(20, {20, 20}, {1, 1}, table);
   for (const double zoom : {1.0, 2.0}) {
     Scene scene(gauge_, bitmaps_, zoom);
-    const NeedleScale scale({20, 20}, table);
-    struct Case {
-      double value, degrees;
-    };
-    for (const Case& c : {Case{0, 90}, Case{5, 135}, Case{10, 180}, Case{20, 225}, Case{30, 270},
-                          Case{40, 360}, Case{-99, 90}, Case{1e9, 360}, Case{infinite, 360}})
-      EXPECT_DOUBLE_EQ(scale.angle(c.value), c.degrees) << c.value;
     scene.set(1, 30);
     scene.draw();
     const Rect box = scene.box_without(grey);
     EXPECT_NEAR(box.x + box.width / 2.0, 20.5 * zoom, 0.51);
     EXPECT_NEAR(box.y, 5 * zoom, 2);
+    scene.before[1].values[0] = 10;
+    scene.draw(0.5);
+    EXPECT_LT(scene.box_without(grey).x, 12 * zoom);  // halfway, to the upper left
   }
-}
-
-TEST_F(Motion, WideTablesSweepClockwiseUnlessThatGoesRoundTwice) {
-  const NonlinearityPoint wide[] = {{{10, 30}, 0}, {{30, 30}, 100}};  // over the top, not the gap
-  EXPECT_DOUBLE_EQ(NeedleScale({20, 20}, wide).angle(50), 270);
-  const NonlinearityPoint back[] = {{{30, 30}, 0}, {{20, 0}, 50}, {{10, 30}, 100}};
-  EXPECT_DOUBLE_EQ(std::remainder(NeedleScale({20, 20}, back).angle(50), 360), -90);
-  EXPECT_DOUBLE_EQ(std::remainder(NeedleScale({20, 20}, back).angle(25), 360), -22.5);
-}
-
-TEST_F(Motion, OddTablesAreHarmless) {
-  const NonlinearityPoint falling[] = {{{0, 20}, 10}, {{20, 0}, 0}};
-  EXPECT_DOUBLE_EQ(NeedleScale({20, 20}, falling).angle(10), 180);
-  EXPECT_DOUBLE_EQ(NeedleScale({20, 20}, falling).angle(5), 225);
-  const NonlinearityPoint pivot[] = {{{0, 20}, 0}, {{20, 20}, 1}, {{20, 0}, 2}};
-  EXPECT_DOUBLE_EQ(NeedleScale({20, 20}, pivot).angle(1), 180);
-  const NonlinearityPoint step[] = {{{0, 20}, 0}, {{20, 0}, 0}, {{40, 20}, 1}};
-  EXPECT_TRUE(std::isfinite(NeedleScale({20, 20}, step).angle(0)));
-  const NonlinearityPoint nowhere[] = {{{0, 20}, nan_value}};
-  EXPECT_DOUBLE_EQ(NeedleScale({20, 20}, nowhere).angle(3), 0);
-}
-
-TEST_F(Motion, NeedleBlendsTheShortWay) {
-  // A full circle from the top, as on an altimeter.
-  const NonlinearityPoint circle[] = {
-      {{20, 0}, 0}, {{40, 20}, 250}, {{20, 40}, 500}, {{0, 20}, 750}, {{20, 0}, 1000}};
-  const NeedleScale closed({20, 20}, circle);
-  EXPECT_DOUBLE_EQ(std::remainder(closed.angle_between(950, 50, 0.5) + 90, 360), 0);
-  EXPECT_DOUBLE_EQ(closed.angle_between(nan_value, 250, 0.5), closed.angle(250));
-  const NonlinearityPoint arc[] = {{{0, 40}, 0}, {{0, 0}, 50}, {{40, 0}, 100}, {{40, 40}, 150}};
-  const NeedleScale open({20, 20}, arc);
-  EXPECT_DOUBLE_EQ(std::remainder(open.angle_between(0, 150, 0.5), 360),
-                   -90);  // back over the top, never through the gap
-
-  gauge_.needle(20, {20, 20}, {1, 1});
-  Scene scene(gauge_, bitmaps_);
-  scene.before[1].values[0] = 350;
-  scene.now[1].values[0] = 10;
-  scene.draw(0.5);
-  EXPECT_EQ(direction(scene), "right");
 }
 
 TEST_F(Motion, SpeedLimitedNeedleStandsWhereItHasCome) {

@@ -44,18 +44,18 @@ TEST_F(Playing, StartsBetweenPullsOfAnySize) {
 }
 
 TEST_F(Playing, EveryFormatKeepsItsLevelAndSides) {
-  const Buffer stereo_16 =
-      buffer_of<std::int16_t>(pcm_format(2, 16, PLATFORM_AUDIO_RATE), {100, -200, 300, -400});
+  const Buffer stereo_16 = buffer_of(extensible(pcm_format(2, 16, PLATFORM_AUDIO_RATE)),
+                                     std::vector<std::int16_t>{100, -200, 300, -400});
   stereo_16->Play(0, 0, 0);
   EXPECT_EQ(render(3), (std::vector<Frame>{{100, -200}, {300, -400}, {}}));
 
   const Buffer mono_8 =
-      buffer_of<BYTE>(pcm_format(1, 8, PLATFORM_AUDIO_RATE), {0x80, 0xFF, 0x00, 0x81});
+      buffer_of(pcm_format(1, 8, PLATFORM_AUDIO_RATE), std::vector<BYTE>{0x80, 0xFF, 0x00, 0x81});
   mono_8->Play(0, 0, 0);
   EXPECT_EQ(render(5), both({0, 32512, -32768, 256, 0}));
 
   const Buffer stereo_8 =
-      buffer_of<BYTE>(pcm_format(2, 8, PLATFORM_AUDIO_RATE), {0x00, 0xFF, 0x80, 0x80, 0x55});
+      buffer_of(pcm_format(2, 8, PLATFORM_AUDIO_RATE), std::vector<BYTE>{0x00, 0xFF, 0x80, 0x80, 0x55});
   stereo_8->Play(0, 0, 0);
   EXPECT_EQ(render(3), (std::vector<Frame>{{-32768, 32512}, {}, {}})) << "half a frame at the end";
 }
@@ -91,21 +91,6 @@ TEST_F(Playing, SoundsAddUpAndAreCutOffAtFullLevel) {
   EXPECT_EQ(render(4), both({111, 32767, -32768, 0}));
 }
 
-TEST_F(Playing, VolumeIsInHundredthsOfADecibel) {
-  const Buffer buffer = mono_16(std::vector<std::int16_t>(20000, 10000));
-  const struct {
-    LONG volume;
-    int level;
-  } cases[] = {{-2000, 1000}, {-600, 5012}, {DSBVOLUME_MIN, 0}, {DSBVOLUME_MAX, 10000}};
-  for (const auto& test : cases) {
-    EXPECT_EQ(buffer->SetVolume(test.volume), DS_OK);
-    buffer->SetCurrentPosition(0);
-    buffer->Play(0, 0, 0);
-    EXPECT_NEAR(render(3000).back().left, test.level, 2) << test.volume;
-  }
-  EXPECT_EQ(buffer->SetVolume(1), DSERR_INVALIDPARAM);
-}
-
 TEST_F(Playing, LoopsUntilStopped) {
   const Buffer buffer = mono_16({1, 2, 3, 4});
   buffer->Play(0, 0, DSBPLAY_LOOPING);
@@ -123,9 +108,7 @@ TEST_F(Playing, GoesOnWhereItWasStoppedOrPut) {
   const auto last_of = [](std::size_t frames) { return render(frames).back().left; };
   buffer->Play(0, 0, 0);
   EXPECT_EQ(last_of(1000), 999);
-  EXPECT_EQ(position(*buffer), 2000u);
   buffer->Stop();
-  EXPECT_EQ(position(*buffer), 2000u);
   EXPECT_EQ(last_of(1), 0);
   buffer->Play(0, 0, 0);
   render(499);  // a start in the middle fades in
@@ -138,7 +121,6 @@ TEST_F(Playing, GoesOnWhereItWasStoppedOrPut) {
   buffer->Play(0, 0, 0);  // plays already: no new start
   render(499);
   EXPECT_EQ(last_of(2), 0);
-  EXPECT_EQ(position(*buffer), 0u) << "at the end, ready to play again";
   buffer->Play(0, 0, 0);
   EXPECT_EQ(last_of(1000), 999);
   EXPECT_EQ(buffer->SetCurrentPosition(8000), DSERR_INVALIDPARAM);

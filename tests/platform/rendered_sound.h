@@ -10,6 +10,7 @@
 #include <span>
 #include <vector>
 
+#include "platform/pcm.h"
 #include "platform/platform_host.h"
 
 /// One stereo frame of the mix.
@@ -44,6 +45,14 @@ inline WAVEFORMATEX pcm_format(WORD channels, WORD bits, DWORD rate) {
   return {WAVE_FORMAT_PCM, channels, rate, rate * block, block, bits, 0};
 }
 
+/// The extensible form of a plain format.
+inline platform::ExtensibleFormat extensible(WAVEFORMATEX format) {
+  const WORD bits = format.wBitsPerSample;
+  format.wFormatTag = platform::extensible_tag;
+  format.cbSize = 22;
+  return {format, bits, 0, platform::pcm_form};
+}
+
 class RenderedSound : public testing::Test {
  protected:
   void SetUp() override {
@@ -59,12 +68,13 @@ class RenderedSound : public testing::Test {
     platform_register_window("Main", nullptr);
   }
 
-  HRESULT create(WAVEFORMATEX format, DWORD bytes, Buffer& buffer) {
+  template <typename Format>
+  HRESULT create(Format format, DWORD bytes, Buffer& buffer) {
     DSBUFFERDESC description{};
     description.dwSize = sizeof(DSBUFFERDESC1);
-    description.dwFlags = DSBCAPS_STATIC | DSBCAPS_CTRLVOLUME;
+    description.dwFlags = DSBCAPS_STATIC;
     description.dwBufferBytes = bytes;
-    description.lpwfxFormat = &format;
+    description.lpwfxFormat = reinterpret_cast<LPWAVEFORMATEX>(&format);
     IDirectSoundBuffer* made = nullptr;
     const HRESULT result = sound_->CreateSoundBuffer(&description, &made, nullptr);
     buffer.reset(made);
@@ -72,8 +82,8 @@ class RenderedSound : public testing::Test {
   }
 
   /// A buffer with these samples.
-  template <typename Sample>
-  Buffer buffer_of(WAVEFORMATEX format, const std::vector<Sample>& samples) {
+  template <typename Format, typename Sample>
+  Buffer buffer_of(Format format, const std::vector<Sample>& samples) {
     Buffer buffer;
     EXPECT_EQ(create(format, static_cast<DWORD>(samples.size() * sizeof(Sample)), buffer), DS_OK);
     fill(*buffer, samples);
@@ -84,8 +94,9 @@ class RenderedSound : public testing::Test {
   static void fill(IDirectSoundBuffer& buffer, const std::vector<Sample>& samples) {
     void* part = nullptr;
     DWORD bytes = 0;
-    ASSERT_EQ(buffer.Lock(0, 0, &part, &bytes, nullptr, nullptr, DSBLOCK_ENTIREBUFFER), DS_OK);
-    ASSERT_EQ(bytes, samples.size() * sizeof(Sample));
+    const auto size = static_cast<DWORD>(samples.size() * sizeof(Sample));
+    ASSERT_EQ(buffer.Lock(0, size, &part, &bytes, nullptr, nullptr, 0), DS_OK);
+    ASSERT_EQ(bytes, size);
     std::memcpy(part, samples.data(), bytes);
     ASSERT_EQ(buffer.Unlock(part, bytes, nullptr, 0), DS_OK);
   }
@@ -98,12 +109,6 @@ class RenderedSound : public testing::Test {
     DWORD status = 0xFFFF;
     EXPECT_EQ(buffer.GetStatus(&status), DS_OK);
     return status;
-  }
-
-  static DWORD position(IDirectSoundBuffer& buffer) {
-    DWORD play = 0;
-    EXPECT_EQ(buffer.GetCurrentPosition(&play, nullptr), DS_OK);
-    return play;
   }
 
   std::unique_ptr<IDirectSound, Release> sound_;

@@ -11,50 +11,6 @@
 namespace artwork {
 namespace {
 
-/// A needle at (50, 50) with three entries: left, up, right.
-struct Calibration {
-  NonlinearityPoint table[3] = {{{10, 50}, 0}, {{50, 10}, 10}, {{90, 50}, 110}};
-  Element needle{};
-
-  Calibration() {
-    needle.kind = ELEMENT_NEEDLE;
-    needle.position = {50, 50};
-    needle.needle.table = table;
-    needle.needle.table_length = 3;
-  }
-};
-
-TEST(NeedleAngle, RunsClockwiseBetweenEntriesAndStaysBeyondTheEnds) {
-  const Calibration c;
-  const struct {
-    double value, degrees;
-  } cases[] = {{-5, 180}, {0, 180}, {5, 225}, {10, 270}, {60, 315}, {110, 360}, {500, 360}};
-  for (const auto& each : cases) {
-    EXPECT_NEAR(needle_angle(c.needle, each.value), each.degrees, 1e-9) << each.value;
-  }
-}
-
-TEST(NeedleAngle, TakesTheLongWayRoundWhereThatIsClockwise) {
-  Calibration c;
-  c.table[0] = {{30, 90}, 0};
-  c.table[1] = {{70, 90}, 100};
-  c.needle.needle.table_length = 2;
-  const double sweep = needle_angle(c.needle, 100) - needle_angle(c.needle, 0);
-  EXPECT_NEAR(sweep, 306.87, 0.01);
-}
-
-TEST(NeedleAngle, FollowsATableOfFallingValues) {
-  Calibration c;
-  for (auto& entry : c.table) entry.value = -entry.value;
-  EXPECT_NEAR(needle_angle(c.needle, -60), 315, 1e-9);
-}
-
-TEST(NeedleAngle, IsTheValueItselfWithoutATable) {
-  Calibration c;
-  c.needle.needle.table = nullptr;
-  EXPECT_EQ(needle_angle(c.needle, 33.5), 33.5);
-}
-
 double brightness(const Canvas& canvas, Point at) {
   const Pixels pixels = canvas.pixels();
   const int x = static_cast<int>(at.x * canvas.density());

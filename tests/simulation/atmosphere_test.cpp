@@ -1,8 +1,8 @@
-#include "host/simulation/atmosphere.h"
+#include "host/simulation/flight/atmosphere.h"
 
 #include <gtest/gtest.h>
 
-#include "host/simulation/air_data.h"
+#include "host/simulation/flight/air_data.h"
 
 namespace host::simulation {
 namespace {

@@ -1,6 +1,6 @@
 // Engine start and shut-down by key events, with the times a crew would note.
 
-#include "host/simulation/engine_start.h"
+#include "host/simulation/systems/engine_start.h"
 #include "tests/simulation/aircraft_rig.h"
 
 namespace host {

@@ -1,4 +1,4 @@
-#include "host/simulation/engine.h"
+#include "host/simulation/systems/engine.h"
 
 #include <gtest/gtest.h>
 

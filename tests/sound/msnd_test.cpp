@@ -117,14 +117,12 @@ TEST_F(SoundGauge, AFileWithoutSamplesIsMissing) {
 
 TEST_F(SoundGauge, AFileThatCannotBePlayedIsSilentButNoFailure) {
   const std::string data = chunk("data", samples({500, 500, 500, 500}));
-  folder_.write(file_of(0), riff(chunk("fmt ", mono_format().substr(0, 12)) + data));
-  folder_.write(file_of(1), riff(chunk("fmt ", mono_format().substr(0, 14)) + data));
-  folder_.write(file_of(2), riff(data));
-  folder_.write(file_of(3), riff(chunk("fmt ", mono_format()) + chunk("data", "")));
-  folder_.write(file_of(4), riff(chunk("fmt ", number(2, 2) + mono_format().substr(2)) + data));
+  folder_.write(file_of(0), riff(data));
+  folder_.write(file_of(1), riff(chunk("fmt ", mono_format()) + chunk("data", "")));
+  folder_.write(file_of(2), riff(chunk("fmt ", number(2, 2) + mono_format().substr(2)) + data));
   start();
   EXPECT_TRUE(messages_.empty());
-  for (std::size_t i = 0; i < 6; ++i) EXPECT_EQ(heard_on_request(i), i < 5 ? 0 : level_of(i)) << i;
+  for (std::size_t i = 0; i < 4; ++i) EXPECT_EQ(heard_on_request(i), i < 3 ? 0 : level_of(i)) << i;
 }
 
 TEST_F(SoundGauge, WithoutADeviceOrAWindowRequestsAreClearedInSilence) {

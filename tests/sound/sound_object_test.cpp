@@ -63,6 +63,63 @@ TEST_F(SoundObjects, WhatCannotPlayIsThereOnlyWithoutFurtherBuffers) {
   EXPECT_TRUE(messages_.empty());
 }
 
+/// A device that notes what it is asked for and makes nothing.
+class AskedDevice final : public IDirectSound {
+ public:
+  ULONG Release() override { return 0; }
+  HRESULT DuplicateSoundBuffer(LPDIRECTSOUNDBUFFER, LPDIRECTSOUNDBUFFER*) override {
+    return DSERR_OUTOFMEMORY;
+  }
+  HRESULT SetCooperativeLevel(HWND, DWORD) override { return DS_OK; }
+  HRESULT CreateSoundBuffer(LPCDSBUFFERDESC description, LPDIRECTSOUNDBUFFER*, LPUNKNOWN) override {
+    asked = *description;
+    formats.emplace_back(reinterpret_cast<const char*>(description->lpwfxFormat), format_size);
+    return DSERR_BADFORMAT;
+  }
+
+  std::size_t format_size = 0;  ///< how much of each format is noted
+  std::vector<std::string> formats;
+  DSBUFFERDESC asked{};
+};
+
+TEST_F(SoundObjects, TheDeviceGetsTheWholeFormatAsItStandsInTheFile) {
+  const std::string adpcm = number(2, 2) + mono_format().substr(2) + number(32, 2) +
+                            std::string("coefficients, thirty-two of them");
+  const std::string plain = mono_format();
+  const struct {
+    const char* what;
+    std::string chunk, given;
+  } cases[] = {
+      {"long", adpcm, adpcm},
+      {"without the size of an extension", plain, plain + number(0, 2)},
+      {"the least", plain.substr(0, 14), plain.substr(0, 14) + number(0, 4)},
+      {"an extension that is not there", plain + number(8, 2),
+       plain + number(8, 2) + std::string(8, '\0')},
+  };
+  for (const auto& test : cases) {
+    folder_.write("tone.wav", riff(chunk("fmt ", test.chunk) + chunk("data", "abcd")));
+    AskedDevice device;
+    device.format_size = test.given.size();
+    destroy_sound(create_sound(&device, "tone.wav", 1, nullptr));
+    EXPECT_EQ(device.formats, std::vector{test.given}) << test.what;
+    EXPECT_EQ(device.asked.dwBufferBytes, 4u) << test.what;
+    EXPECT_EQ(device.asked.dwFlags, 0xCAu) << test.what;
+  }
+}
+
+TEST_F(SoundObjects, WithoutAUsableFormatNoBufferIsAskedFor) {
+  const std::string data = chunk("data", "abcd");
+  for (const auto& wave : {riff(data), riff(chunk("fmt ", mono_format().substr(0, 12)) + data)}) {
+    folder_.write("tone.wav", wave);
+    AskedDevice device;
+    SoundObject* sound = create_sound(&device, "tone.wav", 1, nullptr);
+    ASSERT_NE(sound, nullptr);
+    EXPECT_TRUE(device.formats.empty());
+    EXPECT_FALSE(play_sound(sound, 0));
+    destroy_sound(sound);
+  }
+}
+
 TEST_F(SoundObjects, EveryLostBufferIsFilledAgainOnItsNextPlaying) {
   ASSERT_TRUE(load(2));
   std::filesystem::remove(folder_.path() / "tone.wav");

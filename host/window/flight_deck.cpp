@@ -1,0 +1,120 @@
+#include "host/window/flight_deck.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+
+#include "platform/platform_host.h"
+
+namespace host {
+namespace {
+
+constexpr double picture_time = 1.0 / 60;  // seconds between two pictures of something that moves
+constexpr int most_late_frames = 4;        // a machine that slept does not fly the time it missed
+
+}  // namespace
+
+FlightDeck::FlightDeck(Cockpit& cockpit, const DeckOptions& options)
+    : cockpit_(cockpit),
+      options_(options),
+      scale_(options.scale.value_or(Desktop::scale())),
+      views_(cockpit, scale_, options.zoom ? std::optional(*options.zoom * scale_) : std::nullopt),
+      notices_(views_.main()),
+      journal_(options.record.empty() ? Journal(1.0 / cockpit.rate())
+                                      : Journal(options.record, 1.0 / cockpit.rate())),
+      hand_(cockpit, views_, journal_, scale_) {
+  platform_on_message(take_message, this);
+}
+
+FlightDeck::~FlightDeck() { platform_on_message(nullptr, nullptr); }
+
+void FlightDeck::mark_areas(bool marked) {
+  views_.each([&](View& view) { view.mark_areas(marked); });
+}
+
+double FlightDeck::now() const { return std::chrono::duration<double>(Clock::now() - start_).count(); }
+
+void FlightDeck::take_message(const char* text, const char* caption, void* context) {
+  auto* deck = static_cast<FlightDeck*>(context);
+  std::fprintf(stderr, "%s: %s\n", caption, text);
+  deck->notices_.add(text, deck->now());
+}
+
+void FlightDeck::fly() {
+  frame_due_ = now();
+  while (!leaving_) {
+    run_frames();
+    notices_.tick(now());
+    hand_.tick(now());
+    if (views_.follow_cockpit()) hand_.reset();
+    refresh();
+    wait_for_event();
+    if (options_.exit_after && now() >= *options_.exit_after) leaving_ = true;
+  }
+}
+
+void FlightDeck::run_frames() {
+  const double period = 1.0 / cockpit_.rate();
+  if (paused_) return;
+  if (now() - frame_due_ > most_late_frames * period) frame_due_ = now();
+  for (; now() >= frame_due_; frame_due_ += period) {
+    cockpit_.frame();
+    last_frame_ = frame_due_;
+  }
+}
+
+// Moving parts stand between their last two readings, as far as the time has come since, in pictures
+// at an even pace; what stands still is shown with the frame that put it there.
+void FlightDeck::refresh() {
+  const double time = now();
+  const bool moving = views_.moving() && !paused_;
+  if (moving && time < picture_due_) return;
+  const double blend = moving ? std::clamp((time - last_frame_) * cockpit_.rate(), 0.0, 1.0) : 1.0;
+  views_.each([&](View& view) { view.refresh(blend); });
+  picture_due_ = std::max(picture_due_ + picture_time, time);
+}
+
+double FlightDeck::next_deadline() const {
+  double next = std::min(notices_.next_tick(), hand_.next_tick());
+  if (options_.exit_after) next = std::min(next, *options_.exit_after);
+  if (paused_) return next;
+  if (views_.moving()) next = std::min(next, picture_due_);
+  return std::min(next, frame_due_);
+}
+
+void FlightDeck::wait_for_event() {
+  const double wait = std::clamp(next_deadline() - now(), 0.0, 60.0);
+  SDL_Event event;
+  if (!SDL_WaitEventTimeout(&event, static_cast<int>(std::ceil(wait * 1000)))) return;
+  do take(event);
+  while (SDL_PollEvent(&event));
+}
+
+void FlightDeck::take(const SDL_Event& event) {
+  switch (event.type) {
+    case SDL_QUIT: leaving_ = true; break;
+    case SDL_WINDOWEVENT: take_window(event.window); break;
+    case SDL_KEYDOWN: take_key(event.key.keysym); break;
+    default: hand_.take(event, now()); break;
+  }
+}
+
+void FlightDeck::take_window(const SDL_WindowEvent& event) {
+  View* view = views_.find(event.windowID);
+  if (!view) return;
+  if (event.event == SDL_WINDOWEVENT_SIZE_CHANGED) {
+    view->take_size();
+    if (view == &views_.main()) notices_.place();
+  } else if (event.event == SDL_WINDOWEVENT_EXPOSED) {
+    view->invalidate();
+  } else if (event.event == SDL_WINDOWEVENT_CLOSE) {
+    if (const auto torn = views_.torn_window(event.windowID)) {
+      hand_.reset();
+      views_.toggle_torn(*torn);
+    } else {
+      leaving_ = true;
+    }
+  }
+}
+
+}  // namespace host

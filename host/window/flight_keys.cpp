@@ -1,0 +1,131 @@
+#include <algorithm>
+#include <cstdio>
+
+#include "host/window/flight_deck.h"
+
+namespace host {
+namespace {
+
+constexpr std::uint32_t first_panel_ident = 500;  // the panels stand on the keys in their idents' order
+constexpr const char* panel_lights_event = "panel_lights_toggle";
+constexpr const char* panel_lights_token = "panel_lights";
+
+std::uint32_t number_of(std::span<const TableRow> rows, std::string_view name) {
+  const auto row = std::ranges::find(rows, name, &TableRow::name);
+  return row == rows.end() ? 0 : row->number;
+}
+
+std::filesystem::path free_picture_name(const std::filesystem::path& folder) {
+  for (int number = 1;; ++number) {
+    char name[32];
+    std::snprintf(name, sizeof name, "tarnvale-%03d.png", number);
+    if (!std::filesystem::exists(folder / name)) return folder / name;
+  }
+}
+
+}  // namespace
+
+void FlightDeck::take_key(const SDL_Keysym& key) {
+  if (take_panel_key(key.sym)) return;
+  switch (key.sym) {
+    case SDLK_t: toggle_torn(); break;
+    case SDLK_PLUS:
+    case SDLK_EQUALS:
+    case SDLK_KP_PLUS: change_zoom(1.125); break;
+    case SDLK_MINUS:
+    case SDLK_KP_MINUS: change_zoom(1 / 1.125); break;
+    case SDLK_0:
+    case SDLK_KP_0: views_.main().set_zoom(std::nullopt); break;
+    case SDLK_d: toggle_panel_lights(); break;
+    case SDLK_F5: move_fuel_lever(1); break;
+    case SDLK_F6: move_fuel_lever(2); break;
+    case SDLK_p: toggle_pause(); break;
+    case SDLK_s:
+    case SDLK_F12: save_picture(); break;
+    case SDLK_h:
+    case SDLK_F1: notices_.toggle_help(); break;
+    case SDLK_F11: views_.main().screen().toggle_full_screen(); break;
+    case SDLK_ESCAPE: leave_or_close_help(); break;
+    case SDLK_q: leaving_ = true; break;
+    default: break;
+  }
+}
+
+bool FlightDeck::take_panel_key(SDL_Keycode key) {
+  if (key >= SDLK_KP_1 && key <= SDLK_KP_9) key = SDLK_1 + (key - SDLK_KP_1);
+  if (key < SDLK_1 || key > SDLK_9) return false;
+  toggle_window(first_panel_ident + static_cast<std::uint32_t>(key - SDLK_1));
+  return true;
+}
+
+void FlightDeck::toggle_window(std::uint32_t ident) {
+  PanelSet& panels = cockpit_.panels();
+  if (!panels.find(ident)) return;
+  panels.toggle(ident);
+  journal_.call((panels.shows(ident) ? "open_window(" : "close_window(") + std::to_string(ident) + ")",
+                cockpit_.seconds());
+}
+
+void FlightDeck::toggle_torn() {
+  const auto window = hand_.window_under();
+  if (!window) return notices_.add("Point at a panel to tear it off", now());
+  hand_.reset();
+  views_.toggle_torn(*window);
+}
+
+void FlightDeck::send(const char* event) {
+  cockpit_.aircraft().key_event(number_of(AircraftModel::events(), event), 0);
+  journal_.call("event(\"" + std::string(event) + "\")", cockpit_.seconds());
+}
+
+void FlightDeck::move_fuel_lever(int engine) {
+  send(engine == 1 ? "fuel_lever_1_toggle" : "fuel_lever_2_toggle");
+  const char* token = engine == 1 ? "fuel_lever_1" : "fuel_lever_2";
+  const bool open = cockpit_.aircraft().token(number_of(AircraftModel::tokens(), token)) != 0;
+  notices_.add("Fuel lever " + std::to_string(engine) + (open ? " open" : " closed"), now());
+}
+
+// The main panels' faces follow, as they do for the switch on the panel.
+void FlightDeck::toggle_panel_lights() {
+  AircraftModel& aircraft = cockpit_.aircraft();
+  send(panel_lights_event);
+  const bool night = aircraft.token(number_of(AircraftModel::tokens(), panel_lights_token)) != 0;
+  for (const WindowConfig& window : cockpit_.config().windows) {
+    const std::uint32_t face = night ? window.night_ident : window.day_ident;
+    if (face == 0 || !cockpit_.panels().shows(window.ident)) continue;
+    cockpit_.panels().open(face);
+    journal_.call("open_window(" + std::to_string(face) + ")", cockpit_.seconds());
+  }
+}
+
+void FlightDeck::toggle_pause() {
+  paused_ = !paused_;
+  frame_due_ = now();
+  notices_.set_badge(paused_ ? "PAUSED" : "");
+}
+
+void FlightDeck::change_zoom(double factor) {
+  View& view = views_.main();
+  view.set_zoom(view.zoom() * factor);
+}
+
+void FlightDeck::save_picture() {
+  try {
+    std::error_code unwritable;  // then writing the picture says so
+    std::filesystem::create_directories(options_.pictures, unwritable);
+    const std::filesystem::path file = free_picture_name(options_.pictures);
+    write_png(views_.main().screen().canvas(), file.string());
+    notices_.add("Saved " + file.lexically_normal().string(), now());
+  } catch (const std::exception& error) {
+    notices_.add(error.what(), now());
+  }
+}
+
+void FlightDeck::leave_or_close_help() {
+  if (notices_.help_shown())
+    notices_.toggle_help();
+  else
+    leaving_ = true;
+}
+
+}  // namespace host

@@ -1,0 +1,190 @@
+#include "host/window/mouse_hand.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace host {
+namespace {
+
+constexpr double tooltip_delay = 0.6;  // seconds of rest
+constexpr int scroll_step = 60;        // pixels a notch, at scale 1
+
+std::uint32_t mouse_flag(Uint8 button) {
+  if (button == SDL_BUTTON_LEFT) return MOUSE_LEFT;
+  return button == SDL_BUTTON_RIGHT ? MOUSE_RIGHT : 0;
+}
+
+int cursor_at(const std::optional<ViewHit>& hit) {
+  if (!hit) return CURSOR_ARROW;
+  if (hit->on_caption) return hit->caption == CaptionPart::none ? CURSOR_ARROW : CURSOR_HAND;
+  if (!hit->gauge) return CURSOR_ARROW;
+  const HotArea* area = hit->gauge->gauge->areas.at(hit->gauge->point, MOUSE_LEFT | MOUSE_RIGHT);
+  return area ? area->cursor : CURSOR_ARROW;
+}
+
+std::string tooltip_at(const std::optional<ViewHit>& hit) {
+  if (!hit) return {};
+  if (hit->caption == CaptionPart::tear) return "Tear off into its own window";
+  if (hit->caption == CaptionPart::close) return "Close";
+  return hit->gauge ? std::string(hit->gauge->gauge->areas.tooltip(hit->gauge->point)) : std::string();
+}
+
+}  // namespace
+
+MouseHand::MouseHand(Cockpit& cockpit, Views& views, Journal& journal, double scale)
+    : cockpit_(cockpit), views_(views), journal_(journal), cursors_(scale) {}
+
+View* MouseHand::view_of(Uint32 id, int x, int y) {
+  View* view = views_.find(id);
+  if (!view) return nullptr;
+  view_id_ = id;
+  const double density = view->screen().density();
+  x_ = static_cast<int>(std::floor(x * density));
+  y_ = static_cast<int>(std::floor(y * density));
+  return view;
+}
+
+std::optional<ViewHit> MouseHand::hit() const {
+  const View* view = views_.find(view_id_);
+  return view ? view->hit(x_, y_) : std::nullopt;
+}
+
+std::optional<std::size_t> MouseHand::window_under() const {
+  const auto under = hit();
+  return under ? std::optional(under->window) : std::nullopt;
+}
+
+void MouseHand::take(const SDL_Event& event, double now) {
+  switch (event.type) {
+    case SDL_MOUSEMOTION: {
+      const int x = x_, y = y_;
+      if (view_of(event.motion.windowID, event.motion.x, event.motion.y)) move(x_ - x, y_ - y, now);
+      break;
+    }
+    case SDL_MOUSEBUTTONDOWN:
+      if (view_of(event.button.windowID, event.button.x, event.button.y))
+        press(event.button.button, event.button.clicks, now);
+      break;
+    case SDL_MOUSEBUTTONUP: release(event.button.button); break;
+    case SDL_MOUSEWHEEL: wheel(event.wheel); break;
+    default: break;
+  }
+}
+
+void MouseHand::move(int dx, int dy, double now) {
+  View* view = views_.find(view_id_);
+  if (!view) return;
+  if (held_) {
+    const PanelPoint point = view->point_on(held_->window, *held_->gauge, x_, y_);
+    pointer_.move(point);
+    journal_.move(point);
+  } else if (scrolling_) {
+    view->scroll(dx, dy);
+  } else {
+    look(now);
+  }
+}
+
+void MouseHand::look(double now) {
+  const auto under = hit();
+  cursors_.show(cursor_at(under));
+  std::string text = tooltip_at(under);
+  if (text != tooltip_) hide_tooltip();
+  tooltip_ = std::move(text);
+  if (!tooltip_.empty() && !tooltip_shown_) tooltip_due_ = now + tooltip_delay;
+}
+
+void MouseHand::hide_tooltip() {
+  views_.each([](View& view) { view.set_layer(Layer::tooltip, std::nullopt); });
+  tooltip_shown_ = false;
+  tooltip_due_ = Pointer::never;
+}
+
+void MouseHand::show_tooltip() {
+  View* view = views_.find(view_id_);
+  tooltip_due_ = Pointer::never;
+  if (!view || tooltip_.empty()) return;
+  Overlay overlay = draw_tooltip(tooltip_, view->scale());
+  const PanelSize size = view->screen().size();
+  const int below = static_cast<int>(22 * view->scale());
+  overlay.x = std::clamp(x_ + below / 2, 0, std::max(0, size.width - overlay.width));
+  overlay.y = y_ + below + overlay.height <= size.height ? y_ + below : y_ - overlay.height - below / 4;
+  view->set_layer(Layer::tooltip, std::move(overlay));
+  tooltip_shown_ = true;
+}
+
+void MouseHand::press(Uint8 button, int clicks, double now) {
+  hide_tooltip();
+  const auto under = hit();
+  if (under && under->on_caption && button == SDL_BUTTON_LEFT) return press_caption(*under, clicks);
+  if (under && under->gauge && mouse_flag(button)) press_control(*under, mouse_flag(button), now);
+  if (!held_ && button != SDL_BUTTON_RIGHT) scrolling_ = true;
+}
+
+void MouseHand::press_control(const ViewHit& hit, std::uint32_t button, double now) {
+  let_go();
+  CockpitGauge& gauge = *hit.gauge->gauge;
+  const PanelPoint point = hit.gauge->point;
+  const HotArea* area = gauge.areas.at(point, button);
+  if (!area) return;
+  held_ = Held{&gauge, hit.window, button};
+  journal_.press(gauge.header().name, point, button, area->flags & MOUSE_DRAG, cockpit_.seconds());
+  pointer_.press(gauge.areas, point, button, now);
+}
+
+void MouseHand::press_caption(const ViewHit& hit, int clicks) {
+  if (hit.caption == CaptionPart::close) {
+    const std::uint32_t ident = cockpit_.config().windows[hit.window].ident;
+    cockpit_.panels().close(ident);
+    journal_.call("close_window(" + std::to_string(ident) + ")", cockpit_.seconds());
+  } else if (hit.caption == CaptionPart::tear || clicks == 2) {
+    views_.toggle_torn(hit.window);
+  }
+}
+
+void MouseHand::release(Uint8 button) {
+  scrolling_ = false;
+  if (held_ && mouse_flag(button) == held_->button) let_go();
+}
+
+void MouseHand::let_go() {
+  if (held_) journal_.release(cockpit_.seconds());
+  pointer_.release();
+  held_.reset();
+}
+
+void MouseHand::wheel(const SDL_MouseWheelEvent& event) {
+  const int notches = event.direction == SDL_MOUSEWHEEL_FLIPPED ? -event.y : event.y;
+  const auto under = hit();
+  if (under && under->gauge && notches != 0) {
+    const auto [gauge, point] = *under->gauge;
+    const double now = cockpit_.seconds();
+    if (Pointer::wheel(gauge->areas, point, notches))
+      return journal_.wheel(gauge->header().name, point, notches, now);
+  }
+  scroll(event);
+}
+
+void MouseHand::scroll(const SDL_MouseWheelEvent& event) {
+  View* view = views_.find(event.windowID);
+  if (!view) return;
+  const int step = static_cast<int>(scroll_step * view->scale());
+  const bool sideways = SDL_GetModState() & KMOD_SHIFT;
+  view->scroll((sideways ? event.y : -event.x) * step, sideways ? 0 : event.y * step);
+}
+
+void MouseHand::tick(double now) {
+  if (now >= tooltip_due_) show_tooltip();
+  pointer_.tick(now);
+}
+
+double MouseHand::next_tick() const { return std::min(tooltip_due_, pointer_.next_repeat()); }
+
+void MouseHand::reset() {
+  let_go();
+  hide_tooltip();
+  tooltip_.clear();
+  scrolling_ = false;
+}
+
+}  // namespace host

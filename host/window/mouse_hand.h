@@ -1,0 +1,71 @@
+/// A person's mouse in the views: works the controls, the captions and the scrolling.
+#pragma once
+
+#include <SDL.h>
+
+#include <optional>
+#include <string>
+
+#include "host/panel/pointer.h"
+#include "host/window/cursors.h"
+#include "host/window/journal.h"
+#include "host/window/views.h"
+
+namespace host {
+
+class MouseHand {
+ public:
+  MouseHand(Cockpit& cockpit, Views& views, Journal& journal, double scale);
+
+  /// One mouse event of the desktop. `now` is real seconds, for repeats and tooltips.
+  void take(const SDL_Event& event, double now);
+
+  /// Repeats a held control and shows a tooltip when their time has come.
+  void tick(double now);
+
+  /// When tick() has something to do next; infinite if nothing.
+  double next_tick() const;
+
+  /// Lets go of what it holds and forgets where it is: its view may be gone.
+  void reset();
+
+  /// The panel under the pointer.
+  std::optional<std::size_t> window_under() const;
+
+ private:
+  struct Held {
+    CockpitGauge* gauge;
+    std::size_t window;
+    std::uint32_t button;
+  };
+
+  View* view_of(Uint32 id, int x, int y);
+  std::optional<ViewHit> hit() const;
+  void move(int dx, int dy, double now);
+  void press(Uint8 button, int clicks, double now);
+  void press_control(const ViewHit& hit, std::uint32_t button, double now);
+  void release(Uint8 button);
+  void let_go();
+  void wheel(const SDL_MouseWheelEvent& event);
+  void scroll(const SDL_MouseWheelEvent& event);
+  void press_caption(const ViewHit& hit, int clicks);
+  void look(double now);
+  void hide_tooltip();
+  void show_tooltip();
+
+  Cockpit& cockpit_;
+  Views& views_;
+  Journal& journal_;
+  Cursors cursors_;
+  Pointer pointer_;
+  std::optional<Held> held_;
+  bool scrolling_ = false;
+  Uint32 view_id_ = 0;  ///< 0: outside of every view
+  int x_ = 0;           ///< pixels of that view
+  int y_ = 0;
+  std::string tooltip_;
+  double tooltip_due_ = Pointer::never;
+  bool tooltip_shown_ = false;
+};
+
+}  // namespace host

@@ -1,0 +1,123 @@
+#include "host/window/screen_window.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <stdexcept>
+#include <string_view>
+
+#include "host/window/ui_pictures.h"
+#include "host/window/x11_desktop.h"
+
+namespace host {
+namespace {
+
+bool is_set(const char* variable) {
+  const char* value = std::getenv(variable);
+  return value && *value;
+}
+
+[[noreturn]] void no_display(const std::string& reason) {
+  throw std::runtime_error("no display to open a window on (" + reason +
+                           "). Without one: tarnvale run --png pictures --wav flight.wav");
+}
+
+bool on_x11() { return std::string_view(SDL_GetCurrentVideoDriver()) == "x11"; }
+
+void set_icon(SDL_Window* window) {
+  Overlay icon = draw_icon(64);
+  SDL_Surface* surface = SDL_CreateRGBSurfaceWithFormatFrom(
+      icon.pixels.data(), icon.width, icon.height, 32, icon.width * 4, SDL_PIXELFORMAT_ARGB8888);
+  if (!surface) return;
+  SDL_SetWindowIcon(window, surface);
+  SDL_FreeSurface(surface);
+}
+
+Rect within(const Rect& rect, PanelSize size) {
+  const int x = std::clamp(rect.x, 0, size.width), y = std::clamp(rect.y, 0, size.height);
+  return {x, y, std::clamp(rect.x + rect.width, 0, size.width) - x,
+          std::clamp(rect.y + rect.height, 0, size.height) - y};
+}
+
+}  // namespace
+
+Desktop::Desktop() {
+  if (!is_set("DISPLAY") && !is_set("WAYLAND_DISPLAY") && !is_set("SDL_VIDEODRIVER"))
+    no_display("neither DISPLAY nor WAYLAND_DISPLAY is set");
+  SDL_SetMainReady();
+  SDL_SetHint(SDL_HINT_VIDEO_HIGHDPI_DISABLED, "0");
+  SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
+  SDL_SetHint(SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1");  // a switch on another window works at once
+  x11_forgive_late_events();
+  if (SDL_Init(SDL_INIT_VIDEO) != 0) no_display(SDL_GetError());
+  SDL_EnableScreenSaver();
+  // Plain copies of changed rectangles: a picture in a texture would go to the screen as a whole.
+  if (on_x11()) SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
+}
+
+Desktop::~Desktop() { SDL_Quit(); }
+
+double Desktop::scale() { return on_x11() ? x11_scale() : 1.0; }
+
+PanelSize Desktop::usable_size() {
+  SDL_Rect bounds{0, 0, 1280, 800};
+  SDL_GetDisplayUsableBounds(0, &bounds);
+  return {bounds.w, bounds.h};
+}
+
+ScreenWindow::ScreenWindow(const std::string& title, int width, int height)
+    : window_(SDL_CreateWindow(title.c_str(), SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED, width,
+                               height, SDL_WINDOW_RESIZABLE | SDL_WINDOW_ALLOW_HIGHDPI)) {
+  if (!window_) throw std::runtime_error(std::string("cannot open a window: ") + SDL_GetError());
+  SDL_SetWindowMinimumSize(window_.get(), 160, 120);
+  set_icon(window_.get());
+  take_size();
+}
+
+double ScreenWindow::density() const {
+  int width = 0, pixels = 0;
+  SDL_GetWindowSize(window_.get(), &width, nullptr);
+  SDL_GetWindowSizeInPixels(window_.get(), &pixels, nullptr);
+  return width > 0 && pixels > 0 ? static_cast<double>(pixels) / width : 1.0;
+}
+
+bool ScreenWindow::take_size() {
+  int width = 0, height = 0;
+  SDL_GetWindowSizeInPixels(window_.get(), &width, &height);
+  width = std::clamp(width, 1, 16384);
+  height = std::clamp(height, 1, 16384);
+  if (width == canvas_.width && height == canvas_.height) return false;
+  canvas_ = Canvas(width, height);
+  return true;
+}
+
+void ScreenWindow::toggle_full_screen() {
+  const bool full = SDL_GetWindowFlags(window_.get()) & SDL_WINDOW_FULLSCREEN_DESKTOP;
+  SDL_SetWindowFullscreen(window_.get(), full ? 0 : SDL_WINDOW_FULLSCREEN_DESKTOP);
+}
+
+void ScreenWindow::raise() {
+  SDL_RaiseWindow(window_.get());
+  SDL_SetWindowInputFocus(window_.get());  // where no window manager passes the keyboard on
+}
+
+void ScreenWindow::present(const std::vector<Rect>& changed) {
+  SDL_Surface* surface = SDL_GetWindowSurface(window_.get());
+  if (!surface || SDL_LockSurface(surface) != 0) return;
+  const PanelSize common{std::min(surface->w, canvas_.width), std::min(surface->h, canvas_.height)};
+  std::vector<SDL_Rect> rects;
+  for (const Rect& each : changed) {
+    const Rect rect = within(each, common);
+    if (rect.width == 0 || rect.height == 0) continue;
+    auto* to = static_cast<Uint8*>(surface->pixels) + std::ptrdiff_t(rect.y) * surface->pitch +
+               std::ptrdiff_t(rect.x) * surface->format->BytesPerPixel;
+    SDL_ConvertPixels(rect.width, rect.height, SDL_PIXELFORMAT_RGB888,
+                      &canvas_.pixels[std::size_t(rect.y) * canvas_.width + rect.x], canvas_.width * 4,
+                      surface->format->format, to, surface->pitch);
+    rects.push_back({rect.x, rect.y, rect.width, rect.height});
+  }
+  SDL_UnlockSurface(surface);
+  if (rects.empty()) return;
+  SDL_UpdateWindowSurfaceRects(window_.get(), rects.data(), static_cast<int>(rects.size()));
+}
+
+}  // namespace host

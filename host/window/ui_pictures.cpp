@@ -1,0 +1,125 @@
+#include "host/window/ui_pictures.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+#include "host/panel/text.h"
+#include "host/window/palette.h"
+
+namespace host {
+namespace {
+
+using namespace palette;
+
+int pixels(double length) { return std::max(1, static_cast<int>(std::lround(length))); }
+
+double button_width(double scale) { return 24 * scale; }
+
+// Words that fit a width, line by line.
+std::vector<std::string> wrapped(const std::string& text, double size, double width) {
+  std::vector<std::string> lines;
+  for (std::string_view paragraph : split(text, '\n')) {
+    lines.emplace_back();
+    for (std::string_view word : split(paragraph, ' ')) {
+      std::string& line = lines.back();
+      const std::string longer = line + (line.empty() ? "" : " ") + std::string(word);
+      if (!line.empty() && Sketch::text_width(longer, size, false) > width)
+        lines.emplace_back(word);
+      else
+        line = longer;
+    }
+  }
+  return lines;
+}
+
+Overlay draw_card(const std::vector<std::string>& lines, double size, double padding, double scale,
+                  Color color, bool bold) {
+  double widest = 0;
+  for (const std::string& line : lines) widest = std::max(widest, Sketch::text_width(line, size, bold));
+  const double line_height = size * 1.15;
+  const int width = pixels(widest + 2 * padding);
+  const int height = pixels(line_height * static_cast<double>(lines.size()) + 2 * padding * 0.7);
+  Sketch sketch(width, height);
+  sketch.rounded_box(0, 0, width, height, 5 * scale, paper);
+  sketch.box_outline(0, 0, width, height, 5 * scale, scale, edge);
+  for (std::size_t i = 0; i < lines.size(); ++i)
+    sketch.text(lines[i], padding, padding * 0.7 + line_height * static_cast<double>(i), size, bold,
+                color);
+  return sketch.finish();
+}
+
+}  // namespace
+
+int caption_height(double scale) { return pixels(22 * scale); }
+
+Overlay draw_caption(const std::string& title, const std::string& key, int width, double scale) {
+  const int height = caption_height(scale);
+  Sketch sketch(std::max(width, 1), height);
+  sketch.rounded_box(0, 0, width, height * 1.5, 4 * scale, strip);
+  sketch.line(0, height - 0.5, width, height - 0.5, 1, {0, 0, 0, 0.6});
+  sketch.text(title, 8 * scale, 0, 0.75 * height, true, ink);
+  if (!key.empty())
+    sketch.text(key, 14 * scale + Sketch::text_width(title, 0.75 * height, true), 0, 0.75 * height,
+                false, soft_ink);
+  const double middle = height / 2.0, arm = 4 * scale, line = 1.5 * scale;
+  const double close = width - button_width(scale) / 2, tear = close - button_width(scale);
+  sketch.line(close - arm, middle - arm, close + arm, middle + arm, line, soft_ink);
+  sketch.line(close - arm, middle + arm, close + arm, middle - arm, line, soft_ink);
+  sketch.box_outline(tear - arm - 1 * scale, middle - 1 * scale, arm * 1.6, arm * 1.4, 0.5, line,
+                     soft_ink);
+  sketch.line(tear, middle, tear + arm + scale, middle - arm - scale, line, soft_ink);
+  sketch.line(tear + scale, middle - arm - scale, tear + arm + scale, middle - arm - scale, line,
+              soft_ink);
+  sketch.line(tear + arm + scale, middle - arm - scale, tear + arm + scale, middle - scale, line,
+              soft_ink);
+  return sketch.finish();
+}
+
+CaptionPart caption_part(int x, int width, double scale) {
+  if (x >= width - button_width(scale)) return CaptionPart::close;
+  if (x >= width - 2 * button_width(scale)) return CaptionPart::tear;
+  return CaptionPart::none;
+}
+
+Overlay draw_tooltip(const std::string& text, double scale) {
+  return draw_card({text}, 16 * scale, 8 * scale, scale, ink, false);
+}
+
+Overlay draw_note(const std::string& text, int width, double scale) {
+  const double size = 17 * scale, padding = 12 * scale;
+  return draw_card(wrapped(text, size, width - 2 * padding), size, padding, scale, ink, false);
+}
+
+Overlay draw_badge(const std::string& text, double scale) {
+  return draw_card({text}, 20 * scale, 14 * scale, scale, accent, true);
+}
+
+Overlay draw_turn_cursor(bool increase, double scale) {
+  const int size = pixels(24 * scale);
+  const double middle = size / 2.0, radius = 9 * scale, arm = 4.5 * scale;
+  Sketch sketch(size, size);
+  const double corner = middle - radius, side = 2 * radius;
+  sketch.rounded_box(corner, corner, side, side, radius, {0, 0, 0, 0.65});
+  sketch.box_outline(corner, corner, side, side, radius - scale, 1.5 * scale, ink);
+  sketch.line(middle - arm, middle, middle + arm, middle, 2 * scale, ink);
+  if (increase) sketch.line(middle, middle - arm, middle, middle + arm, 2 * scale, ink);
+  return sketch.finish();
+}
+
+Overlay draw_icon(int size) {
+  const double s = size, middle = s / 2;
+  Sketch sketch(size, size);
+  sketch.rounded_box(0, 0, s, s, s * 0.18, {0.20, 0.22, 0.24});
+  sketch.rounded_box(s * 0.1, s * 0.1, s * 0.8, s * 0.8, s * 0.4, {0.04, 0.04, 0.05});
+  for (int mark = 0; mark <= 8; ++mark) {
+    const double angle = (-225 + mark * 33.75) * std::numbers::pi / 180;
+    const double x = std::cos(angle), y = std::sin(angle);
+    sketch.line(middle + x * s * 0.27, middle + y * s * 0.27, middle + x * s * 0.34,
+                middle + y * s * 0.34, s * 0.035, ink);
+  }
+  sketch.line(middle, middle, s * 0.67, s * 0.33, s * 0.06, accent);
+  return sketch.finish();
+}
+
+}  // namespace host

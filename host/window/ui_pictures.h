@@ -1,0 +1,39 @@
+/// What the program itself shows beside the panels. `scale` is 1 at 96 dots an inch.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "host/window/sketch.h"
+
+namespace host {
+
+/// The height of a caption in pixels.
+int caption_height(double scale);
+
+/// What a point of a caption does.
+enum class CaptionPart { none, tear, close };
+
+/// A panel's caption: its title, the key that opens it, and two buttons at the right end.
+Overlay draw_caption(const std::string& title, const std::string& key, int width, double scale);
+
+/// The button under a point of a caption of that width.
+CaptionPart caption_part(int x, int width, double scale);
+
+/// A short text beside the pointer.
+Overlay draw_tooltip(const std::string& text, double scale);
+
+/// Messages, one a line, wrapped to at most `width` pixels; a badge is larger and stands alone.
+Overlay draw_note(const std::string& text, int width, double scale);
+Overlay draw_badge(const std::string& text, double scale);
+
+/// The page with all keys; smaller where `width` and `height` leave less room.
+Overlay draw_help(int width, int height, double scale);
+
+/// A pointer with a plus or a minus, for areas that turn a value up or down. Square.
+Overlay draw_turn_cursor(bool increase, double scale);
+
+/// The program's icon: a small dial.
+Overlay draw_icon(int size);
+
+}  // namespace host

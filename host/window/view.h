@@ -1,0 +1,102 @@
+/// A desktop window with panels in it.
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "host/panel/layout.h"
+#include "host/panel/panel_picture.h"
+#include "host/window/screen_window.h"
+#include "host/window/ui_pictures.h"
+
+namespace host {
+
+/// What the program lays over the panels, from the lowest to the topmost.
+enum class Layer { badge, note, tooltip, help };
+
+/// What lies under a pixel of a view.
+struct ViewHit {
+  std::size_t window;  ///< of the cockpit
+  CaptionPart caption = CaptionPart::none;
+  bool on_caption = false;
+  std::optional<PanelHit> gauge;
+};
+
+/// Shows some of a cockpit's windows: the main view all that are open, side by side under captions;
+/// a torn-off view one, without a caption and as large as its window.
+class View {
+ public:
+  enum class Kind { main, torn };
+
+  /// `scale` is the desktop's; width and height are in its units.
+  View(const Cockpit& cockpit, Kind kind, const std::string& title, PanelSize size, double scale);
+
+  ScreenWindow& screen() { return screen_; }
+  double scale() const { return scale_ * screen_.density(); }
+
+  /// Shows these windows, in this order.
+  void show(std::vector<std::size_t> windows);
+  const std::vector<std::size_t>& windows() const { return windows_; }
+
+  /// Screen pixels per panel pixel; empty: as large as fits.
+  void set_zoom(std::optional<double> zoom);
+  double zoom() const { return layout_.zoom; }
+
+  /// Moves the panels under the window where they do not all fit.
+  void scroll(int dx, int dy);
+
+  /// Takes a new size of the desktop's window.
+  void take_size();
+
+  /// Everything is drawn and presented again with the next refresh.
+  void invalidate() { all_changed_ = true; }
+
+  void mark_areas(bool marked);
+
+  /// Lays a picture over the panels, or takes it away.
+  void set_layer(Layer layer, std::optional<Overlay> overlay);
+
+  /// Whether a gauge in it has moved in the last frame.
+  bool moving() const;
+
+  /// Draws and presents what has changed. Returns whether anything had.
+  bool refresh(double blend);
+
+  std::optional<ViewHit> hit(int x, int y) const;
+
+  /// A pixel of the view as a point of a gauge of one of its windows.
+  PanelPoint point_on(std::size_t window, const CockpitGauge& gauge, int x, int y) const;
+
+ private:
+  struct Panel {
+    PanelPicture picture;
+    Rect place;       ///< in the layout
+    Overlay caption;  ///< in the layout; empty in a torn view
+  };
+
+  void relayout();
+  void limit_scroll();
+  Rect on_screen(const Rect& rect) const;
+  void draw_panels(double blend);
+  void change(const Rect& rect);
+  void compose(const Rect& rect);
+
+  const Cockpit& cockpit_;
+  Kind kind_;
+  double scale_;
+  ScreenWindow screen_;
+  std::vector<std::size_t> windows_;
+  std::optional<double> zoom_;
+  Layout layout_;
+  PanelPoint scroll_{};
+  std::vector<Panel> panels_;
+  std::array<std::optional<Overlay>, 4> layers_;
+  std::vector<Rect> changed_;
+  bool layout_old_ = true;
+  bool all_changed_ = true;
+  bool areas_marked_ = false;
+};
+
+}  // namespace host

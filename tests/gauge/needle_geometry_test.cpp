@@ -1,0 +1,144 @@
+#include "host/gauge/needle_geometry.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+namespace host {
+namespace {
+
+constexpr double nan_value = std::numeric_limits<double>::quiet_NaN();
+constexpr double infinite = std::numeric_limits<double>::infinity();
+constexpr double huge = std::numeric_limits<double>::max();
+
+// Places about a pivot at (20, 20).
+constexpr PanelPoint right{40, 20}, down{20, 40}, left{0, 20}, up{20, 0}, pivot{20, 20};
+constexpr PanelPoint left_down{10, 30}, right_down{30, 30}, left_up{10, 10}, right_up{30, 10};
+
+NeedleScale scale_of(const std::vector<NonlinearityPoint>& table, u32 turn = TURN_CLOCKWISE,
+                     PanelPoint at = pivot) {
+  Element element{};
+  element.position = at;
+  element.needle.table = table.data();
+  element.needle.table_length = static_cast<u32>(table.size());
+  element.needle.turn = turn;
+  return needle_scale(element);
+}
+
+struct Reading {
+  double value, degrees;
+};
+
+struct Case {
+  const char* what;
+  std::vector<NonlinearityPoint> table;
+  u32 turn;
+  std::vector<Reading> readings;
+};
+
+// From up to up by nine-degree steps, of which rounding to pixels turns one back a little.
+const std::vector<NonlinearityPoint> fine{
+    {{200, 0}, 0}, {{231, 2}, 1}, {{230, 2}, 2}, {{262, 10}, 3}, {{291, 22}, 4}};
+
+const Case cases[] = {
+    {"holds beyond its ends",
+     {{down, 0}, {left, 10}, {up, 30}, {right, 40}},
+     TURN_CLOCKWISE,
+     {{5, 135},
+      {10, 180},
+      {20, 225},
+      {40, 360},
+      {-99, 90},
+      {1e9, 360},
+      {infinite, 360},
+      {-infinite, 90}}},
+    {"clockwise over the top, not through the gap",
+     {{left_down, 0}, {right_down, 100}},
+     TURN_CLOCKWISE,
+     {{0, 135}, {50, 270}, {100, 405}}},
+    {"the shorter way through the same gap",
+     {{left_down, 0}, {right_down, 100}},
+     TURN_SHORTER_WAY,
+     {{0, 135}, {50, 90}, {100, 45}}},
+    {"counterclockwise over the top",
+     {{right_down, 0}, {up, 50}, {left_down, 100}},
+     TURN_SHORTER_WAY,
+     {{0, 45}, {25, -22.5}, {50, -90}, {100, -225}}},
+    {"half a turn is taken clockwise",
+     {{down, 0}, {up, 10}, {down, 20}},
+     TURN_SHORTER_WAY,
+     {{5, 180}, {15, 360}}},
+    {"more than one turn clockwise",
+     {{right_down, 0}, {up, 50}, {left_down, 100}},
+     TURN_CLOCKWISE,
+     {{25, 157.5}, {50, 270}, {100, 495}}},
+    {"in ascending order of value, whatever the table's",
+     {{up, 10}, {left, 0}, {right, 20}},
+     TURN_CLOCKWISE,
+     {{0, 180}, {5, 225}, {20, 360}}},
+    {"a jump where a value stands twice",
+     {{left, 0}, {up, 10}, {right, 10}, {down, 20}},
+     TURN_CLOCKWISE,
+     {{9.999999999, 270}, {10, 360}, {15, 405}}},
+    {"points that say nothing are passed over",
+     {{pivot, -5}, {left, 0}, {pivot, 1}, {down, nan_value}, {up, infinite}, {up, 10}},
+     TURN_CLOCKWISE,
+     {{-5, 180}, {1, 189}, {10, 270}}},
+    {"no point that says anything", {{pivot, 3}}, TURN_CLOCKWISE, {{3, 0}, {99, 0}}},
+    {"the widest of ranges",
+     {{left, -huge}, {up, huge}},
+     TURN_CLOCKWISE,
+     {{-huge, 180}, {0, 225}, {huge, 270}}},
+    {"no table: the value is the angle", {}, TURN_CLOCKWISE, {{33.5, 33.5}, {-720, -720}}},
+};
+
+TEST(NeedleGeometry, PointsWhereTheTableSays) {
+  for (const Case& c : cases) {
+    const NeedleScale scale = scale_of(c.table, c.turn);
+    for (const Reading& reading : c.readings)
+      EXPECT_NEAR(needle_angle(scale, reading.value), reading.degrees, 1e-6)
+          << c.what << ", " << reading.value;
+    EXPECT_TRUE(std::isnan(needle_angle(scale, nan_value))) << c.what;
+  }
+  EXPECT_TRUE(std::isnan(needle_angle({}, infinite)));
+}
+
+TEST(NeedleGeometry, SmallStepsBackGoBackAndNotRound) {
+  const NeedleScale scale = scale_of(fine, TURN_SHORTER_WAY, {200, 200});
+  EXPECT_NEAR(needle_angle(scale, 4) - needle_angle(scale, 0), 27, 1);
+  EXPECT_LT(needle_angle(scale, 2), needle_angle(scale, 1));
+}
+
+TEST(NeedleGeometry, GoesSmoothlyFromFrameToFrame) {
+  const NeedleScale clock =
+      scale_of({{up, 0}, {right, 15}, {down, 30}, {left, 45}, {{21, 0}, 60}});  // closed to 3 degrees
+  const NeedleScale two_turns = scale_of({{up, 0}, {down, 1}, {up, 2}, {down, 3}, {up, 4}});
+  const NeedleScale open =
+      scale_of({{left_down, 0}, {left_up, 50}, {right_up, 100}, {right_down, 150}});
+  const NeedleScale backwards =
+      scale_of({{up, 0}, {left, 15}, {down, 30}, {right, 45}, {up, 60}}, TURN_SHORTER_WAY);
+  const struct {
+    const char* what;
+    const NeedleScale& scale;
+    double before, now, blend, degrees;
+  } steps[] = {
+      {"a clock passes over its join", clock, 57.5, 2.5, 0.5, -90},
+      {"and back", clock, 2.5, 57.5, 0.5, -90},
+      {"a clock that runs backwards", backwards, 57.5, 2.5, 0.5, -90},
+      {"half of two turns stays a turn", two_turns, 0.5, 2, 0.5, 135},
+      {"never through the gap", open, 0, 150, 0.5, -90},
+      {"without a table the short way", {}, 350, 10, 0.5, 0},
+      {"nothing to come from", clock, nan_value, 15, 0.5, 0},
+      {"the start of the way", open, 0, 150, 0, 135},
+      {"an infinite value stands at the end", open, infinite, 150, 0.5, 45},
+  };
+  for (const auto& step : steps) {
+    const double angle = needle_angle_between(step.scale, step.before, step.now, step.blend);
+    EXPECT_NEAR(std::remainder(angle - step.degrees, 360), 0, 2) << step.what;
+  }
+  EXPECT_TRUE(std::isnan(needle_angle_between(clock, 15, nan_value, 0.5)));
+}
+
+}  // namespace
+}  // namespace host

@@ -1,0 +1,2 @@
+// Its precompiled headers are what counts.
+int main() {}

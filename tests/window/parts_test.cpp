@@ -1,0 +1,82 @@
+// The window's parts that need no screen.
+#include <gtest/gtest.h>
+
+#include "host/window/compose.h"
+#include "host/window/journal.h"
+#include "host/window/ui_pictures.h"
+#include "host/window/x11_desktop.h"
+#include "tests/app/program.h"
+
+namespace {
+
+using namespace host;
+
+TEST(X11Scale, ReadsTheResolutionOfTheDesktop) {
+  const struct {
+    const char* resources;
+    std::optional<double> scale;
+  } cases[] = {
+      {"Xft.dpi:\t192\nXft.antialias: 1\n", 2.0},
+      {"*background: white\nXft.dpi: 120", 1.25},
+      {"Xft.dpi: 0\n", std::nullopt},
+      {"Xft.dpi: many\n", std::nullopt},
+      {"Xft.dpi: nan\n", std::nullopt},
+      {"Emacs.Xft.dpi: 192\nXft.dpi", std::nullopt},
+      {"", std::nullopt},
+  };
+  for (const auto& each : cases)
+    EXPECT_EQ(scale_in_resources(each.resources), each.scale) << each.resources;
+}
+
+TEST(Compose, ClipsAndBlends) {
+  Canvas canvas(4, 3);
+  fill(canvas, {0, 0, 4, 3}, 0xFF000000u);
+  Overlay half{0, 0, 2, 2, std::vector<std::uint32_t>(4, 0x80800000u)};  // half opaque red
+  blend_within(canvas, half, 3, -1, {0, 0, 4, 3});
+  blend_within(canvas, half, -5, 0, {0, 0, 4, 3});
+  EXPECT_EQ(canvas.pixels[3], 0xFF800000u);
+  EXPECT_EQ(std::count(canvas.pixels.begin(), canvas.pixels.end(), 0xFF000000u), 11);
+  blend_within(canvas, half, 3, -1, {3, 0, 1, 1});
+  EXPECT_EQ(canvas.pixels[3], 0xFFC00000u);
+  copy_within(canvas, Canvas(9, 9), -3, -3, {1, 1, 2, 1});
+  EXPECT_EQ(canvas.pixels[3], 0xFFC00000u) << "outside of the rectangle";
+}
+
+TEST(Caption, HasItsButtonsAtTheRightEnd) {
+  EXPECT_EQ(caption_part(10, 300, 1.0), CaptionPart::none);
+  EXPECT_EQ(caption_part(260, 300, 1.0), CaptionPart::tear);
+  EXPECT_EQ(caption_part(290, 300, 1.0), CaptionPart::close);
+  EXPECT_EQ(caption_part(260, 300, 2.0), CaptionPart::close);
+}
+
+TEST(Journal, WritesAFlow) {
+  const TempFolder folder;
+  {
+    Journal journal(folder / "flight.lua", 0.05);
+    journal.press("Masterbat", {47, 99}, MOUSE_LEFT, false, 2.0);
+    journal.release(2.1);
+    journal.press("Clock", {65, 75}, MOUSE_RIGHT, false, 3.0);
+    journal.release(4.5);
+    journal.press("Thleft", {110, 200}, MOUSE_LEFT, true, 5.0);
+    journal.move({112, 240});
+    journal.release(6.0);
+    journal.press("Thleft", {110, 200}, MOUSE_LEFT, true, 6.0);
+    journal.release(6.0);
+    journal.wheel("Acdcsw", {40, 35}, -2, 6.05);
+    journal.call("open_window(502)", 7.05);
+  }
+  EXPECT_EQ(file_text(folder / "flight.lua"),
+            "-- Recorded in the cockpit; fly it again with: tarnvale run FILE\n"
+            "wait(1.949)\nclick(\"Masterbat\", 47, 99)\n"
+            "wait(0.949)\nright_hold(\"Clock\", 65, 75, 1.499)\n"
+            "wait(0.499)\ndrag(\"Thleft\", 110, 200, 112, 240, 1.000)\n"
+            "click(\"Thleft\", 110, 200)\n"
+            "wheel(\"Acdcsw\", 40, 35, -2)\n"
+            "wait(0.899)\nopen_window(502)\n");
+}
+
+TEST(Journal, NamesAFileThatCannotBeWritten) {
+  EXPECT_THROW(Journal("/no/such/folder/flight.lua", 0.05), std::runtime_error);
+}
+
+}  // namespace

@@ -1,0 +1,203 @@
+// The cockpit in its window, worked with mouse and keyboard as a person does.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdio>
+#include <sstream>
+
+#include "host/panel/layout.h"
+#include "host/window/ui_pictures.h"
+#include "tests/window/screen.h"
+#include "tests/window/x11_resources.h"
+
+namespace {
+
+using namespace host;
+
+constexpr const char* panel =
+    "[Window Titles]\nWindow02=Overhead\nWindow05=Pushback\n"
+    "[Window02]\nident=502\nsize_mm=560,320\nvisible=1\nbackground_color=90,100,110\n"
+    "gauge00=Tarnvale!Masterbat, 0,0\ngauge01=Tarnvale!Acdcsw, 200,0\ngauge02=Tarnvale!Cainstlg, "
+    "400,0\n"
+    "gauge03=Tarnvale!Pushback, 200,100\n"
+    "[Window05]\nident=505\nsize_mm=200,160\ngauge00=Tarnvale!Avimaster, 10,10\n"
+    "[Window09]\ndrawn=0\nvisible=1\ngauge00=Tarnvale!Msnd, 0,0\n";
+
+class InAWindow : public testing::Test {
+ protected:
+  void SetUp() override {
+    if (!Screen::available()) GTEST_SKIP() << "needs Xvfb and xdotool";
+    screen = std::make_unique<Screen>("1280x800x24");
+    const std::string config = folder.write("panel.cfg", panel);
+    record = folder / "record.lua";
+    // The program's own time limit is for the day when this test itself is killed.
+    program = std::make_unique<Child>(screen->environment() + (cockpit_dir / "tarnvale").string() +
+                                          " fly --mute --zoom 1 --exit-after 120 --panel " + config +
+                                          " --record " + record + " --pictures " + (folder / "") +
+                                          " 2> " + (folder / "log"),
+                                      -1);
+    ASSERT_TRUE(eventually([&] { return windows("Tarnvale") == 1; })) << file_text(folder / "log");
+    take_geometry();
+  }
+
+  int windows(const std::string& title) {
+    const std::string ids =
+        screen->hands("search --onlyvisible --name " + title + " 2>/dev/null").output;
+    return static_cast<int>(std::count(ids.begin(), ids.end(), '\n'));
+  }
+
+  // Where the one open panel stands: in the middle of the window, under its caption.
+  void take_geometry() {
+    std::istringstream lines(
+        screen->hands("search --onlyvisible --name Tarnvale getwindowgeometry --shell").output);
+    int left = 0, top = 0, width = 0, height = 0;
+    for (std::string line; std::getline(lines, line);) {
+      const int value = std::atoi(line.substr(line.find('=') + 1).c_str());
+      if (line.starts_with("X=")) left = value;
+      if (line.starts_with("Y=")) top = value;
+      if (line.starts_with("WIDTH=")) width = value;
+      if (line.starts_with("HEIGHT=")) height = value;
+    }
+    const std::vector<PanelSize> sizes = {{560, 320}};
+    place = arrange(sizes, {width, height, 6, caption_height(1)}, 1.0).places[0];
+    corner = {left, top};
+  }
+
+  std::string move_to(int x, int y) {
+    std::ostringstream words;
+    words << "mousemove " << corner.x + place.x + x << " " << corner.y + place.y + y << " ";
+    return words.str();
+  }
+
+  void click(int x, int y, int button = 1) {
+    screen->hands(move_to(x, y) + "sleep 0.05 click " + std::to_string(button));
+  }
+
+  bool recorded(const std::string& text) {
+    return eventually([&] { return file_text(record).find(text) != std::string::npos; });
+  }
+
+  // Takes a picture with the key and returns the colour of a pixel of the panel.
+  unsigned look(int x, int y) {
+    char name[32];
+    std::snprintf(name, sizeof name, "tarnvale-%03d.png", ++pictures);
+    const std::string file = folder / name;
+    screen->hands("key F12");
+    EXPECT_TRUE(eventually([&] { return file_text(file).ends_with("IEND\xAE\x42\x60\x82"); })) << file;
+    return pixel(file, place.x + x, place.y + y);
+  }
+
+  int leave() {
+    screen->hands("key q");
+    const int code = program->wait();
+    EXPECT_EQ(file_text(folder / "log"), "");
+    return code;
+  }
+
+  TempFolder folder;
+  std::unique_ptr<Screen> screen;
+  std::unique_ptr<Child> program;
+  std::string record;
+  Rect place;
+  PanelPoint corner{};
+  int pictures = 0;
+};
+
+int green(unsigned color) { return static_cast<int>(color >> 8 & 255); }
+
+TEST_F(InAWindow, TheBatteryComesOnWithAClickAndTheRecordFliesAgain) {
+  const unsigned dark = look(20, 52);  // beside the legend of the battery lamp
+  click(47, 99);
+  ASSERT_TRUE(recorded("click(\"Masterbat\", 47, 99)")) << file_text(record);
+  unsigned lit = 0;
+  EXPECT_TRUE(eventually([&] { return green(lit = look(20, 52)) > green(dark) + 60; }))
+      << std::hex << dark << " and " << lit;
+  EXPECT_EQ(leave(), 0);
+
+  std::ofstream(record, std::ios::app)
+      << "wait(0.1)\nexpect(image('Masterbat', 40) == 1, 'the lamp is dark')\n";
+  const Outcome again = tarnvale("run " + record + " --panel " + (folder / "panel.cfg"));
+  EXPECT_EQ(again.exit_code, 0) << again.output << file_text(record);
+}
+
+TEST_F(InAWindow, TheWheelTurnsASelectorAndLeavesASwitchAlone) {
+  click(47, 99, 4);   // the wheel over the battery switch
+  click(240, 35, 4);  // and over the DC selector
+  click(240, 35, 5);
+  EXPECT_TRUE(recorded("wheel(\"Acdcsw\", 40, 35, -1)"));
+  EXPECT_NE(file_text(record).find("wheel(\"Acdcsw\", 40, 35, 1)"), std::string::npos);
+  EXPECT_EQ(file_text(record).find("Masterbat"), std::string::npos);
+  EXPECT_EQ(leave(), 0);
+}
+
+TEST_F(InAWindow, ThePanelLightsComeOnAndTheHelpLiesOverThePanel) {
+  const int day = green(look(385, 85));  // bare plate, and paper without text while the help is shown
+  screen->hands("key h");
+  EXPECT_TRUE(eventually([&] { return green(look(385, 85)) < day / 2; })) << "no help page";
+  screen->hands("key Escape");
+  EXPECT_TRUE(eventually([&] { return green(look(385, 85)) == day; })) << "the help page stays";
+  screen->hands("key d");
+  EXPECT_TRUE(recorded("event(\"panel_lights_toggle\")"));
+  EXPECT_EQ(leave(), 0);
+}
+
+TEST_F(InAWindow, TheFuelLeversMoveWithTheirKeys) {
+  screen->hands("key F5 sleep 0.1 key F6");
+  EXPECT_TRUE(recorded("event(\"fuel_lever_1_toggle\")"));
+  EXPECT_TRUE(recorded("event(\"fuel_lever_2_toggle\")"));
+  EXPECT_EQ(leave(), 0);
+}
+
+TEST_F(InAWindow, PanelsOpenWithKeysAndTearOff) {
+  screen->hands("key 6");
+  EXPECT_TRUE(recorded("open_window(505)"));
+  screen->hands("key 6");
+  EXPECT_TRUE(recorded("close_window(505)"));
+  screen->hands(move_to(300, 90) + "sleep 0.1 key t");
+  EXPECT_TRUE(eventually([&] { return windows("Overhead") == 1; }));
+  const int after = windows("Tarnvale");
+  EXPECT_EQ(after, 1) << "the main window stays";
+  // The torn-off window stands in the middle of the screen: the key puts it back from there.
+  screen->hands("mousemove 640 400 sleep 0.1 key t");
+  EXPECT_TRUE(eventually([&] { return windows("Overhead") == 0; }));
+  EXPECT_EQ(leave(), 0);
+}
+
+TEST_F(InAWindow, AHeldButtonRepeatsAndClosingTheWindowLeaves) {
+  screen->hands(move_to(47, 99) + "sleep 0.05 mousedown 1 sleep 0.6 mouseup 1");
+  EXPECT_TRUE(recorded("hold(\"Masterbat\", 47, 99, 0.")) << file_text(record);
+  screen->hands("key p sleep 0.2 key p");
+  EXPECT_EQ(leave(), 0);
+}
+
+TEST(Fly, FollowsTheScaleOfTheDesktop) {
+  if (!Screen::available()) GTEST_SKIP() << "needs Xvfb and xdotool";
+  const Screen screen("1920x1080x24");
+  const TempFolder folder;
+  const std::string config = folder.write("panel.cfg", panel);
+  for (const auto& [resources, option, width] : {std::tuple{"Xft.dpi: 96\n", "", 560 + 12},
+                                                 {"Xft.dpi: 192\n", "", 2 * 560 + 24},
+                                                 {"Xft.dpi: 192\n", "--scale 1", 560 + 12}}) {
+    ASSERT_TRUE(set_x11_resources(screen.display(), resources));
+    const Child program(screen.environment() + (cockpit_dir / "tarnvale").string() +
+                            " fly --mute --zoom 1 " + option + " --exit-after 20 --panel " + config,
+                        -1);
+    const std::string wanted = "Geometry: " + std::to_string(width) + "x";
+    EXPECT_TRUE(eventually([&] {
+      return screen.hands("search --onlyvisible --name Tarnvale getwindowgeometry")
+                 .output.find(wanted) != std::string::npos;
+    })) << resources
+        << option << " does not open " << width << " pixels wide";
+  }
+}
+
+TEST(Fly, LeavesByItselfWhenAsked) {
+  if (!Screen::available()) GTEST_SKIP() << "needs Xvfb and xdotool";
+  const Screen screen("1920x1080x24");
+  const Outcome outcome = run_command(screen.environment() + (cockpit_dir / "tarnvale").string() +
+                                      " fly --mute --scale 2 --open 503 505 --exit-after 1");
+  EXPECT_EQ(outcome.exit_code, 0) << outcome.output;
+  EXPECT_EQ(outcome.output, "");
+}
+
+}  // namespace
