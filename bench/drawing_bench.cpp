@@ -52,6 +52,9 @@ void add_pictures(MadeBitmaps& bitmaps, int density) {
   for (std::uint32_t kind = 0; kind < std::size(sizes); ++kind) {
     const auto [width, height] = sizes[kind];
     bitmaps.add(1 + kind, width, height, metal, d);
+    bitmaps.add(
+        5 + kind, width, height,  // with an opening for a card
+        [=](int x, int y) { return std::hypot(x - 60 * d, y - 60 * d) < 55 * d ? 0 : metal(x, y); }, d);
     for (const std::uint32_t level : {0, 1, 2})  // of the lighting
       bitmaps.add(100 + 10 * kind + level, width, height, level * 0x0C080400u, d);
   }
@@ -74,11 +77,13 @@ void add_pictures(MadeBitmaps& bitmaps, int density) {
 
 char text[8] = "000";
 
+bool has_card(int number) { return number % 4 == 0; }
+
 // The lit set of one gauge: overlay, lamps, needles, drums; some have a card or a text.
 void fill(MadeGauge& gauge, int kind, int number) {
   gauge.icon(100 + 10 * kind, {0, 0}, 3);
   for (int i = 0; i < 4; ++i) gauge.icon(20, {4 + 35 * i % 105, 60}, 2);
-  if (number % 4 == 0) {
+  if (has_card(number)) {
     Element& card = gauge.add(ELEMENT_SPRITE, 50, {0, 0});
     card.sprite.texture_center = {60, 60};
     card.sprite.rotation.scale = 1;
@@ -107,7 +112,7 @@ class Panel {
         return size.width == place.width && size.height == place.height;
       };
       const int kind = static_cast<int>(std::ranges::find_if(sizes, same) - sizes);
-      fill(gauges_.emplace_back(1 + kind), kind, number);
+      fill(gauges_.emplace_back((has_card(number) ? 5 : 1) + kind), kind, number);
       painters_.emplace_back(gauges_.back().header, bitmaps,
                              Rect{at(place.x), at(place.y), at(place.width), at(place.height)});
       runs_.emplace_back(gauges_.back().header);

@@ -42,7 +42,8 @@ struct Row {
 
   // ---- Both copies
 
-  /// The host token that the host reads before the value routine; a text may have two.
+  /// The host token that the host reads before the value routine; a text may have two. Sliders and
+  /// sprites name theirs with each motion.
   constexpr Row from(u32 token, u32 second = 0) const {
     Row row = *this;
     for (Element* e : {&row.day, &row.lit}) {
@@ -51,6 +52,7 @@ struct Row {
       if (e->kind == ELEMENT_STRING) e->string.source[0].token = token;
       if (e->kind == ELEMENT_STRING) e->string.source[1].token = second;
       if (e->kind == ELEMENT_MOVING_IMAGE) row.strip_axis(*e).source.token = token;
+      if (e->kind == ELEMENT_SLIDER || e->kind == ELEMENT_SPRITE) not_of_this_kind();
     }
     return row;
   }
@@ -72,7 +74,7 @@ struct Row {
 
   /// An icon's switch mode and scale, where they are not those that its number of images gives.
   constexpr Row mode(u32 switch_mode, f64 switch_scale) const {
-    Row row = *this;
+    Row row = only(ELEMENT_ICON);
     for (Element* e : {&row.day, &row.lit}) {
       e->icon.switch_mode = switch_mode;
       e->icon.switch_scale = switch_scale;
@@ -82,7 +84,7 @@ struct Row {
 
   /// A needle's greatest speed, full scales a second.
   constexpr Row rate(f64 limit) const {
-    Row row = *this;
+    Row row = only(ELEMENT_NEEDLE);
     row.day.needle.rate_limit = row.lit.needle.rate_limit = limit;
     return row;
   }
@@ -90,7 +92,7 @@ struct Row {
   /// A needle that goes the shorter way from each point of its scale to the next: scales that run
   /// counterclockwise, or whose neighbouring points step back a little.
   constexpr Row shorter_way() const {
-    Row row = *this;
+    Row row = only(ELEMENT_NEEDLE);
     row.day.needle.turn = row.lit.needle.turn = TURN_SHORTER_WAY;
     return row;
   }
@@ -111,12 +113,20 @@ struct Row {
 
   /// A sprite's point of the picture that stays in place.
   constexpr Row lit_centre(PanelPoint texture_center) const {
-    Row row = *this;
+    Row row = only(ELEMENT_SPRITE);
     row.lit.sprite.texture_center = texture_center;
     return row;
   }
 
  private:
+  /// Never defined: a row that says what its kind does not have does not compile.
+  static void not_of_this_kind();
+
+  constexpr Row only(u32 kind) const {
+    if (day.kind != kind) not_of_this_kind();
+    return *this;
+  }
+
   /// The axis along which a strip moves: the one with a range.
   static constexpr MovingAxis& strip_axis(Element& e) {
     MovingAxis& x = e.moving_image.x;

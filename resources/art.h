@@ -1,33 +1,104 @@
-/// A row of artwork: which bitmaps one drawing routine makes.
+/// A row of artwork: all bitmaps of one part, or of a plate, as data. A unit of `panels/` lists the rows
+/// of one gauge.
 #pragma once
 
-#include <span>
-#include <string_view>
-
-#include "resources/kit/canvas.h"
+#include "module/elements.h"
+#include "resources/rows/controls.h"
+#include "resources/rows/lamps.h"
+#include "resources/rows/moving.h"
+#include "resources/rows/plate.h"
 
 namespace artwork {
 
-/// Draws image number `image` of a run of bitmaps. The canvas has the row's size.
-using DrawRoutine = void (*)(Canvas& canvas, int image);
+class Canvas;
 
-struct Art {
-  int id;      ///< of the first bitmap
-  int images;  ///< bitmaps, numbered from `id` on
-  Size size;   ///< in gauge pixels; {} where `like` says it
+/// Draws image number `image` of a run of bitmaps that is one of its kind.
+using DrawRoutine = void (*)(const Canvas& canvas, int image);
+
+struct Drawing {
   DrawRoutine draw;
-  std::string_view shows;  ///< for the list of bitmaps
-  int like = 0;            ///< the background whose size these pictures have
+  Point hub = {};  ///< where it turns; {}: in the middle
 };
 
-/// A finished background; its size stands in the table of backgrounds.
-constexpr Art background(int id, DrawRoutine draw, std::string_view shows) {
-  return {id, 1, {}, draw, shows, id};
-}
+/// A gauge's plate. With instrument lighting it is drawn again for the overlay: off, dim, bright.
+struct Plate {
+  std::span<const Item> items;
+};
 
-/// The three pictures of a gauge's instrument lighting: off, dim, bright.
-constexpr Art lighting_overlay(int id, int background_id, DrawRoutine draw, std::string_view shows) {
-  return {id, 3, {}, draw, shows, background_id};
+using Picture = std::variant<Plate, Lamp, LensStack, RoundLight, Lever, Knob, FlowSwitch, Guard,
+                             GuardedLever, GuardedKnob, Needle, Drum, Tape, Mask, CompassCard, Drawing>;
+
+/// Which bitmaps a row draws: those of a part of the unit's gauge, or a run that gauges share.
+struct Of {
+  constexpr Of() = default;
+  constexpr Of(const char* name) : part(name) {}
+  constexpr Of(tarnvale::Bitmaps run) : bitmaps(run) {}
+  std::string_view part = {};
+  tarnvale::Bitmaps bitmaps = {0, 0};
+};
+
+struct Art {
+  Of of;
+  Size size;  ///< in gauge pixels; a side of 0 follows from the record
+  Picture picture;
+};
+
+/// The rows of one gauge, or of what gauges share.
+struct Unit {
+  std::string_view gauge;  ///< "" where it is shared
+  std::span<const Art> art;
+};
+
+// ---- The rows
+
+/// A gauge's plate, as wide as the gauge, with the overlay of its instrument lighting if it has one.
+constexpr Art plate(int height, std::span<const Item> items) { return {{}, {0, height}, Plate{items}}; }
+
+constexpr Art lamp_art(Of of, Size size, Colours colours, std::string_view text = "",
+                       double text_size = legend_size) {
+  return {of, size, Lamp{colours, text, text_size}};
+}
+/// A push button whose lens lights up.
+constexpr Art button_art(Of of, Size size, Colours colours, std::string_view text,
+                         double text_size = legend_size) {
+  return {of, size, Lamp{colours, text, text_size, Setting::button}};
+}
+constexpr Art flush_lamp_art(Of of, Size size, Colours colours, std::string_view text,
+                             double text_size = legend_size) {
+  return {of, size, Lamp{colours, text, text_size, Setting::flush}};
+}
+constexpr Art lens_stack_art(Of of, Size size, List<Lens, 3> lenses) {
+  return {of, size, LensStack{lenses}};
+}
+constexpr Art round_light_art(Of of, Size size, RoundLight light) { return {of, size, light}; }
+
+constexpr Art lever_art(Of of, Size size, List<Throw, 4> throws, Lever lever = {}) {
+  lever.throws = throws;
+  return {of, size, lever};
+}
+constexpr Art knob_art(Of of, Size size, List<double, 12> marks, Knob knob) {
+  knob.marks = marks;
+  return {of, size, knob};
+}
+constexpr Art flow_switch_art(Of of, Size size, FlowSwitch knob) { return {of, size, knob}; }
+constexpr Art guard_art(Of of, Size size) { return {of, size, Guard{}}; }
+constexpr Art guarded_lever_art(Of of, Size size) { return {of, size, GuardedLever{}}; }
+constexpr Art guarded_knob_art(Of of, Size size) { return {of, size, GuardedKnob{}}; }
+
+/// As large as pivot and length need.
+constexpr Art needle_art(Of of, Needle needle) { return {of, {}, needle}; }
+/// `window` is the size of the window in which it shows.
+constexpr Art drum_art(Of of, Size window, Drum drum) {
+  return {of, {window.width, 10 * window.height}, drum};
+}
+constexpr Art tape_art(Of of, Size strip, Tape tape) { return {of, strip, tape}; }
+/// The window of the tape that is the part `of`.
+constexpr Art mask_art(Of of, Size window, Mask mask = {}) { return {of, window, mask}; }
+constexpr Art compass_card_art(Of of, Size size, CompassCard card) { return {of, size, card}; }
+
+/// Pictures that are one of their kind.
+constexpr Art drawn_art(Of of, Size size, DrawRoutine draw, Point hub = {}) {
+  return {of, size, Drawing{draw, hub}};
 }
 
 }  // namespace artwork

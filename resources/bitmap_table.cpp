@@ -2,46 +2,143 @@
 
 #include <algorithm>
 
-#include "resources/backgrounds.h"
-#include "resources/kit/metal.h"
-#include "resources/panels/panels.h"
+#include "resources/kit/records.h"
+#include "resources/plain_plates.h"
+#include "resources/rows/draw.h"
 
 namespace artwork {
 namespace {
 
-void draw_plain_plate(Canvas& canvas, int) { painted_plate(canvas); }
+constexpr std::string_view lighting_part = "instrument_lighting";
+constexpr int lighting_levels = 3;
 
-void add(std::vector<Bitmap>& table, const Art& art) {
-  const Size size = art.like == 0 ? art.size : background_size(art.like);
-  for (int image = 0; image < art.images; ++image) {
-    table.push_back({art.id + image, size, art.like == art.id, art.draw, image, art.shows});
-  }
+/// A run of bitmaps as the records number it. A run of gauges' own says how many images it has.
+struct Run {
+  int id;
+  int images;
+};
+
+Run run_of(const Element& element, const Picture& picture) {
+  if (std::holds_alternative<Mask>(picture)) return {element.moving_image.mask_resource_id, 1};
+  const bool icon = element.kind == ELEMENT_ICON;
+  return {element.resource_id, icon ? static_cast<int>(element.icon.image_count) : 1};
 }
 
-bool has(const std::vector<Bitmap>& table, int id) {
-  return std::any_of(table.begin(), table.end(), [=](const Bitmap& b) { return b.id == id; });
+Size needle_size(const Element& element, const Needle& needle) {
+  const PanelPoint pivot = element.needle.center;
+  return {static_cast<int>(pivot.x + needle.length + 1), 2 * pivot.y};
+}
+
+std::string name_of(const Unit& unit, const Art& art) {
+  if (art.of.part.empty()) return "bitmap " + std::to_string(art.of.bitmaps.id);
+  return std::string(unit.gauge) + ' ' + std::string(art.of.part);
+}
+
+class Table {
+ public:
+  void add(const Unit& unit, const Art& art) {
+    if (std::holds_alternative<Plate>(art.picture)) return add_plate(unit, art);
+    if (art.of.part.empty()) {
+      return add(unit, art, {art.of.bitmaps.id, static_cast<int>(art.of.bitmaps.images)}, art.size);
+    }
+    const Element& element = part(gauge(unit.gauge), art.of.part);
+    const auto* needle = std::get_if<Needle>(&art.picture);
+    add(unit, art, run_of(element, art.picture),
+        needle == nullptr ? art.size : needle_size(element, *needle));
+  }
+
+  void add(const PlainPlate& plate) {
+    const GaugeHeader& of = gauge(plate.gauge);
+    all_.push_back({of.element_list[0]->resource_id,
+                    0,
+                    {static_cast<int>(of.width_mm), plate.height},
+                    nullptr,
+                    nullptr,
+                    true});
+  }
+
+  std::vector<Bitmap> ascending() {
+    std::sort(all_.begin(), all_.end(), [](const Bitmap& a, const Bitmap& b) { return a.id < b.id; });
+    for (std::size_t i = 1; i < all_.size(); ++i) {
+      if (all_[i].id == all_[i - 1].id) wrong("two rows draw bitmap " + std::to_string(all_[i].id));
+    }
+    return std::move(all_);
+  }
+
+ private:
+  void add(const Unit& unit, const Art& art, Run run, Size size) {
+    const int drawn = image_count(art.picture);
+    if (drawn != 0 && drawn != run.images) {
+      wrong(name_of(unit, art) + " has " + std::to_string(run.images) + " images, and its row draws " +
+            std::to_string(drawn));
+    }
+    for (int image = 0; image < run.images; ++image) {
+      all_.push_back({run.id + image, image, size, &unit, &art, false});
+    }
+  }
+
+  void add_plate(const Unit& unit, const Art& art) {
+    const GaugeHeader& of = gauge(unit.gauge);
+    const Size size{static_cast<int>(of.width_mm), art.size.height};
+    all_.push_back({of.element_list[0]->resource_id, 0, size, &unit, &art, true});
+    const Element* lighting = find_part(of, lighting_part);
+    if (lighting == nullptr) return;
+    for (int level = 0; level < lighting_levels; ++level) {
+      all_.push_back({lighting->resource_id + level, level, size, &unit, &art, false, true});
+    }
+  }
+
+  std::vector<Bitmap> all_;
+};
+
+std::vector<Bitmap> made_table() {
+  Table table;
+  for (const NamedUnit& named : units()) {
+    for (const Art& art : named.unit.art) table.add(named.unit, art);
+  }
+  for (const PlainPlate& plate : plain_plates()) table.add(plate);
+  return table.ascending();
 }
 
 }  // namespace
 
-std::vector<Bitmap> bitmap_table() {
-  std::vector<Bitmap> table;
-  for (const std::span<const Art> group : all_art()) {
-    for (const Art& art : group) add(table, art);
-  }
-  for (const Background& plate : backgrounds()) {
-    if (has(table, plate.id)) continue;
-    table.push_back({plate.id, plate.size, true, draw_plain_plate, 0, plate.gauges});
-  }
-  std::sort(table.begin(), table.end(), [](const Bitmap& a, const Bitmap& b) { return a.id < b.id; });
+const std::vector<Bitmap>& bitmap_table() {
+  static const std::vector<Bitmap> table = made_table();
   return table;
+}
+
+const Bitmap* find_bitmap(int id) {
+  const std::vector<Bitmap>& table = bitmap_table();
+  const auto found =
+      std::lower_bound(table.begin(), table.end(), id,
+                       [](const Bitmap& bitmap, int value) { return bitmap.id < value; });
+  return found == table.end() || found->id != id ? nullptr : &*found;
+}
+
+std::string subject(const Bitmap& bitmap) {
+  if (bitmap.unit == nullptr) return "plain plate";
+  const std::string gauge(bitmap.unit->gauge.empty() ? "shared" : bitmap.unit->gauge);
+  if (bitmap.background) return gauge + " plate";
+  const std::string_view part = bitmap.overlay ? lighting_part : bitmap.art->of.part;
+  return gauge + ' ' + std::string(part) + " image " + std::to_string(bitmap.image);
+}
+
+bool has_openings(const Bitmap& bitmap) {
+  const auto* plate = bitmap.art == nullptr ? nullptr : std::get_if<Plate>(&bitmap.art->picture);
+  if (plate == nullptr) return false;
+  return std::any_of(plate->items.begin(), plate->items.end(),
+                     [](const Item& item) { return std::holds_alternative<Opening>(item); });
+}
+
+const GaugeHeader* gauge_of(const Unit& unit) {
+  return unit.gauge.empty() ? nullptr : &gauge(unit.gauge);
 }
 
 Canvas drawn(const Bitmap& bitmap, int density) {
   // All pictures of a plate share its seed, so that grain stays where it is under an overlay.
   const auto seed = static_cast<std::uint32_t>(bitmap.size.width * 4099 + bitmap.size.height);
   Canvas canvas(bitmap.size, density, seed);
-  bitmap.draw(canvas, bitmap.image);
+  draw(canvas, bitmap);
   return canvas;
 }
 

@@ -1,23 +1,39 @@
-/// Every bitmap of the module: its number, what it shows, its size and how it is drawn.
+/// Every bitmap of the module: its number, its size, and the row that draws it.
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include "resources/art.h"
+#include "resources/kit/canvas.h"
+#include "resources/units.h"
 
 namespace artwork {
 
 struct Bitmap {
   int id;
-  Size size;
-  bool background;  ///< opaque; all others have transparent parts
-  DrawRoutine draw;
   int image;  ///< of its run
-  std::string_view shows;
+  Size size;
+  const Unit* unit;      ///< null for a plate whose art is still to come
+  const Art* art;        ///< likewise
+  bool background;       ///< all others have transparent parts
+  bool overlay = false;  ///< of the plate's instrument lighting
 };
 
-/// All bitmaps, ascending by id. Plates whose art is still to come are plain.
-std::vector<Bitmap> bitmap_table();
+/// All bitmaps, ascending by id. Ends the program where rows and records do not agree.
+const std::vector<Bitmap>& bitmap_table();
+
+/// The bitmap of that number; null if there is none.
+const Bitmap* find_bitmap(int id);
+
+/// What it shows, for lists and messages.
+std::string subject(const Bitmap& bitmap);
+
+/// Whether sprites show through a background.
+bool has_openings(const Bitmap& bitmap);
+
+/// The gauge to which a unit's rows belong; null for what gauges share.
+const GaugeHeader* gauge_of(const Unit& unit);
 
 /// The picture of one bitmap at `density` device pixels to a gauge pixel.
 Canvas drawn(const Bitmap& bitmap, int density);

@@ -1,5 +1,6 @@
 #include "host/app/commands.h"
 #include "host/app/installation.h"
+#include "host/app/start_notes.h"
 #include "host/window/flight_deck.h"
 
 namespace host {
@@ -7,6 +8,7 @@ namespace host {
 int fly(const FlyOptions& options) {
   const CockpitOptions cockpit_options = located(options.cockpit);
   GaugeModule module(cockpit_options.module);
+  say_artwork_notes(module);
   // A muted cockpit plays into a mix that nobody takes, so that its sound engine finds all well.
   prepare_platform(cockpit_options, options.mute ? PLATFORM_AUDIO_RENDERED : PLATFORM_AUDIO_DEVICE);
   Cockpit cockpit(module, read_panel_config(cockpit_options.panel), cockpit_options.rate);

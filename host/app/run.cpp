@@ -8,6 +8,7 @@
 #include "host/app/commands.h"
 #include "host/app/installation.h"
 #include "host/app/progress.h"
+#include "host/app/start_notes.h"
 #include "host/script/flow_api.h"
 #include "host/sound/wav_recorder.h"
 
@@ -43,6 +44,7 @@ class FlowRun {
         module_(cockpit_options_.module),
         cockpit_(module_, read_panel_config(cockpit_options_.panel), cockpit_options_.rate),
         session_(cockpit_, surroundings()) {
+    say_artwork_notes(module_);
     if (!options.pictures.empty()) prepare_folder(options.pictures);
     if (!options.sound.empty()) sound_ = std::make_unique<WavRecorder>(options.sound.string());
     prepare_platform(cockpit_options_, PLATFORM_AUDIO_RENDERED);

@@ -4,6 +4,7 @@
 
 #include "host/app/commands.h"
 #include "host/app/installation.h"
+#include "host/app/start_notes.h"
 #include "host/panel/panel_picture.h"
 #include "host/window/flight_deck.h"
 
@@ -46,11 +47,8 @@ std::uint32_t token_number(const std::string& name) {
   std::uint32_t number = 0;
   const auto [end, error] = std::from_chars(name.data(), name.data() + name.size(), number);
   if (error == std::errc{} && end == name.data() + name.size()) return number;
-  const auto rows = AircraftModel::tokens();
-  const auto row = std::ranges::find(rows, name, &TableRow::name);
-  if (row == rows.end())
-    throw std::runtime_error("there is no token '" + name + "'; see: tarnvale list tokens");
-  return row->number;
+  if (const TableRow* row = find_row(AircraftModel::tokens(), name)) return row->number;
+  throw std::runtime_error("there is no token '" + name + "'; see: tarnvale list tokens");
 }
 
 void hold_reading(AircraftModel& aircraft, const std::string& reading) {
@@ -65,7 +63,7 @@ void hold_reading(AircraftModel& aircraft, const std::string& reading) {
 
 void set_up(Cockpit& cockpit, const ShowOptions& options) {
   for (const std::string& reading : options.readings) hold_reading(cockpit.aircraft(), reading);
-  if (options.night) hold_reading(cockpit.aircraft(), "10=1");
+  if (options.night) cockpit.aircraft().hold_token(token::panel_lights, 1);
   for (int frame = 0; frame < 3; ++frame) cockpit.frame();  // needles have left their stops
 }
 
@@ -82,6 +80,7 @@ void write_picture(Cockpit& cockpit, const ShowOptions& options) {
 int show(const ShowOptions& options) {
   const CockpitOptions located_options = located(options.cockpit);
   GaugeModule module(located_options.module);
+  say_artwork_notes(module);
   const bool window = options.picture.empty();
   prepare_platform(located_options, window ? PLATFORM_AUDIO_DEVICE : PLATFORM_AUDIO_NONE);
   Cockpit cockpit(module, shelf(module, options.gauges), located_options.rate);

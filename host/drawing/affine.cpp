@@ -2,12 +2,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <numbers>
 #include <optional>
-
-#if defined(__SSE2__)
-#include <emmintrin.h>
-#endif
 
 namespace host {
 namespace {
@@ -69,78 +66,70 @@ void keep_inside(std::int64_t start, std::int64_t step, std::int64_t end, Range&
   while (range.first <= range.last && outside(range.last)) --range.last;
 }
 
-#if defined(__SSE2__)
+// The eight channels of two neighbours, in a vector that the compiler makes of what a machine has.
+using Bytes = std::uint8_t [[gnu::vector_size(16)]];
+using Words = std::uint64_t [[gnu::vector_size(16)]];
+using Channels = std::int16_t [[gnu::vector_size(16)]];
 
-// Eight times the same fraction, for every fraction of 128.
-struct Fractions {
-  alignas(16) std::int16_t eight[128][8];
-  constexpr Fractions() : eight() {
-    for (int fraction = 0; fraction < 128; ++fraction)
-      for (auto& lane : eight[fraction]) lane = static_cast<std::int16_t>(fraction);
-  }
-};
-constexpr Fractions fractions;
-
-__m128i two_pixels(const std::uint32_t* pixels) {
-  const __m128i packed = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(pixels));
-  return _mm_unpacklo_epi8(packed, _mm_setzero_si128());
+inline Channels two_pixels(const std::uint32_t* pixels) {
+  std::uint64_t two;
+  std::memcpy(&two, pixels, sizeof two);
+  const Bytes packed = reinterpret_cast<Bytes>(Words{two, 0});
+  constexpr Bytes interleaved{0, 16, 1, 17, 2, 18, 3, 19, 4, 20, 5, 21, 6, 22, 7, 23};
+  return reinterpret_cast<Channels>(__builtin_shuffle(packed, Bytes{}, interleaved));
 }
 
 // From `a` towards `b` by so many parts of 128.
-__m128i mixed(__m128i a, __m128i b, std::uint32_t part) {
-  const __m128i weight = _mm_load_si128(reinterpret_cast<const __m128i*>(fractions.eight[part]));
-  return _mm_add_epi16(a, _mm_srai_epi16(_mm_mullo_epi16(_mm_sub_epi16(b, a), weight), 7));
+inline Channels mixed(Channels a, Channels b, std::int16_t part) { return a + ((b - a) * part >> 7); }
+
+// The pixel between four, of which the lower two stand `stride` pixels further on.
+inline std::uint32_t between(const std::uint32_t* upper, std::ptrdiff_t stride, std::int16_t across,
+                             std::int16_t down) {
+  const Channels column = mixed(two_pixels(upper), two_pixels(upper + stride), down);
+  const Channels right = __builtin_shuffle(column, Channels{4, 5, 6, 7, 4, 5, 6, 7});
+  const std::uint64_t spread = reinterpret_cast<Words>(mixed(column, right, across))[0];
+  const std::uint64_t pairs = spread | spread >> 8;
+  return static_cast<std::uint32_t>((pairs & 0xFFFF) | (pairs >> 16 & 0xFFFF0000));
 }
 
-std::uint32_t between(const std::uint32_t* upper, const std::uint32_t* lower, std::uint32_t across,
-                      std::uint32_t down) {
-  const __m128i column = mixed(two_pixels(upper), two_pixels(lower), down);
-  const __m128i pixel = mixed(column, _mm_srli_si128(column, 8), across);
-  return static_cast<std::uint32_t>(_mm_cvtsi128_si32(_mm_packus_epi16(pixel, pixel)));
-}
-
-#else
-
-// From `a` towards `b` by so many parts of 128.
-std::uint32_t mixed(std::uint32_t a, std::uint32_t b, std::uint32_t part) {
-  const auto halves = [part](std::uint32_t x, std::uint32_t y) {
-    return (x * (128 - part) + y * part) >> 7 & 0xFF00FF;
-  };
-  return halves(a & 0xFF00FF, b & 0xFF00FF) | halves(a >> 8 & 0xFF00FF, b >> 8 & 0xFF00FF) << 8;
-}
-
-std::uint32_t between(const std::uint32_t* upper, const std::uint32_t* lower, std::uint32_t across,
-                      std::uint32_t down) {
-  return mixed(mixed(upper[0], lower[0], down), mixed(upper[1], lower[1], down), across);
-}
-
-#endif
-
-// The pixel between four; `u` and `v` in 1/65536 pixels.
-std::uint32_t sample(const PixelView& picture, std::uint32_t u, std::uint32_t v) {
-  const std::uint32_t* upper = picture.at(u >> fraction_bits, v >> fraction_bits);
-  return between(upper, upper + picture.stride, u >> 9 & 127, v >> 9 & 127);
-}
+std::int16_t part_of_128(std::uint32_t at) { return static_cast<std::int16_t>(at >> 9 & 127); }
 
 struct Stepper {
   std::int64_t u, v, du, dv;
 };
 
-// Draws the steps of `range`; `target` is the pixel of the first.
-void blend_row(std::uint32_t* target, const PixelView& picture, const Stepper& start,
-               const Range& range) {
-  auto u = static_cast<std::uint32_t>(start.u + start.du * range.first);
-  auto v = static_cast<std::uint32_t>(start.v + start.dv * range.first);
-  for (std::int64_t k = range.first; k <= range.last; ++k, ++target) {
-    const std::uint32_t pixel = sample(picture, u, v);
+template <typename NextPixel>
+inline void lay_pixels(std::uint32_t* target, std::int64_t count, NextPixel next_pixel) {
+  for (; count > 0; --count, ++target) {
+    const std::uint32_t pixel = next_pixel();
     const std::uint32_t opacity = pixel >> 24;
     if (opacity == 255)
       *target = pixel;
     else if (opacity != 0)
       *target = over(*target, pixel);
+  }
+}
+
+// Draws the steps of `range`; `target` is the pixel of the first. Where the picture is only shifted,
+// the four weights are the same for the whole row.
+void blend_row(std::uint32_t* target, const PixelView& picture, const Stepper& start,
+               const Range& range) {
+  auto u = static_cast<std::uint32_t>(start.u + start.du * range.first);
+  auto v = static_cast<std::uint32_t>(start.v + start.dv * range.first);
+  const std::int64_t count = range.last - range.first + 1;
+  if (start.du == 1 << fraction_bits && start.dv == 0) {
+    const std::uint32_t* upper = picture.at(u >> fraction_bits, v >> fraction_bits);
+    const std::int16_t across = part_of_128(u), down = part_of_128(v);
+    lay_pixels(target, count, [&] { return between(upper++, picture.stride, across, down); });
+    return;
+  }
+  lay_pixels(target, count, [&] {
+    const std::uint32_t* upper = picture.at(u >> fraction_bits, v >> fraction_bits);
+    const std::uint32_t pixel = between(upper, picture.stride, part_of_128(u), part_of_128(v));
     u += static_cast<std::uint32_t>(start.du);
     v += static_cast<std::uint32_t>(start.dv);
-  }
+    return pixel;
+  });
 }
 
 }  // namespace

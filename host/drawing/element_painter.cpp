@@ -2,10 +2,11 @@
 
 namespace host {
 
-std::unique_ptr<ElementPainter> make_element_painter(const Element& element, Pictures& pictures) {
+std::unique_ptr<ElementPainter> make_element_painter(const Element& element, Pictures& pictures,
+                                                     BitmapUse use) {
   switch (element.kind) {
-    case ELEMENT_STATIC_IMAGE:
-    case ELEMENT_ICON: return make_still_painter(element, pictures);
+    case ELEMENT_STATIC_IMAGE: return make_still_painter(element, pictures, use);
+    case ELEMENT_ICON: return make_still_painter(element, pictures, BitmapUse::image);
     case ELEMENT_NEEDLE: return make_needle_painter(element, pictures);
     case ELEMENT_SLIDER: return make_slider_painter(element, pictures);
     case ELEMENT_MOVING_IMAGE: return make_moving_image_painter(element, pictures);

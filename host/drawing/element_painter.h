@@ -46,9 +46,12 @@ class ElementPainter {
 };
 
 /// Null for an element that can never show anything. The element and the pictures must outlive it.
-std::unique_ptr<ElementPainter> make_element_painter(const Element& element, Pictures& pictures);
+/// `use` is how a static image is read; every other kind is an image.
+std::unique_ptr<ElementPainter> make_element_painter(const Element& element, Pictures& pictures,
+                                                     BitmapUse use = BitmapUse::background);
 
-std::unique_ptr<ElementPainter> make_still_painter(const Element& element, Pictures& pictures);
+std::unique_ptr<ElementPainter> make_still_painter(const Element& element, Pictures& pictures,
+                                                   BitmapUse use);
 std::unique_ptr<ElementPainter> make_needle_painter(const Element& element, Pictures& pictures);
 std::unique_ptr<ElementPainter> make_slider_painter(const Element& element, Pictures& pictures);
 std::unique_ptr<ElementPainter> make_moving_image_painter(const Element& element, Pictures& pictures);

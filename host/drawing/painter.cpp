@@ -16,26 +16,33 @@ Scale scale_to(const Rect& place, PanelSize size) {
   return {1.0 * place.width / size.width, 1.0 * place.height / size.height};
 }
 
-void fill(Surface target, const Rect& part, std::uint32_t colour) {
-  for (int y = part.y; y < part.y + part.height; ++y)
-    std::fill_n(target.at(part.x, y), part.width, colour);
-}
-
 }  // namespace
 
-// The gauge in two layers: the base, kept composed, holds the background and the still elements up
-// to the first one that moves; the rest is drawn over it straight onto the canvas.
+// A face without sprites is opaque: black is a paint like any other there. Behind a face with sprites
+// something moves that has to be seen, so that its pure black and its opacities count as those of an
+// image do: where it is clear it has an opening.
+bool has_openings(const std::vector<ChainLink>& chain) {
+  const auto sprite = [](const ChainLink& link) { return link.element->kind == ELEMENT_SPRITE; };
+  return std::ranges::any_of(chain, sprite);
+}
+
+// The gauge in two layers: the base, kept composed, holds what is drawn up to the first element that
+// moves; the rest is drawn over it straight onto the canvas.
 struct GaugePainter::Layers {
   struct Item {
+    std::size_t index;  // in the chain
     const Element* element;
     std::unique_ptr<ElementPainter> painter;  // null: it never shows anything
+    Rect limits;                              // sprites are seen through the openings only
     Look look;
     Rect bounds;
   };
 
   Layers(const GaugeHeader& gauge, const BitmapStore& bitmaps, Rect where);
+  void add_items(const std::vector<ChainLink>& chain);
   void compare(std::span<const ElementState> before, std::span<const ElementState> now, double blend);
-  void take_look(std::size_t index, const Look& look);
+  void take_look(std::size_t place_in_order, const Look& look);
+  bool covered_by_face(const Rect& part) const;
   std::size_t first_moving(std::span<const ElementState> now) const;
   void compose(Surface target, const Rect& clip, std::size_t first, std::size_t last) const;
   void update_base();
@@ -45,7 +52,8 @@ struct GaugePainter::Layers {
   Rect place;
   Rect whole;  // the place, as seen from its own corner
   Pictures pictures;
-  std::vector<Item> items;
+  std::vector<Item> items;  // in the order of drawing: sprites, the face, everything else
+  bool open_face = false;
   std::vector<std::uint32_t> base;
   std::size_t base_end = 0;  // the items below this one are in the base
   bool canvas_valid = false;
@@ -59,28 +67,41 @@ GaugePainter::Layers::Layers(const GaugeHeader& gauge, const BitmapStore& bitmap
       whole{0, 0, where.width, where.height},
       pictures(bitmaps, scale_to(where, gauge_size(gauge, bitmaps))) {
   if (is_empty(place)) return;
-  for (const ChainLink& link : element_chain(gauge))
-    items.push_back({link.element, make_element_painter(*link.element, pictures), {}, {}});
+  add_items(element_chain(gauge));
   base.assign(std::size_t(place.width) * place.height, black);
+}
+
+void GaugePainter::Layers::add_items(const std::vector<ChainLink>& chain) {
+  open_face = has_openings(chain);
+  for (std::size_t i = 0; i < chain.size(); ++i) {
+    const Element& element = *chain[i].element;
+    const BitmapUse use = i == 0 && open_face ? BitmapUse::image : BitmapUse::background;
+    items.push_back({i, &element, make_element_painter(element, pictures, use), whole, {}, {}});
+  }
+  if (!open_face) return;
+  const Rect openings = intersection(pictures.openings(*chain.front().element), whole);
+  const auto behind = [](const Item& item) { return item.element->kind == ELEMENT_SPRITE; };
+  for (Item& item : items)
+    if (behind(item)) item.limits = openings;
+  std::ranges::stable_partition(items, behind);
 }
 
 // Everything below the first element that may move, whether or not it shows anything just now.
 std::size_t GaugePainter::Layers::first_moving(std::span<const ElementState> now) const {
-  std::size_t index = 0;
-  const std::size_t end = std::min(items.size(), now.size());
-  while (index < end &&
-         !(now[index].evaluated && items[index].painter && items[index].painter->moves()))
-    ++index;
-  return index;
+  const auto moves = [&](const Item& item) {
+    return item.index < now.size() && now[item.index].evaluated && item.painter &&
+           item.painter->moves();
+  };
+  return static_cast<std::size_t>(std::ranges::find_if(items, moves) - items.begin());
 }
 
-void GaugePainter::Layers::take_look(std::size_t index, const Look& look) {
-  Item& item = items[index];
+void GaugePainter::Layers::take_look(std::size_t place_in_order, const Look& look) {
+  Item& item = items[place_in_order];
   if (look == item.look) return;
-  const Rect bounds = look.shown ? item.painter->bounds(look) : Rect{};
+  const Rect bounds = look.shown ? intersection(item.painter->bounds(look), item.limits) : Rect{};
   for (const Rect& rect : {item.bounds, bounds}) {
     canvas_dirty.add(rect);
-    if (index < base_end) base_dirty.add(rect);
+    if (place_in_order < base_end) base_dirty.add(rect);
   }
   item.look = look;
   item.bounds = bounds;
@@ -92,13 +113,16 @@ void GaugePainter::Layers::compare(std::span<const ElementState> before,
   if (end != base_end) base_dirty.add(whole);
   base_end = end;
   for (std::size_t i = 0; i < items.size(); ++i) {
-    const bool drawn = i < now.size() && now[i].drawn && now[i].element == items[i].element;
-    if (!drawn || items[i].painter == nullptr) {
+    const auto& [index, element, painter, limits, look, bounds] = items[i];
+    const auto drawn = [&](std::span<const ElementState> states) {
+      return index < states.size() && states[index].drawn && states[index].element == element;
+    };
+    if (painter == nullptr || !drawn(now)) {
       take_look(i, {});
       continue;
     }
-    const bool moved = i < before.size() && before[i].drawn && before[i].element == items[i].element;
-    take_look(i, items[i].painter->look({moved ? before[i] : now[i], now[i], blend, light}));
+    const ElementState& from = drawn(before) ? before[index] : now[index];
+    take_look(i, painter->look({from, now[index], blend, light}));
   }
 }
 
@@ -106,15 +130,19 @@ void GaugePainter::Layers::compose(Surface target, const Rect& clip, std::size_t
                                    std::size_t last) const {
   for (std::size_t i = first; i < last; ++i) {
     const Item& item = items[i];
-    if (item.look.shown && !is_empty(intersection(item.bounds, clip)))
-      item.painter->paint(target, clip, item.look);
+    const Rect part = intersection(item.bounds, clip);
+    if (item.look.shown && !is_empty(part)) item.painter->paint(target, part, item.look);
   }
 }
 
+bool GaugePainter::Layers::covered_by_face(const Rect& part) const {
+  if (open_face || items.empty() || !items.front().look.shown) return false;
+  return intersection(items.front().bounds, part) == part;
+}
+
 void GaugePainter::Layers::update_base() {
-  const bool background = !items.empty() && items.front().look.shown;
   for (const Rect& part : base_dirty.parts()) {
-    if (!background) fill(base_surface(), part, black);
+    if (!covered_by_face(part)) fill_pixels(base_surface(), part, black);
     compose(base_surface(), part, 0, base_end);
   }
 }

@@ -102,6 +102,25 @@ const Picture* Pictures::at_size(std::int64_t id, BitmapUse use, int width, int 
   return is_empty(kept->second.visible) ? nullptr : &kept->second;
 }
 
+Rect Pictures::openings(const Element& face) {
+  constexpr int everywhere = static_cast<int>(farthest);
+  const Rect unlimited{-everywhere, -everywhere, 2 * everywhere, 2 * everywhere};
+  if (face.kind != ELEMENT_STATIC_IMAGE) return unlimited;
+  const Rect place = scaled_place(face.position, size(face.resource_id, BitmapUse::image), scale_);
+  const Picture* picture = at_size(face.resource_id, BitmapUse::image, place.width, place.height);
+  if (picture == nullptr || picture->visible != Rect{0, 0, place.width, place.height}) return unlimited;
+  Rect openings;
+  for (int y = 0; y < place.height; ++y) {
+    const std::uint32_t* row = picture->pixels.at(0, y);
+    const auto clear = [](std::uint32_t pixel) { return pixel >> 24 != 255; };
+    const int left = static_cast<int>(std::find_if(row, row + place.width, clear) - row);
+    int right = place.width;
+    while (right > left && !clear(row[right - 1])) --right;
+    openings = around(openings, {left, y, right - left, 1});
+  }
+  return {place.x + openings.x, place.y + openings.y, openings.width, openings.height};
+}
+
 const TurningPicture* Pictures::turning(std::int64_t id) {
   const PanelSize own = size(id, BitmapUse::image);
   const Rect place = scaled_place({0, 0}, own, scale_);

@@ -6,6 +6,7 @@
 
 #include "host/drawing/affine.h"
 #include "host/loader/bitmap.h"
+#include "interface/panel_interface.h"
 
 namespace host {
 
@@ -58,6 +59,10 @@ class Pictures {
   /// nothing of it can be seen. Stays valid as long as the pictures.
   const Picture* at_size(std::int64_t id, BitmapUse use, int width, int height,
                          Light light = Light::day);
+
+  /// The smallest rectangle around what can be seen behind a gauge's face that is read as an image,
+  /// canvas pixels; unlimited if there is no such face.
+  Rect openings(const Element& face);
 
   /// The image at this scale; null as above.
   const TurningPicture* turning(std::int64_t id);

@@ -3,64 +3,16 @@
 #include <algorithm>
 #include <cstring>
 
-#if defined(__x86_64__)
-#include <immintrin.h>
-#endif
-
 namespace host {
 namespace {
 
-// Also what machines without wide registers use; compilers turn it into what they have.
-void over_pixels(std::uint32_t* target, const std::uint32_t* source, std::size_t count) {
-  for (std::size_t i = 0; i < count; ++i) target[i] = over(target[i], source[i]);
-}
+// The alphas of two pixels.
+constexpr std::uint64_t two_alphas = 0xFF000000FF000000u;
 
-#if defined(__x86_64__)
-
-// Four pixels of 16 bits a channel, times 255 − alpha of the source, by the same rounding as
-// faded().
-__attribute__((target("avx2"))) inline __m256i faded_four(__m256i target, __m256i source) {
-  __m256i alpha = _mm256_shufflelo_epi16(source, _MM_SHUFFLE(3, 3, 3, 3));
-  alpha = _mm256_shufflehi_epi16(alpha, _MM_SHUFFLE(3, 3, 3, 3));
-  const __m256i rest = _mm256_sub_epi16(_mm256_set1_epi16(255), alpha);
-  const __m256i product = _mm256_add_epi16(_mm256_mullo_epi16(target, rest), _mm256_set1_epi16(128));
-  return _mm256_mulhi_epu16(product, _mm256_set1_epi16(257));
-}
-
-__attribute__((target("avx2"))) inline __m256i over_eight(__m256i target, __m256i source) {
-  const __m256i zero = _mm256_setzero_si256();
-  const __m256i low =
-      faded_four(_mm256_unpacklo_epi8(target, zero), _mm256_unpacklo_epi8(source, zero));
-  const __m256i high =
-      faded_four(_mm256_unpackhi_epi8(target, zero), _mm256_unpackhi_epi8(source, zero));
-  return _mm256_add_epi8(source, _mm256_packus_epi16(low, high));
-}
-
-// Most pictures are mostly clear or mostly solid, so eight alike are the usual case.
-__attribute__((target("avx2"))) void over_row_by_eight(std::uint32_t* target,
-                                                       const std::uint32_t* source, std::size_t count) {
-  const __m256i alphas = _mm256_set1_epi32(static_cast<int>(0xFF000000u));
-  for (; count >= 8; count -= 8, target += 8, source += 8) {
-    auto* to = reinterpret_cast<__m256i*>(target);
-    const __m256i eight = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(source));
-    if (_mm256_testc_si256(eight, alphas)) {
-      _mm256_storeu_si256(to, eight);
-    } else if (!_mm256_testz_si256(eight, alphas)) {
-      _mm256_storeu_si256(to, over_eight(_mm256_loadu_si256(to), eight));
-    }
-  }
-  over_pixels(target, source, count);
-}
-
-#endif
-
-using OverRow = void (*)(std::uint32_t*, const std::uint32_t*, std::size_t);
-
-OverRow fastest_over_row() {
-#if defined(__x86_64__)
-  if (__builtin_cpu_supports("avx2")) return over_row_by_eight;
-#endif
-  return over_pixels;
+std::uint64_t two_pixels(const std::uint32_t* pixels) {
+  std::uint64_t two;
+  std::memcpy(&two, pixels, sizeof two);
+  return two;
 }
 
 template <typename Row>
@@ -90,13 +42,35 @@ Rect around(const Rect& a, const Rect& b) {
   return {left, top, right - left, bottom - top};
 }
 
+// Most pictures are mostly clear or mostly solid, so sixteen alike are the usual case. Where the
+// machine has wider registers than every machine of its kind, the compiler makes use of them.
+#if defined(__x86_64__)
+__attribute__((target_clones("avx2", "default")))
+#endif
 void over_row(std::uint32_t* target, const std::uint32_t* source, std::size_t count) {
-  static const OverRow fastest = fastest_over_row();
-  fastest(target, source, count);
+  constexpr std::size_t stretch = 16;
+  for (; count >= stretch; count -= stretch, target += stretch, source += stretch) {
+    std::uint64_t any = 0, all = two_alphas;
+    for (std::size_t i = 0; i < stretch; i += 2) {
+      any |= two_pixels(source + i);
+      all &= two_pixels(source + i);
+    }
+    if (all == two_alphas) {
+      std::memcpy(target, source, stretch * sizeof *target);
+    } else if ((any & two_alphas) != 0) {
+      for (std::size_t i = 0; i < stretch; ++i) target[i] = over(target[i], source[i]);
+    }
+  }
+  for (std::size_t i = 0; i < count; ++i) target[i] = over(target[i], source[i]);
 }
 
 void mask_row(std::uint32_t* target, const std::uint32_t* mask, std::size_t count) {
   for (std::size_t i = 0; i < count; ++i) target[i] = faded(target[i], mask[i] >> 24);
+}
+
+void fill_pixels(Surface target, const Rect& part, std::uint32_t colour) {
+  for (int y = part.y; y < part.y + part.height; ++y)
+    std::fill_n(target.at(part.x, y), part.width, colour);
 }
 
 void copy_pixels(Surface target, const Rect& clip, PixelView source, int x, int y) {

@@ -26,6 +26,10 @@ struct Surface {
   std::uint32_t* at(int x, int y) const { return pixels + (y + top) * stride + (x + left); }
 };
 
+/// A canvas, in its own coordinates.
+inline Surface surface_of(Canvas& canvas) { return {canvas.pixels.data(), canvas.width, 0, 0}; }
+inline Rect whole_of(const Canvas& canvas) { return {0, 0, canvas.width, canvas.height}; }
+
 /// Pixels of somebody else's, to draw from.
 struct PixelView {
   const std::uint32_t* pixels = nullptr;
@@ -34,6 +38,10 @@ struct PixelView {
   std::ptrdiff_t stride = 0;
   const std::uint32_t* at(int x, int y) const { return pixels + y * stride + x; }
 };
+
+inline PixelView view_of(const Canvas& canvas) {
+  return {canvas.pixels.data(), canvas.width, canvas.height, canvas.width};
+}
 
 /// Lays `count` source pixels over the target's.
 void over_row(std::uint32_t* target, const std::uint32_t* source, std::size_t count);
@@ -54,6 +62,9 @@ constexpr std::uint32_t faded(std::uint32_t pixel, std::uint32_t opacity) {
 constexpr std::uint32_t over(std::uint32_t target, std::uint32_t source) {
   return source + faded(target, 255 - (source >> 24));
 }
+
+/// Paints a rectangle in one colour.
+void fill_pixels(Surface target, const Rect& part, std::uint32_t colour);
 
 /// Copies `source`, whose first pixel goes to (x, y), as far as it lies in `clip`.
 void copy_pixels(Surface target, const Rect& clip, PixelView source, int x, int y);

@@ -16,7 +16,8 @@ constexpr u32 shines_by_itself = 0x4;
 
 class StillPainter final : public ElementPainter {
  public:
-  StillPainter(const Element& element, Pictures& pictures) : element_(element), pictures_(pictures) {
+  StillPainter(const Element& element, Pictures& pictures, BitmapUse use)
+      : element_(element), pictures_(pictures), use_(use) {
     const bool icon = element.kind == ELEMENT_ICON;
     const std::size_t count = icon ? std::clamp(element.icon.image_count, 1u, most_images) : 1;
     for (std::vector<Image>& images : images_) images.resize(count);
@@ -61,22 +62,23 @@ class StillPainter final : public ElementPainter {
     Image& image = images_[static_cast<std::size_t>(light)][index];
     if (image.loaded) return image;
     image.loaded = true;
-    const auto use = element_.kind == ELEMENT_ICON ? BitmapUse::image : BitmapUse::background;
     const std::int64_t id = std::int64_t{element_.resource_id} + index;
-    image.place = scaled_place(element_.position, pictures_.size(id, use), pictures_.scale());
-    image.picture = pictures_.at_size(id, use, image.place.width, image.place.height, light);
+    image.place = scaled_place(element_.position, pictures_.size(id, use_), pictures_.scale());
+    image.picture = pictures_.at_size(id, use_, image.place.width, image.place.height, light);
     return image;
   }
 
   const Element& element_;
   Pictures& pictures_;
+  BitmapUse use_;
   std::array<std::vector<Image>, 2> images_;  // by light
 };
 
 }  // namespace
 
-std::unique_ptr<ElementPainter> make_still_painter(const Element& element, Pictures& pictures) {
-  return std::make_unique<StillPainter>(element, pictures);
+std::unique_ptr<ElementPainter> make_still_painter(const Element& element, Pictures& pictures,
+                                                   BitmapUse use) {
+  return std::make_unique<StillPainter>(element, pictures, use);
 }
 
 }  // namespace host

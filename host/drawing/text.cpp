@@ -7,11 +7,6 @@
 #include <cctype>
 #include <string>
 
-#if defined(__SANITIZE_ADDRESS__)
-// Fontconfig keeps its caches behind pointers that the leak checker cannot follow.
-extern "C" const char* __lsan_default_suppressions() { return "leak:libfontconfig\nleak:libpango\n"; }
-#endif
-
 namespace host {
 namespace {
 

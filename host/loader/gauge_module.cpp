@@ -53,6 +53,15 @@ const GaugeHeader* GaugeModule::find(std::string_view name) const {
 
 const BitmapStore& GaugeModule::bitmaps() const { return library_->bitmaps(); }
 
+std::vector<std::string> GaugeModule::artwork_notes() const {
+  constexpr const char* outcome = "; pictures are coarser at a zoom above 1";
+  std::vector<std::string> notes = library_->bitmaps().dense_faults();
+  const bool none = notes.empty() && bitmaps().densities().size() == 1;
+  if (none) notes.push_back(file().filename().string() + ".2x and .3x: no dense artwork");
+  for (std::string& note : notes) note += outcome;
+  return notes;
+}
+
 const std::vector<Finding>& GaugeModule::warnings() const { return library_->findings(); }
 
 void GaugeModule::connect(const PanelServices& services) { library_->connect(services); }

@@ -41,6 +41,10 @@ class GaugeModule {
 
   const BitmapStore& bitmaps() const;
 
+  /// What a person should know of the artwork for dense displays beside the module, a line for each
+  /// file that is damaged, or one if there is none at all. Pictures are then coarser at a zoom above 1.
+  std::vector<std::string> artwork_notes() const;
+
   /// What is not as it should be, but does not keep the module from running.
   const std::vector<Finding>& warnings() const;
 

@@ -7,7 +7,6 @@ namespace host {
 
 ModuleBitmaps::ModuleBitmaps(Bytes section, const std::filesystem::path& module) {
   sets_.push_back({1, std::nullopt, ResourceSection(section), {}});
-  notes_ = sets_.front().section.notes();
   for (const auto& [density, ending] : {std::pair{2, ".2x"}, std::pair{3, ".3x"}}) {
     std::filesystem::path file = module;
     file += ending;
@@ -21,13 +20,31 @@ void ModuleBitmaps::add_dense(int density, const std::filesystem::path& file) {
   try {
     MappedFile mapped(file);
     ResourceSection section(mapped.bytes());
-    for (const std::string& note : section.notes()) notes_.push_back(name + ": " + note);
     sets_.push_back({density, std::move(mapped), std::move(section), {}});
+    const std::vector<std::string> faults = faults_of(sets_.back());
+    if (faults.empty()) return;
+    const std::string more =
+        faults.size() == 1 ? "" : ", and " + std::to_string(faults.size() - 1) + " more";
+    dense_faults_.push_back(name + ": " + faults.front() + more);
   } catch (const ResourceError& error) {
-    notes_.push_back(name + ": " + error.what());
+    dense_faults_.push_back(name + ": " + error.what());
   } catch (const std::system_error& error) {
-    notes_.push_back(name + ": cannot be read: " + error.code().message());
+    dense_faults_.push_back(name + ": cannot be read: " + error.code().message());
   }
+}
+
+std::vector<std::string> ModuleBitmaps::faults_of(const DensitySet& set) const {
+  std::vector<std::string> faults = set.section.notes();
+  const auto size = [](int width, int height) {
+    return std::to_string(width) + " x " + std::to_string(height);
+  };
+  for (const auto& [id, found] : set.section.numbered()) {
+    const Dib* plain = own(id);
+    if (plain == nullptr || dib(set, id) != nullptr) continue;
+    faults.push_back("bitmap " + std::to_string(id) + " has " + size(found.width, found.height) +
+                     " pixels, not " + size(plain->width * set.density, plain->height * set.density));
+  }
+  return faults;
 }
 
 const ModuleBitmaps::DensitySet* ModuleBitmaps::set_of(int density) const {

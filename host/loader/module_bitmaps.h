@@ -25,8 +25,12 @@ class ModuleBitmaps final : public BitmapStore {
   /// The module's own bitmap; null if there is none. Unlike find() this converts nothing.
   const Dib* own(std::uint32_t id) const { return sets_.front().section.find(id); }
 
-  /// Damaged bitmaps and files that are left out, a line for each.
-  const std::vector<std::string>& notes() const { return notes_; }
+  /// The module's own damaged bitmaps, a line for each.
+  const std::vector<std::string>& notes() const { return sets_.front().section.notes(); }
+
+  /// What is wrong with the denser artwork, a line for each file, which it names. A file that is not
+  /// there is not wrong.
+  const std::vector<std::string>& dense_faults() const { return dense_faults_; }
 
  private:
   struct DensitySet {
@@ -37,11 +41,12 @@ class ModuleBitmaps final : public BitmapStore {
   };
 
   void add_dense(int density, const std::filesystem::path& file);
+  std::vector<std::string> faults_of(const DensitySet& set) const;
   const DensitySet* set_of(int density) const;
   const Dib* dib(const DensitySet& set, std::uint32_t id) const;
 
   std::vector<DensitySet> sets_;
-  std::vector<std::string> notes_;
+  std::vector<std::string> dense_faults_;
 };
 
 }  // namespace host

@@ -79,6 +79,8 @@ void OpenModule::read_bitmaps(const ElfFile& elf) {
   try {
     bitmaps_ = std::make_unique<ModuleBitmaps>(*section, file_);
     for (const std::string& line : bitmaps_->notes()) note(Finding::Severity::warning, line);
+    for (const std::string& line : bitmaps_->dense_faults())
+      findings_.push_back({Finding::Severity::warning, line});
   } catch (const ResourceError& error) {
     note(Finding::Severity::error, std::string("section " PANEL_RESOURCE_SECTION " ") + error.what());
   }

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "host/drawing/pixels.h"
+
 namespace host {
 namespace {
 
@@ -14,19 +16,12 @@ std::uint32_t color_of(const HotArea& area) {
   return 0xFFFFD84Au;
 }
 
-void fill(Canvas& canvas, int x0, int y0, int x1, int y1, std::uint32_t color) {
-  x0 = std::max(x0, 0);
-  x1 = std::min(x1, canvas.width);
-  for (int y = std::max(y0, 0); y < std::min(y1, canvas.height); ++y)
-    for (int x = x0; x < x1; ++x) canvas.pixels[std::size_t(y) * canvas.width + x] = color;
-}
-
 void outline(Canvas& canvas, const Rect& box, int line, std::uint32_t color) {
   const int right = box.x + box.width, bottom = box.y + box.height;
-  fill(canvas, box.x, box.y, right, box.y + line, color);
-  fill(canvas, box.x, bottom - line, right, bottom, color);
-  fill(canvas, box.x, box.y, box.x + line, bottom, color);
-  fill(canvas, right - line, box.y, right, bottom, color);
+  for (const Rect& side :
+       {Rect{box.x, box.y, box.width, line}, Rect{box.x, bottom - line, box.width, line},
+        Rect{box.x, box.y, line, box.height}, Rect{right - line, box.y, line, box.height}})
+    fill_pixels(surface_of(canvas), intersection(side, whole_of(canvas)), color);
 }
 
 }  // namespace

@@ -5,12 +5,6 @@
 #include "host/panel/text.h"
 
 namespace host {
-namespace {
-
-constexpr std::uint32_t panel_lights = 10;  // host token, 0/1
-
-}  // namespace
-
 Cockpit::Cockpit(GaugeModule& module, PanelConfig config, double rate)
     : module_(module), config_(std::move(config)), panels_(config_), rate_(rate) {
   for (const WindowConfig& window : config_.windows) place_gauges(window);
@@ -61,7 +55,7 @@ CockpitGauge* Cockpit::find(std::string_view name) const {
   return found == gauges_.end() ? nullptr : found->get();
 }
 
-bool Cockpit::panel_lights_on() const { return aircraft_.token(panel_lights) != 0; }
+bool Cockpit::panel_lights_on() const { return aircraft_.token(token::panel_lights) != 0; }
 
 bool Cockpit::is_shown(const CockpitGauge& gauge) const {
   for (std::size_t i = 0; i < windows_.size(); ++i)

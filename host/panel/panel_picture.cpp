@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "host/drawing/pictures.h"
 #include "host/panel/area_marks.h"
 #include "host/panel/plate.h"
 
@@ -11,11 +12,9 @@ namespace {
 
 constexpr double greatest_side = 16384;  // canvas pixels
 
-// Both edges are rounded, so that neighbours at any zoom still touch.
+// The rule of the gauges' own parts, so that neighbours touch at any zoom.
 Rect scaled(const Rect& rect, double zoom) {
-  const auto edge = [&](int at) { return static_cast<int>(std::lround(at * zoom)); };
-  return {edge(rect.x), edge(rect.y), std::max(1, edge(rect.x + rect.width) - edge(rect.x)),
-          std::max(1, edge(rect.y + rect.height) - edge(rect.y))};
+  return scaled_place({rect.x, rect.y}, {rect.width, rect.height}, {zoom, zoom});
 }
 
 double limited_zoom(const WindowConfig& window, double zoom) {

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <stdexcept>
 
+#include "host/drawing/pixels.h"
 #include "host/panel/panel_picture.h"
 
 namespace host {
@@ -64,13 +65,7 @@ Canvas draw_open_windows(const Cockpit& cockpit, double zoom) {
 }  // namespace
 
 void copy_picture(Canvas& to, const Canvas& from, int x, int y) {
-  const int left = std::max(0, -x), right = std::min(from.width, to.width - x);
-  if (left >= right) return;
-  for (int row = std::max(0, -y); row < std::min(from.height, to.height - y); ++row) {
-    const auto source = from.pixels.begin() + std::ptrdiff_t(row) * from.width;
-    std::copy(source + left, source + right,
-              to.pixels.begin() + std::ptrdiff_t(row + y) * to.width + x + left);
-  }
+  copy_pixels(surface_of(to), whole_of(to), view_of(from), x, y);
 }
 
 std::vector<std::size_t> open_windows(const Cockpit& cockpit) {

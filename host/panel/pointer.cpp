@@ -4,15 +4,16 @@
 
 namespace host {
 
-bool Pointer::press(const HotAreas& areas, PanelPoint point, std::uint32_t button, double now) {
+const HotArea* Pointer::press(const HotAreas& areas, PanelPoint point, std::uint32_t button,
+                              double now) {
   release();
   held_ = areas.at(point, button);
-  if (!held_) return false;
+  if (!held_) return nullptr;
   button_ = button;
   point_ = point;
   if (held_->flags & MOUSE_REPEAT) next_repeat_ = now + repeat_delay;
   held_->fire(point, button);
-  return true;
+  return held_;
 }
 
 void Pointer::move(PanelPoint point) {

@@ -15,8 +15,8 @@ class Pointer {
   static constexpr double never = std::numeric_limits<double>::infinity();
 
   /// Presses MOUSE_LEFT or MOUSE_RIGHT. The innermost area that answers it gets it and keeps the
-  /// pointer until release(). Returns false where there is none. `areas` must live until then.
-  bool press(const HotAreas& areas, PanelPoint point, std::uint32_t button, double now);
+  /// pointer until release(). Returns it; null where there is none. `areas` must live until then.
+  const HotArea* press(const HotAreas& areas, PanelPoint point, std::uint32_t button, double now);
 
   /// Moves with the button down; the point may lie outside the gauge.
   void move(PanelPoint point);

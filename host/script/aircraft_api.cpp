@@ -23,13 +23,12 @@ std::uint32_t number_of(const LuaCall& call, int index, const char* what,
                         std::span<const TableRow> rows) {
   if (call.is_number(index)) {
     const std::uint32_t number = call.key(index, what);
-    if (std::ranges::find(rows, number, &TableRow::number) != rows.end()) return number;
+    if (find_row(rows, number)) return number;
     throw std::invalid_argument("the aircraft has no " + std::string(what) + " " +
                                 std::to_string(number));
   }
   const std::string name = call.text(index, what);
-  const auto row = std::ranges::find(rows, name, &TableRow::name);
-  if (row != rows.end()) return row->number;
+  if (const TableRow* row = find_row(rows, name)) return row->number;
   throw std::invalid_argument("the aircraft has no " + std::string(what) + " '" + name + "'" +
                               suggestion(rows, name));
 }
@@ -45,9 +44,7 @@ std::uint32_t token_argument(const LuaCall& call, int index) {
 }
 
 std::string event_name(std::uint32_t number) {
-  const auto rows = AircraftModel::events();
-  const auto row = std::ranges::find(rows, number, &TableRow::number);
-  if (row != rows.end()) return std::string(row->name);
+  if (const TableRow* row = find_row(AircraftModel::events(), number)) return std::string(row->name);
   char text[16];
   std::snprintf(text, sizeof text, "0x%X", number);
   return text;

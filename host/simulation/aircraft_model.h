@@ -5,17 +5,10 @@
 #include <memory>
 #include <optional>
 #include <span>
-#include <string>
-#include <string_view>
+
+#include "host/simulation/table_row.h"
 
 namespace host {
-
-/// A row of the token table or of the event table, for listings and for scripts.
-struct TableRow {
-  std::uint32_t number;
-  std::string_view name;  ///< lower_snake_case, unique within its table
-  std::string_view unit;  ///< "feet", "percent", "0/1"...; for events what the value means, or ""
-};
 
 /// How the crew finds the aircraft. Either way it stands on its chocks, the brakes released.
 enum class StartCondition {

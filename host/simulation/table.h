@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <span>
 
-#include "host/simulation/aircraft_model.h"
+#include "host/simulation/table_row.h"
 
 namespace host::simulation {
 

@@ -7,13 +7,6 @@ namespace host {
 namespace {
 
 constexpr std::uint32_t first_panel_ident = 500;  // the panels stand on the keys in their idents' order
-constexpr const char* panel_lights_event = "panel_lights_toggle";
-constexpr const char* panel_lights_token = "panel_lights";
-
-std::uint32_t number_of(std::span<const TableRow> rows, std::string_view name) {
-  const auto row = std::ranges::find(rows, name, &TableRow::name);
-  return row == rows.end() ? 0 : row->number;
-}
 
 std::filesystem::path free_picture_name(const std::filesystem::path& folder) {
   for (int number = 1;; ++number) {
@@ -73,23 +66,22 @@ void FlightDeck::toggle_torn() {
   views_.toggle_torn(*window);
 }
 
-void FlightDeck::send(const char* event) {
-  cockpit_.aircraft().key_event(number_of(AircraftModel::events(), event), 0);
-  journal_.call("event(\"" + std::string(event) + "\")", cockpit_.seconds());
+void FlightDeck::send(std::uint32_t event) {
+  cockpit_.aircraft().key_event(event, 0);
+  const std::string name(find_row(AircraftModel::events(), event)->name);
+  journal_.call("event(\"" + name + "\")", cockpit_.seconds());
 }
 
-void FlightDeck::move_fuel_lever(int engine) {
-  send(engine == 1 ? "fuel_lever_1_toggle" : "fuel_lever_2_toggle");
-  const char* token = engine == 1 ? "fuel_lever_1" : "fuel_lever_2";
-  const bool open = cockpit_.aircraft().token(number_of(AircraftModel::tokens(), token)) != 0;
+void FlightDeck::move_fuel_lever(std::size_t engine) {
+  send(event::fuel_lever_toggle[engine - 1]);
+  const bool open = cockpit_.aircraft().token(token::fuel_lever[engine - 1]) != 0;
   notices_.add("Fuel lever " + std::to_string(engine) + (open ? " open" : " closed"), now());
 }
 
 // The main panels' faces follow, as they do for the switch on the panel.
 void FlightDeck::toggle_panel_lights() {
-  AircraftModel& aircraft = cockpit_.aircraft();
-  send(panel_lights_event);
-  const bool night = aircraft.token(number_of(AircraftModel::tokens(), panel_lights_token)) != 0;
+  send(event::panel_lights_toggle);
+  const bool night = cockpit_.panel_lights_on();
   for (const WindowConfig& window : cockpit_.config().windows) {
     const std::uint32_t face = night ? window.night_ident : window.day_ident;
     if (face == 0 || !cockpit_.panels().shows(window.ident)) continue;

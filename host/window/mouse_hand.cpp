@@ -125,11 +125,10 @@ void MouseHand::press_control(const ViewHit& hit, std::uint32_t button, double n
   let_go();
   CockpitGauge& gauge = *hit.gauge->gauge;
   const PanelPoint point = hit.gauge->point;
-  const HotArea* area = gauge.areas.at(point, button);
+  const HotArea* area = pointer_.press(gauge.areas, point, button, now);
   if (!area) return;
   held_ = Held{&gauge, hit.window, button};
   journal_.press(gauge.header().name, point, button, area->flags & MOUSE_DRAG, cockpit_.seconds());
-  pointer_.press(gauge.areas, point, button, now);
 }
 
 void MouseHand::press_caption(const ViewHit& hit, int clicks) {

@@ -1,8 +1,5 @@
 #include "resources/kit/dial.h"
 
-#include <algorithm>
-#include <cmath>
-
 namespace artwork {
 namespace {
 
@@ -16,7 +13,7 @@ double power(Lighting lighting) {
   return 0;
 }
 
-void bezel(const Canvas& canvas, const Dial& d) {
+void bezel(const Canvas& canvas, const DialFace& d) {
   const Point c = d.centre, way{d.radius * 0.72, d.radius * 0.72};
   soft(canvas, circle(c + Point{0.6, 1.0}, d.radius + 0.6), faded(palette::black, 0.5), 1.1);
   set_linear(canvas, c - way, c + way,
@@ -34,7 +31,7 @@ void bezel(const Canvas& canvas, const Dial& d) {
 }
 
 /// Two filaments under the upper rim: the wash is strongest there and dies away toward the hub.
-void wash(const Canvas& canvas, const Dial& d, Lighting lighting) {
+void wash(const Canvas& canvas, const DialFace& d, Lighting lighting) {
   const double p = power(lighting);
   if (p == 0) return;
   const Saved saved(canvas);
@@ -56,6 +53,8 @@ void wash(const Canvas& canvas, const Dial& d, Lighting lighting) {
   }
 }
 
+}  // namespace
+
 Path ring(Point c, double radius, double from, double to) {
   return [=](cairo_t* cr) {
     cairo_new_sub_path(cr);
@@ -64,17 +63,7 @@ Path ring(Point c, double radius, double from, double to) {
   };
 }
 
-/// How far from the hub a box of these half sides may stand so that no corner leaves the circle.
-double distance_within(double radius, double half_width, double half_height, double degrees) {
-  const double x = std::abs(std::cos(radians(degrees))), y = std::abs(std::sin(radians(degrees)));
-  const double s = x * half_width + y * half_height;
-  const double over = half_width * half_width + half_height * half_height - radius * radius;
-  return -s + std::sqrt(std::max(0.0, s * s - over));
-}
-
-}  // namespace
-
-void dial(const Canvas& canvas, const Dial& d, Lighting lighting) {
+void dial(const Canvas& canvas, const DialFace& d, Lighting lighting) {
   bezel(canvas, d);
   const Point c = d.centre;
   set_radial(canvas, {c.x - d.radius * 0.25, c.y - d.radius * 0.35}, c, d.face(),
@@ -88,7 +77,7 @@ void dial(const Canvas& canvas, const Dial& d, Lighting lighting) {
   stroke(canvas, circle(c, d.face() - 0.5), 1.2);
 }
 
-void dial_glass(const Canvas& canvas, const Dial& d) {
+void dial_glass(const Canvas& canvas, const DialFace& d) {
   const Saved saved(canvas);
   cairo_t* cr = canvas.cr();
   circle(d.centre, d.face())(cr);
@@ -119,46 +108,12 @@ void inscribe(const Canvas& canvas, Lighting lighting, const std::function<void(
   draw(ink);
 }
 
-void meter(const Canvas& canvas, const Dial& d, Lighting lighting,
+void meter(const Canvas& canvas, const DialFace& d, Lighting lighting,
            const std::function<void(Colour ink)>& print, double boss) {
   dial(canvas, d, lighting);
   inscribe(canvas, lighting, print);
   if (boss > 0) dial_hub(canvas, d.centre, boss);
   dial_glass(canvas, d);
-}
-
-Scale::Scale(const Canvas& canvas, const Element& needle, Colour ink)
-    : canvas_(canvas),
-      needle_(needle),
-      centre_{static_cast<double>(needle.position.x), static_cast<double>(needle.position.y)},
-      ink_(ink) {}
-
-void Scale::marks(const Marks& m) const {
-  const int count = static_cast<int>(std::lround((m.to - m.from) / m.step));
-  for (int i = 0; i <= count; ++i) {
-    const double at = angle(m.from + i * m.step);
-    const Segment mark{polar(centre_, m.inner, at), polar(centre_, m.outer, at)};
-    line(canvas_, mark.from, mark.to, m.width, ink_);
-    canvas_.note_mark(mark);
-  }
-}
-
-void Scale::band(const Band& b) const {
-  stroke(canvas_, ring(centre_, b.radius, angle(b.from), angle(b.to)), b.width, b.colour);
-}
-
-void Scale::arc(double from, double to, double radius, double width) const {
-  stroke(canvas_, ring(centre_, radius, angle(from), angle(to)), width, ink_);
-}
-
-void Scale::numerals(std::initializer_list<Numeral> figures, double radius, double size) const {
-  const Lettering lettering{.size = size, .colour = ink_};
-  for (const Numeral& figure : figures) {
-    const double at = angle(figure.value) + figure.aside;
-    const TextExtent extent = text_extent(canvas_, figure.text, lettering);
-    const double out = distance_within(radius, extent.width / 2, extent.height / 2 + 0.3, at);
-    print(canvas_, polar(centre_, out, at), figure.text, lettering);
-  }
 }
 
 void lit_overlay(Canvas& canvas, int image, const std::function<void(const Canvas&, Lighting)>& draw) {

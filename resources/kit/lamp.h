@@ -14,13 +14,6 @@ inline constexpr double lamp_spill = 3;
 /// The frame of a lamp within its picture.
 constexpr Box lamp_frame(Box picture) { return picture.grown(-lamp_spill); }
 
-/// What a lens says, and how.
-struct Lens {
-  Colour colour;
-  std::string_view text = "";
-  double text_size = legend_size;
-};
-
 /// A rectangular lamp that fills `picture`.
 void lamp(const Canvas& canvas, Box picture, const Lens& lens, bool lit);
 

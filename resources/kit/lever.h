@@ -2,10 +2,9 @@
 #pragma once
 
 #include "resources/kit/paint.h"
+#include "resources/kit/styles.h"
 
 namespace artwork {
-
-enum class Throw { down, centre, up };
 
 /// On the plate, behind a lever: the lock washer in its polished ring.
 void lever_mount(const Canvas& canvas, Point hub, double radius = 8.6);

@@ -21,9 +21,4 @@ void blade(const Canvas& canvas, const Blade& blade);
 /// The cap over the pivot.
 void needle_cap(const Canvas& canvas, Point pivot, double radius);
 
-/// The picture that just holds a needle: as wide as pivot and length need, symmetric about the axis.
-constexpr Size needle_size(Point pivot, double length) {
-  return {static_cast<int>(pivot.x + length + 1), static_cast<int>(2 * pivot.y)};
-}
-
 }  // namespace artwork

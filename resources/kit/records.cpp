@@ -2,31 +2,19 @@
 
 #include <cstdio>
 #include <cstdlib>
-#include <string>
 
 #include "host/gauge/needle_geometry.h"
+#include "resources/names/gauge_names.h"
 
 extern "C" const LinkageRecord Linkage;
 
 namespace artwork {
+namespace names = tarnvale::names;
 namespace {
 
-[[noreturn]] void missing(const std::string& what) {
-  std::fprintf(stderr, "artwork: the module has no %s\n", what.c_str());
-  std::exit(1);
-}
-
-const Element* after(const Element* element) { return element->next ? *element->next : nullptr; }
-
-bool same(const Element& a, const Element& b) {
-  return a.kind == b.kind && a.resource_id == b.resource_id && a.position.x == b.position.x &&
-         a.position.y == b.position.y;
-}
-
-/// Whether the second half of the chain repeats the first: by day only the first is shown.
-bool repeats(const std::vector<const Element*>& chain) {
-  const std::size_t half = chain.size() / 2;
-  return chain.size() % 2 == 0 && half > 0 && same(*chain[0], *chain[half]);
+Box box_of(const names::NamedArea& named) {
+  return {static_cast<double>(named.corner.x), static_cast<double>(named.corner.y),
+          static_cast<double>(named.area->width), static_cast<double>(named.area->height)};
 }
 
 }  // namespace
@@ -43,42 +31,42 @@ const GaugeHeader& gauge(std::string_view name) {
   for (const GaugeHeader* each : gauges()) {
     if (name == each->name) return *each;
   }
-  missing("gauge " + std::string(name));
+  wrong("the module has no gauge " + std::string(name));
+}
+
+void wrong(const std::string& what) {
+  std::fprintf(stderr, "artwork: %s\n", what.c_str());
+  std::exit(1);
 }
 
 std::vector<const Element*> parts(const GaugeHeader& of) {
-  std::vector<const Element*> chain;
-  for (const Element* e = after(of.element_list[0]); e != nullptr; e = after(e)) chain.push_back(e);
-  if (repeats(chain)) chain.resize(chain.size() / 2);
-  return chain;
+  std::vector<const Element*> all;
+  for (const names::NamedPart& each : names::parts(of)) all.push_back(each.element);
+  return all;
 }
 
-bool has_parts(std::string_view name) { return !parts(gauge(name)).empty(); }
-
-const Element& part(std::string_view gauge_name, int id, int nth) {
-  for (const Element* e : parts(gauge(gauge_name))) {
-    if (e->resource_id == id && nth-- == 0) return *e;
+const Element* find_part(const GaugeHeader& of, std::string_view name) {
+  for (const names::NamedPart& each : names::parts(of)) {
+    if (each.name == name) return each.element;
   }
-  missing(std::string(gauge_name) + " part " + std::to_string(id));
+  return nullptr;
 }
 
-Point place(std::string_view gauge_name, int id, int nth) {
-  const PanelPoint at = part(gauge_name, id, nth).position;
-  return {static_cast<double>(at.x), static_cast<double>(at.y)};
+const Element& part(const GaugeHeader& of, std::string_view name) {
+  if (const Element* found = find_part(of, name)) return *found;
+  wrong(std::string(of.name) + " has no part " + std::string(name));
+}
+
+Box click_box(const GaugeHeader& of, std::string_view name) {
+  for (const names::NamedArea& each : names::areas(of)) {
+    if (each.name == name) return box_of(each);
+  }
+  wrong(std::string(of.name) + " has no part or click area " + std::string(name));
 }
 
 std::vector<Box> click_boxes(const GaugeHeader& of) {
   std::vector<Box> boxes;
-  std::vector<Point> groups{{}};
-  for (const MouseArea* area = of.mouse_areas; area->kind != MOUSE_END; ++area) {
-    const Point at = groups.back() + Point{static_cast<double>(area->x), static_cast<double>(area->y)};
-    if (area->kind == MOUSE_GROUP) groups.push_back(at);
-    if (area->kind == MOUSE_GROUP_END) groups.pop_back();
-    if (area->kind == MOUSE_CLICK_AREA) {
-      boxes.push_back(
-          {at.x, at.y, static_cast<double>(area->width), static_cast<double>(area->height)});
-    }
-  }
+  for (const names::NamedArea& each : names::areas(of)) boxes.push_back(box_of(each));
   return boxes;
 }
 

@@ -3,11 +3,12 @@
 /// parts cannot differ.
 #pragma once
 
+#include <string>
 #include <string_view>
 #include <vector>
 
 #include "interface/panel_interface.h"
-#include "resources/kit/canvas.h"
+#include "resources/kit/geometry.h"
 
 namespace artwork {
 
@@ -17,20 +18,28 @@ const GaugeHeader& gauge(std::string_view name);
 /// All gauges, in the module's order.
 std::vector<const GaugeHeader*> gauges();
 
-/// Whether the gauge has parts on its plate yet.
-bool has_parts(std::string_view name);
-
 /// The elements over the background, top of the list first; without the lit copy.
 std::vector<const Element*> parts(const GaugeHeader& of);
 
-/// The `nth` part of the gauge that shows bitmap `id`.
-const Element& part(std::string_view gauge_name, int id, int nth = 0);
+/// The part of that name; null if there is none.
+const Element* find_part(const GaugeHeader& of, std::string_view name);
 
-/// Where that part stands on the plate.
-Point place(std::string_view gauge_name, int id, int nth = 0);
+/// The same, but ends the program if there is none.
+const Element& part(const GaugeHeader& of, std::string_view name);
 
-/// The click areas of a gauge in plate pixels, in the order of its table.
+/// The click area of that name in plate pixels. Ends the program if there is none.
+Box click_box(const GaugeHeader& of, std::string_view name);
+
+/// All click areas, in the order of the gauge's table.
 std::vector<Box> click_boxes(const GaugeHeader& of);
+
+/// Where an element stands on its plate: for what turns, its pivot.
+constexpr Point place(const Element& element) {
+  return {static_cast<double>(element.position.x), static_cast<double>(element.position.y)};
+}
+
+/// Ends the program: the artwork would be wrong without what is missing.
+[[noreturn]] void wrong(const std::string& what);
 
 /// Degrees clockwise from the right at which the cockpit will point `needle` for `value`, not reduced
 /// to one turn.

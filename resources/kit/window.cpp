@@ -18,6 +18,20 @@ void display_window(const Canvas& canvas, Box box) {
   fill(canvas, rounded(box, 0.8));
 }
 
+void opening(const Canvas& canvas, Point centre, Size size, double corner) {
+  const Box hole{centre.x - size.width / 2.0, centre.y - size.height / 2.0,
+                 static_cast<double>(size.width), static_cast<double>(size.height)};
+  const Box frame = hole.grown(1.5);
+  set_linear(canvas, {frame.x, frame.y}, {frame.right(), frame.bottom()},
+             {{0, palette::mould_dark}, {0.5, palette::mould}, {1, palette::steel}});
+  fill(canvas, rounded(frame, corner + 1.5));
+  // A plate has no half-clear pixels.
+  const Saved saved(canvas);
+  cairo_set_antialias(canvas.cr(), CAIRO_ANTIALIAS_NONE);
+  cairo_set_operator(canvas.cr(), CAIRO_OPERATOR_CLEAR);
+  fill(canvas, rounded(hole, corner));
+}
+
 void fixed_button(const Canvas& canvas, Point c, double radius, Colour cap) {
   cast_shadow(canvas, circle(c, radius), 1, 0.5);
   set_linear(canvas, c - Point{radius, radius}, c + Point{radius, radius},

@@ -8,6 +8,9 @@ namespace artwork {
 /// A dark glass in a thin frame. `box` is the glass.
 void display_window(const Canvas& canvas, Box box);
 
+/// A framed opening through which what lies behind the plate shows.
+void opening(const Canvas& canvas, Point centre, Size size, double corner);
+
 /// A round push button in a turned ring that is part of the plate.
 void fixed_button(const Canvas& canvas, Point centre, double radius, Colour cap);
 

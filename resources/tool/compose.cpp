@@ -8,17 +8,11 @@
 namespace artwork {
 namespace {
 
-const Bitmap* bitmap_of(const std::vector<Bitmap>& table, int id) {
-  const auto found =
-      std::find_if(table.begin(), table.end(), [=](const Bitmap& bitmap) { return bitmap.id == id; });
-  return found == table.end() ? nullptr : &*found;
-}
-
 /// The picture as it comes out of its palette, laid at the context's origin.
-void lay(const Canvas& canvas, const std::vector<Bitmap>& table, int id) {
-  const Bitmap* bitmap = bitmap_of(table, id);
+void lay(const Canvas& canvas, int id) {
+  const Bitmap* bitmap = find_bitmap(id);
   if (bitmap == nullptr) return;
-  Indexed picture = indexed(drawn(*bitmap, canvas.density()), bitmap->background);
+  Indexed picture = indexed(*bitmap, canvas.density());
   if (bitmap->background) make_opaque(picture);
   const Canvas image = shown(picture, canvas.density());
   cairo_surface_t* surface = cairo_get_target(image.cr());
@@ -39,34 +33,32 @@ double full_scale_share(const Element& needle, double fraction) {
   return low + fraction * (high - low);
 }
 
-void lay_part(const Canvas& canvas, const std::vector<Bitmap>& table, const Element& e,
-              const Pose& pose) {
+void lay_part(const Canvas& canvas, const Element& e, const Pose& pose) {
   const Saved saved(canvas);
   cairo_translate(canvas.cr(), e.position.x, e.position.y);
   if (e.kind == ELEMENT_ICON) {
     const int last = static_cast<int>(e.icon.image_count) - 1;
-    lay(canvas, table, e.resource_id + std::clamp(pose.image, 0, last));
+    lay(canvas, e.resource_id + std::clamp(pose.image, 0, last));
   } else if (e.kind == ELEMENT_NEEDLE) {
     cairo_rotate(canvas.cr(), radians(needle_angle(e, full_scale_share(e, pose.fraction))));
     cairo_translate(canvas.cr(), -e.needle.center.x, -e.needle.center.y);
-    lay(canvas, table, e.resource_id);
+    lay(canvas, e.resource_id);
   } else if (e.kind == ELEMENT_SLIDER || e.kind == ELEMENT_STATIC_IMAGE) {
-    lay(canvas, table, e.resource_id);
+    lay(canvas, e.resource_id);
   }
 }
 
 }  // namespace
 
-Canvas composed(const std::vector<Bitmap>& table, const GaugeHeader& of, const Pose& pose,
-                int density) {
+Canvas composed(const GaugeHeader& of, const Pose& pose, int density) {
   const int plate = of.element_list[0]->resource_id;
-  const Bitmap* background = bitmap_of(table, plate);
+  const Bitmap* background = find_bitmap(plate);
   Canvas canvas(background == nullptr ? Size{1, 1} : background->size, density, 0);
   {
     const Saved saved(canvas);
-    lay(canvas, table, plate);
+    lay(canvas, plate);
   }
-  for (const Element* e : parts(of)) lay_part(canvas, table, *e, pose);
+  for (const Element* e : parts(of)) lay_part(canvas, *e, pose);
   if (pose.boxes) {
     for (const Box& box : click_boxes(of)) {
       stroke(canvas, rounded(box.grown(-0.25), 0), 0.5, rgb(0xFF30FF));

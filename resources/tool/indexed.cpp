@@ -27,18 +27,19 @@ Vector vector_of(std::uint32_t pixel) {
           static_cast<float>((pixel >> 16) & 0xFF), static_cast<float>(pixel >> 24)};
 }
 
-std::uint32_t settled(std::uint32_t pixel, bool background) {
-  if (background) return pixel | 0xFF000000u;
+std::uint32_t settled(std::uint32_t pixel, Ground ground) {
+  if (ground == Ground::none) return pixel | 0xFF000000u;
+  if (ground == Ground::sprites) return pixel >> 31 == 0 ? 0 : pixel | 0xFF000000u;
   if (pixel >> 24 < least_opacity) return 0;
   return pixel >> 24 > full_opacity ? pixel | 0xFF000000u : pixel;
 }
 
-std::vector<std::uint32_t> settled_pixels(const Canvas& canvas, bool background) {
+std::vector<std::uint32_t> settled_pixels(const Canvas& canvas, Ground ground) {
   const Pixels from = canvas.pixels();
   std::vector<std::uint32_t> all;
   all.reserve(static_cast<std::size_t>(from.width * from.height));
   for (int y = 0; y < from.height; ++y) {
-    for (int x = 0; x < from.width; ++x) all.push_back(settled(from.at(x, y), background));
+    for (int x = 0; x < from.width; ++x) all.push_back(settled(from.at(x, y), ground));
   }
   return all;
 }
@@ -150,16 +151,16 @@ std::vector<Vector> centres_of(const std::vector<Colour32>& colours,
   return centres;
 }
 
-PaletteEntry entry_of(const Vector& colour, bool background) {
+PaletteEntry entry_of(const Vector& colour, Ground ground) {
   const double opacity = std::round(colour[3]);
   const double scale = opacity > 0 ? 255.0 / colour[3] : 0;
   const auto part = [&](std::size_t k) {
     return static_cast<std::uint8_t>(std::clamp(std::round(colour[k] * scale), 0.0, 255.0));
   };
   PaletteEntry entry{part(0), part(1), part(2), static_cast<std::uint8_t>(opacity)};
-  if (background) entry.opacity = 0;
+  if (ground != Ground::plate) entry.opacity = 0;
   // Pure black is the colour that is not drawn.
-  if (!background && entry.blue == 0 && entry.green == 0 && entry.red == 0) entry.red = 1;
+  if (ground != Ground::none && entry.blue == 0 && entry.green == 0 && entry.red == 0) entry.red = 1;
   return entry;
 }
 
@@ -201,19 +202,22 @@ std::size_t rank(const std::vector<Colour32>& colours, std::uint32_t pixel) {
 }  // namespace
 
 void make_opaque(Indexed& picture) {
-  for (PaletteEntry& entry : picture.palette) entry.opacity = 255;
+  for (PaletteEntry& entry : picture.palette) {
+    const bool black = entry.blue == 0 && entry.green == 0 && entry.red == 0;
+    if (picture.ground == Ground::none || !black) entry.opacity = 255;
+  }
 }
 
-Indexed indexed(const Canvas& canvas, bool background) {
-  const std::vector<std::uint32_t> pixels = settled_pixels(canvas, background);
+Indexed indexed(const Canvas& canvas, Ground ground) {
+  const std::vector<std::uint32_t> pixels = settled_pixels(canvas, ground);
   std::vector<Colour32> colours = counted(pixels);
   const Pixels from = canvas.pixels();
-  Indexed picture{from.width, from.height, {}, {}};
-  if (!background) picture.palette.push_back({0, 0, 0, 0});
+  Indexed picture{from.width, from.height, {}, {}, ground};
+  if (ground != Ground::none) picture.palette.push_back({0, 0, 0, 0});
   const std::size_t reserved = picture.palette.size();
   std::vector<Vector> centres;
   if (!colours.empty()) centres = best_centres(colours, most_colours - reserved);
-  for (const Vector& centre : centres) picture.palette.push_back(entry_of(centre, background));
+  for (const Vector& centre : centres) picture.palette.push_back(entry_of(centre, ground));
   const std::vector<std::uint8_t> index = indices(colours, centres, reserved);
   picture.pixels.reserve(pixels.size());
   for (const std::uint32_t pixel : pixels) {

@@ -15,18 +15,25 @@ struct PaletteEntry {
   friend bool operator==(const PaletteEntry&, const PaletteEntry&) = default;
 };
 
+/// What lies behind a picture.
+enum class Ground {
+  none,     ///< a background: every pixel is opaque, and opacity says nothing
+  sprites,  ///< a background with openings: a pixel is opaque, or pure black and not drawn
+  plate,    ///< any other picture: each colour has its opacity; pure black is not drawn
+};
+
 struct Indexed {
   int width = 0;
   int height = 0;
   std::vector<PaletteEntry> palette;
   std::vector<std::uint8_t> pixels;  ///< top row first
+  Ground ground = Ground::plate;
 };
 
-/// A background's palette says nothing about opacity; for showing, all of it is opaque.
+/// A background's palette says nothing about opacity; for showing, all that is drawn of it is opaque.
 void make_opaque(Indexed& picture);
 
-/// The picture in its best 256 colours. A background is opaque; in every other picture what is
-/// transparent becomes pure black, and no drawn pixel does.
-Indexed indexed(const Canvas& canvas, bool background);
+/// The picture in its best 256 colours. Where black is not drawn, no drawn pixel is pure black.
+Indexed indexed(const Canvas& canvas, Ground ground);
 
 }  // namespace artwork

@@ -1,8 +1,11 @@
 #include "resources/tool/library.h"
 
-#include <algorithm>
-#include <atomic>
+#include <fstream>
+#include <functional>
+#include <iterator>
 #include <thread>
+
+#include "resources/kit/records.h"
 
 namespace artwork {
 namespace {
@@ -18,6 +21,11 @@ void in_parallel(std::size_t count, const std::function<void(std::size_t)>& job)
   work();
 }
 
+Ground ground_of(const Bitmap& bitmap) {
+  if (!bitmap.background) return Ground::plate;
+  return has_openings(bitmap) ? Ground::sprites : Ground::none;
+}
+
 std::uint32_t premultiplied(const PaletteEntry& c) {
   const auto part = [&](std::uint32_t value) { return (value * c.opacity + 127) / 255; };
   return std::uint32_t{c.opacity} << 24 | part(c.red) << 16 | part(c.green) << 8 | part(c.blue);
@@ -25,14 +33,60 @@ std::uint32_t premultiplied(const PaletteEntry& c) {
 
 }  // namespace
 
-Bytes drawn_section(const std::vector<Bitmap>& table, int density) {
-  std::vector<SectionEntry> entries(table.size());
-  in_parallel(table.size(), [&](std::size_t i) {
-    const Bitmap& bitmap = table[i];
-    entries[i] = {static_cast<std::uint32_t>(bitmap.id), "",
-                  packed(indexed(drawn(bitmap, density), bitmap.background))};
+Cache::Cache(std::filesystem::path folder, const DrawingCode& code)
+    : folder_(std::move(folder)), keys_(code) {
+  std::filesystem::create_directories(folder_);
+}
+
+Bytes Cache::packed_bitmap(const Bitmap& bitmap, int density) {
+  const std::string key = keys_.key(bitmap, density);
+  {
+    const std::lock_guard lock(mutex_);
+    used_.insert(key);
+  }
+  const std::filesystem::path file = folder_ / key;
+  if (std::ifstream found(file, std::ios::binary); found) {
+    return {std::istreambuf_iterator<char>(found), {}};
+  }
+  ++drawn_;
+  const Bytes bytes = packed(indexed(bitmap, density));
+  // A run that is broken off leaves no half a picture under the key.
+  const std::filesystem::path part = folder_ / (key + ".part");
+  write_file(part, bytes);
+  std::filesystem::rename(part, file);
+  return bytes;
+}
+
+void Cache::sweep() const {
+  for (const auto& entry : std::filesystem::directory_iterator(folder_)) {
+    if (!used_.contains(entry.path().filename().string())) std::filesystem::remove(entry.path());
+  }
+}
+
+std::vector<Bytes> drawn_sections(Cache& cache, int densities) {
+  const std::vector<Bitmap>& table = bitmap_table();
+  const auto count = static_cast<std::size_t>(densities);
+  std::vector<std::vector<SectionEntry>> entries(count, std::vector<SectionEntry>(table.size()));
+  // The densest pictures take longest and come first.
+  in_parallel(table.size() * count, [&](std::size_t job) {
+    const std::size_t i = job % table.size(), density = count - job / table.size();
+    entries[density - 1][i] = {static_cast<std::uint32_t>(table[i].id), "",
+                               cache.packed_bitmap(table[i], static_cast<int>(density))};
   });
-  return section(entries);
+  std::vector<Bytes> sections;
+  for (const auto& each : entries) sections.push_back(section(each));
+  return sections;
+}
+
+void write_file(const std::filesystem::path& path, const Bytes& bytes) {
+  std::ofstream file(path, std::ios::binary);
+  file.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+  file.close();
+  if (!file) wrong("cannot write " + path.string());
+}
+
+Indexed indexed(const Bitmap& bitmap, int density) {
+  return indexed(drawn(bitmap, density), ground_of(bitmap));
 }
 
 Canvas shown(const Indexed& picture, int density) {

@@ -1,18 +1,50 @@
-/// Drawing many bitmaps at once, and what an artist looks at: single pictures and whole gauges.
+/// Drawing many bitmaps at once, those that have changed, and what an artist looks at: single pictures and whole gauges.
 #pragma once
 
-#include <functional>
+#include <atomic>
+#include <filesystem>
+#include <mutex>
+#include <set>
 #include <string>
 #include <vector>
 
 #include "interface/panel_interface.h"
 #include "resources/bitmap_table.h"
+#include "resources/tool/indexed.h"
+#include "resources/tool/keys.h"
 #include "resources/tool/section.h"
 
 namespace artwork {
 
-/// The section of all bitmaps at one density, drawn on all processors.
-Bytes drawn_section(const std::vector<Bitmap>& table, int density);
+/// Finished pictures of earlier runs, a file each.
+class Cache {
+ public:
+  Cache(std::filesystem::path folder, const DrawingCode& code);
+
+  /// The packed bitmap of the table at a density: drawn, unless it is here. May be called from several
+  /// threads at once.
+  Bytes packed_bitmap(const Bitmap& bitmap, int density);
+
+  /// Removes what no call has asked for.
+  void sweep() const;
+
+  int drawn() const { return drawn_; }
+
+ private:
+  std::filesystem::path folder_;
+  Keys keys_;
+  std::mutex mutex_;
+  std::set<std::string> used_;
+  std::atomic<int> drawn_ = 0;
+};
+
+/// The sections of all bitmaps at densities 1 to `densities`, drawn on all processors.
+std::vector<Bytes> drawn_sections(Cache& cache, int densities);
+
+void write_file(const std::filesystem::path& path, const Bytes& bytes);
+
+/// The picture of one bitmap in its best colours.
+Indexed indexed(const Bitmap& bitmap, int density);
 
 /// A host's view of an indexed picture.
 Canvas shown(const Indexed& picture, int density);
@@ -28,7 +60,6 @@ struct Pose {
 };
 
 /// A gauge put together from its records as a host would draw it by day.
-Canvas composed(const std::vector<Bitmap>& table, const GaugeHeader& gauge, const Pose& pose,
-                int density);
+Canvas composed(const GaugeHeader& gauge, const Pose& pose, int density);
 
 }  // namespace artwork

@@ -1,6 +1,8 @@
 /// artwork: draws the module's bitmaps.
 ///
-///   artwork --out DIRECTORY --dense DIRECTORY [--kit FILE]   the sections, at all three densities
+///   artwork --out DIRECTORY --dense DIRECTORY --cache DIRECTORY --kit FILE --objects FILE
+///       the sections at all three densities; draws what is not in the cache. The kit is the library of
+///       the drawing code, the other file lists the objects of the units
 ///   artwork --png DIRECTORY [--scale N] [ID...]              bitmaps as hosts see them
 ///   artwork --compose DIRECTORY [--scale N] [--boxes] [GAUGE...]  gauges, each in three poses
 ///   artwork --list                                           number, size, subject of every bitmap
@@ -9,20 +11,21 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
+#include <map>
 #include <string>
 #include <vector>
 
 #include "resources/kit/legend.h"
 #include "resources/kit/records.h"
 #include "resources/tool/library.h"
-#include "resources/tool/stamp.h"
 
 namespace {
 
 using namespace artwork;
 
 struct Arguments {
-  std::string out, dense, kit, png, compose;
+  std::string out, dense, cache, kit, objects, png, compose;
   int scale = 1;
   bool boxes = false;
   bool list = false;
@@ -31,56 +34,43 @@ struct Arguments {
 
 Arguments parsed(int count, char** words) {
   Arguments arguments;
+  std::string scale = "1";
+  const std::map<std::string, std::string*> options{
+      {"--out", &arguments.out},         {"--dense", &arguments.dense},
+      {"--cache", &arguments.cache},     {"--kit", &arguments.kit},
+      {"--png", &arguments.png},         {"--objects", &arguments.objects},
+      {"--compose", &arguments.compose}, {"--scale", &scale}};
   for (int i = 1; i < count; ++i) {
     const std::string word = words[i];
-    const auto next = [&] { return i + 1 < count ? std::string(words[++i]) : std::string(); };
-    if (word == "--out")
-      arguments.out = next();
-    else if (word == "--dense")
-      arguments.dense = next();
-    else if (word == "--kit")
-      arguments.kit = next();
-    else if (word == "--png")
-      arguments.png = next();
-    else if (word == "--compose")
-      arguments.compose = next();
-    else if (word == "--scale")
-      arguments.scale = std::atoi(next().c_str());
-    else if (word == "--boxes")
-      arguments.boxes = true;
-    else if (word == "--list")
-      arguments.list = true;
-    else
+    if (const auto option = options.find(word); option != options.end()) {
+      if (i + 1 < count) *option->second = words[++i];
+    } else if (word == "--boxes" || word == "--list") {
+      (word == "--list" ? arguments.list : arguments.boxes) = true;
+    } else {
       arguments.names.push_back(word);
+    }
   }
+  arguments.scale = std::atoi(scale.c_str());
   return arguments;
 }
 
-void write_file(const std::filesystem::path& path, const Bytes& bytes) {
-  std::ofstream file(path, std::ios::binary);
-  file.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
-  if (!file) {
-    std::fprintf(stderr, "artwork: cannot write %s\n", path.c_str());
-    std::exit(1);
-  }
+bool holds(const std::filesystem::path& path, const Bytes& bytes) {
+  std::ifstream file(path, std::ios::binary);
+  return file && Bytes(std::istreambuf_iterator<char>(file), {}) == bytes;
 }
 
-/// Nothing is drawn again while neither the drawing nor the records have changed.
-void write_sections(const Arguments& arguments, const std::vector<Bitmap>& table) {
+/// What is the same stays untouched, so that nothing is built again because of it.
+void write_sections(const Arguments& arguments) {
   const std::filesystem::path out = arguments.out, dense = arguments.dense;
   const std::vector<std::filesystem::path> files{out / "panelres.bin", dense / "Tarnvale.GAU.2x",
                                                  dense / "Tarnvale.GAU.3x"};
-  const std::string stamp = records_stamp(arguments.kit);
-  const bool fresh = stamp_matches(out / "panelres.stamp", stamp);
-  for (int density = 1; density <= 3; ++density) {
-    const auto& file = files[static_cast<std::size_t>(density - 1)];
-    if (fresh && std::filesystem::exists(file)) {
-      std::filesystem::last_write_time(file, std::filesystem::file_time_type::clock::now());
-    } else {
-      write_file(file, drawn_section(table, density));
-    }
+  Cache cache(arguments.cache, {arguments.kit, arguments.objects});
+  const std::vector<Bytes> sections = drawn_sections(cache, static_cast<int>(files.size()));
+  for (std::size_t i = 0; i < files.size(); ++i) {
+    if (!holds(files[i], sections[i])) write_file(files[i], sections[i]);
   }
-  write_stamp(out / "panelres.stamp", stamp);
+  cache.sweep();
+  std::printf("artwork: %d pictures drawn\n", cache.drawn());
 }
 
 bool chosen(const Arguments& arguments, const std::string& name) {
@@ -92,18 +82,17 @@ void write_pictures(const Arguments& arguments, const std::vector<Bitmap>& table
   for (const Bitmap& bitmap : table) {
     const std::string name = std::to_string(bitmap.id);
     if (!chosen(arguments, name)) continue;
-    Indexed picture = indexed(drawn(bitmap, arguments.scale), bitmap.background);
+    Indexed picture = indexed(bitmap, arguments.scale);
     if (bitmap.background) make_opaque(picture);
     write_png(shown(picture, arguments.scale), arguments.png + "/" + name + ".png");
   }
 }
 
-void write_gauge(const Arguments& arguments, const std::vector<Bitmap>& table, const GaugeHeader& of) {
-  const Size size = composed(table, of, {}, 1).size();
+void write_gauge(const Arguments& arguments, const GaugeHeader& of) {
+  const Size size = composed(of, {}, 1).size();
   const Canvas sheet({3 * size.width + 8, size.height}, arguments.scale, 0);
   for (int pose = 0; pose < 3; ++pose) {
-    const Canvas gauge =
-        composed(table, of, {pose, 0.1 + 0.4 * pose, arguments.boxes}, arguments.scale);
+    const Canvas gauge = composed(of, {pose, 0.1 + 0.4 * pose, arguments.boxes}, arguments.scale);
     const Saved saved(sheet);
     cairo_translate(sheet.cr(), pose * (size.width + 4), 0);
     cairo_scale(sheet.cr(), sheet.hairline(), sheet.hairline());
@@ -121,18 +110,17 @@ int main(int count, char** words) {
     std::fprintf(stderr, "artwork: the font %s is not installed\n", Lettering{}.family);
     return 1;
   }
-  const std::vector<Bitmap> table = bitmap_table();
-  if (!arguments.out.empty()) write_sections(arguments, table);
+  const std::vector<Bitmap>& table = bitmap_table();
+  if (!arguments.out.empty()) write_sections(arguments);
   if (!arguments.png.empty()) write_pictures(arguments, table);
   if (!arguments.compose.empty()) {
     for (const GaugeHeader* each : gauges()) {
-      if (chosen(arguments, each->name)) write_gauge(arguments, table, *each);
+      if (chosen(arguments, each->name)) write_gauge(arguments, *each);
     }
   }
   if (arguments.list) {
     for (const Bitmap& b : table) {
-      std::printf("%6d %4d x %-4d %.*s\n", b.id, b.size.width, b.size.height,
-                  static_cast<int>(b.shows.size()), b.shows.data());
+      std::printf("%6d %4d x %-4d %s\n", b.id, b.size.width, b.size.height, subject(b).c_str());
     }
   }
   return 0;

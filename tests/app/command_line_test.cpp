@@ -24,15 +24,10 @@ class BadInput : public testing::TestWithParam<Case> {
     static const bool made = [] {
       const std::string module = file_text(module_file);
       folder.write("truncated.GAU", module.substr(0, module.size() / 3));
-      folder.write("text.GAU", "This is no library.\n");
-      folder.write("empty.GAU", "");
       folder.write("unknown_gauge.cfg",
                    "[Window00]\nsize_mm=100,100\n\ngauge00=Tarnvale!Masterbatt, 1,1\n");
-      folder.write("malformed.cfg", "[Window00]\nsize_mm=100,100\ngauge00 Tarnvale!Ctr\n");
       folder.write("no_picture.cfg",
                    "[Window00]\nident=1\nvisible=1\nsize_mm=9,9\nbackground=gone.png\n");
-      folder.write("syntax.lua", "click('Masterbat', 47 99)\n");
-      folder.write("expect.lua", "wait(1)\nexpect(1 > 2, 'the world is in order')\n");
       folder.write("noise.lua", "wait(1)\n");
       folder.write("picture.lua", "wait(0.1)\npicture('p')\n");
       std::filesystem::create_directory(folder / "closed");
@@ -59,46 +54,40 @@ TEST_P(BadInput, GetsOneClearMessage) {
 
 INSTANTIATE_TEST_SUITE_P(
     Commands, BadInput,
-    testing::Values(
-        Case{"no_command", "", 2, "subcommand is required"},
-        Case{"unknown_command", "sail", 2, "there is no command 'sail'"},
-        Case{"unknown_option", "run --speed 3", 2, "--speed"},
-        Case{"bad_rate", "run --rate 0", 2, "--rate"}, Case{"unknown_list", "list clouds", 2, "clouds"},
-        Case{"show_nothing", "show", 2, "gauges is required"},
-        Case{"missing_module", "list gauges --module @gone.GAU", 1, "gone.GAU"},
-        Case{"truncated_module", "list gauges --module @truncated.GAU", 1, "truncated.GAU"},
-        Case{"text_module", "run --module @text.GAU", 1, "text.GAU"},
-        Case{"empty_module", "bench --module @empty.GAU", 1, "empty.GAU"},
-        Case{"folder_module", "list gauges --module @closed", 1, "closed"},
-        Case{"other_library", "list gauges --module " + (cockpit_dir / "libwinplatform.so").string(), 1,
-             "libwinplatform.so"},
-        Case{"check_missing", "check @gone.GAU", 1, "gone.GAU"},
-        Case{"missing_panel", "run --panel @gone.cfg", 1,
-             "gone.cfg: the panel configuration cannot be read"},
-        Case{"unknown_gauge", "run --panel @unknown_gauge.cfg", 1,
-             "unknown_gauge.cfg:4: Tarnvale has no gauge 'Masterbatt'"},
-        Case{"malformed_panel", "run --panel @malformed.cfg", 1,
-             "malformed.cfg:3: expected [section] or"},
-        Case{"missing_picture", "run @picture.lua --panel @no_picture.cfg --png @out", 1,
-             "gone.png: the window's background cannot be read"},
-        Case{"missing_flow", "run @gone.lua", 1, "gone.lua: there is no such flow"},
-        Case{"flow_syntax", "run @syntax.lua", 1, "syntax.lua:1: ')' expected near '99'"},
-        Case{"failed_expectation", "run @expect.lua", 1, "expect.lua:2: the world is in order"},
-        Case{"unwritable_sound", "run @noise.lua --wav @gone/x.wav", 1, "gone/x.wav"},
-        Case{"unwritable_pictures", "run @noise.lua --png /proc/pictures", 1,
-             "/proc/pictures: cannot write to this folder"},
-        Case{"show_unknown", "show Masterbatt --png @x.png", 1,
-             "Tarnvale.GAU has no gauge 'Masterbatt'"},
-        Case{"show_bad_reading", "show Ctr --set battery --png @x.png", 1,
-             "--set battery: expected token=value"},
-        Case{"show_unknown_token", "show Ctr --set batery=1 --png @x.png", 1,
-             "there is no token 'batery'"},
-        Case{"show_unwritable", "show Ctr --png @gone/x.png", 1, "gone/x.png"},
-        Case{"no_display", "fly", 1,
-             "no display to open a window on (neither DISPLAY nor WAYLAND_DISPLAY is set). "
-             "Without one: tarnvale run"},
-        Case{"show_no_display", "show Ctr", 1, "no display to open a window on"},
-        Case{"open_unknown", "fly --open 7", 1, "--open: there is no window 7"}),
+    testing::Values(Case{"no_command", "", 2, "subcommand is required"},
+                    Case{"unknown_command", "sail", 2, "there is no command 'sail'"},
+                    Case{"unknown_option", "run --speed 3", 2, "--speed"},
+                    Case{"bad_rate", "run --rate 0", 2, "--rate"},
+                    Case{"unknown_list", "list clouds", 2, "clouds"},
+                    Case{"missing_module", "list gauges --module @gone.GAU", 1, "gone.GAU"},
+                    Case{"truncated_module", "list gauges --module @truncated.GAU", 1, "truncated.GAU"},
+                    Case{"folder_module", "list gauges --module @closed", 1, "closed"},
+                    Case{"other_library",
+                         "list gauges --module " + (cockpit_dir / "libwinplatform.so").string(), 1,
+                         "libwinplatform.so"},
+                    Case{"check_missing", "check @gone.GAU", 1, "gone.GAU"},
+                    Case{"missing_panel", "run --panel @gone.cfg", 1,
+                         "gone.cfg: the panel configuration cannot be read"},
+                    Case{"unknown_gauge", "run --panel @unknown_gauge.cfg", 1,
+                         "unknown_gauge.cfg:4: Tarnvale has no gauge 'Masterbatt'"},
+                    Case{"missing_picture", "run @picture.lua --panel @no_picture.cfg --png @out", 1,
+                         "gone.png: the window's background cannot be read"},
+                    Case{"missing_flow", "run @gone.lua", 1, "gone.lua: there is no such flow"},
+                    Case{"unwritable_sound", "run @noise.lua --wav @gone/x.wav", 1, "gone/x.wav"},
+                    Case{"unwritable_pictures", "run @noise.lua --png /proc/pictures", 1,
+                         "/proc/pictures: cannot write to this folder"},
+                    Case{"show_unknown", "show Masterbatt --png @x.png", 1,
+                         "Tarnvale.GAU has no gauge 'Masterbatt'"},
+                    Case{"show_bad_reading", "show Ctr --set battery --png @x.png", 1,
+                         "--set battery: expected token=value"},
+                    Case{"show_unknown_token", "show Ctr --set batery=1 --png @x.png", 1,
+                         "there is no token 'batery'"},
+                    Case{"show_unwritable", "show Ctr --png @gone/x.png", 1, "gone/x.png"},
+                    Case{"no_display", "fly", 1,
+                         "no display to open a window on (neither DISPLAY nor WAYLAND_DISPLAY is set). "
+                         "Without one: tarnvale run"},
+                    Case{"show_no_display", "show Ctr", 1, "no display to open a window on"},
+                    Case{"open_unknown", "fly --open 7", 1, "--open: there is no window 7"}),
     [](const auto& test) { return test.param.name; });
 
 TEST(Program, HelpsEveryCommand) {

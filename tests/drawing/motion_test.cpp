@@ -146,18 +146,10 @@ TEST_F(Motion, StripShowsATenthOfItselfWithoutAMask) {
   EXPECT_EQ(scene.at(10, 16), digit(1));
 }
 
-TEST_F(Motion, RangeMayRunBackwards) {
-  moving(40, -1, 9, 0);
-  Scene scene(gauge_, bitmaps_);
-  scene.set(1, 2, 1);
-  scene.draw();
-  EXPECT_EQ(scene.at(10, 12), digit(7));
-}
-
 TEST_F(Motion, StripShowsThroughItsMask) {
-  moving(41, 42, 0, 3);
+  moving(41, 42, 3, 0);  // and its range runs backwards
   Scene scene(gauge_, bitmaps_);
-  scene.set(1, 2, 0);
+  scene.set(1, 1, 0);
   scene.draw();
   EXPECT_EQ(scene.box_without(grey), (Rect{10, 12, 5, 4}));
   for (int x = 0; x < 5; ++x) EXPECT_EQ(scene.at(10 + x, 13), x == 2 ? grey : digit(2));
@@ -178,29 +170,32 @@ TEST_F(Motion, DrumRollsOnButNeverRacesBack) {
   EXPECT_EQ(scene.at(10, 16), digit(0));
 }
 
-TEST_F(Motion, SpriteShiftsThenTurnsAboutItsCentre) {
-  Element& sprite = gauge_.add(ELEMENT_SPRITE, 50, {0, 0});
+TEST_F(Motion, SpriteShiftsThenTurnsAboutItsCentreBehindTheFace) {
+  bitmaps_.add(2, 41, 41, [](int, int y) { return y > 3 ? 0u : grey; });  // open below its upper edge
+  MadeGauge gauge{2};
+  Element& sprite = gauge.add(ELEMENT_SPRITE, 50, {0, 0});
   sprite.sprite.texture_center = {20, 20};
   sprite.sprite.x.scale = 1;
   sprite.sprite.y.scale = 2;
   sprite.sprite.rotation.scale = -1;
-  Scene scene(gauge_, bitmaps_);
+  gauge.icon(30, {0, 38}, 1);
+  Scene scene(gauge, bitmaps_);
   struct Case {
     double x, y, rotation;
     PanelPoint mark;
   };
   for (const Case& c : {Case{0, 0, 0, {20, 10}}, Case{0, 0, -90, {30, 20}}, Case{0, 0, 90, {10, 20}},
-                        Case{0, -2, 90, {6, 20}}, Case{3, 0, 180, {17, 30}}, Case{0, -6, 0, {-1, -1}},
+                        Case{0, -2, 90, {6, 20}}, Case{3, 0, 180, {17, 30}}, Case{0, -4, 0, {-1, -1}},
                         Case{nan_value, 0, 0, {-1, -1}}, Case{0, 0, infinite, {-1, -1}}}) {
     scene.set(1, c.x, 0);
     scene.set(1, c.y, 1);
     scene.set(1, c.rotation, 2);
     scene.draw();
-    if (c.mark.x < 0) {
-      EXPECT_EQ(scene.box_without(grey), Rect{});
-    } else {
+    EXPECT_EQ(std::ranges::count(scene.canvas.pixels, red), 9 + (c.mark.x >= 0)) << "with the icon";
+    if (c.mark.x >= 0) {
       EXPECT_EQ(scene.at(c.mark.x, c.mark.y), red) << c.mark.x << ", " << c.mark.y;
     }
+    EXPECT_EQ(scene.at(20, 3), grey);
   }
   scene.before[1].values = {0, 0, 350};
   scene.now[1].values = {0, 0, 10};

@@ -18,17 +18,6 @@ TEST(Night, PaintRecedesAndLegendsStay) {
   EXPECT_LT(part(legend, 0), part(legend, 16)) << "the lamps behind the legends are warm";
 }
 
-TEST(Night, NeverGrowsBrighterAndKeepsTheOpacity) {
-  for (std::uint32_t alpha : {0u, 1u, 128u, 255u}) {
-    for (std::uint32_t level = 0; level <= alpha; level += 1 + alpha / 16) {
-      const std::uint32_t day = alpha << 24 | level << 16 | level << 8 | level;
-      const std::uint32_t night = by_night(day);
-      EXPECT_EQ(night >> 24, alpha);
-      for (int shift : {0, 8, 16}) EXPECT_LE(part(night, shift), level) << alpha << "/" << level;
-    }
-  }
-}
-
 TEST(Night, OnlyWhatDoesNotShineByItselfDims) {
   MadeBitmaps bitmaps;
   bitmaps.add(1, 20, 10, grey);

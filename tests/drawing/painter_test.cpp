@@ -3,7 +3,9 @@
 #include <cmath>
 #include <filesystem>
 #include <limits>
+#include <random>
 
+#include "host/drawing/pictures.h"
 #include "tests/drawing/fixture.h"
 
 namespace host {
@@ -68,24 +70,69 @@ TEST_F(Painter, DrawsOnlyWhatHasChanged) {
   EXPECT_EQ(scene.at(5, 6), grey);
 }
 
+// A gauge with every moving kind of part, some over each other; with a sprite its face has an opening.
+void fill_with_parts(MadeGauge& gauge, bool sprite) {
+  gauge.icon(30, {0, 0}, 1);
+  gauge.icon(10, {27, 18}, 3);
+  gauge.needle(20, {30, 20}, {1, 1});
+  gauge.icon(10, {40, 18}, 3);
+  gauge.needle(20, {34, 20}, {1, 1});
+  Element& slider = gauge.add(ELEMENT_SLIDER, 11, {20, 20});
+  slider.slider.x_scale = slider.slider.y_scale = 0.1;
+  Element& drum = gauge.add(ELEMENT_MOVING_IMAGE, 31, {33, 12});
+  drum.moving_image.mask_resource_id = -1;
+  drum.moving_image.y.maximum = 360;
+  if (!sprite) return;
+  Element& card = gauge.add(ELEMENT_SPRITE, 31, {0, 0});
+  card.sprite.texture_center = {12, 20};
+  card.sprite.x.scale = 0.1;
+  card.sprite.rotation.scale = 1;
+}
+
 TEST_F(Painter, PartialRedrawEqualsAFullOne) {
+  bitmaps_.add(2, 60, 40, [](int x, int y) { return std::hypot(x - 25, y - 20) < 15 ? 0u : grey; });
   bitmaps_.add(30, 60, 40, 0x40202020);  // a tint over the whole face
-  gauge_.icon(30, {0, 0}, 1);
-  gauge_.icon(10, {27, 18}, 3);
-  gauge_.needle(20, {30, 20}, {1, 1});
-  gauge_.icon(10, {40, 18}, 3);
-  gauge_.needle(20, {34, 20}, {1, 1});
-  Scene partial(gauge_, bitmaps_, 1.5), full(gauge_, bitmaps_, 1.5);
-  for (int i = 0; i < 40; ++i) {
-    for (Scene* scene : {&partial, &full}) {
-      scene->now[1].drawn = i % 7 != 0;
-      scene->now[3].drawn = scene->now[3].evaluated = i % 11 != 0;
-      for (std::size_t element = 2; element < 6; ++element) scene->set(element, i * 37.0 * element / 3);
+  bitmaps_.add(31, 24, 40, [](int x, int y) { return (x / 5 + y / 5) % 2 ? green : 0x80400000; });
+  std::mt19937 random(3);
+  std::uniform_real_distribution<double> value(-20, 380);
+  for (const double zoom : {0.61, 1.0, 1.37, 1.5, 2.3}) {
+    for (const bool sprite : {false, true}) {
+      MadeGauge gauge(sprite ? 2 : 1);
+      fill_with_parts(gauge, sprite);
+      Scene partial(gauge, bitmaps_, zoom), full(gauge, bitmaps_, zoom);
+      for (int i = 0; i < 60; ++i) {
+        for (std::size_t part = 1; part < partial.now.size(); ++part) {
+          ElementState& now = partial.now[part];
+          partial.before[part] = now;
+          if (random() % 3 == 0) now.values = {value(random), value(random), value(random)};
+          if (random() % 9 == 0) now.evaluated = random() % 3 != 0;
+          now.drawn = now.evaluated && random() % 8 != 0;
+        }
+        full.before = partial.before;
+        full.now = partial.now;
+        full.painter->invalidate();
+        partial.draw(i % 4 / 4.0);
+        full.draw(i % 4 / 4.0);
+        ASSERT_EQ(partial.canvas.pixels, full.canvas.pixels) << zoom << ", " << i;
+      }
     }
-    full.painter->invalidate();
-    partial.draw();
-    full.draw();
-    ASSERT_EQ(partial.canvas.pixels, full.canvas.pixels) << i;
+  }
+}
+
+TEST_F(Painter, NeighboursLeaveNoSeam) {
+  bitmaps_.add(2, 60, 40, red);
+  MadeGauge other(2);
+  const Scene here(gauge_, bitmaps_), there(other, bitmaps_);
+  for (const double zoom : {0.37, 0.5, 1.13, 1.5, 2.71}) {
+    const Scale scale{zoom, zoom};
+    const Rect left = scaled_place({7, 5}, {60, 40}, scale),
+               right = scaled_place({67, 5}, {60, 40}, scale);
+    Canvas canvas(right.x + right.width, left.y + left.height);
+    GaugePainter(gauge_.header, bitmaps_, left).draw(canvas, here.before, here.now, 1);
+    GaugePainter(other.header, bitmaps_, right).draw(canvas, there.before, there.now, 1);
+    for (int y = left.y; y < canvas.height; ++y)
+      for (int x = left.x; x < canvas.width; ++x)
+        ASSERT_EQ(canvas.pixels[y * canvas.width + x], x < right.x ? grey : red) << zoom << ": " << x;
   }
 }
 

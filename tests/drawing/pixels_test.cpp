@@ -3,7 +3,6 @@
 #include <random>
 
 #include "host/drawing/affine.h"
-#include "host/drawing/dirty_area.h"
 #include "host/drawing/resample.h"
 #include "tests/drawing/fixture.h"
 
@@ -41,28 +40,14 @@ Bitmap made(int width, int height, const MadeBitmaps::Pixel& pixel) {
   return *bitmaps.find(1, BitmapUse::image);
 }
 
-TEST(Resample, PlainColoursStayAndEdgesStaySharp) {
-  for (const auto& [width, height] : {std::pair{5, 4}, {10, 8}, {15, 12}, {23, 7}, {1, 1}}) {
-    const Bitmap result = resampled(made(10, 8, [](int, int) { return red; }), width, height);
-    EXPECT_TRUE(result.opaque);
-    for (const std::uint32_t pixel : result.pixels) EXPECT_EQ(pixel, red);
-  }
-}
-
-TEST(Resample, MirroredPicturesStayMirrored) {
-  const auto disc = [](int x, int y) { return std::hypot(x - 14.5, y - 14.5) < 11 ? red : 0u; };
-  for (const int side : {10, 17, 20, 29, 45}) {
-    const Bitmap result = resampled(made(30, 30, disc), side, side);
-    for (int y = 0; y < side; ++y)
-      for (int x = 0; x < side; ++x) {
-        const auto opacity = [&](int column, int row) {
-          return channel(result.pixels[row * side + column], 3);
-        };
-        EXPECT_NEAR(opacity(x, y), opacity(side - 1 - x, y), 1);
-        EXPECT_NEAR(opacity(x, y), opacity(y, x), 1);
-        EXPECT_LE(channel(result.pixels[y * side + x], 2), opacity(x, y));  // still premultiplied
-      }
-  }
+// The filter overshoots at edges; a colour stronger than its opacity would wrap round when it is laid
+// over another.
+TEST(Resample, NoColourIsStrongerThanItsOpacity) {
+  const Bitmap checks = made(30, 30, [](int x, int y) { return (x / 4 + y / 5) % 2 ? red : 0u; });
+  for (const int side : {1, 10, 29, 45})
+    for (const std::uint32_t pixel : resampled(checks, side, side).pixels)
+      for (int index = 0; index < 3; ++index)
+        EXPECT_LE(channel(pixel, index), channel(pixel, 3)) << side;
 }
 
 TEST(Affine, TurnsAboutAndBlendsExactlyAtRest) {
@@ -97,19 +82,6 @@ TEST(Affine, StaysInsideForAnyMap) {
     for (int x = 0; x < 30; ++x) ASSERT_EQ(canvas[4 * 30 + x], grey);
     for (int y = 0; y < 30; ++y) ASSERT_EQ(canvas[y * 30 + 25], grey);
   }
-}
-
-TEST(DirtyArea, JoinsWhatIsCheaperTogether) {
-  DirtyArea area;
-  area.reset({0, 0, 100, 100});
-  area.add({-10, -10, 20, 20});
-  area.add({10, 0, 10, 10});
-  EXPECT_EQ(area.parts(), (std::vector<Rect>{{0, 0, 20, 10}}));
-  area.add({80, 80, 50, 5});
-  area.add({200, 0, 5, 5});
-  EXPECT_EQ(area.parts().size(), 2u);
-  for (int i = 0; i < 50; ++i) area.add({i * 2, 99 - i * 2, 1, 1});
-  EXPECT_LE(area.parts().size(), 8u);
 }
 
 }  // namespace

@@ -8,102 +8,122 @@ namespace {
 
 using namespace tarnvale;
 
+/// One side of the air conditioning: its part of the shared state and of the panels' names.
+struct Side {
+  const char* name;
+  u32 Aircraft::*supply;
+  u32 Aircraft::*automatic;
+  u32 Aircraft::*selector;
+};
+constexpr Side sides[] = {
+    {"left", &Aircraft::aircon_left_on, &Aircraft::aircon_left_auto, &Aircraft::temp_selector_left},
+    {"right", &Aircraft::aircon_right_on, &Aircraft::aircon_right_auto,
+     &Aircraft::temp_selector_right}};
+
 class AirConditioning : public testing::Test {
  protected:
   rig::Host host;
-  rig::Gauge panel{"Tempcon"}, ducts{"Ductc"}, cabin{"Cabc"};
+  rig::Gauge panel{"Tempcon"}, ducts{"Ductc"}, cabin{"Cabc"}, indicator{"Tempset"};
 
-  f64 left_duct() { return ducts.value_at({37, 35}); }
-  f64 right_duct() { return ducts.value_at({121, 35}); }
-  f64 cabin_temperature() { return cabin.value(320); }
-  f64 left_light() { return panel.value_at({66, 87}); }
+  f64 duct(const Side& side) { return ducts.value(std::string(side.name) + "_duct_temperature"); }
+  f64 light(const Side& side) { return panel.value(std::string(side.name) + "_duct_hot_light"); }
+  f64 indicated(const Side& side) {
+    return indicator.value(std::string(side.name) + "_selected_temperature");
+  }
 
   void run(int frames = 1) {
-    for (int i = 0; i < frames; ++i) {
-      ducts.frame();
-      cabin.frame();
-      panel.frame();
+    for (; frames > 0; --frames) {
+      for (rig::Gauge* gauge : {&ducts, &cabin, &panel, &indicator}) gauge->frame();
     }
   }
   /// Both sides supplied and under automatic control, the ducts cold to begin with.
   void SetUp() override {
     run();
     aircraft.dc_power_on = 1;
-    aircraft.aircon_left_on = aircraft.aircon_right_on = 1;
-    aircraft.aircon_left_auto = aircraft.aircon_right_auto = 1;
+    for (const Side& side : sides) aircraft.*side.supply = aircraft.*side.automatic = 1;
   }
   /// The shared override switch holds only under an open guard.
   void open_override_guard(bool open) {
     panel.frame();
-    if ((panel.value(2160) == 1) != open) panel.click(78, 124);
+    if ((panel.value("override_guard") == 1) != open) panel.click("override_guard");
   }
 };
 
 TEST_F(AirConditioning, DuctsAndCabinFollowTheirSelectors) {
-  rig::Gauge indicator("Tempset");
-  const f64 duct[] = {10, 15, 18, 22, 25, 27, 35, 40, 55, 60};
+  const f64 duct_at[] = {10, 15, 18, 22, 25, 27, 35, 40, 55, 60};
   const f64 cabin_at[] = {15, 17, 20, 21, 22, 23, 24, 25, 26, 27};
   for (u32 right = 0; right < 10; ++right) {
     const u32 left = 9 - right;
     aircraft.temp_selector_left = left;
     aircraft.temp_selector_right = right;
     run();
-    indicator.frame();
-    EXPECT_EQ(left_duct(), duct[left]) << left;
-    EXPECT_EQ(right_duct(), duct[right]) << right;
-    EXPECT_EQ(cabin_temperature(), cabin_at[right]) << right;
-    EXPECT_EQ(indicator.value(220, 0), left);
-    EXPECT_EQ(indicator.value(220, 1), right);
+    EXPECT_EQ(duct(sides[0]), duct_at[left]) << left;
+    EXPECT_EQ(duct(sides[1]), duct_at[right]) << right;
+    EXPECT_EQ(cabin.value("cabin_temperature"), cabin_at[right]) << right;
+    EXPECT_EQ(indicated(sides[0]), left);
+    EXPECT_EQ(indicated(sides[1]), right);
   }
 }
 
-TEST_F(AirConditioning, ASideNeedsSupplyControlAndDcPower) {
-  rig::Gauge indicator("Tempset");
+TEST_F(AirConditioning, ASideNeedsItsSupplyItsControlAndDcPower) {
   struct Row {
     u32 supply, automatic, power;
     f64 duct, cabin, indicated;
   };
   for (const Row& row : {Row{1, 1, 1, 40, 25, 7}, Row{1, 0, 1, 10, 0, 0}, Row{0, 1, 1, 10, 0, 7},
                          Row{0, 0, 1, 10, 0, 0}, Row{1, 1, 0, 2, 0, 7}, Row{0, 0, 0, 2, 0, 0}}) {
-    aircraft.temp_selector_left = aircraft.temp_selector_right = 7;
-    aircraft.aircon_right_on = row.supply;
-    aircraft.aircon_right_auto = row.automatic;
-    aircraft.dc_power_on = row.power;
-    run(3);
-    indicator.frame();
-    EXPECT_EQ(right_duct(), row.duct) << row.supply << row.automatic << row.power;
-    EXPECT_EQ(cabin_temperature(), row.cabin) << row.supply << row.automatic << row.power;
-    EXPECT_EQ(indicator.value(220, 1), row.indicated) << row.supply << row.automatic;
-    EXPECT_EQ(left_duct(), row.power == 1 ? 40 : 2) << "the other side stands by itself";
+    for (const Side& side : sides) {
+      const Side& other = &side == &sides[0] ? sides[1] : sides[0];
+      SCOPED_TRACE(testing::Message() << side.name << row.supply << row.automatic << row.power);
+      aircraft.*side.selector = aircraft.*other.selector = 7;
+      aircraft.*side.supply = row.supply;
+      aircraft.*side.automatic = row.automatic;
+      aircraft.*other.supply = aircraft.*other.automatic = 1;
+      aircraft.dc_power_on = row.power;
+      run(3);
+      EXPECT_EQ(duct(side), row.duct);
+      EXPECT_EQ(indicated(side), row.indicated);
+      EXPECT_EQ(duct(other), row.power == 1 ? 40 : 2);
+      EXPECT_EQ(indicated(other), 7);
+      const f64 heated_from_the_left = row.power == 1 ? 25 : 0;
+      EXPECT_EQ(cabin.value("cabin_temperature"),
+                &side == &sides[1] ? row.cabin : heated_from_the_left);
+    }
   }
 }
 
 TEST_F(AirConditioning, OverrideHeatsADegreeAFrameAndLightsTheOverheatLight) {
   for (const f64 night : {0.0, 1.0}) {  // the lit copy must not heat twice as fast
-    host.tokens[token::panel_lights] = night;
-    open_override_guard(true);
-    aircraft.temp_override_switch = 0;
-    aircraft.temp_selector_left = 5;
-    run(2);
-    EXPECT_EQ(left_duct(), 27);
-    EXPECT_EQ(left_light(), 1) << "dark";
+    for (const Side& side : sides) {
+      const Side& other = &side == &sides[0] ? sides[1] : sides[0];
+      host.tokens[token::panel_lights] = night;
+      open_override_guard(true);
+      aircraft.temp_override_switch = 0;
+      aircraft.*side.selector = 5;
+      aircraft.*other.automatic = 0;
+      run(2);
+      EXPECT_EQ(duct(side), 27);
+      EXPECT_EQ(light(side), 1) << "dark";
 
-    panel.click(78, 148);
-    EXPECT_EQ(aircraft.temp_override_switch, 1u);
-    run(29);
-    EXPECT_EQ(left_duct(), 56);
-    EXPECT_EQ(left_light(), 1) << "follows a frame later";
-    run();
-    EXPECT_EQ(left_duct(), 57);
-    EXPECT_EQ(left_light(), 0) << "lit";
-    run(40);
-    EXPECT_EQ(left_duct(), 61) << "one step past the scale";
+      panel.click("override_switch");
+      EXPECT_EQ(aircraft.temp_override_switch, 1u);
+      run(29);
+      EXPECT_EQ(duct(side), 56);
+      EXPECT_EQ(light(side), 1) << "follows a frame later";
+      run();
+      EXPECT_EQ(duct(side), 57);
+      EXPECT_EQ(light(side), 0) << "lit";
+      EXPECT_EQ(light(other), 1);
+      run(40);
+      EXPECT_EQ(duct(side), 61) << "one step past the scale";
 
-    open_override_guard(false);
-    run(3);
-    EXPECT_EQ(aircraft.temp_override_switch, 0u);
-    EXPECT_EQ(left_duct(), 27);
-    EXPECT_EQ(left_light(), 1);
+      open_override_guard(false);
+      run(3);
+      EXPECT_EQ(aircraft.temp_override_switch, 0u);
+      EXPECT_EQ(duct(side), 27);
+      EXPECT_EQ(light(side), 1);
+      aircraft.*other.automatic = 1;
+    }
   }
 }
 
@@ -111,64 +131,54 @@ TEST_F(AirConditioning, OverheatLightStaysAsItWasAtItsThreshold) {
   for (const u32 before : {9u, 0u}) {
     aircraft.temp_selector_left = before;
     run(2);
-    const f64 light = left_light();
-    EXPECT_EQ(light, before == 9 ? 0 : 1);
     aircraft.temp_selector_left = 8;
     run(3);
-    EXPECT_EQ(left_light(), light) << "at 55, from selector " << before;
+    EXPECT_EQ(light(sides[0]), before == 9 ? 0 : 1) << "at 55, from selector " << before;
   }
 }
 
 TEST_F(AirConditioning, AKnobLeansTheWayItWasTurnedForTwoSeconds) {
-  struct Row {
-    i32 x_down, x_up;
-    PanelPoint knob;
-    u32 Aircraft::*selector;
-  };
   f64 now = 100;
-  for (const Row& row : {Row{8, 35, {9, 92}, &Aircraft::temp_selector_left},
-                         Row{123, 150, {122, 92}, &Aircraft::temp_selector_right}}) {
+  for (const Side& side : sides) {
+    const std::string knob = std::string(side.name) + "_temperature_selector";
     const auto lean = [&](f64 seconds) {
       host.tokens[token::clock_seconds] = seconds;
       panel.frame();
-      return panel.value_at(row.knob);
+      return panel.value(knob);
     };
-    panel.click(row.x_down, 93);
-    EXPECT_TRUE(rig::heard(click_sound_request));
-    EXPECT_EQ(lean(now), 0) << "at its end it clicks and does not turn";
-
-    panel.click(row.x_up, 93);
-    EXPECT_EQ(aircraft.*row.selector, 1u);
+    const auto turn = [&](const char* way, int times = 1) {
+      for (; times > 0; --times) panel.click(knob + way);
+      return aircraft.*side.selector;
+    };
+    EXPECT_EQ(turn("_down"), 0u);
+    EXPECT_EQ(lean(now), 0) << "at its end it does not turn";
+    EXPECT_EQ(turn("_up"), 1u);
     EXPECT_EQ(lean(now + 2.9), 2);
-    panel.click(row.x_down, 93);  // a turn the other way starts its own two seconds
-    EXPECT_EQ(aircraft.*row.selector, 0u);
+    EXPECT_EQ(turn("_down"), 0u) << "a turn the other way starts its own two seconds";
     EXPECT_EQ(lean(now + 4.9), 1);
     EXPECT_EQ(lean(now + 5), 0);
-
-    for (int i = 0; i < 12; ++i) panel.click(row.x_up, 93);
-    EXPECT_EQ(aircraft.*row.selector, 9u);
-    EXPECT_EQ(lean(now + 8), 0);
-    panel.click(row.x_up, 93);
-    EXPECT_EQ(lean(now + 8), 0);
+    EXPECT_EQ(turn("_up", 12), 9u);
+    EXPECT_EQ(lean(now + 8), 0) << "the last turns were none";
+    EXPECT_EQ(turn("_down"), 8u);
+    EXPECT_EQ(lean(now + 8), 1);
+    EXPECT_EQ(lean(now + 90), 0);
     now += 100;
-    lean(now);
   }
 }
 
 TEST_F(AirConditioning, RamAirAsksTheHostOnEveryPressAndNotWhenItsGuardCloses) {
   rig::Gauge ram_air("Ramair");
   ram_air.frame();
-  if (ram_air.value(1320) == 1) ram_air.click(72, 3);
-  ram_air.click(72, 27);  // under the closed guard it does not move, and asks all the same
-  ram_air.click(72, 3);
-  ram_air.click(72, 27);
+  if (ram_air.value("inlet_guard") == 1) ram_air.click("inlet_guard");
+  ram_air.click("inlet_switch");  // under the closed guard it does not move, and asks all the same
+  ram_air.click("inlet_guard");
+  ram_air.click("inlet_switch");
   ram_air.frame();
-  EXPECT_EQ(ram_air.value(1330), 1);
+  EXPECT_EQ(ram_air.value("inlet_switch"), 1);
+  ram_air.click("inlet_guard");
+  ram_air.frame();
+  EXPECT_EQ(ram_air.value("inlet_switch"), 0);
   EXPECT_EQ(host.events, rig::Events(2, {66841, 0}));
-  ram_air.click(72, 3);
-  ram_air.frame();
-  EXPECT_EQ(ram_air.value(1330), 0);
-  EXPECT_EQ(host.events.size(), 2u);
 }
 
 }  // namespace

@@ -21,7 +21,7 @@ class EngineStart : public testing::Test {
   }
   f64 pressure(int frames = 1) {
     duct.frame(frames);
-    return duct.value(1070);
+    return duct.value("duct_pressure");
   }
   /// An empty duct under the open bleed valve of an APU at speed.
   void open_apu_bleed() {
@@ -36,44 +36,36 @@ class EngineStart : public testing::Test {
 /// What a closed valve does to the line-up for a start.
 enum Closed { breaks_it, is_borne, is_not_asked };
 
-struct BleedControl {
-  u32 Aircraft::*position;
-  PanelPoint box, picture;
-  SoundRequest sound;
-  Closed when_closed;
-};
-
-constexpr SoundRequest toggle = toggle_click_sound_request, knob = click_sound_request;
-constexpr BleedControl controls[] = {
-    {&Aircraft::bleed_switch_upper_left, {77, 21}, {80, 22}, toggle, is_borne},
-    {&Aircraft::bleed_switch_upper_right, {121, 21}, {125, 22}, toggle, is_borne},
-    {&Aircraft::bleed_switch_lower_left, {74, 77}, {78, 78}, toggle, breaks_it},
-    {&Aircraft::bleed_switch_lower_right, {119, 77}, {123, 78}, toggle, is_not_asked},
-    {&Aircraft::bleed_valve_top_left, {36, 7}, {38, 8}, knob, is_borne},
-    {&Aircraft::bleed_valve_top_right, {154, 9}, {156, 11}, knob, is_borne},
-    {&Aircraft::bleed_valve_mid_left, {34, 95}, {36, 97}, knob, is_borne},
-    {&Aircraft::bleed_valve_mid_right, {147, 94}, {149, 96}, knob, breaks_it},
-    {&Aircraft::bleed_valve_bottom_left, {61, 127}, {63, 129}, knob, is_borne},
-    {&Aircraft::bleed_valve_bottom_right, {117, 129}, {119, 131}, knob, is_not_asked},
-};
-
-TEST_F(EngineStart, BleedControlsAndTheLineUpTheyMake) {
-  for (const BleedControl& control : controls) {
-    valves.click(control.box.x, control.box.y);
-    valves.frame();
-    EXPECT_EQ(aircraft.*control.position, 1u) << &control - controls;
-    EXPECT_EQ(valves.value_at(control.picture), 1) << &control - controls;
-    EXPECT_TRUE(rig::heard(control.sound)) << &control - controls;
-  }
-  for (const BleedControl& control : controls) {
-    aircraft.*control.position = 0;
+TEST_F(EngineStart, ValvesMakeTheLineUp) {
+  struct Row {
+    const char* control;
+    Closed when_closed;
+  };
+  const Row rows[] = {
+      {"engine_1_bleed_switch", is_borne}, {"engine_2_bleed_switch", is_borne},
+      {"crossfeed_1_switch", breaks_it},   {"crossfeed_2_switch", is_not_asked},
+      {"shut_off_valve_1_knob", is_borne}, {"shut_off_valve_2_knob", is_borne},
+      {"isolation_1_knob", is_borne},      {"isolation_2_knob", breaks_it},
+      {"manifold_1_knob", is_borne},       {"manifold_2_knob", is_not_asked},
+  };
+  for (const Row& row : rows) valves.click(row.control);
+  for (const Row& row : rows) {
+    valves.click(row.control);
     for (const u32 before : {0u, 1u}) {
       aircraft.bleed_lineup_ok = before;
       valves.frame();
       const u32 after[] = {0, before, 1};
-      EXPECT_EQ(aircraft.bleed_lineup_ok, after[control.when_closed]) << &control - controls;
+      EXPECT_EQ(aircraft.bleed_lineup_ok, after[row.when_closed]) << row.control;
     }
-    aircraft.*control.position = 1;
+    valves.click(row.control);
+  }
+}
+
+TEST_F(EngineStart, DuctPressureLampShowsWhatTheDuctSays) {
+  for (const u32 light : {0u, 1u, 2u}) {
+    aircraft.duct_pressure_light = light;
+    valves.frame();
+    EXPECT_EQ(valves.value("duct_pressure_lamp"), light);
   }
 }
 
@@ -157,60 +149,20 @@ TEST_F(EngineStart, StartLightWaitsForBothEngines) {
     aircraft.start_master_switch = row.master;
     core_speeds(row.eng1, row.eng2);
     panel.frame();
-    EXPECT_EQ(panel.value(2110), row.image) << row.eng1 << "/" << row.eng2;
+    EXPECT_EQ(panel.value("ready_light"), row.image) << row.eng1 << "/" << row.eng2;
   }
 }
 
-TEST_F(EngineStart, TestLightsShineForTwoSecondsAndProlongEachOther) {
-  struct Row {
-    rig::Gauge* gauge;
-    PanelPoint box, light;
-  };
-  const Row rows[] = {{&valves, {10, 42}, {10, 41}},
-                      {&valves, {181, 43}, {180, 42}},
-                      {&valves, {8, 74}, {10, 76}},
-                      {&valves, {179, 74}, {176, 75}},
-                      {&panel, {14, 13}, {14, 12}}};
-  f64& clock = host.tokens[token::clock_seconds];
-  for (const Row& row : rows) {
-    clock += 10;
-    row.gauge->frame();
-    EXPECT_EQ(row.gauge->value_at(row.light), 1) << row.light.x << "," << row.light.y;
-    row.gauge->click(row.box.x, row.box.y);
-    clock += 2;
-    row.gauge->frame();
-    EXPECT_EQ(row.gauge->value_at(row.light), 0) << row.light.x << "," << row.light.y;
-  }
-  valves.click(10, 42);
-  clock += 2;
-  valves.click(181, 43);
-  clock += 2;
-  valves.frame();
-  EXPECT_EQ(valves.value_at({10, 41}), 0) << "the second press prolongs the first light";
-  EXPECT_EQ(rig::sounds_requested(), 0) << "tests are silent";
-}
-
-TEST_F(EngineStart, StartSwitchesAndSelectorSendTheirEvents) {
-  panel.click(61, 1);
-  EXPECT_EQ(aircraft.start_master_switch, 1u);
-  panel.click(61, 1);
-  EXPECT_EQ(aircraft.start_master_switch, 0u);
-  for (const u32 position : {1u, 2u, 0u}) {
-    panel.click(109, 1);
-    panel.click(152, 1);
-    EXPECT_EQ(aircraft.eng1_start_switch, position);
-    EXPECT_EQ(aircraft.eng2_start_switch, position);
-  }
-  const std::pair<i32, f64> clicks[] = {{44, 2}, {116, 1}, {80, 0}};
-  for (const auto& [x, position] : clicks) {
-    panel.click(x, 52);
-    panel.frame();
-    EXPECT_EQ(panel.value(260), position);
-    EXPECT_TRUE(rig::heard(toggle_click_sound_request));
+TEST_F(EngineStart, SwitchesAndSelectorSendTheirEvents) {
+  panel.click("start_master_switch");
+  panel.click("start_master_switch");  // switched off it sends nothing
+  for (const char* position : {"engine_1", "engine_2", "off"}) {
+    panel.click(std::string("start_selector_") + position);
   }
   EXPECT_EQ(host.events, (rig::Events{{65774, 0}, {66300, 0}, {66301, 0}}));
 }
 
+/// One engine at a time; the other one's switch is armed too and its engine runs.
 TEST_F(EngineStart, StarterIsPushedOncePerPercentOfTheFirstTen) {
   struct Row {
     f64 core_speed;
@@ -219,27 +171,34 @@ TEST_F(EngineStart, StarterIsPushedOncePerPercentOfTheFirstTen) {
   };
   for (const Row& row : {Row{1, 0, 1}, Row{5.5, 5, 1}, Row{10, 9, 1}, Row{10.1, 10, 1}, Row{25, 10, 1},
                          Row{25.1, 10, 2}}) {
-    aircraft.start_air_available = aircraft.start_master_switch = 1;
-    aircraft.eng1_start_switch = aircraft.eng2_start_switch = 1;
-    core_speeds(row.core_speed, row.core_speed);
     for (const u32 engine : {1u, 2u}) {
+      aircraft.start_air_available = aircraft.start_master_switch = 1;
+      aircraft.eng1_start_switch = aircraft.eng2_start_switch = 1;
+      core_speeds(engine == 1 ? row.core_speed : 60, engine == 2 ? row.core_speed : 60);
       aircraft.start_selector = 3 - engine;
       host.events.clear();
       panel.frame();
       EXPECT_EQ(host.events, rig::Events(row.pushes, {66299 + engine, 0})) << row.core_speed;
+      EXPECT_EQ(aircraft.eng1_start_switch, engine == 1 ? row.switch_after : 1) << row.core_speed;
+      EXPECT_EQ(aircraft.eng2_start_switch, engine == 2 ? row.switch_after : 1) << row.core_speed;
     }
-    EXPECT_EQ(aircraft.eng1_start_switch, row.switch_after) << row.core_speed;
-    EXPECT_EQ(aircraft.eng2_start_switch, row.switch_after) << row.core_speed;
   }
 }
 
 TEST_F(EngineStart, NothingTurnsWithoutAirMasterSelectorOrArmedSwitch) {
   core_speeds(8, 8);
-  u32* const needed[] = {&aircraft.start_air_available, &aircraft.start_master_switch,
-                         &aircraft.start_selector, &aircraft.eng2_start_switch};
-  for (u32* const missing : needed) {
-    for (u32* const condition : needed) *condition = condition != missing;
-    panel.frame();
+  for (const u32 engine : {1u, 2u}) {
+    u32& start_switch = engine == 1 ? aircraft.eng1_start_switch : aircraft.eng2_start_switch;
+    const std::pair<u32*, u32> needed[] = {{&aircraft.start_air_available, 1},
+                                           {&aircraft.start_master_switch, 1},
+                                           {&aircraft.start_selector, 3 - engine},
+                                           {&start_switch, 1}};
+    for (const auto& missing : needed) {
+      for (const auto& [condition, value] : needed) *condition = condition != missing.first ? value : 0;
+      panel.frame();
+      if (missing.first == &start_switch) start_switch = 2, panel.frame();
+    }
+    start_switch = 0;
   }
   EXPECT_TRUE(host.events.empty());
 }

@@ -34,7 +34,7 @@ class Bitmaps : public testing::Test {
 TEST_F(Bitmaps, WithoutDenseFilesThereIsOneDensity) {
   const ModuleBitmaps bitmaps = store();
   EXPECT_EQ(bitmaps.densities(), std::vector<int>{1});
-  EXPECT_TRUE(bitmaps.notes().empty());
+  EXPECT_TRUE(bitmaps.dense_faults().empty());
   EXPECT_EQ(colour(bitmaps, 10, 1), red);
   EXPECT_EQ(bitmaps.find(10, BitmapUse::image, 2), nullptr);
   EXPECT_EQ(bitmaps.find(11, BitmapUse::image), nullptr);
@@ -54,10 +54,14 @@ TEST_F(Bitmaps, DenseOnesCountOnlyAtTheRightSize) {
   EXPECT_EQ(colour(bitmaps, 20, 3), blue);
   EXPECT_EQ(colour(bitmaps, 30, 2), 0u);
   EXPECT_EQ(colour(bitmaps, 99, 2), 0u);  // no bitmap of the module's own
+  EXPECT_EQ(bitmaps.dense_faults(),
+            std::vector<std::string>{"bitmaps_test.GAU.2x: bitmap 20 has 8 x 1 pixels, not 8 x 2"});
 }
 
-TEST_F(Bitmaps, DamagedDenseOnesAreLeftOutAndNoted) {
-  ByteList dense = section_bytes({{10, plain_dib(4, 4, 0x00FF00)}, {30, plain_dib(2, 2, 0x00FF00)}});
+TEST_F(Bitmaps, DamagedDenseOnesAreLeftOutAndToldOnceAFile) {
+  ByteList dense = section_bytes({{10, plain_dib(4, 4, 0x00FF00)},
+                                  {20, plain_dib(9, 2, 0x00FF00)},
+                                  {30, plain_dib(2, 2, 0x00FF00)}});
   dense.resize(dense.size() - 16);  // the last bitmap is cut off
   write_file(file_ + ".2x", dense);
   write_file(file_ + ".3x", ByteList(40, std::byte{'x'}));
@@ -65,9 +69,10 @@ TEST_F(Bitmaps, DamagedDenseOnesAreLeftOutAndNoted) {
   EXPECT_EQ(colour(bitmaps, 10, 2), green);
   EXPECT_EQ(colour(bitmaps, 30, 2), 0u);
   EXPECT_EQ(bitmaps.densities(), (std::vector<int>{1, 2}));
-  ASSERT_EQ(bitmaps.notes().size(), 2u);
-  EXPECT_EQ(bitmaps.notes()[0], "bitmaps_test.GAU.2x: bitmap 30 is damaged: it lies past the end");
-  EXPECT_EQ(bitmaps.notes()[1], "bitmaps_test.GAU.3x: holds no bitmap directory");
+  EXPECT_EQ(bitmaps.dense_faults(),
+            (std::vector<std::string>{
+                "bitmaps_test.GAU.2x: bitmap 30 is damaged: it lies past the end, and 1 more",
+                "bitmaps_test.GAU.3x: holds no bitmap directory"}));
 }
 
 TEST_F(Bitmaps, DirectoryMustLieInside) {

@@ -56,6 +56,10 @@ TEST(ModuleFile, SoundModuleLoads) {
   EXPECT_EQ(module.find("SMALL"), module.gauges()[0]);
   EXPECT_EQ(module.find("smal"), nullptr);
   EXPECT_TRUE(module.warnings().empty());
+  EXPECT_EQ(
+      module.artwork_notes(),
+      std::vector<std::string>{"small_sound.GAU.2x and .3x: no dense artwork; pictures are coarser "
+                               "at a zoom above 1"});
   EXPECT_NE(module.handle(), 0u);
   ASSERT_NE(module.bitmaps().find(21, BitmapUse::image), nullptr);
   EXPECT_EQ(module.bitmaps().find(21, BitmapUse::image)->pixels[0], 0xFF00FF00u);

@@ -1,21 +1,11 @@
 /// Words on plates and dials: none meets another or a mark, leaves its plate, or lies under a part.
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <string>
-
-#include "resources/bitmap_table.h"
 #include "resources/kit/legend.h"
-#include "resources/kit/records.h"
+#include "tests/resources/picture.h"
 
-namespace artwork {
+namespace artwork_test {
 namespace {
-
-const Bitmap* find(const std::vector<Bitmap>& table, int id) {
-  const auto found =
-      std::find_if(table.begin(), table.end(), [=](const Bitmap& b) { return b.id == id; });
-  return found == table.end() ? nullptr : &*found;
-}
 
 bool meet(const Box& a, const Box& b) {
   return a.x < b.right() && b.x < a.right() && a.y < b.bottom() && b.y < a.bottom();
@@ -31,62 +21,42 @@ bool meet(const Segment& mark, const Box& room) {
   return false;
 }
 
-std::string text(const Box& box) {
-  const auto whole_text = [](double value) { return std::to_string(static_cast<int>(value)); };
-  return "words at " + whole_text(box.x) + ',' + whole_text(box.y) + " (" + whole_text(box.width) +
-         " wide)";
-}
-
 /// How many solid pixels of a picture lie in a box of its own pixels.
 int solid_pixels(const Canvas& picture, Box box) {
-  const Pixels pixels = picture.pixels();
   const double density = picture.density();
   int count = 0;
-  for (int y = std::max(0, static_cast<int>(box.y * density)); y < box.bottom() * density; ++y) {
-    for (int x = std::max(0, static_cast<int>(box.x * density)); x < box.right() * density; ++x) {
-      if (x < pixels.width && y < pixels.height) count += pixels.at(x, y) >> 24 > 160;
-    }
-  }
+  for_each_pixel(picture, {box.x * density, box.y * density, box.width * density, box.height * density},
+                 [&](std::uint32_t pixel, int, int) { count += pixel >> 24 > 160; });
   return count;
 }
 
-/// A gauge's lighting overlay shows the face itself, so the words on it are its own.
-bool covers_face(const Element& e, const Bitmap& plate, const Bitmap& picture) {
-  return e.position.x == 0 && e.position.y == 0 && picture.size == plate.size;
-}
-
-struct Plate {
+struct DrawnPlate {
   const GaugeHeader& of;
-  const Bitmap& bitmap;
   Canvas canvas;
 };
 
 template <class Check>
 void for_each_plate(int density, Check check) {
-  const std::vector<Bitmap> table = bitmap_table();
-  for (const GaugeHeader* each : gauges()) {
-    const Bitmap* bitmap = find(table, each->element_list[0]->resource_id);
-    if (bitmap != nullptr) check(table, Plate{*each, *bitmap, drawn(*bitmap, density)});
-  }
+  for (const GaugeHeader* each : gauges()) check(DrawnPlate{*each, drawn(plate_of(*each), density)});
 }
 
 TEST(Words, KeepApartAndOnThePlate) {
   for (const int density : {1, 3}) {
-    for_each_plate(density, [&](const std::vector<Bitmap>&, const Plate& plate) {
+    for_each_plate(density, [&](const DrawnPlate& plate) {
       const std::vector<Box>& words = plate.canvas.words();
       const Box inside = whole(plate.canvas.size()).grown(-1);
       for (std::size_t i = 0; i < words.size(); ++i) {
         EXPECT_TRUE(words[i].x >= inside.x && words[i].right() <= inside.right() &&
                     words[i].y >= inside.y && words[i].bottom() <= inside.bottom())
-            << plate.of.name << ": " << text(words[i]) << " leave the plate";
+            << plate.of.name << ": words at " << text(words[i]) << " leave the plate";
         for (std::size_t j = i + 1; j < words.size(); ++j) {
           EXPECT_FALSE(meet(words[i], words[j].grown(0.5)))
-              << plate.of.name << ": " << text(words[i]) << " meet " << text(words[j]) << " at "
-              << density << " times";
+              << plate.of.name << ": words at " << text(words[i]) << " meet " << text(words[j])
+              << " at " << density << " times";
         }
         for (const Segment& mark : plate.canvas.marks()) {
-          EXPECT_FALSE(meet(mark, words[i]))
-              << plate.of.name << ": " << text(words[i]) << " meet a mark at " << density << " times";
+          EXPECT_FALSE(meet(mark, words[i])) << plate.of.name << ": words at " << text(words[i])
+                                             << " meet a mark at " << density << " times";
         }
       }
     });
@@ -94,19 +64,19 @@ TEST(Words, KeepApartAndOnThePlate) {
 }
 
 TEST(Words, LieUnderNoMovingPart) {
-  for_each_plate(2, [&](const std::vector<Bitmap>& table, const Plate& plate) {
+  for_each_plate(2, [&](const DrawnPlate& plate) {
     for (const Element* e : parts(plate.of)) {
       if (e->kind != ELEMENT_ICON) continue;
-      const Bitmap* first = find(table, e->resource_id);
-      if (first == nullptr || covers_face(*e, plate.bitmap, *first)) continue;
+      const Bitmap* first = find_bitmap(e->resource_id);
+      // The lighting shows the face itself, so the words on it are its own.
+      if (first == nullptr || first->overlay) continue;
       for (u32 image = 0; image < e->icon.image_count; ++image) {
-        const Bitmap* bitmap = find(table, e->resource_id + static_cast<int>(image));
-        if (bitmap == nullptr) continue;
+        const Bitmap* bitmap = find_bitmap(e->resource_id + static_cast<int>(image));
         const Canvas picture = drawn(*bitmap, 2);
         for (Box room : plate.canvas.words()) {
           room.x -= e->position.x, room.y -= e->position.y;
           EXPECT_LE(solid_pixels(picture, room.grown(-0.5)), 2)
-              << plate.of.name << ": part " << bitmap->id << " covers words";
+              << plate.of.name << ": " << subject(*bitmap) << " covers words";
         }
       }
     }
@@ -120,8 +90,8 @@ TEST(Words, FitTheirPictures) {
     for (const int density : {1, 2, 3}) {
       const Canvas canvas = drawn(bitmap, density);
       for (const Box& room : canvas.words()) {
-        EXPECT_GE(room.x, 2) << bitmap.id << " at " << density;
-        EXPECT_LE(room.right(), bitmap.size.width - 2) << bitmap.id << " at " << density;
+        EXPECT_GE(room.x, 2) << subject(bitmap) << " at " << density;
+        EXPECT_LE(room.right(), bitmap.size.width - 2) << subject(bitmap) << " at " << density;
       }
     }
   }
@@ -140,4 +110,4 @@ TEST(Words, StandWhereTheyAreAnchored) {
 }
 
 }  // namespace
-}  // namespace artwork
+}  // namespace artwork_test

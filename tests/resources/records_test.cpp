@@ -1,80 +1,66 @@
-/// Reading the module's records, and knowing when they have changed.
+/// Reading the module's records by name, and gauges put together from them.
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <filesystem>
-#include <fstream>
 #include <set>
-#include <string>
 
-#include "resources/kit/records.h"
+#include "resources/rows/board.h"
 #include "resources/tool/library.h"
-#include "resources/tool/stamp.h"
+#include "tests/resources/picture.h"
 
-namespace artwork {
+namespace artwork_test {
 namespace {
 
-TEST(Records, PartsLeaveTheLitCopyOut) {
-  for (const GaugeHeader* each : gauges()) {
-    std::size_t chain = 0;
-    for (const Element* e = each->element_list[0]; e != nullptr; e = e->next ? *e->next : nullptr) {
-      ++chain;
-    }
-    const std::size_t shown = parts(*each).size();
-    EXPECT_TRUE(chain == 1 + shown || chain == 1 + 2 * shown) << each->name;
+TEST(Records, PartsAndAreasAreFoundByName) {
+  const GaugeHeader& battery = gauge("Masterbat");
+  EXPECT_EQ(part(battery, "external_power_switch").position.x, 111);
+  EXPECT_EQ(part(gauge("Acdc"), "ac_voltmeter").needle.table_length, 3u);
+  EXPECT_EQ(click_box(battery, "bus_tie_button").bottom(), 108);
+}
+
+TEST(Records, AMissingNameEndsTheTool) {
+  const auto ends = ::testing::ExitedWithCode(1);
+  EXPECT_EXIT(gauge("Nosuch"), ends, "no gauge Nosuch");
+  EXPECT_EXIT(part(gauge("Masterbat"), "lever"), ends, "Masterbat has no part lever");
+  EXPECT_EXIT(part_box(gauge("Masterbat"), "lever"), ends, "Masterbat has no part or click area lever");
+}
+
+TEST(Spots, FollowTheirPartsOrThePlatesEdges) {
+  const Canvas canvas({100, 60}, 1, 0);
+  const Board board{canvas, gauge("Masterbat")};
+  const Point battery = hub_of(board.gauge, "battery_switch");
+  const Point external = hub_of(board.gauge, "external_power_switch");
+  const struct {
+    Spot spot;
+    Point expected;
+  } cases[] = {
+      {{7, 8}, {7, 8}},
+      {{-7, -8}, {93, 52}},
+      {middle(-8), {50, 52}},
+      {at("battery_switch", 2, 3), {battery.x + 2, battery.y + 3}},
+      {between("battery_switch", "external_power_switch"),
+       {(battery.x + external.x) / 2, (battery.y + external.y) / 2}},
+      {at("battery_switch", 1, 2).level_with("external_power_switch"), {battery.x + 1, external.y + 2}},
+      {middle(1).level_with("battery_switch"), {50, battery.y + 1}},
+  };
+  for (const auto& each : cases) {
+    EXPECT_EQ(where(board, each.spot).x, each.expected.x);
+    EXPECT_EQ(where(board, each.spot).y, each.expected.y);
   }
-}
-
-TEST(Records, PartsAreFoundByPictureAndOrder) {
-  EXPECT_EQ(place("Masterbat", 2130).x, 39);
-  EXPECT_EQ(place("Masterbat", 2130, 1).x, 111);
-  EXPECT_TRUE(has_parts("Masterbat"));
-  EXPECT_EQ(part("Acdc", 350, 2).needle.table_length, 3u);
-}
-
-TEST(Records, ClickBoxesAreInPlatePixels) {
-  const std::vector<Box> boxes = click_boxes(gauge("Masterbat"));
-  ASSERT_EQ(boxes.size(), 3u);
-  EXPECT_EQ(boxes[2].x, 66);
-  EXPECT_EQ(boxes[2].bottom(), 108);
-}
-
-TEST(Records, AMissingGaugeOrPartEndsTheTool) {
-  EXPECT_EXIT(gauge("Nosuch"), ::testing::ExitedWithCode(1), "no gauge Nosuch");
-  EXPECT_EXIT(part("Masterbat", 2130, 9), ::testing::ExitedWithCode(1), "Masterbat part 2130");
-}
-
-TEST(Stamp, FollowsTheDrawingCode) {
-  const auto folder = std::filesystem::temp_directory_path() / "artwork-stamp-test";
-  std::filesystem::create_directories(folder);
-  const auto kit = folder / "kit", file = folder / "stamp";
-  std::ofstream(kit) << "one";
-  const std::string first = records_stamp(kit);
-  EXPECT_EQ(records_stamp(kit), first);
-  write_stamp(file, first);
-  EXPECT_TRUE(stamp_matches(file, first));
-  std::ofstream(kit) << "two";
-  EXPECT_FALSE(stamp_matches(file, records_stamp(kit)));
-  std::filesystem::remove_all(folder);
 }
 
 TEST(Composed, PutsPartsWhereTheRecordsSay) {
-  const std::vector<Bitmap> table = bitmap_table();
-  const Canvas off = composed(table, gauge("Avimaster"), {.image = 0}, 1);
-  const Canvas on = composed(table, gauge("Avimaster"), {.image = 1}, 1);
-  const Pixels a = off.pixels(), b = on.pixels();
-  const Point knob = place("Avimaster", 2320), lamp = place("Avimaster", 2330);
+  const GaugeHeader& panel = gauge("Avimaster");
+  const Canvas off = composed(panel, {.image = 0}, 1), on = composed(panel, {.image = 1}, 1);
   std::set<std::string> changed;
-  for (int y = 0; y < a.height; ++y) {
-    for (int x = 0; x < a.width; ++x) {
-      if (a.at(x, y) == b.at(x, y)) continue;
-      const bool in_knob = x >= knob.x && x < knob.x + 40 && y >= knob.y && y < knob.y + 40;
-      const bool in_lamp = x >= lamp.x && x < lamp.x + 32 && y >= lamp.y && y < lamp.y + 23;
-      changed.insert(in_knob ? "knob" : in_lamp ? "lamp" : "elsewhere");
-    }
-  }
+  for_each_pixel(off, device_box(off), [&](std::uint32_t pixel, int x, int y) {
+    if (pixel == on.pixels().at(x, y)) return;
+    const Box at{1.0 * x, 1.0 * y, 1, 1};
+    changed.insert(shared_room(at, part_box(panel, "avionics_master_switch")) > 0 ? "knob"
+                   : shared_room(at, part_box(panel, "avionics_lamp")) > 0        ? "lamp"
+                                                                                  : "elsewhere");
+  });
   EXPECT_EQ(changed, (std::set<std::string>{"knob", "lamp"}));
 }
 
 }  // namespace
-}  // namespace artwork
+}  // namespace artwork_test

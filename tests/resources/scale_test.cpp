@@ -1,72 +1,124 @@
 /// Printed scales and needles share one calibration.
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cmath>
 
-#include "resources/bitmap_table.h"
-#include "resources/kit/paint.h"
-#include "resources/kit/records.h"
+#include "resources/rows/draw.h"
+#include "resources/rows/overloaded.h"
+#include "tests/resources/picture.h"
 
-namespace artwork {
+namespace artwork_test {
 namespace {
 
-double brightness(const Canvas& canvas, Point at) {
-  const Pixels pixels = canvas.pixels();
-  const int x = static_cast<int>(at.x * canvas.density());
-  const int y = static_cast<int>(at.y * canvas.density());
-  double most = 0;
-  for (int dy = -1; dy <= 1; ++dy) {
-    for (int dx = -1; dx <= 1; ++dx) {
-      const std::uint32_t pixel = pixels.at(x + dx, y + dy);
-      most = std::max(most, ((pixel >> 16 & 0xFF) + (pixel >> 8 & 0xFF) + (pixel & 0xFF)) / 3.0);
+/// Every dial of every plate.
+struct DialOf {
+  const GaugeHeader& gauge;
+  const Dial& dial;
+};
+
+std::vector<DialOf> all_dials() {
+  std::vector<DialOf> found;
+  for (const NamedUnit& named : units()) {
+    for (const Art& art : named.unit.art) {
+      const auto* plate = std::get_if<Plate>(&art.picture);
+      if (plate == nullptr) continue;
+      for (const Item& item : plate->items) {
+        if (const auto* dial = std::get_if<Dial>(&item))
+          found.push_back({*gauge_of(named.unit), *dial});
+      }
     }
   }
+  return found;
+}
+
+template <class Check>
+void for_each_scale(Check check) {
+  for (const DialOf& each : all_dials()) {
+    for (const Scale& scale : each.dial.scales) {
+      check(each, scale, part(each.gauge, scale.needle), std::string(scale.needle));
+    }
+  }
+}
+
+std::vector<double> readings(const Print& print) {
+  std::vector<double> all;
+  std::visit(overloaded{[&](const Marks& m) {
+                          all = {m.from, m.to};
+                        },
+                        [&](const MarksAt& m) { all.assign(m.values.begin(), m.values.end()); },
+                        [&](const Figures& f) {
+                          for (const Figure& each : f.figures) all.push_back(each.value);
+                        },
+                        [&](const auto& span) {
+                          all = {span.from, span.to};
+                        }},
+             print);
+  return all;
+}
+
+/// A calibration with one wrong point, or a scale whose unit is wrong, would show here.
+TEST(Scales, LieInTheNeedlesRangeOnACircleAboutItsPivot) {
+  for_each_scale([](const DialOf&, const Scale& scale, const Element& needle, const std::string& name) {
+    const std::span table(needle.needle.table, needle.needle.table_length);
+    double nearest = 1e9, farthest = 0;
+    for (const NonlinearityPoint& each : table) {
+      const double distance =
+          std::hypot(each.point.x - needle.position.x, each.point.y - needle.position.y);
+      nearest = std::min(nearest, distance), farthest = std::max(farthest, distance);
+    }
+    EXPECT_LT(farthest, 1.35 * nearest) << name;
+    for (const Print& print : scale.print) {
+      for (const double reading : readings(print)) {
+        const double value = (reading - scale.zero) * scale.per;
+        EXPECT_GE(value, table.front().value - 1e-6) << name << ' ' << reading;
+        EXPECT_LE(value, table.back().value + 1e-6) << name << ' ' << reading;
+      }
+    }
+  });
+}
+
+/// The room of figures and words: on the face, clear of one another.
+TEST(Scales, KeepTheirFiguresOnTheFace) {
+  for (const int density : {1, 2, 3}) {
+    for (const DialOf& each : all_dials()) {
+      const Canvas canvas(plate_of(each.gauge).size, density, 0);
+      draw_dial({canvas, each.gauge}, each.dial);
+      const Point pivot = hub_of(each.gauge, each.dial.scales[0].needle);
+      for (const Box& room : canvas.words()) {
+        const double x = std::max(std::abs(room.x - pivot.x), std::abs(room.right() - pivot.x));
+        const double y = std::max(std::abs(room.y - pivot.y), std::abs(room.bottom() - pivot.y));
+        EXPECT_LT(std::hypot(x, y), each.dial.radius - each.dial.bezel)
+            << each.gauge.name << ' ' << text(room) << " at " << density;
+      }
+    }
+  }
+}
+
+double brightest_about(const Canvas& canvas, Point at) {
+  const double density = canvas.density();
+  double most = 0;
+  for_each_pixel(canvas, {std::floor(at.x * density) - 1, std::floor(at.y * density) - 1, 3, 3},
+                 [&](std::uint32_t pixel, int, int) { most = std::max(most, luminance(pixel)); });
   return most;
 }
 
-/// A mark is bright on the needle's line for its value, and the face is dark beside it.
-struct PrintedMark {
-  const char* gauge;
-  int plate, needle, nth;
-  double value, beside, radius;
-};
-
-class PrintedScale : public ::testing::TestWithParam<PrintedMark> {};
-
-TEST_P(PrintedScale, StandsWhereTheNeedlePoints) {
-  const PrintedMark& m = GetParam();
-  const std::vector<Bitmap> table = bitmap_table();
-  const auto plate =
-      std::find_if(table.begin(), table.end(), [&](const Bitmap& b) { return b.id == m.plate; });
-  ASSERT_NE(plate, table.end());
-  const Canvas canvas = drawn(*plate, 3);
-  const Element& needle = part(m.gauge, m.needle, m.nth);
-  const Point pivot = place(m.gauge, m.needle, m.nth);
-  EXPECT_GT(brightness(canvas, polar(pivot, m.radius, needle_angle(needle, m.value))), 150);
-  EXPECT_LT(brightness(canvas, polar(pivot, m.radius, needle_angle(needle, m.beside))), 90);
+/// Looked up in the picture, so that nothing but the needle's own record says where a mark stands.
+TEST(Scales, HaveABrightMarkWhereTheNeedlePoints) {
+  for_each_scale([](const DialOf& of, const Scale& scale, const Element& needle,
+                    const std::string& name) {
+    const Canvas canvas(plate_of(of.gauge).size, 3, 0);
+    draw_dial({canvas, of.gauge}, of.dial);
+    const double rim = scale.rim == 0 ? of.dial.radius - 5.6 : scale.rim;
+    for (const Print& print : scale.print) {
+      const auto* marks = std::get_if<Marks>(&print);
+      if (marks == nullptr) continue;
+      const double value = (marks->from + marks->step - scale.zero) * scale.per;
+      const double radius = rim - 0.7 * marks->length;
+      EXPECT_GT(brightest_about(canvas, polar(place(needle), radius, needle_angle(needle, value))), 140)
+          << of.gauge.name << ' ' << name << ' ' << value;
+    }
+  });
 }
 
-INSTANTIATE_TEST_SUITE_P(Meters, PrintedScale,
-                         ::testing::Values(PrintedMark{"Acdc", 340, 350, 0, -90, -75, 24.5},
-                                           PrintedMark{"Acdc", 340, 350, 1, 66, 64.8, 24.5},
-                                           PrintedMark{"Acdc", 340, 350, 2, 117.4, 106, 24.5},
-                                           PrintedMark{"Acdc", 340, 350, 3, 30, 25, 24.5},
-                                           PrintedMark{"Acload", 390, 410, 0, 25, 37, 22.5},
-                                           PrintedMark{"Acload", 390, 410, 2, 75, 87, 22.5},
-                                           PrintedMark{"Gendrive", 430, 440, 1, 11703, 12288, 23.5},
-                                           PrintedMark{"Grdpsi", 1060, 1070, 0, 500, 530, 23.5},
-                                           PrintedMark{"Ductc", 270, 280, 0, 50, 47, 22.8},
-                                           PrintedMark{"Ductc", 270, 280, 1, 10, 13, 22.8},
-                                           PrintedMark{"Cabvs", 1360, 1370, 0, -1500, -1250, 26},
-                                           PrintedMark{"Cabvs", 1360, 1370, 0, 1500, 1750, 26},
-                                           PrintedMark{"Icepsi", 1090, 1110, 1, 300, 325, 21.8},
-                                           PrintedMark{"Airfoil", 1130, 1140, 0, 900, 930, 24.2},
-                                           PrintedMark{"Diffpress", 1270, 1280, 0, 70, 66, 41},
-                                           PrintedMark{"Diffpress", 1270, 24220, 0, 30000, 28750, 20.8},
-                                           PrintedMark{"Cabalt", 1460, 1470, 0, 11000, 10750, 29},
-                                           PrintedMark{"Apuins", 460, 470, 0, 750, 800, 26.5},
-                                           PrintedMark{"Apuins", 460, 470, 1, 1000, 1050, 26.3}));
-
 }  // namespace
-}  // namespace artwork
+}  // namespace artwork_test

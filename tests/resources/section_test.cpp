@@ -1,83 +1,72 @@
 /// The section's bytes: made by hand, in the module, and in the files for dense displays.
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
-#include "resources/bitmap_table.h"
+#include "host/loader/elf_file.h"
+#include "host/loader/mapped_file.h"
+#include "host/loader/resource_section.h"
 #include "resources/tool/section.h"
-#include "tests/resources/section_reader.h"
+#include "tests/resources/picture.h"
 
 namespace artwork_test {
 namespace {
 
-using artwork::Bytes;
-using artwork::Indexed;
+/// Opacity in the palette: backgrounds have none, other pictures are clear only where black.
+void expect_only_black_is_clear(const host::Dib& dib, const Bitmap& bitmap) {
+  for (std::size_t i = 0; i < dib.palette.size(); i += 4) {
+    const auto part = [&](std::size_t k) { return std::to_integer<int>(dib.palette[i + k]); };
+    const bool black = part(0) + part(1) + part(2) == 0;
+    if (bitmap.background) {
+      EXPECT_EQ(part(3), 0) << subject(bitmap);
+    } else {
+      EXPECT_EQ(black, part(3) == 0) << subject(bitmap);
+    }
+  }
+}
 
 Indexed tiny() { return {3, 2, {{0, 0, 0, 0}, {30, 20, 10, 255}, {3, 2, 1, 128}}, {0, 1, 2, 2, 1, 0}}; }
 
 TEST(PackedBitmap, HasHeaderPaletteAndRowsFromTheBottomUp) {
-  const Bytes bytes = artwork::packed(tiny());
+  const Bytes bytes = packed(tiny());
   const Bytes palette(bytes.begin() + 40, bytes.begin() + 52);
   EXPECT_EQ(palette, (Bytes{0, 0, 0, 0, 30, 20, 10, 255, 3, 2, 1, 128}));
   const Bytes rows(bytes.begin() + 52, bytes.end());
   EXPECT_EQ(rows, (Bytes{2, 1, 0, 0, 0, 1, 2, 0})) << "each row padded to four bytes";
 }
 
+/// The loader's reading of a section that is only in memory.
+host::Bytes view(const Bytes& bytes) { return std::as_bytes(std::span(bytes)); }
+
 TEST(Section, ListsNumberedBitmapsThenNamedOnes) {
-  const Bytes bitmap = artwork::packed(tiny());
-  const Bytes bytes = artwork::section({{7, "", bitmap}, {90, "", bitmap}, {~0u, "IDB_X", bitmap}});
+  const Bytes bitmap = packed(tiny());
+  const Bytes bytes = section({{7, "", bitmap}, {90, "", bitmap}, {~0u, "IDB_X", bitmap}});
   ASSERT_GE(bytes.size(), 16u + 3 * 64);
   EXPECT_EQ(std::string(bytes.begin(), bytes.begin() + 8), "PANELRES");
   EXPECT_EQ(bytes[8], 1) << "version";
   EXPECT_EQ(bytes[12], 3) << "count";
   const std::size_t named = 16 + 2 * 64;
   EXPECT_EQ(std::string(reinterpret_cast<const char*>(&bytes[named + 16])), "IDB_X");
-  const auto read = read_section(bytes);
-  ASSERT_EQ(read.size(), 2u);
-  EXPECT_EQ(read.at(90).pixels, tiny().pixels);
-  EXPECT_EQ(read.at(7).palette[2], 0x80010203u);
+  const host::ResourceSection read(view(bytes));
+  EXPECT_TRUE(read.notes().empty());
+  ASSERT_EQ(read.numbered().size(), 2u);
+  EXPECT_EQ(host::decode(*read.find(90), host::BitmapUse::image).pixels[1], 0xFF0A141Eu);
 }
 
-/// The files as the build has left them beside one another.
-class Files : public ::testing::Test {
- protected:
+/// The files as the build has left them beside one another, at one, two and three times the pixels.
+TEST(Files, HoldEveryBitmapOfTheTable) {
   const std::string module = std::string(COCKPIT_DIR) + "/Tarnvale.GAU";
-};
-
-TEST_F(Files, ModuleHoldsEveryBitmapOfTheTable) {
-  const auto read = read_section(elf_section(module, ".panelres"));
-  for (const artwork::Bitmap& bitmap : artwork::bitmap_table()) {
-    const auto found = read.find(static_cast<std::uint32_t>(bitmap.id));
-    ASSERT_NE(found, read.end()) << bitmap.id;
-    EXPECT_EQ(found->second.width, bitmap.size.width) << bitmap.id;
-    EXPECT_EQ(found->second.height, bitmap.size.height) << bitmap.id;
-  }
-}
-
-TEST_F(Files, DenseFilesHoldTheSameBitmapsAtTwoAndThreeTimesTheSize) {
-  const auto base = read_section(elf_section(module, ".panelres"));
-  ASSERT_FALSE(base.empty());
-  for (const int times : {2, 3}) {
-    const auto dense = read_section(file_bytes(module + "." + std::to_string(times) + "x"));
-    ASSERT_EQ(dense.size(), base.size()) << times;
-    for (const auto& [id, bitmap] : base) {
-      ASSERT_TRUE(dense.contains(id)) << id;
-      EXPECT_EQ(dense.at(id).width, bitmap.width * times) << id;
-      EXPECT_EQ(dense.at(id).height, bitmap.height * times) << id;
-    }
-  }
-}
-
-/// Opacity in the palette: backgrounds ignore it, other pictures are clear only where black.
-TEST_F(Files, OnlyPureBlackIsClear) {
-  const auto read = read_section(elf_section(module, ".panelres"));
-  for (const artwork::Bitmap& bitmap : artwork::bitmap_table()) {
-    for (const std::uint32_t colour : read.at(static_cast<std::uint32_t>(bitmap.id)).palette) {
-      if (bitmap.background) {
-        EXPECT_EQ(colour >> 24, 0u) << bitmap.id;
-      } else {
-        EXPECT_EQ((colour & 0xFFFFFF) == 0, colour >> 24 == 0) << bitmap.id;
-      }
+  const host::MappedFile file(module), twice(module + ".2x"), thrice(module + ".3x");
+  const host::Bytes sections[] = {host::ElfFile(file.bytes()).section(".panelres").value(),
+                                  twice.bytes(), thrice.bytes()};
+  for (int times = 1; times <= 3; ++times) {
+    const host::ResourceSection read(sections[times - 1]);
+    EXPECT_TRUE(read.notes().empty());
+    EXPECT_EQ(read.numbered().size(), bitmap_table().size()) << times;
+    for (const Bitmap& bitmap : bitmap_table()) {
+      const host::Dib* found = read.find(static_cast<std::uint32_t>(bitmap.id));
+      ASSERT_NE(found, nullptr) << subject(bitmap);
+      EXPECT_EQ(found->width, times * bitmap.size.width) << subject(bitmap);
+      EXPECT_EQ(found->height, times * bitmap.size.height) << subject(bitmap);
+      expect_only_black_is_clear(*found, bitmap);
     }
   }
 }

@@ -3,6 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <cstring>
 #include <stdexcept>
 
 #include "module/host.h"
@@ -16,16 +19,37 @@ Host* current = nullptr;
 
 void no_root(const Element*) {}
 void no_root_argument(const Element*, uintptr_t) {}
+
 void look_up(TokenVariable* variable) {
+  current->looked_up.insert(variable->token);
   const auto found = current->tokens.find(variable->token);
   variable->value = found == current->tokens.end() ? 0.0 : found->second;
 }
+
+/// The token that each "..._toggle" event is named after.
+const std::map<u32, u32>& followed() {
+  static const std::map<u32, u32> pairs = [] {
+    std::map<std::string, u32> tokens;
+    std::map<u32, u32> found;
+#define TOKEN(number, name, unit) tokens[#name "_toggle"] = number;
+#define EVENT(number, name) \
+  if (tokens.contains(#name)) found[number] = tokens[#name];
+#include "module/tokens.inc"
+#undef TOKEN
+#undef EVENT
+    return found;
+  }();
+  return pairs;
+}
+
 void take_event(u32 event, u32 value) {
   current->events.emplace_back(event, value);
-  if (const auto found = current->on_event.find(event); found != current->on_event.end()) {
-    found->second();
-  }
+  const auto token = followed().find(event);
+  if (!current->follows || token == followed().end()) return;
+  f64& state = current->tokens[token->second];
+  state = state == 0 ? 1 : 0;
 }
+
 void toggle(u32 ident) { current->windows.emplace_back('t', ident); }
 void close(u32 ident) { current->windows.emplace_back('c', ident); }
 void open(u32 ident) { current->windows.emplace_back('o', ident); }
@@ -34,44 +58,62 @@ constexpr PanelServices services{no_root,          no_root_argument, no_root, no
                                  no_root_argument, no_root,          no_root, toggle,
                                  take_event,       look_up,          close,   open};
 
-f64 source_value(TokenVariable& source) {
-  if (source.token != 0) look_up(&source);
-  return source.value;
-}
-
-f64 call(ValueRoutine routine, TokenVariable& source, Element* element) {
-  const f64 plain = source_value(source);
-  return routine != nullptr ? routine(element) : plain;
-}
-
-/// Takes an element's values in the host's order and gives the first one that stands for it.
-f64 evaluate(Element* e) {
-  switch (e->kind) {
-    case ELEMENT_ICON: return call(e->icon.value, e->icon.source, e);
-    case ELEMENT_NEEDLE: return call(e->needle.value, e->needle.source, e);
+/// In the host's order. A string has a second source and one routine.
+std::vector<Reading> readings(Element& e) {
+  switch (e.kind) {
+    case ELEMENT_ICON: return {{&e.icon.source, e.icon.value}};
+    case ELEMENT_NEEDLE: return {{&e.needle.source, e.needle.value}};
     case ELEMENT_STRING:
-      source_value(e->string.source[1]);
-      return call(e->string.value, e->string.source[0], e);
-    case ELEMENT_SLIDER: {
-      const f64 x = call(e->slider.x_value, e->slider.x_source, e);
-      const f64 y = call(e->slider.y_value, e->slider.y_source, e);
-      return e->slider.x_scale != 0 ? x : y;
-    }
-    case ELEMENT_MOVING_IMAGE: {
-      const f64 x = call(e->moving_image.x.value, e->moving_image.x.source, e);
-      const f64 y = call(e->moving_image.y.value, e->moving_image.y.source, e);
-      return e->moving_image.x.maximum > e->moving_image.x.minimum ? x : y;
-    }
-    case ELEMENT_SPRITE: {
-      call(e->sprite.x.value, e->sprite.x.source, e);
-      call(e->sprite.y.value, e->sprite.y.source, e);
-      return call(e->sprite.rotation.value, e->sprite.rotation.source, e);
-    }
-    default: return 0;
+      return {{&e.string.source[0], e.string.value}, {&e.string.source[1], nullptr, false}};
+    case ELEMENT_SLIDER:
+      return {{&e.slider.x_source, e.slider.x_value}, {&e.slider.y_source, e.slider.y_value}};
+    case ELEMENT_MOVING_IMAGE:
+      return {{&e.moving_image.x.source, e.moving_image.x.value},
+              {&e.moving_image.y.source, e.moving_image.y.value}};
+    case ELEMENT_SPRITE:
+      return {{&e.sprite.x.source, e.sprite.x.value},
+              {&e.sprite.y.source, e.sprite.y.value},
+              {&e.sprite.rotation.source, e.sprite.rotation.value}};
+    default: return {};
   }
 }
 
+/// Takes an element's values and gives their sum: all but one stand still in most parts.
+f64 evaluate(Element* e, const std::vector<Reading>& all) {
+  for (const Reading& r : all) {
+    if (r.source->token != 0) look_up(r.source);
+  }
+  f64 sum = 0;
+  for (const Reading& r : all) {
+    if (r.evaluated) sum += r.routine != nullptr ? r.routine(e) : r.source->value;
+  }
+  return sum;
+}
+
+bool is_copy(Element& later, Element& earlier) {
+  constexpr int near = 8;
+  if (later.kind != earlier.kind || later.resource_id != earlier.resource_id) return false;
+  if (std::abs(later.position.x - earlier.position.x) > near) return false;
+  if (std::abs(later.position.y - earlier.position.y) > near) return false;
+  return std::ranges::equal(readings(later), readings(earlier), [](const Reading& a, const Reading& b) {
+    return a.routine == b.routine && (a.routine != nullptr || a.source->token == b.source->token);
+  });
+}
+
 bool hides_chain(const Element* e) { return (e->image_flags & IMAGE_HIDE_CHAIN) != 0; }
+
+const GaugeHeader& header_of(std::string_view name) {
+  const GaugeHeader* header = tarnvale::names::find_gauge(name);
+  if (header == nullptr) throw std::runtime_error("no gauge " + std::string(name));
+  return *header;
+}
+
+template <typename Named>
+const Named& find(const std::vector<Named>& all, std::string_view name, const GaugeHeader& gauge) {
+  const auto found = std::ranges::find(all, name, &Named::name);
+  if (found != all.end()) return *found;
+  throw std::runtime_error(std::string(gauge.name) + " has no " + std::string(name));
+}
 
 }  // namespace
 
@@ -84,23 +126,21 @@ Host::Host() {
 
 Host::~Host() { current = nullptr; }
 
-void Host::flips(u32 event, u32 token) {
-  on_event[event] = [this, token] { tokens[token] = tokens[token] == 0 ? 1 : 0; };
-}
+Gauge::Gauge(std::string_view name) : Gauge(header_of(name)) {}
 
-const GaugeHeader* find(std::string_view name) {
-  for (const GaugeHeader* const* gauge = Linkage.gauges; *gauge != nullptr; ++gauge) {
-    if (name == (*gauge)->name) return *gauge;
+Gauge::Gauge(const GaugeHeader& header)
+    : header_(&header),
+      parts_(tarnvale::names::parts(header)),
+      areas_(tarnvale::names::areas(header)),
+      chain_(chain_of(header)),
+      covered_by_(chain_.size()),
+      values_(chain_.size()) {
+  for (std::size_t i = 0; i < chain_.size(); ++i) {
+    readings_.push_back(readings(*chain_[i]));
+    for (std::size_t later = i + 1; later < chain_.size(); ++later) {
+      if (is_copy(*chain_[later], *chain_[i])) covered_by_[i] = later;
+    }
   }
-  return nullptr;
-}
-
-Gauge::Gauge(std::string_view name) : header_(find(name)) {
-  if (header_ == nullptr) throw std::runtime_error("no gauge " + std::string(name));
-  for (Element* e = header_->element_list[0]; e != nullptr; e = e->next ? e->next[0] : nullptr) {
-    chain_.push_back(e);
-  }
-  values_.resize(chain_.size());
 }
 
 void Gauge::service(u32 id, uintptr_t extra_data) {
@@ -108,65 +148,62 @@ void Gauge::service(u32 id, uintptr_t extra_data) {
 }
 
 void Gauge::frame(int count) {
-  const std::size_t half = (chain_.size() - 1) / 2;
-  for (int i = 0; i < count; ++i) {
+  for (; count > 0; --count) {
     service(SERVICE_TICK);
-    // Where the lit copy shows, it covers the first set: each routine runs once.
-    const bool lit = chain_.size() % 2 == 1 && half > 0 && !hides_chain(chain_[1 + half]);
-    for (std::size_t e = lit ? 1 + half : 1; e < chain_.size() && !hides_chain(chain_[e]); ++e) {
-      values_[e] = evaluate(chain_[e]);
-      if (lit) values_[e - half] = values_[e];
+    const std::size_t shown = std::ranges::find_if(chain_, hides_chain) - chain_.begin();
+    const auto covered = [&](std::size_t i) { return covered_by_[i] != 0 && covered_by_[i] < shown; };
+    for (std::size_t i = 1; i < shown; ++i) {
+      if (!covered(i)) values_[i] = evaluate(chain_[i], readings_[i]);
+    }
+    for (std::size_t i = 1; i < shown; ++i) {
+      if (covered(i)) values_[i] = values_[covered_by_[i]];
     }
     service(SERVICE_AFTER_VALUES);
     service(SERVICE_BEFORE_DRAW);
   }
 }
 
-void Gauge::click(i32 x, i32 y, u32 flags) {
-  PanelPoint at{x, y};
-  std::vector<PanelPoint> groups{{0, 0}};
-  for (const MouseArea* area = header_->mouse_areas; area->kind != MOUSE_END; ++area) {
-    const PanelPoint origin = groups.back();
-    const PanelPoint corner{origin.x + area->x, origin.y + area->y};
-    if (area->kind == MOUSE_GROUP) groups.push_back(corner);
-    if (area->kind == MOUSE_GROUP_END) groups.pop_back();
-    if (area->kind != MOUSE_CLICK_AREA || (area->mouse_flags & flags) == 0) continue;
-    const PanelPoint inside{at.x - corner.x, at.y - corner.y};
-    if (inside.x < 0 || inside.y < 0 || inside.x >= area->width || inside.y >= area->height) continue;
-    EXPECT_EQ(area->routine(inside, flags), 0) << header_->name;
+void Gauge::click(std::string_view control, u32 flags) {
+  const NamedArea& named = find(areas_, control, *header_);
+  const PanelPoint at{named.corner.x + named.area->width / 2, named.corner.y + named.area->height / 2};
+  for (const NamedArea& area : areas_) {
+    const PanelPoint inside{at.x - area.corner.x, at.y - area.corner.y};
+    if ((area.area->mouse_flags & flags) == 0) continue;
+    if (inside.x < 0 || inside.x >= area.area->width) continue;
+    if (inside.y < 0 || inside.y >= area.area->height) continue;
+    EXPECT_EQ(area.name, control) << header_->name << ": another control lies over it";
+    EXPECT_EQ(area.area->routine(inside, flags), 0) << header_->name << " " << control;
     return;
   }
-  ADD_FAILURE() << header_->name << ": nothing answers a click at " << x << "," << y;
+  ADD_FAILURE() << header_->name << ": " << control << " does not answer that button";
 }
 
-std::size_t Gauge::index_of(i32 resource, int nth) const {
-  for (std::size_t i = 1; i < chain_.size(); ++i) {
-    if (chain_[i]->resource_id == resource && nth-- == 0) return i;
+f64 Gauge::value(std::string_view part) const { return values_[find(parts_, part, *header_).index]; }
+
+std::string Gauge::text(std::string_view part) const {
+  return find(parts_, part, *header_).element->string.text;
+}
+
+std::vector<Gauge> built_gauges() {
+  std::vector<Gauge> built;
+  for (const GaugeHeader* const* header = Linkage.gauges; *header != nullptr; ++header) {
+    Gauge gauge(**header);
+    if (!gauge.parts().empty() || !gauge.areas().empty()) built.push_back(std::move(gauge));
   }
-  ADD_FAILURE() << header_->name << ": no element " << resource;
-  return 0;
+  return built;
 }
 
-f64 Gauge::value(i32 resource, int nth) const { return values_[index_of(resource, nth)]; }
-
-f64 Gauge::value_at(PanelPoint position) const {
-  for (std::size_t i = 1; i < chain_.size(); ++i) {
-    const PanelPoint p = chain_[i]->position;
-    if (p.x == position.x && p.y == position.y) return values_[i];
+std::vector<Element*> chain_of(const GaugeHeader& gauge) {
+  std::vector<Element*> chain;
+  for (Element* e = gauge.element_list[0]; e != nullptr; e = e->next ? e->next[0] : nullptr) {
+    chain.push_back(e);
   }
-  ADD_FAILURE() << header_->name << ": no element at " << position.x << "," << position.y;
-  return 0;
-}
-
-std::string Gauge::text(int nth) const {
-  const std::size_t i = index_of(-1, nth);
-  return chain_[i]->string.text;
+  return chain;
 }
 
 int sounds_requested() {
-  return static_cast<int>(std::count_if(std::begin(tarnvale::aircraft.sound_requests),
-                                        std::end(tarnvale::aircraft.sound_requests),
-                                        [](u32 request) { return request != 0; }));
+  return static_cast<int>(std::ranges::count_if(tarnvale::aircraft.sound_requests,
+                                                [](u32 request) { return request != 0; }));
 }
 
 bool heard(tarnvale::SoundRequest sound) {

@@ -1,17 +1,22 @@
 /// Plays the panel host for the tests: tokens in, frames and clicks; pictures, key events, window
-/// calls and sound requests out. One rig at a time; a new one puts the shared state back to its start.
+/// calls and sound requests out. Parts and controls have the names that their words make
+/// ("battery_switch"). One rig at a time; a new one puts the shared state back to its start.
 #pragma once
 
-#include <functional>
 #include <map>
+#include <set>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
 #include "module/aircraft.h"
+#include "resources/names/gauge_names.h"
 
 namespace rig {
+
+using tarnvale::names::NamedArea;
+using tarnvale::names::NamedPart;
 
 using Events = std::vector<std::pair<u32, u32>>;
 
@@ -29,50 +34,62 @@ class Host {
   std::map<u32, f64> tokens;
   Events events;
   WindowCalls windows;
-  /// Called for every key event, to let tokens follow.
-  std::map<u32, std::function<void()>> on_event;
 
-  /// Lets each event flip its token between 0 and 1, as the host's switches do.
-  void flips(u32 event, u32 token);
+  /// The tokens that the module has looked up so far.
+  std::set<u32> looked_up;
+
+  /// Whether each key event named after a token ("battery_toggle") flips it, as the aircraft does.
+  bool follows = false;
 };
 
-/// A running gauge of the module, by its name.
+/// A value of an element: its source and its routine.
+struct Reading {
+  TokenVariable* source;
+  ValueRoutine routine;  ///< null: the value is the source's
+  bool evaluated = true;
+};
+
+/// A running gauge of the module.
 class Gauge {
  public:
   explicit Gauge(std::string_view name);
+  explicit Gauge(const GaugeHeader& header);
 
   const GaugeHeader& header() const { return *header_; }
-  const std::vector<Element*>& chain() const { return chain_; }
+  const std::vector<NamedPart>& parts() const { return parts_; }
+  const std::vector<NamedArea>& areas() const { return areas_; }
 
-  /// Runs whole frames: tick, the values of every shown element, after values, before draw.
+  /// Runs whole frames: tick, the values of every element that is neither hidden nor covered by its
+  /// lit copy, after values, before draw.
   void frame(int count = 1);
 
   /// Sends one service id.
   void service(u32 id, uintptr_t extra_data = 0);
 
-  /// Clicks at a pixel of the background. Fails the test where nothing answers there.
-  void click(i32 x, i32 y, u32 flags = MOUSE_LEFT);
-  void right_click(i32 x, i32 y) { click(x, y, MOUSE_RIGHT); }
+  /// Clicks in the middle of a control's box. Fails the test where another one answers, or none.
+  void click(std::string_view control, u32 flags = MOUSE_LEFT);
+  void right_click(std::string_view control) { click(control, MOUSE_RIGHT); }
 
-  /// The value of the element with that bitmap in the set that shows, after the last frame. `nth`
-  /// counts from 0 among the elements of the set with the same bitmap, in chain order.
-  f64 value(i32 resource, int nth = 0) const;
-
-  /// The element at a position of the set that shows.
-  f64 value_at(PanelPoint position) const;
-
-  /// A text of the set that shows.
-  std::string text(int nth = 0) const;
+  /// What a part showed in the last frame: the value of its shown copy, and of a text its letters.
+  f64 value(std::string_view part) const;
+  f64 value(const NamedPart& part) const { return values_[part.index]; }
+  std::string text(std::string_view part) const;
 
  private:
-  std::size_t index_of(i32 resource, int nth) const;
   const GaugeHeader* header_;
+  std::vector<NamedPart> parts_;
+  std::vector<NamedArea> areas_;
   std::vector<Element*> chain_;
+  std::vector<std::vector<Reading>> readings_;
+  std::vector<std::size_t> covered_by_;  ///< a later copy of each element, or 0
   std::vector<f64> values_;
 };
 
-/// The header of a gauge by name; null if the module has none.
-const GaugeHeader* find(std::string_view name);
+/// Every gauge of the module that has parts or areas; not the sound gauge, which asks for a device.
+std::vector<Gauge> built_gauges();
+
+/// A gauge's elements from the background on.
+std::vector<Element*> chain_of(const GaugeHeader& gauge);
 
 /// How many sounds are asked for just now; and the test's ear: asks, and takes the request away.
 int sounds_requested();

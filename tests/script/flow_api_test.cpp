@@ -116,7 +116,6 @@ struct Failure {
 TEST_F(FlowApi, SaysWhyAFlowFails) {
   const Failure failures[] = {
       {"expect(image('Masterbat', 40) == 1, 'the lamp is dark')", "the lamp is dark"},
-      {"expect(nil)", "the expectation is not met"},
       {"expect_near(3, 5, 1.5, 'the needle')", "the needle is 3, not within 1.5 of 5"},
       {"expect_near(nil, 5, 1)", "the value is nil, not within 1 of 5"},
       {"expect_event('battery_toggle')", "the gauges have not sent battery_toggle but nothing"},
@@ -143,17 +142,12 @@ TEST_F(FlowApi, SaysWhyAFlowFails) {
       {"sound_level(0)", "argument 1 (seconds) must be 0 to 10"},
       {"picture('../escape')", "argument 1 (name) must be letters, digits, - and _"},
       {"picture('big', nil, 100)", "argument 3 (zoom) must be 0.1 to 4"},
-      {"while true do local a = now() end", "the flow computes without ever waiting: an endless loop?"},
   };
   for (const Failure& each : failures) {
     const std::string message = fly(each.text);
     EXPECT_EQ(message.rfind(std::string("t.lua:1: ") + each.message, 0), 0u)
         << each.text << "\n  " << message;
   }
-}
-
-TEST_F(FlowApi, LongFlowsThatWaitAreNoEndlessLoops) {
-  EXPECT_EQ(fly("for i = 1, 200 do for k = 1, 100000 do end wait(0.05) end"), "");
 }
 
 }  // namespace

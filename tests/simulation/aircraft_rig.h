@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <string>
 #include <string_view>
 
 #include "host/simulation/aircraft_model.h"
@@ -39,5 +40,20 @@ inline double seconds_until(AircraftModel& aircraft, std::string_view name, doub
   EXPECT_TRUE(passed()) << name << " stays at " << reading(aircraft, name);
   return aircraft.seconds() - start;
 }
+
+/// Stories of one engine, one generator, one side at a time: told for both, while the other one rests.
+/// A # in a row's name stands for the side's number.
+class EachSide : public testing::TestWithParam<int> {
+ protected:
+  std::string own(std::string_view row) const { return numbered(row, GetParam()); }
+  std::string other(std::string_view row) const { return numbered(row, 3 - GetParam()); }
+
+ private:
+  static std::string numbered(std::string_view row, int side) {
+    std::string name(row);
+    std::ranges::replace(name, '#', static_cast<char>('0' + side));
+    return name;
+  }
+};
 
 }  // namespace host

@@ -14,133 +14,188 @@ struct PoweredAircraft : AircraftModel {
   }
 };
 
-void expect_ground_idle(const AircraftModel& aircraft, std::string_view engine) {
-  const auto value = [&](const char* what) { return reading(aircraft, std::string(engine) + what); };
-  EXPECT_NEAR(value("_core_speed"), 52.0, 2.0);
-  EXPECT_NEAR(value("_fan_speed"), 24.0, 3.0);
-  EXPECT_NEAR(value("_gas_temperature") / 4.0, 410.0, 20.0);
-  EXPECT_NEAR(value("_fuel_flow") / 100.0, 325.0, 20.0);
-  EXPECT_NEAR(value("_oil_pressure") * 100.0 / 32768.0, 39.0, 3.0);
-  EXPECT_GT(value("_pressure_ratio"), 1.01);
-}
+class EngineStart : public EachSide {
+ protected:
+  static void expect_ground_idle(const AircraftModel& aircraft, const std::string& engine) {
+    const auto value = [&](const char* what) { return reading(aircraft, engine + what); };
+    EXPECT_NEAR(value("core_speed"), 52.0, 2.0) << engine;
+    EXPECT_NEAR(value("fan_speed"), 24.0, 3.0) << engine;
+    EXPECT_NEAR(value("gas_temperature") / 4.0, 410.0, 20.0) << engine;
+    EXPECT_NEAR(value("fuel_flow") / 100.0, 325.0, 20.0) << engine;
+    EXPECT_NEAR(value("oil_pressure") * 100.0 / 32768.0, 39.0, 3.0) << engine;
+    EXPECT_GT(value("oil_temperature") * 140.0 / 16384.0, 20.0) << engine;
+    EXPECT_GT(value("pressure_ratio"), 1.01) << engine;
+  }
 
-TEST(EngineStart, One_event_cranks_the_engine_past_the_start_panels_25_percent) {
+  static void expect_cold(const AircraftModel& aircraft, const std::string& engine) {
+    const AircraftModel parked;
+    for (const char* what : {"core_speed", "fan_speed", "gas_temperature", "fuel_flow", "oil_pressure",
+                             "oil_temperature", "pressure_ratio"})
+      EXPECT_NEAR(reading(aircraft, engine + what), reading(parked, engine + what), 1e-6)
+          << engine << what;
+  }
+};
+
+TEST_P(EngineStart, One_event_cranks_the_engine_past_the_start_panels_25_percent) {
   PoweredAircraft aircraft;
-  send(aircraft, "starter_1_engage");
-  EXPECT_NEAR(seconds_until(aircraft, "engine_1_core_speed", 22.0), 10.0, 1.0);
-  EXPECT_LT(seconds_until(aircraft, "engine_1_core_speed", 25.05), 7.0);
+  send(aircraft, own("starter_#_engage"));
+  EXPECT_NEAR(seconds_until(aircraft, own("engine_#_core_speed"), 22.0), 10.0, 1.0);
+  EXPECT_LT(seconds_until(aircraft, own("engine_#_core_speed"), 25.05), 7.0);
   aircraft.advance(60.0);
-  EXPECT_NEAR(reading(aircraft, "engine_1_core_speed"), 27.7, 0.5) << "no more without fuel";
-  EXPECT_LT(reading(aircraft, "engine_1_gas_temperature") / 4.0, 20.0);
-  EXPECT_EQ(reading(aircraft, "engine_2_core_speed"), 0.0);
+  EXPECT_NEAR(reading(aircraft, own("engine_#_core_speed")), 27.7, 0.5) << "no more without fuel";
+  EXPECT_LT(reading(aircraft, own("engine_#_gas_temperature")) / 4.0, 20.0);
+  expect_cold(aircraft, other("engine_#_"));
   aircraft.advance(180.0);
-  EXPECT_LT(reading(aircraft, "engine_1_core_speed"), 5.0) << "the starter's duty time is over";
+  EXPECT_LT(reading(aircraft, own("engine_#_core_speed")), 5.0) << "the starter's duty time is over";
 }
 
-TEST(EngineStart, Fuel_may_come_at_any_time_of_the_cranking) {
-  for (double lever_at_percent : {-1.0, 16.0, 20.0, 25.5}) {
+TEST_P(EngineStart, Fuel_may_come_at_any_time_of_the_cranking) {
+  for (double lever_at_percent : {-1.0, 16.0, 25.5}) {
     SCOPED_TRACE(lever_at_percent);
     PoweredAircraft aircraft;
-    send(aircraft, "starter_2_engage");
+    send(aircraft, own("starter_#_engage"));
     const double start_s = aircraft.seconds();
-    seconds_until(aircraft, "engine_2_core_speed", lever_at_percent);
-    send(aircraft, "fuel_lever_2_toggle");
+    seconds_until(aircraft, own("engine_#_core_speed"), lever_at_percent);
+    send(aircraft, own("fuel_lever_#_toggle"));
+    EXPECT_EQ(reading(aircraft, other("fuel_lever_#")), 0.0);
     double peak = 0.0;
-    while (reading(aircraft, "engine_2_core_speed") < 50.0 && aircraft.seconds() < 100.0) {
+    while (reading(aircraft, own("engine_#_core_speed")) < 50.0 && aircraft.seconds() < 100.0) {
       aircraft.advance(1.0 / 60.0);
-      peak = std::max(peak, reading(aircraft, "engine_2_gas_temperature") / 4.0);
+      peak = std::max(peak, reading(aircraft, own("engine_#_gas_temperature")) / 4.0);
     }
     EXPECT_NEAR(aircraft.seconds() - start_s, 35.0, 3.0);
     EXPECT_NEAR(peak, 570.0, 25.0) << "above idle, well below take-off";
     aircraft.advance(20.0);
-    expect_ground_idle(aircraft, "engine_2");
-    EXPECT_EQ(reading(aircraft, "engine_1_core_speed"), 0.0);
+    expect_ground_idle(aircraft, own("engine_#_"));
+    expect_cold(aircraft, other("engine_#_"));
   }
+}
+
+TEST_P(EngineStart, Fuel_for_the_other_engine_lights_neither) {
+  PoweredAircraft aircraft;
+  send(aircraft, other("fuel_lever_#_toggle"));
+  send(aircraft, own("starter_#_engage"));
+  aircraft.advance(40.0);
+  EXPECT_LT(reading(aircraft, own("engine_#_core_speed")), 30.0);
+  EXPECT_EQ(reading(aircraft, own("engine_#_fuel_flow")), 0.0);
+  expect_cold(aircraft, other("engine_#_"));
 }
 
 // The start panel repeats its event up to ten times a frame while the core turns.
-TEST(EngineStart, Repeated_events_change_nothing) {
+TEST_P(EngineStart, Repeated_events_change_nothing) {
   PoweredAircraft once;
   PoweredAircraft often;
-  send(once, "fuel_lever_1_toggle");
-  send(often, "fuel_lever_1_toggle");
-  send(once, "starter_1_engage");
-  for (int i = 0; i < 60 * 60; ++i) {
-    for (int repeat = 0; repeat < 10; ++repeat) send(often, "starter_1_engage");
+  send(once, own("fuel_lever_#_toggle"));
+  send(often, own("fuel_lever_#_toggle"));
+  send(once, own("starter_#_engage"));
+  for (int i = 0; i < 40 * 60; ++i) {
+    send(often, own("starter_#_engage"));
+    send(often, own("starter_#_engage"));
     once.advance(1.0 / 60.0);
     often.advance(1.0 / 60.0);
-    ASSERT_EQ(reading(often, "engine_1_core_speed"), reading(once, "engine_1_core_speed")) << i;
+    ASSERT_EQ(reading(often, own("engine_#_core_speed")), reading(once, own("engine_#_core_speed")))
+        << i;
   }
 }
 
-TEST(EngineStart, In_the_air_only_the_apu_or_the_other_engine_can_crank) {
+TEST_P(EngineStart, In_the_air_only_the_apu_or_the_other_engine_can_crank) {
   using simulation::EngineStartInputs;
-  const auto cranks = [](const EngineStartInputs& inputs) {
+  const auto side = static_cast<std::size_t>(GetParam() - 1);
+  const auto cranks = [side](const EngineStartInputs& inputs) {
     simulation::EngineStart start;
-    start.starters[0].engage(0.0);
+    start.starters[side].engage(0.0);
     start.update(1.0 / 60.0, inputs);
-    return start.crank_speed_percent[0] > 25.0;
+    EXPECT_EQ(start.crank_speed_percent[1 - side], 0.0);
+    return start.crank_speed_percent[side] > 25.0;
   };
+  EngineStartInputs other_runs{.has_dc = true, .on_ground = false};
+  other_runs.core_speed_percent[1 - side] = 70.0;
   EXPECT_TRUE(cranks({.has_dc = true}));
   EXPECT_FALSE(cranks({.has_dc = true, .on_ground = false}));
   EXPECT_TRUE(cranks({.has_dc = true, .apu_at_speed = true, .on_ground = false}));
-  EXPECT_TRUE(cranks({.core_speed_percent = {0, 70}, .has_dc = true, .on_ground = false}));
+  EXPECT_TRUE(cranks(other_runs));
 }
 
-TEST(EngineStart, Nothing_turns_without_current_and_nothing_burns_without_sparks) {
-  AircraftModel dead;
-  send(dead, "starter_1_engage");
-  dead.advance(20.0);
-  EXPECT_EQ(reading(dead, "engine_1_core_speed"), 0.0);
-
-  for (bool armed : {false, true}) {
-    AircraftModel running_down(StartCondition::ready);
-    send(running_down, "fuel_lever_1_toggle");
-    running_down.advance(5.0);
-    if (armed) send(running_down, "ignition_arm");
-    send(running_down, "fuel_lever_1_toggle");
-    running_down.advance(40.0);
-    EXPECT_EQ(reading(running_down, "engine_1_core_speed") > 30.0, armed);
+// One that runs down can be lit again in time, by the start master or by its own starter's sparks.
+TEST_P(EngineStart, Nothing_burns_without_sparks_of_its_own) {
+  struct Case {
+    std::string sparks;
+    bool burns;
+  };
+  for (const auto& [sparks, burns] :
+       {Case{"", false}, Case{"ignition_arm", true}, Case{own("starter_#_engage"), true},
+        Case{other("starter_#_engage"), false}}) {
+    AircraftModel aircraft(StartCondition::ready);
+    for (const char* lever : {"fuel_lever_1_toggle", "fuel_lever_2_toggle"}) send(aircraft, lever);
+    aircraft.advance(10.0);
+    if (!sparks.empty()) send(aircraft, sparks);
+    send(aircraft, own("fuel_lever_#_toggle"));
+    aircraft.advance(40.0);
+    EXPECT_EQ(reading(aircraft, own("engine_#_core_speed")) > 35.0, burns) << "with " << sparks;
+    EXPECT_LT(reading(aircraft, other("engine_#_core_speed")), 30.0) << "with " << sparks;
   }
 }
 
-TEST(EngineStart, A_fuel_lever_closed_during_the_start_leaves_the_engine_cranking) {
-  PoweredAircraft aircraft;
-  send(aircraft, "fuel_lever_1_toggle");
-  send(aircraft, "starter_1_engage");
-  seconds_until(aircraft, "engine_1_core_speed", 35.0);
-  send(aircraft, "fuel_lever_1_toggle");
-  aircraft.advance(40.0);
-  EXPECT_NEAR(reading(aircraft, "engine_1_core_speed"), 27.7, 0.5);
-  EXPECT_LT(reading(aircraft, "engine_1_gas_temperature") / 4.0, 200.0);
+TEST_P(EngineStart, Goes_on_while_the_other_engine_runs) {
+  AircraftModel aircraft(StartCondition::ready);
+  send(aircraft, own("fuel_lever_#_toggle"));
+  aircraft.advance(120.0);
+  send(aircraft, own("fuel_lever_#_toggle"));
+  send(aircraft, own("starter_#_engage"));
+  aircraft.advance(60.0);
+  expect_ground_idle(aircraft, own("engine_#_"));
 }
 
-TEST(EngineStart, Automatic_start_brings_a_cold_aircraft_to_idle) {
+TEST_P(EngineStart, A_fuel_lever_closed_during_the_start_leaves_the_engine_cranking) {
+  PoweredAircraft aircraft;
+  send(aircraft, own("fuel_lever_#_toggle"));
+  send(aircraft, own("starter_#_engage"));
+  seconds_until(aircraft, own("engine_#_core_speed"), 35.0);
+  send(aircraft, own("fuel_lever_#_toggle"));
+  aircraft.advance(40.0);
+  EXPECT_NEAR(reading(aircraft, own("engine_#_core_speed")), 27.7, 0.5);
+  EXPECT_LT(reading(aircraft, own("engine_#_gas_temperature")) / 4.0, 200.0);
+}
+
+TEST_P(EngineStart, Engine_runs_down_in_a_minute_when_fuel_is_cut) {
+  AircraftModel aircraft(StartCondition::ready);
+  send(aircraft, own("fuel_lever_#_toggle"));
+  aircraft.advance(0.1);
+  EXPECT_EQ(reading(aircraft, own("engine_#_fuel_flow")), 0.0);
+  EXPECT_NEAR(seconds_until(aircraft, own("engine_#_core_speed"), 10.0, false), 29.0, 3.0);
+  EXPECT_GT(reading(aircraft, own("engine_#_gas_temperature")) / 4.0, 100.0) << "it stays warm";
+  EXPECT_NEAR(seconds_until(aircraft, own("engine_#_core_speed"), 0.1, false), 28.0, 5.0);
+  aircraft.advance(60.0);
+  EXPECT_EQ(reading(aircraft, own("engine_#_core_speed")), 0.0);
+  EXPECT_LT(reading(aircraft, own("engine_#_fan_speed")), 0.1);
+  expect_ground_idle(aircraft, other("engine_#_"));
+}
+
+TEST_P(EngineStart, Automatic_start_and_hot_air_from_the_intakes_work_on_each_engine) {
   AircraftModel aircraft;
   send(aircraft, "automatic_start");
-  EXPECT_EQ(reading(aircraft, "battery"), 1.0);
-  EXPECT_EQ(reading(aircraft, "fuel_lever_1"), 1.0);
-  aircraft.advance(60.0);
-  expect_ground_idle(aircraft, "engine_1");
-  expect_ground_idle(aircraft, "engine_2");
+  aircraft.advance(120.0);
+  expect_ground_idle(aircraft, own("engine_#_"));
+  const double idle = reading(aircraft, own("engine_#_gas_temperature"));
+  send(aircraft, "engine_antiice_on");
+  aircraft.advance(20.0);
+  EXPECT_NEAR(reading(aircraft, own("engine_#_gas_temperature")), idle + 15.0 * 4.0, 8.0);
+  send(aircraft, "engine_antiice_off");
   send(aircraft, "automatic_start");
-  aircraft.advance(10.0);
-  expect_ground_idle(aircraft, "engine_1");
+  aircraft.advance(20.0);
+  EXPECT_NEAR(reading(aircraft, own("engine_#_gas_temperature")), idle, 4.0)
+      << "a second start does nothing";
 }
 
-TEST(EngineStart, Engine_runs_down_in_a_minute_when_fuel_is_cut) {
-  AircraftModel aircraft(StartCondition::ready);
-  expect_ground_idle(aircraft, "engine_1");
-  send(aircraft, "fuel_lever_1_toggle");
-  aircraft.advance(0.1);
-  EXPECT_EQ(reading(aircraft, "engine_1_fuel_flow"), 0.0);
-  EXPECT_NEAR(seconds_until(aircraft, "engine_1_core_speed", 10.0, false), 29.0, 3.0);
-  EXPECT_GT(reading(aircraft, "engine_1_gas_temperature") / 4.0, 100.0) << "it stays warm";
-  EXPECT_NEAR(seconds_until(aircraft, "engine_1_core_speed", 0.1, false), 28.0, 5.0);
-  aircraft.advance(60.0);
-  EXPECT_EQ(reading(aircraft, "engine_1_core_speed"), 0.0);
-  EXPECT_LT(reading(aircraft, "engine_1_fan_speed"), 0.1);
-  expect_ground_idle(aircraft, "engine_2");
+INSTANTIATE_TEST_SUITE_P(Sides, EngineStart, testing::Values(1, 2));
+
+TEST(Starter, Does_not_turn_without_current) {
+  AircraftModel dead;
+  send(dead, "starter_1_engage");
+  send(dead, "starter_2_engage");
+  dead.advance(20.0);
+  EXPECT_EQ(reading(dead, "engine_1_core_speed"), 0.0);
+  EXPECT_EQ(reading(dead, "engine_2_core_speed"), 0.0);
 }
 
 }  // namespace

@@ -15,7 +15,7 @@ void toggle(Aircraft& aircraft, std::uint32_t) {
 }
 
 constexpr TokenRow tokens[] = {
-    {{10, "panel_lights", "0/1"}, lit<&Lights::panel>},
+    {{token::panel_lights, "panel_lights", "0/1"}, lit<&Lights::panel>},
     {{11, "strobe_lights", "0/1"}, lit<&Lights::strobe>},
     {{14, "landing_lights", "0/1"}, lit<&Lights::landing>},
     {{368, "beacon_lights", "0/1"}, lit<&Lights::beacon>},
@@ -25,7 +25,7 @@ constexpr TokenRow tokens[] = {
 };
 
 constexpr EventRow events[] = {
-    {{0x100D6, "panel_lights_toggle", ""}, toggle<&Lights::panel>},
+    {{event::panel_lights_toggle, "panel_lights_toggle", ""}, toggle<&Lights::panel>},
     {{0x10018, "strobe_lights_toggle", ""}, toggle<&Lights::strobe>},
     {{0x100D7, "landing_lights_toggle", ""}, toggle<&Lights::landing>},
     {{0x102BF, "beacon_lights_toggle", ""}, toggle<&Lights::beacon>},

@@ -1,59 +1,37 @@
-/// Selected temperatures: two small indicators and the lever between them.
-#include "resources/kit/dial.h"
-#include "resources/kit/metal.h"
-#include "resources/kit/needle.h"
-#include "resources/panels/panels.h"
-#include "resources/panels/shared/fittings.h"
+/// Selected temperatures: two small indicators and the fan's lever between them.
+#include "resources/art.h"
 
-namespace artwork {
-namespace {
+namespace artwork::panels::tempset {
 
-constexpr std::string_view panel = "Tempset";
-constexpr double radius = 20.5;
-constexpr double needle_length = 13.5;
-
-void draw_indicator(const Canvas& canvas, int nth, Lighting lighting) {
-  const Dial d{place(panel, 220, nth), radius, 2.6};
-  meter(
-      canvas, d, lighting,
-      [&](Colour ink) {
-        const Scale scale(canvas, part(panel, 220, nth), ink);
-        const double rim = d.face() - 1.6;
-        scale.marks({0, 10, 5, rim - 3.5, rim, 1.2});
-        scale.marks({0, 10, 1, rim - 2, rim, 0.7});
-        print(canvas, d.centre + Point{-9, 5.5}, "C", {.size = 8, .colour = ink});
-        print(canvas, d.centre + Point{9, 5.5}, "H", {.size = 8, .colour = ink});
-      },
-      3);
-}
-
-void draw_face(const Canvas& canvas, Lighting lighting) {
-  painted_plate(canvas);
-  corner_screws(canvas, 7, 3.2);
-  fit_parts(canvas, panel);
-  for (int nth = 0; nth < 2; ++nth) {
-    draw_indicator(canvas, nth, lighting);
-    engrave(canvas, {place(panel, 220, nth).x + (nth == 0 ? 5 : -5), canvas.size().height - 14.0},
-            nth == 0 ? "TEMP 1" : "TEMP 2");
-  }
-  const Point hub = hub_of(panel, 2130);
-  engrave(canvas, {hub.x, hub.y - 28}, "RECIRC FAN");
-  lever_words(canvas, hub, {.aside = 12});
-  engrave(canvas, {hub.x, hub.y + 31}, "TEMP SELECT", {.size = heading_size});
-}
-
-void draw_needle(Canvas& canvas, int) {
-  blade(canvas, {.pivot = {0, 1}, .length = needle_length, .tail = 0, .half_width = 1});
-}
-
-constexpr Art art[] = {
-    background(210, plate_by_day<draw_face>, "selected temperatures"),
-    {220, 1, needle_size({0, 1}, needle_length), draw_needle, "selected temperature needle"},
-    lighting_overlay(230, 210, plate_lit<draw_face>, "selected temperatures lit"),
+constexpr Print share[] = {
+    Marks{0, 10, 5, 3.5, 1.2},
+    Marks{0, 10, 1, 2, 0.7},
 };
 
-}  // namespace
+constexpr Dial selected(std::string_view needle) {
+  return {.radius = 20.5,
+          .scales = {{.needle = needle, .print = share, .rim = 16.3}},
+          .words = {{"C", {-9, 5.5}, 8}, {"H", {9, 5.5}, 8}},
+          .boss = 3,
+          .bezel = 2.6};
+}
 
-const std::span<const Art> tempset_art = art;
+constexpr Item items[] = {
+    CornerScrews{7, 3.2},
+    selected("left_selected_temperature"),
+    selected("right_selected_temperature"),
+    Legend{at("left_selected_temperature", 5, 30), "TEMP 1"},
+    Legend{at("right_selected_temperature", -5, 27), "TEMP 2"},
+    above("recirculation_fan_switch", "RECIRC FAN", {0, -2}),
+    right_of("recirculation_fan_switch", {}, 12),
+    heading(at("recirculation_fan_switch", 0, 31), "TEMP SELECT"),
+};
 
-}  // namespace artwork
+constexpr Art art[] = {
+    plate(84, items),
+    needle_art("left_selected_temperature", {.length = 13.5}),
+};
+
+constinit Unit unit{"Tempset", art};
+
+}  // namespace artwork::panels::tempset

@@ -1,47 +1,23 @@
 /// Avionics master: one large rotary switch and its lamp.
-#include "resources/kit/knob.h"
-#include "resources/kit/lamp.h"
-#include "resources/kit/metal.h"
-#include "resources/panels/panels.h"
-#include "resources/panels/shared/fittings.h"
+#include "resources/art.h"
 
-namespace artwork {
-namespace {
+namespace artwork::panels::avimaster {
 
-constexpr std::string_view panel = "Avimaster";
-constexpr double turned = 45;  // of the knob to either side
-constexpr double radius = 15.5;
-
-void draw_plate(Canvas& canvas, int) {
-  plate_of(canvas, panel);
-  const Point hub = part_box(panel, 2320).centre();
-  knob_seat(canvas, hub, radius + 1.6);
-  const Point off = polar(hub, radius + 9, -90 - turned), on = polar(hub, radius + 9, -90 + turned);
-  engrave(canvas, {off.x, off.y}, "OFF", {}, Anchor::right);
-  engrave(canvas, {on.x, on.y}, "ON", {}, Anchor::left);
-  for (const double way : {-turned, turned}) {
-    engraved_line(canvas, polar(hub, radius + 4, way - 90), polar(hub, radius + 7, way - 90));
-  }
-  engrave(canvas, {canvas.size().width / 2.0, 9}, "AVIONICS", {.size = heading_size});
-  engrave(canvas, {hub.x, hub.y + 28}, "MASTER", {.size = heading_size});
-}
-
-void draw_knob(Canvas& canvas, int image) {
-  bar_knob(canvas, whole(canvas.size()).centre(), radius, image == 0 ? -turned : turned);
-}
-
-void draw_lamp(Canvas& canvas, int image) {
-  lamp(canvas, whole(canvas.size()), {palette::lamp_green, "ON"}, image == 1);
-}
-
-constexpr Art art[] = {
-    background(2310, draw_plate, "avionics master panel"),
-    {2320, 2, {40, 40}, draw_knob, "avionics master: off, on"},
-    {2330, 2, {32, 23}, draw_lamp, "avionics lamp: dark, lit"},
+constexpr Item items[] = {
+    CornerScrews{},
+    ending(at("avionics_master_switch", -17.32, -17.32), "OFF"),
+    beginning(at("avionics_master_switch", 17.32, -17.32), "ON"),
+    heading(middle(9), "AVIONICS"),
+    heading(at("avionics_master_switch", 0, 28), "MASTER"),
 };
 
-}  // namespace
+constexpr Art art[] = {
+    plate(82, items),
+    knob_art("avionics_master_switch", {40, 40}, {-45, 45},
+             {.radius = 15.5, .seat = 1.6, .ticks = {4, 7}}),
+    lamp_art("avionics_lamp", {32, 23}, lens::green, "ON"),
+};
 
-const std::span<const Art> avimaster_art = art;
+constinit Unit unit{"Avimaster", art};
 
-}  // namespace artwork
+}  // namespace artwork::panels::avimaster

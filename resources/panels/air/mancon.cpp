@@ -1,0 +1,18 @@
+/// Manual control of the cabin pressure: one lit button. The test lights it whiter than the switch does.
+#include "resources/art.h"
+
+namespace artwork::panels::mancon {
+
+constexpr Item items[] = {
+    Legend{middle(7.5), "PRESS"},
+    Legend{at("manual_control_button", 0, 23), "CONTROL"},
+};
+
+constexpr Art art[] = {
+    plate(66, items),
+    button_art("manual_control_button", {30, 32}, {lens::amber, lens::white}, "MAN", heading_size),
+};
+
+constinit Unit unit{"Mancon", art};
+
+}  // namespace artwork::panels::mancon

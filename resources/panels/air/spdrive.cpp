@@ -1,0 +1,27 @@
+/// The drives of the outflow valves: guarded switches, and a light for each.
+#include "resources/art.h"
+
+namespace artwork::panels::spdrive {
+
+constexpr std::string_view a = "drive_a_guard", b = "drive_b_guard";
+
+constexpr Item items[] = {
+    CornerScrews{},
+    heading(at("drive_a_lamp", -34.5), "DRIVE"),
+    below("drive_a_lamp", "A"),
+    below("drive_b_lamp", "B"),
+    above(a, "DRIVE A", {4, -2}),
+    Legend{at(b, -4, -41).level_with(a), "DRIVE B"},
+    Legend{between(a, b, 0, -3).level_with(a), "ON"},
+    Legend{between(a, b, 0, 21).level_with(a), "OFF"},
+    heading(between(a, b, 0, -60).level_with(a), "OUTFLOW VALVES"),
+};
+
+constexpr Art art[] = {
+    plate(160, items),
+    lamp_art("drive_a_lamp", {25, 20}, lens::green, "ON", 7.5),
+};
+
+constinit Unit unit{"Spdrive", art};
+
+}  // namespace artwork::panels::spdrive

@@ -1,0 +1,236 @@
+/// What every control of the cockpit does, seen in a long walk that works them all: each moves the
+/// part it is named after and no other control, on its own side and not on the other.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "module/tokens.h"
+#include "tests/module/walk.h"
+
+namespace {
+
+using namespace tarnvale;
+using walk::Stimulus;
+
+std::vector<const Stimulus*> controls() {
+  std::vector<const Stimulus*> all;
+  for (const Stimulus& s : walk::result().stimuli) {
+    if (s.area) all.push_back(&s);
+  }
+  return all;
+}
+
+const rig::Gauge& gauge_of(const Stimulus& s) { return walk::result().gauges[s.gauge]; }
+const rig::NamedPart* part_of(const Stimulus& s) { return walk::part_of(gauge_of(s), s.name); }
+
+bool ends_with_one_of(std::string_view name, std::initializer_list<std::string_view> ends) {
+  return std::ranges::any_of(ends, [&](std::string_view end) { return name.ends_with(end); });
+}
+
+/// A light under test is no control.
+bool is_test(std::string_view control) { return control.find("test") != std::string_view::npos; }
+
+TEST(Controls, EachMovesThePartItIsNamedAfter) {
+  const std::set<std::string> printed_on_the_plate{"Lightsp fire_test_button",
+                                                   "Cabalt standard_pressure_button"};
+  for (const Stimulus* control : controls()) {
+    const rig::NamedPart* part = part_of(*control);
+    EXPECT_EQ(part == nullptr, printed_on_the_plate.contains(control->text())) << control->text();
+    if (part == nullptr) {
+      EXPECT_TRUE(control->heeded) << control->text() << " does nothing";
+    } else {
+      EXPECT_TRUE(control->changed.contains({gauge_of(*control).header().name, part->name}))
+          << control->text() << " leaves " << part->name;
+    }
+  }
+}
+
+/// A guard that closes takes the switch under it along.
+bool is_guard_of(std::string guard, std::string_view control) {
+  const std::size_t at = guard.rfind("guard");
+  return at != std::string::npos && guard.replace(at, 5, "switch") == control;
+}
+
+TEST(Controls, EachLeavesTheOtherControlsOfItsGaugeAlone) {
+  // The APU's master ends its start.
+  const auto goes_along = [](const Stimulus& control, const std::string& part) {
+    return control.text() == "Apu master_switch" && part == "start_button";
+  };
+  for (const Stimulus* control : controls()) {
+    const rig::Gauge& gauge = gauge_of(*control);
+    const rig::NamedPart* own = part_of(*control);
+    for (const rig::NamedArea& other : gauge.areas()) {
+      const rig::NamedPart* part = walk::part_of(gauge, other.name);
+      if (own == nullptr || part == nullptr || part == own || is_test(other.name)) continue;
+      if (is_guard_of(own->name, part->name) || goes_along(*control, part->name)) continue;
+      EXPECT_FALSE(control->changed.contains({gauge.header().name, part->name}))
+          << control->text() << " moves " << part->name;
+    }
+  }
+}
+
+TEST(Controls, ASideAnswersToItsOwnControlsAndTokens) {
+  for (const Stimulus& stimulus : walk::result().stimuli) {
+    const std::string gauge = gauge_of(stimulus).header().name;
+    const Stimulus* other = walk::result().find(gauge, walk::mirrored(stimulus.name));
+    for (const auto& [place, part] : stimulus.changed) {
+      if (part.ends_with("duct_hot_light")) continue;  // a duct that heats up lights it any time
+      EXPECT_FALSE(walk::opposite(stimulus.name, part))
+          << stimulus.text() << " moves " << place << ' ' << part;
+      if (!stimulus.area && place != gauge) continue;
+      const std::string other_part = walk::mirrored(part);
+      EXPECT_TRUE(other == nullptr || other_part.empty() ||
+                  other->changed.contains({place, other_part}))
+          << stimulus.text() << " moves " << place << ' ' << part << ", but " << other->name << " not "
+          << other_part;
+    }
+  }
+}
+
+/// Switches, levers and guards click like a toggle switch, buttons, knobs and selectors like a button,
+/// and a test button is silent.
+TEST(Controls, EachClickIsHeardOnce) {
+  const std::map<std::string, std::set<std::string>> unlike_its_kind{
+      {"Antiice left_engine_anti_ice_knob", {"toggle"}},  // a switch with a knob on it
+      {"Antiice right_engine_anti_ice_knob", {"toggle"}},
+      {"Windshield windshield_heat_knob", {"toggle"}},  // a switch with a knob on it
+      {"Engstart start_selector_off", {"toggle"}},      // a lever
+      {"Engstart start_selector_engine_1", {"toggle"}},
+      {"Engstart start_selector_engine_2", {"toggle"}},
+      {"Apu start_button", {"", " other"}},  // soft: the APU itself is heard
+  };
+  for (const Stimulus* control : controls()) {
+    const rig::NamedPart* part = part_of(*control);
+    const std::string& kind =
+        part != nullptr && part->element->kind == ELEMENT_ICON ? part->name : control->name;
+    const bool test = is_test(control->name);
+    const bool toggle = ends_with_one_of(kind, {"switch", "lever", "guard", "bank"});
+    std::set<std::string> expected{test ? "" : toggle ? "toggle" : "push"};
+    const auto unlike = unlike_its_kind.find(control->text());
+    if (unlike != unlike_its_kind.end()) expected = unlike->second;
+    EXPECT_EQ(control->sounds, expected) << control->text();
+  }
+}
+
+using Moves = std::set<std::pair<f64, f64>>;
+
+/// What the moves of a control are by its kind, from image to image of `last + 1`.
+Moves moves_of(std::string_view control, std::string_view part, f64 last) {
+  if (ends_with_one_of(control, {"up"}) && last == 2 && !part.ends_with("knob")) {
+    return {{0, 1}, {1, 0}, {2, 0}};
+  }
+  if (ends_with_one_of(control, {"down"}) && last == 2 && !part.ends_with("knob")) {
+    return {{0, 2}, {1, 0}, {2, 0}};
+  }
+  Moves moves;
+  for (f64 at = 0; at <= last; ++at) {
+    f64 to = at < last ? at + 1 : 0;
+    if (control.ends_with("up")) to = std::min(at + 1, last);
+    if (control.ends_with("down")) to = std::max(at - 1, 0.0);
+    moves.emplace(at, to);
+  }
+  return moves;
+}
+
+/// A lever goes from the centre to its half and from anywhere else to the centre; a knob or selector
+/// with two halves goes one step and stops at its ends; everything else goes round.
+TEST(Controls, EachHasTheMovesOfItsKind) {
+  const std::map<std::string, Moves> of_its_own{
+      {"Engstart start_selector_off", {{0, 0}, {1, 0}, {2, 0}}},
+      {"Engstart start_selector_engine_1", {{0, 2}, {1, 2}, {2, 2}}},
+      {"Engstart start_selector_engine_2", {{0, 1}, {1, 1}, {2, 1}}},
+      // The knob leans the way it was turned, but not at its end; a second later it stands again.
+      {"Tempcon left_temperature_selector_down", {{0, 0}, {0, 1}}},
+      {"Tempcon left_temperature_selector_up", {{0, 0}, {0, 2}}},
+      {"Tempcon right_temperature_selector_down", {{0, 0}, {0, 1}}},
+      {"Tempcon right_temperature_selector_up", {{0, 0}, {0, 2}}},
+      // Left switches it on and off, right tests it.
+      {"Mancon manual_control_button", {{0, 1}, {1, 0}, {1, 2}}},
+  };
+  for (const Stimulus* control : controls()) {
+    const rig::NamedPart* part = part_of(*control);
+    if (part == nullptr || part->element->kind != ELEMENT_ICON) continue;
+    if (is_test(control->name)) continue;
+    const f64 last = part->element->icon.image_count - 1.0;
+    Moves expected = moves_of(control->name, part->name, last);
+    const auto own = of_its_own.find(control->text());
+    if (own != of_its_own.end()) expected = own->second;
+    std::string guard = part->name;
+    if (guard.ends_with("switch")) guard.replace(guard.size() - 6, 6, "guard");
+    const bool guarded = guard != part->name && walk::part_of(gauge_of(*control), guard) != nullptr &&
+                         walk::part_of(gauge_of(*control), guard)->name == guard;
+    if (guarded) expected.emplace(0, 0);
+    Moves seen = control->moves;
+    if ((control->area->area->mouse_flags & MOUSE_RIGHT) != 0) {  // the right button tests a light
+      std::erase_if(seen, [](const auto& move) { return move.first == move.second; });
+    }
+    EXPECT_EQ(seen, expected) << control->text();
+  }
+}
+
+/// A disconnect light that has latched goes dark when its switch is worked under the closed guard.
+void darken_latched_lights(rig::Gauge& panel) {
+  for (const std::string drive : {"drive_1_disconnect_", "drive_2_disconnect_"}) {
+    panel.frame();
+    if (panel.value(drive + "guard") == 1) panel.click(drive + "guard");
+    panel.click(drive + "switch");
+  }
+}
+
+TEST(Controls, ALightUnderTestShinesForTwoSecondsAndTestsProlongEachOther) {
+  rig::Host host;
+  aircraft.duct_left_temp_normal = aircraft.duct_right_temp_normal = 1;
+  f64& clock = host.tokens[token::clock_seconds];
+  for (rig::Gauge& gauge : rig::built_gauges()) {
+    std::vector<std::pair<std::string, const rig::NamedPart*>> tests;
+    for (const rig::NamedArea& area : gauge.areas()) {
+      const rig::NamedPart* light = walk::part_of(gauge, area.name);
+      if (is_test(area.name) && light != nullptr) tests.emplace_back(area.name, light);
+    }
+    if (gauge.header().name == std::string("Acpwr")) darken_latched_lights(gauge);
+    for (const auto& [button, light] : tests) {
+      SCOPED_TRACE(std::string(gauge.header().name) + ' ' + button);
+      const auto shown_after = [&](f64 seconds) {
+        clock += seconds;
+        gauge.frame();
+        return gauge.value(*light);
+      };
+      const f64 dark = shown_after(100), lit = 1 - dark;
+      gauge.click(button);
+      EXPECT_EQ(shown_after(2.5), lit);
+      gauge.click(tests.back().first);
+      EXPECT_EQ(shown_after(1.5), lit);
+      EXPECT_EQ(shown_after(1), dark);
+      gauge.click(button);
+      EXPECT_EQ(shown_after(-9), lit) << "the clock may run back by up to 16 seconds";
+      EXPECT_EQ(shown_after(-8), dark) << "but not further";
+    }
+  }
+}
+
+TEST(Controls, TheCursorSaysWhichWayAHalfTurns) {
+  for (const Stimulus* control : controls()) {
+    const rig::NamedPart* part = part_of(*control);
+    const bool lever = part != nullptr && ends_with_one_of(part->name, {"lever", "switch"});
+    const i32 expected = lever                             ? CURSOR_HAND
+                         : control->name.ends_with("up")   ? CURSOR_INCREASE
+                         : control->name.ends_with("down") ? CURSOR_DECREASE
+                                                           : CURSOR_HAND;
+    EXPECT_EQ(control->area->area->cursor, expected) << control->text();
+  }
+}
+
+TEST(Controls, EveryImageOfAnIconIsShownAndNoOther) {
+  const std::set<walk::Place> in_stories{{"Bleedair", "duct_pressure_lamp"}};
+  for (const rig::Gauge& gauge : walk::result().gauges) {
+    for (const rig::NamedPart& part : gauge.parts()) {
+      const walk::Place place{gauge.header().name, part.name};
+      if (part.element->kind != ELEMENT_ICON || in_stories.contains(place)) continue;
+      std::set<f64> images;
+      for (f64 image = 0; image < part.element->icon.image_count; ++image) images.insert(image);
+      EXPECT_EQ(walk::result().shown.at(place), images) << place.first << ' ' << place.second;
+    }
+  }
+}
+
+}  // namespace

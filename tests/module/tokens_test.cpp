@@ -1,0 +1,59 @@
+/// Gauges and aircraft mean the same by a token and by an event.
+#include <gtest/gtest.h>
+
+#include "host/simulation/table.h"
+#include "tests/module/walk.h"
+
+namespace {
+
+using namespace host::simulation;
+
+struct Named {
+  u32 number;
+  const char *name, *unit;
+};
+constexpr Named tokens[] = {
+#define TOKEN(number, name, unit) {number, #name, unit},
+#define EVENT(number, name)
+#include "module/tokens.inc"
+#undef TOKEN
+#undef EVENT
+};
+constexpr Named events[] = {
+#define TOKEN(number, name, unit)
+#define EVENT(number, name) {number, #name, ""},
+#include "module/tokens.inc"
+#undef TOKEN
+#undef EVENT
+};
+
+TEST(Tokens, HaveTheNamesAndUnitsOfTheAircraft) {
+  for (const Named& token : tokens) {
+    const TokenRow* row = find_token(token.number);
+    ASSERT_NE(row, nullptr) << token.name << ' ' << token.number;
+    EXPECT_EQ(row->row.name, token.name);
+    EXPECT_EQ(row->row.unit, token.unit) << token.name;
+  }
+  for (const Named& event : events) {
+    const EventRow* row = find_event(event.number);
+    ASSERT_NE(row, nullptr) << event.name << ' ' << event.number;
+    EXPECT_EQ(row->row.name, event.name);
+  }
+}
+
+TEST(Tokens, WhatAGaugeReadsTheAircraftHasAndWhatItSendsTheAircraftTakes) {
+  for (const u32 token : walk::result().tokens) EXPECT_NE(find_token(token), nullptr) << token;
+  for (const u32 event : walk::result().events) EXPECT_NE(find_event(event), nullptr) << event;
+}
+
+/// Each stands in the list for a gauge that uses it.
+TEST(Tokens, AreAllUsed) {
+  for (const Named& token : tokens) {
+    EXPECT_TRUE(walk::result().tokens.contains(token.number)) << token.name;
+  }
+  for (const Named& event : events) {
+    EXPECT_TRUE(walk::result().events.contains(event.number)) << event.name;
+  }
+}
+
+}  // namespace

@@ -1,0 +1,264 @@
+#include "tests/module/walk.h"
+
+#include <algorithm>
+#include <cstring>
+#include <random>
+#include <sstream>
+
+#include "module/tokens.h"
+
+namespace walk {
+namespace {
+
+using namespace tarnvale;
+
+struct Token {
+  u32 number;
+  const char* name;
+  bool on_off;
+};
+
+/// All but the clock.
+constexpr Token tokens[] = {
+#define TOKEN(number, name, unit) {number, #name, std::string_view(unit) == "0/1"},
+#define EVENT(number, name)
+#include "module/tokens.inc"
+#undef TOKEN
+#undef EVENT
+};
+
+/// What a gauge shows: the values of its parts, and of a text the letters as a number.
+using Picture = std::vector<f64>;
+
+Picture picture(const rig::Gauge& gauge) {
+  Picture all;
+  for (const rig::NamedPart& part : gauge.parts()) {
+    const Element& e = *part.element;
+    const bool text = e.kind == ELEMENT_STRING;
+    all.push_back(text ? static_cast<f64>(std::hash<std::string_view>()(e.string.text) >> 12)
+                       : gauge.value(part));
+  }
+  return all;
+}
+
+std::string sounds_of_click() {
+  std::string sounds;
+  if (rig::heard(toggle_click_sound_request)) sounds += "toggle";
+  if (rig::heard(click_sound_request)) sounds += "push";
+  for (u32& other : aircraft.sound_requests) {
+    if (std::exchange(other, 0u) != 0) sounds += " other";
+  }
+  return sounds;
+}
+
+class Walk {
+  static constexpr int rounds = 60, steps_a_stimulus = 4;
+
+ public:
+  Result run() {
+    host_.follows = true;
+    result_.gauges = rig::built_gauges();
+    list_stimuli();
+    for (const Token& token : tokens) randomize(token);
+    for (int round = 0; round < rounds; ++round) {
+      for (std::size_t g = 0; g < result_.gauges.size(); ++g) visit(g);
+    }
+    result_.tokens = host_.looked_up;
+    return std::move(result_);
+  }
+
+ private:
+  std::size_t random(std::size_t below) { return static_cast<std::size_t>(bits_() % below); }
+
+  /// Stays with a gauge long enough for its guards to be opened and its selectors to be turned far.
+  void visit(std::size_t gauge) {
+    std::vector<Stimulus*> own;
+    for (Stimulus& stimulus : result_.stimuli) {
+      if (stimulus.gauge == gauge) own.push_back(&stimulus);
+    }
+    for (std::size_t step = 0; step < own.size() * steps_a_stimulus; ++step) {
+      whole_cockpit_ = random(9) == 0;
+      change_surroundings();
+      stimulate(*own[random(own.size())]);
+    }
+  }
+
+  void randomize(const Token& token) {
+    constexpr f64 values[] = {0, 1, 5, 9, 12, 30, 60, 75, 84, 110, 3000, 9000, 22000, 40000};
+    if (token.number == token::clock_seconds) return;
+    host_.tokens[token.number] = values[random(token.on_off ? 2 : std::size(values))];
+  }
+
+  void list_stimuli() {
+    for (std::size_t g = 0; g < result_.gauges.size(); ++g) {
+      rig::Gauge& gauge = result_.gauges[g];
+      for (const rig::NamedArea& area : gauge.areas()) {
+        result_.stimuli.push_back({.gauge = g, .area = area, .name = area.name});
+      }
+      host_.looked_up.clear();
+      gauge.frame();
+      for (const Token& token : tokens) {
+        if (!host_.looked_up.contains(token.number) || token.number == token::clock_seconds) continue;
+        result_.stimuli.push_back({.gauge = g, .token = token.number, .name = token.name});
+      }
+    }
+  }
+
+  /// Time passes, so that what was held is over, and now and then something else has happened.
+  void change_surroundings() {
+    host_.tokens[token::clock_seconds] += 10;
+    aircraft.start_air_available = 0;  // a start would move its switches by itself
+    if (random(4) == 0) randomize(tokens[random(std::size(tokens))]);
+    if (random(2) == 0) host_.tokens[token::battery] = 1;
+    if (random(16) == 0) aircraft.ground_power_connected = static_cast<u32>(random(2));
+  }
+
+  /// The stimulus's own gauge, and now and then all.
+  std::vector<rig::Gauge*> watched(std::size_t own) {
+    if (!whole_cockpit_) return {&result_.gauges[own]};
+    std::vector<rig::Gauge*> all;
+    for (rig::Gauge& gauge : result_.gauges) all.push_back(&gauge);
+    return all;
+  }
+
+  void stimulate(Stimulus& stimulus) {
+    constexpr int settling = 3;  // frames until what one gauge has changed is seen on all others
+    const std::vector<rig::Gauge*> gauges = watched(stimulus.gauge);
+    std::vector<Picture> idle, before;
+    run(gauges, settling);
+    for (const rig::Gauge* gauge : gauges) idle.push_back(picture(*gauge));
+    run(gauges, settling);
+    for (const rig::Gauge* gauge : gauges) before.push_back(picture(*gauge));
+    act(stimulus);
+    run(gauges, 1);
+    note_move(stimulus, before[gauges.size() > 1 ? stimulus.gauge : 0]);
+    run(gauges, settling);
+    for (std::size_t g = 0; g < gauges.size(); ++g) compare(stimulus, *gauges[g], idle[g], before[g]);
+  }
+
+  static void run(const std::vector<rig::Gauge*>& gauges, int frames) {
+    for (; frames > 0; --frames) {
+      for (rig::Gauge* gauge : gauges) gauge->frame();
+    }
+  }
+
+  void act(Stimulus& stimulus) {
+    if (!stimulus.area) {
+      randomize(*std::ranges::find(tokens, stimulus.token, &Token::number));
+      return;
+    }
+    const u32 buttons = stimulus.area->area->mouse_flags & (MOUSE_LEFT | MOUSE_RIGHT);
+    const bool right = buttons == MOUSE_RIGHT || (buttons != MOUSE_LEFT && random(2) == 0);
+    sounds_of_click();  // what the frames asked for
+    const Aircraft was = aircraft;
+    host_.events.clear();
+    result_.gauges[stimulus.gauge].click(stimulus.name, right ? MOUSE_RIGHT : MOUSE_LEFT);
+    stimulus.sounds.insert(sounds_of_click());
+    for (const auto& [event, value] : host_.events) result_.events.insert(event);
+    Aircraft now = aircraft;
+    std::ranges::copy(was.sound_requests, now.sound_requests);
+    stimulus.heeded |= !host_.events.empty() || std::memcmp(&was, &now, sizeof was) != 0;
+  }
+
+  void note_move(Stimulus& stimulus, const Picture& before) {
+    const rig::Gauge& gauge = result_.gauges[stimulus.gauge];
+    const rig::NamedPart* part = stimulus.area ? part_of(gauge, stimulus.name) : nullptr;
+    if (part == nullptr) return;
+    stimulus.moves.emplace(before[part->index - 1], gauge.value(*part));
+  }
+
+  /// Notes what the stimulus changed; what moves by itself says nothing.
+  void compare(Stimulus& stimulus, const rig::Gauge& gauge, const Picture& idle,
+               const Picture& before) {
+    const Picture after = picture(gauge);
+    for (std::size_t i = 0; i < after.size(); ++i) {
+      const rig::NamedPart& part = gauge.parts()[i];
+      const Place place{gauge.header().name, part.name};
+      if (part.element->kind == ELEMENT_ICON) result_.shown[place].insert(after[i]);
+      if (idle[i] == before[i] && before[i] != after[i]) stimulus.changed.insert(place);
+    }
+  }
+
+  rig::Host host_;
+  std::mt19937_64 bits_{1};
+  bool whole_cockpit_ = true;
+  Result result_;
+};
+
+/// What a name says of sides: of "system_2_engine_1_pump" {"system", 2} and {"engine", 1}. Left and A
+/// are 1, right and B are 2.
+std::map<std::string, int> sides_of(const std::string& name) {
+  std::map<std::string, int> sides;
+  std::istringstream words(name);
+  std::string word, before = "side";
+  while (std::getline(words, word, '_')) {
+    const std::string one_two[] = {"1", "left", "a", "2", "right", "b"};
+    const auto found = std::ranges::find(one_two, word);
+    if (found != std::end(one_two)) sides[before] = found - one_two < 3 ? 1 : 2;
+    before = word == "left" || word == "right" ? before : word;
+  }
+  return sides;
+}
+
+}  // namespace
+
+std::string Stimulus::text() const {
+  return std::string(result().gauges[gauge].header().name) + ' ' + name;
+}
+
+const Stimulus* Result::find(std::string_view gauge, std::string_view name) const {
+  const auto found = std::ranges::find_if(stimuli, [&](const Stimulus& s) {
+    return gauges[s.gauge].header().name == gauge && s.name == name;
+  });
+  return found != stimuli.end() ? &*found : nullptr;
+}
+
+const Result& result() {
+  static const Result all = Walk().run();
+  return all;
+}
+
+const rig::NamedPart* part_of(const rig::Gauge& gauge, std::string_view control) {
+  static const std::map<std::string, std::string> other_names{
+      {"landing_lights_levers", "left_landing_light_lever"},
+      {"cabin_altitude_knob_down", "selected_cabin_altitude"},
+      {"cabin_altitude_knob_up", "selected_cabin_altitude"},
+  };
+  std::string name(control);
+  if (const auto other = other_names.find(name); other != other_names.end()) name = other->second;
+  while (true) {
+    const auto part = std::ranges::find(gauge.parts(), name, &rig::NamedPart::name);
+    if (part != gauge.parts().end()) return &*part;
+    if (name.find('_') == std::string::npos) return nullptr;
+    name.erase(name.rfind('_'));
+  }
+}
+
+std::string mirrored(const std::string& name) {
+  if (sides_of(name).size() != 1) return "";
+  constexpr std::pair<const char*, const char*> pairs[] = {
+      {"1", "2"}, {"2", "1"}, {"left", "right"}, {"right", "left"}, {"a", "b"}, {"b", "a"}};
+  std::istringstream words(name);
+  std::string word, other;
+  while (std::getline(words, word, '_')) {
+    for (const auto& [one, two] : pairs) {
+      if (word == one) {
+        word = two;
+        break;
+      }
+    }
+    other += (other.empty() ? "" : "_") + word;
+  }
+  return other;
+}
+
+bool opposite(const std::string& one, const std::string& two) {
+  const std::map<std::string, int> a = sides_of(one), b = sides_of(two);
+  if (a.size() == 1 && b.size() == 1) return a.begin()->second != b.begin()->second;
+  return std::ranges::any_of(a, [&](const auto& side) {
+    const auto same = b.find(side.first);
+    return same != b.end() && same->second != side.second;
+  });
+}
+
+}  // namespace walk
