@@ -9,20 +9,6 @@ constinit Gauge stewcall{{.name = "Stewcall", .width_mm = 82, .background = 1030
 constinit Gauge hvsnd{{.name = "Hvsnd", .width_mm = 20, .background = 10}};
 
 // ---- Instruments
-constinit Gauge aitest{{.name = "Aitest", .width_mm = 36, .background = 1180}};
-constinit Gauge rmi{{.name = "Rmi", .width_mm = 141, .background = 11010}};
-constinit Gauge hsi{{.name = "Hsi", .width_mm = 183, .background = 11120}};
-constinit Gauge altimeter{{.name = "Altimeter", .width_mm = 117, .background = 11340}};
-constinit Gauge adi{{.name = "Adi", .width_mm = 183, .background = 12010}};
-constinit Gauge clock{{.name = "Clock", .width_mm = 94, .background = 12180}};
-constinit Gauge markers{{.name = "Markers", .width_mm = 23, .background = 12240}};
-constinit Gauge airspeed{{.name = "Airspeed", .width_mm = 142, .background = 12260}};
-constinit Gauge radalt{{.name = "Radalt", .width_mm = 90, .background = 12410}};
-constinit Gauge adisafe{{.name = "Adisafe", .width_mm = 103, .background = 12480}};
-constinit Gauge vsitcas{{.name = "Vsitcas", .width_mm = 111, .background = 14440}};
-constinit Gauge oat{{.name = "Oat", .width_mm = 67, .background = 20040}};
-constinit Gauge fdir{{.name = "Fdir", .width_mm = 30, .background = 24090}};
-constinit Gauge aitestfsx{{.name = "Aitestfsx", .width_mm = 36, .background = 1180}};
 
 // ---- Panel
 constinit Gauge ovhtoggle{{.name = "Ovhtoggle", .width_mm = 196, .background = 2050}};
@@ -85,21 +71,5 @@ constinit Gauge cat2apsys{{.name = "Cat2apsys", .width_mm = 104, .background = 1
 constinit Gauge apset{{.name = "Apset", .width_mm = 120, .background = 14350}};
 
 // ---- Engines
-constinit Gauge firesw{{.name = "Firesw", .width_mm = 162, .background = 4350}};
-constinit Gauge cutoff{{.name = "Cutoff", .width_mm = 216, .background = 4390}};
-constinit Gauge engn1{{.name = "Engn1", .width_mm = 152, .background = 10310}};
-constinit Gauge engtgt{{.name = "Engtgt", .width_mm = 149, .background = 10350}};
-constinit Gauge eng1n2{{.name = "Eng1n2", .width_mm = 78, .background = 10380}};
-constinit Gauge eng2n2{{.name = "Eng2n2", .width_mm = 78, .background = 14170}};
-constinit Gauge eng1ins{{.name = "Eng1ins", .width_mm = 74, .background = 10420}};
-constinit Gauge eng2ins{{.name = "Eng2ins", .width_mm = 74, .background = 10470}};
-constinit Gauge fuelrl{{.name = "Fuelrl", .width_mm = 147, .background = 12340}};
-constinit Gauge fuelc{{.name = "Fuelc", .width_mm = 111, .background = 12370}};
-constinit Gauge fuelshut{{.name = "Fuelshut", .width_mm = 81, .background = 13020}};
-constinit Gauge cafire{{.name = "Cafire", .width_mm = 448, .background = 13040}};
-constinit Gauge coltsw{{.name = "Coltsw", .width_mm = 126, .background = 14190}};
-constinit Gauge ffsys{{.name = "Ffsys", .width_mm = 147, .background = 14310}};
-constinit Gauge fofire{{.name = "Fofire", .width_mm = 450, .background = 20190}};
-constinit Gauge fuelreq{{.name = "Fuelreq", .width_mm = 192, .background = 24260}};
 
 }  // namespace tarnvale

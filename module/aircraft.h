@@ -85,13 +85,47 @@ struct Aircraft {
   u32 hyd_pump_lower_3 = 0;
   u32 hyd_pump_lower_4 = 0;
 
+  // ---- Flight instruments
+  u32 adi_flag_test_active = 0;
+  u32 nav1_test_active = 0;
+  u32 nav2_test_active = 0;
+  u32 nav1_timer_now = 0;  ///< seconds
+  u32 nav2_timer_now = 0;  ///< seconds
+  u32 rmi_left_selector = 0;
+  u32 radalt_test_active = 0;
+
+  // ---- Autopilot and flight director
+  u32 ap_master_on = 0;      ///< mirrors the host's autopilot master
+  u32 ap_mode_selector = 0;  ///< 0..5
+  u32 ap_sel2_hold_on = 0;
+  u32 apcourse_switch_on = 0;
+  u32 cat2_speed_test_active = 0;
+
   // ---- Radios and cabin call
+  u32 nav1_timer_deadline = 0;  ///< seconds
+  u32 nav2_timer_deadline = 0;  ///< seconds
+  u32 nav_aux_switch = 0;       ///< one switch state on all three navigation heads
+  u32 nav_test_switch = 0;      ///< 0 centre, 1 upper, 2 lower; shared likewise
+  u32 fo_callouts_enabled = 0;
   u32 ground_power_connected = 0;
 
   // ---- Engines, fuel and fire
+  u32 fuel_pump1_switch = 0;
+  u32 fuel_pump2_switch = 0;
+  u32 fuel_aux_switch_left = 0;
+  u32 fuel_aux_switch_right = 0;
+  u32 fuel_crossfeed_switch = 0;
+  u32 fuel_computer_power = 0;
+  u32 fuel_selector_left = 0;   ///< 0 pointer up, 1 left, 2 right
+  u32 fuel_selector_right = 0;  ///< 0 pointer up, 1 left, 2 right
   u32 fire_test_active = 0;
   u32 fire_test_clock = 0;     ///< seconds
   u32 fire_test_deadline = 0;  ///< seconds
+
+  // ---- Warnings and recorders
+  u32 dh_light_on = 0;
+  f64 dh_setting_ft = 0.0;    ///< 0..500 in steps of 10
+  u32 dh_setting_ft_int = 0;  ///< kept in step with dh_setting_ft
 };
 
 extern constinit Aircraft aircraft;

@@ -58,6 +58,19 @@ void send_and_click() {
   request(click);
 }
 
+/// The same with one event that carries a value.
+template <SoundRequest click, u32 event, u32 value>
+void send_value() {
+  send(event, value);
+  request(click);
+}
+
+/// Sends an event without a sound.
+template <u32 event>
+void ask() {
+  send(event);
+}
+
 /// A two-position switch; the host hears of each move where it has something to do with it.
 template <auto flag, u32... events>
 void toggle() {
@@ -93,6 +106,15 @@ void advance() {
 }
 template <auto position, u32 last>
 inline constexpr MouseRoutine advances = does<advance<position, last>>;
+
+/// An area that puts a selector straight to one of its positions.
+template <auto position, u32 chosen, u32... events>
+void select() {
+  variable<position>() = chosen;
+  send_and_click<toggle_click_sound_request, events...>();
+}
+template <auto position, u32 chosen, u32... events>
+inline constexpr MouseRoutine selects = does<select<position, chosen, events...>>;
 
 /// A half of a three-position lever. From up or down either half brings it back to the centre.
 template <auto lever, Lever half>

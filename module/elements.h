@@ -282,4 +282,13 @@ constexpr Row sprite(const char* words, i32 resource, PanelPoint at, PanelPoint 
   return row;
 }
 
+/// Shows or hides the picture of one element; its routines go on.
+constexpr void show_picture(Element& element, bool shown) {
+  if (shown) {
+    element.image_flags &= ~IMAGE_HIDE_PICTURE;
+  } else {
+    element.image_flags |= IMAGE_HIDE_PICTURE;
+  }
+}
+
 }  // namespace tarnvale

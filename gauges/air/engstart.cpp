@@ -21,15 +21,6 @@ void press_start_master() {
   if (aircraft.start_master_switch == 1) send(event::ignition_arm);
 }
 
-/// The selector gives its engine's starter one turn even when no start is armed.
-template <u32 engine, u32... starter>
-void select() {
-  aircraft.start_selector = engine;
-  send_and_click<toggle_click_sound_request, starter...>();
-}
-template <u32 engine, u32... starter>
-constexpr MouseRoutine selects = does<select<engine, starter...>>;
-
 /// Lit (image 0) with the master on until both engines run.
 f64 start_light(Element*) {
   const bool tested = hold_goes_on(test_clock, testing);
@@ -72,9 +63,9 @@ constinit Body body{
               advances<&Aircraft::eng1_start_switch, complete>),
         click("Engine 2 start switch", {152, 1, 22, 42},
               advances<&Aircraft::eng2_start_switch, complete>),
-        click("Start selector off", {80, 52, 35, 28}, selects<nothing>),
-        click("Start selector engine 1", {44, 52, 35, 28}, selects<engine1, event::starter_1_engage>),
-        click("Start selector engine 2", {116, 52, 35, 28}, selects<engine2, event::starter_2_engage>),
+        click("Start selector off", {80, 52, 35, 28}, selects<&Aircraft::start_selector, nothing>),
+        click("Start selector engine 1", {44, 52, 35, 28}, selects<&Aircraft::start_selector, engine1, event::starter_1_engage>),
+        click("Start selector engine 2", {116, 52, 35, 28}, selects<&Aircraft::start_selector, engine2, event::starter_2_engage>),
         click("Ready light test", {14, 13, 25, 25}, tests<&test_clock, &testing>),
     },
 };

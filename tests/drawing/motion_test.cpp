@@ -184,8 +184,8 @@ TEST_F(Motion, SpriteShiftsThenTurnsAboutItsCentreBehindTheFace) {
     double x, y, rotation;
     PanelPoint mark;
   };
-  for (const Case& c : {Case{0, 0, 0, {20, 10}}, Case{0, 0, -90, {30, 20}}, Case{0, 0, 90, {10, 20}},
-                        Case{0, -2, 90, {6, 20}}, Case{3, 0, 180, {17, 30}}, Case{0, -4, 0, {-1, -1}},
+  for (const Case& c : {Case{0, 0, 0, {20, 10}}, Case{0, 0, 90, {30, 20}}, Case{0, 0, -90, {10, 20}},
+                        Case{0, -2, -90, {6, 20}}, Case{3, 0, 180, {17, 30}}, Case{0, -4, 0, {-1, -1}},
                         Case{nan_value, 0, 0, {-1, -1}}, Case{0, 0, infinite, {-1, -1}}}) {
     scene.set(1, c.x, 0);
     scene.set(1, c.y, 1);

@@ -16,7 +16,7 @@ TEST(Instruments, Read_a_climbing_right_turn) {
   aircraft.controls.throttle = {0.8, 0.8};
   run(aircraft, 20.0, [&] { hold_attitude(aircraft, 8.0, 20.0); });
   EXPECT_NEAR(token(aircraft, 77), -8.0, 2.0) << "nose up is negative";
-  EXPECT_EQ(token(aircraft, 78), token(aircraft, 77));
+  EXPECT_EQ(token(aircraft, 78), -token(aircraft, 77));
   EXPECT_NEAR(token(aircraft, 79), -20.0, 2.5) << "right bank is negative";
   EXPECT_EQ(token(aircraft, 80), token(aircraft, 79));
   EXPECT_GT(token(aircraft, 81), 75.0) << "turning right";
@@ -66,7 +66,7 @@ TEST(Instruments, Bars_and_pointers_move_toward_where_to_fly) {
   EXPECT_EQ(token(aircraft, 46), 0xC0);
   EXPECT_EQ(token(aircraft, 44), 1.0);
   EXPECT_LT(token(aircraft, 40), -30.0) << "the beam lies to the left";
-  EXPECT_NEAR(token(aircraft, 849), token(aircraft, 40) / 127.0, 1e-9);
+  EXPECT_NEAR(token(aircraft, 849), -token(aircraft, 40) / 127.0, 1e-9);
   EXPECT_GT(token(aircraft, 41), 20.0) << "the pointer stands low";
   EXPECT_GT(token(aircraft, 793), token(aircraft, 77)) << "wanted: nose further down";
   EXPECT_GT(token(aircraft, 794), token(aircraft, 80)) << "wanted: bank further left";

@@ -1,0 +1,15 @@
+/// Approach timer (main panel), the slow one.
+#include "gauges/instruments/frame_timer.h"
+
+namespace tarnvale {
+namespace {
+
+constinit FrameTimer timer{.divisor = 10000, .limit = 110, .blank = " "};
+
+constinit Body body{aitestfsx, frame_timer_rows<&timer>(), {timer_button<&timer>()}};
+
+}  // namespace
+
+constinit Gauge aitestfsx{{.name = "Aitestfsx", .width_mm = 36, .background = 1180}, body};
+
+}  // namespace tarnvale

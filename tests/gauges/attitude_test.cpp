@@ -1,0 +1,339 @@
+/// Attitude, heading and navigation instruments.
+#include <gtest/gtest.h>
+
+#include "module/tokens.h"
+#include "tests/rig/rig.h"
+
+namespace {
+
+using namespace tarnvale;
+
+bool picture_hidden(const rig::Gauge& gauge, std::string_view part) {
+  for (const rig::NamedPart& each : gauge.parts()) {
+    if (each.name == part) return (each.element->image_flags & IMAGE_HIDE_PICTURE) != 0;
+  }
+  ADD_FAILURE() << "no part " << part;
+  return false;
+}
+
+class AttitudeDirector : public testing::Test {
+ protected:
+  rig::Host host;
+  rig::Gauge adi{"Adi"};
+
+  f64 shown(const char* part, std::map<u32, f64> tokens) {
+    for (const auto& [number, value] : tokens) host.tokens[number] = value;
+    adi.frame();
+    return adi.value(part);
+  }
+};
+
+TEST_F(AttitudeDirector, BarsShowTheDifferenceWhileTheDirectorIsOn) {
+  for (const auto& [pitch, command, shown_pitch] :
+       {std::tuple{0.0, 3.0, -2.0}, {30.0, 0.0, 44.0 / 3}, {0.0, 30.0, -44.0 / 3}}) {
+    EXPECT_NEAR(shown("flight_director_pitch_bar", {{77, pitch}, {793, command}, {792, 1}}),
+                shown_pitch, 1e-12);
+    EXPECT_FALSE(picture_hidden(adi, "flight_director_pitch_bar"));
+  }
+  for (const auto& [bank, command, shown_bank] :
+       {std::tuple{5.0, 2.0, 3.0}, {40.0, 0.0, 15.0}, {-40.0, 0.0, -15.0}}) {
+    EXPECT_EQ(shown("flight_director_bank_bar", {{80, bank}, {794, command}}), shown_bank);
+  }
+  shown("flight_director_bank_bar", {{792, 0}});
+  EXPECT_TRUE(picture_hidden(adi, "flight_director_pitch_bar"));
+  EXPECT_TRUE(picture_hidden(adi, "flight_director_bank_bar"));
+}
+
+TEST_F(AttitudeDirector, TheRunwayRisesOverTheLastMetresAndLiesBesideTheLocalizer) {
+  for (const auto& [height, value, hidden] :
+       {std::tuple{76.0, 0.0, true}, {75.0, 0.0, false}, {27.0, 0.0, false}, {0.0, 27.0, false}}) {
+    EXPECT_EQ(shown("rising_runway", {{614, height}}), value) << height;
+    EXPECT_EQ(picture_hidden(adi, "rising_runway"), hidden) << height;
+  }
+  for (const auto& [test, bits, value] :
+       {std::tuple{0u, 0x80, -40.0}, {0u, 0x40, 0.0}, {1u, 0x80, 100.0}, {2u, 0, -100.0}}) {
+    aircraft.nav_test_switch = test;
+    EXPECT_EQ(shown("runway_symbol", {{40, 40}, {46, bits}}), value) << test << ' ' << bits;
+  }
+}
+
+TEST_F(AttitudeDirector, SpeedSlipAndHorizonStopAtTheirEnds) {
+  for (const auto& [actual, value] :
+       {std::pair{140.0, 0.0}, {160.0, -12.0}, {120.0, 12.0}, {135.0, 5.0}}) {
+    EXPECT_EQ(shown("speed_deviation_pointer", {{116, 140}, {61, actual}}), value) << actual;
+  }
+  for (const auto& [ball, value] : {std::pair{-20.0, -15.0}, {3.0, 3.0}, {20.0, 15.0}}) {
+    EXPECT_EQ(shown("slip_ball", {{69, ball}}), value);
+  }
+}
+
+TEST_F(AttitudeDirector, FlagsTellWhatCannotBeTrusted) {
+  constexpr f64 in_view = 1, withdrawn = 0;
+  EXPECT_EQ(shown("attitude_flag", {}), in_view) << "no engine runs";
+  EXPECT_EQ(shown("attitude_flag", {{625, 25}}), withdrawn);
+  EXPECT_EQ(shown("attitude_flag", {{625, 0}, {644, 30}}), withdrawn);
+  adi.click("attitude_flag_test");
+  EXPECT_EQ(aircraft.adi_flag_test_active, 1u);
+  EXPECT_TRUE(rig::heard(click_sound_request));
+  for (const auto& [clock, flag] : {std::pair{102.0, in_view}, {103.0, withdrawn}}) {
+    EXPECT_EQ(shown("attitude_flag", {{604, clock}}), flag) << clock;
+  }
+}
+
+/// The glide slope on both instruments that show it.
+TEST(GlideSlope, PointerAndFlagFollowTheReceiver) {
+  struct Row {
+    u32 test;
+    f64 bits, signal, flag;
+    bool pointer;
+  };
+  for (const char* name : {"Adi", "Hsi"}) {
+    for (const Row& row :
+         {Row{0, 0, 0, -1, false}, Row{0, 0x40, 1, -1, true}, Row{0, 0x40, 0.99, 0, true},
+          Row{1, 0, 0, 0, false}, Row{2, 0x40, 1, 0, true}, Row{0, 0x80, 0, -1, false}}) {
+      rig::Host host;
+      rig::Gauge gauge(name);
+      aircraft.nav_test_switch = row.test;
+      host.tokens = {{46, row.bits}, {44, row.signal}, {41, -60}};
+      gauge.frame();
+      EXPECT_EQ(gauge.value("glide_slope_flag"), row.flag) << name << row.test << ' ' << row.bits;
+      EXPECT_EQ(gauge.value("glide_slope_pointer"), row.pointer ? -60 : 0) << name << row.bits;
+      EXPECT_EQ(picture_hidden(gauge, "glide_slope_pointer"), !row.pointer) << name << row.bits;
+    }
+  }
+}
+
+TEST(DecisionHeight, LightsAtAndBelowTheSettingOnBothInstruments) {
+  rig::Host host;
+  rig::Gauge radalt("Radalt"), adi("Adi");
+  const auto lights = [&](f64 metres) {
+    host.tokens[token::radio_altitude] = metres;
+    radalt.frame(), adi.frame();
+    EXPECT_EQ(radalt.value("decision_height_light"), adi.value("decision_height_light"));
+    return radalt.value("decision_height_light") == 0;
+  };
+  EXPECT_FALSE(lights(0)) << "no height is set";
+  for (int i = 0; i < 20; ++i) radalt.click("decision_height_knob_up");
+  EXPECT_EQ(aircraft.dh_setting_ft, 200);
+  for (const auto& [metres, lit] : {std::pair{60.0, true}, {61.0, true}, {62.0, false}}) {
+    EXPECT_EQ(lights(metres), lit) << metres;
+    EXPECT_EQ(aircraft.dh_light_on, u32{lit}) << metres;
+  }
+  radalt.click("test_button");
+  EXPECT_TRUE(rig::heard(radalt_sound_request));
+  EXPECT_TRUE(lights(62));
+  EXPECT_EQ(aircraft.dh_light_on, 0u) << "the test is not the height";
+  EXPECT_EQ(radalt.value("radio_altitude"), 100) << "what the test shows";
+  host.tokens[token::clock_seconds] = 103;
+  radalt.frame();
+  EXPECT_FALSE(lights(62));
+}
+
+TEST(DecisionHeight, TheKnobStopsAtBothEnds) {
+  rig::Host host;
+  rig::Gauge radalt("Radalt");
+  radalt.click("decision_height_knob_down");
+  EXPECT_EQ(aircraft.dh_setting_ft, 0);
+  for (int i = 0; i < 60; ++i) radalt.click("decision_height_knob_up");
+  radalt.frame();
+  EXPECT_EQ(aircraft.dh_setting_ft, 500);
+  EXPECT_EQ(radalt.value("decision_height_bug"), 500);
+  radalt.click("decision_height_knob_down");
+  EXPECT_EQ(aircraft.dh_setting_ft_int, 490u);
+}
+
+TEST(RadioAltimeter, ShowsFeetUpToTheEndOfItsScale) {
+  rig::Host host;
+  rig::Gauge radalt("Radalt");
+  for (const auto& [metres, feet] : {std::pair{-5.0, 0.0}, {100.0, 328.08}, {1000.0, 2500.0}}) {
+    host.tokens[token::radio_altitude] = metres;
+    radalt.frame();
+    EXPECT_NEAR(radalt.value("radio_altitude"), feet, 1e-9);
+  }
+}
+
+class Bearings : public testing::Test {
+ protected:
+  rig::Host host;
+  rig::Gauge rmi{"Rmi"};
+
+  /// The four drums of a read-out, blanks as b.
+  std::string distance(const std::string& side) {
+    std::string figures;
+    for (const char* place : {"hundreds", "tens", "units", "tenths"}) {
+      const f64 digit = rmi.value(side + "_distance_" + place);
+      figures += digit == -1 ? 'b' : static_cast<char>('0' + static_cast<int>(digit));
+    }
+    return figures;
+  }
+};
+
+TEST_F(Bearings, EachReadOutShowsItsReceiversDistance) {
+  for (const auto& [left, right, left_text, right_text] : {std::tuple{123.45, 7.89, "1234", "0078"},
+                                                           {-1.0, 250.0, "bbbb", "2500"},
+                                                           {0.0, -1.0, "0000", "bbbb"}}) {
+    host.tokens[token::nav1_distance] = left;
+    host.tokens[token::nav2_distance] = right;
+    rmi.frame(2);
+    EXPECT_EQ(distance("left"), left_text) << left;
+    EXPECT_EQ(distance("right"), right_text) << right;
+  }
+  host.tokens[token::nav2_distance] = 10;
+  rmi.click("left_bearing_selector");
+  rmi.frame(2);
+  EXPECT_EQ(distance("left"), "bbbb");
+  EXPECT_EQ(distance("right"), "0100");
+}
+
+TEST_F(Bearings, AReceiversTestShowsZerosUntilItsTimeIsOver) {
+  host.tokens[token::nav1_distance] = 123.4;
+  host.tokens[token::nav2_distance] = 55.5;
+  aircraft.nav1_test_active = 1;
+  aircraft.nav1_timer_deadline = 102;
+  rmi.frame(2);
+  EXPECT_EQ(distance("left"), "0000");
+  EXPECT_EQ(distance("right"), "0555");
+  host.tokens[token::clock_seconds] = 103;
+  rmi.frame();
+  EXPECT_EQ(distance("left"), "1234");
+  EXPECT_EQ(aircraft.nav1_test_active, 0u);
+  aircraft.nav1_test_active = 1;
+  host.tokens[token::clock_seconds] = 98;  // more than three seconds before the deadline
+  rmi.frame();
+  EXPECT_EQ(aircraft.nav1_test_active, 0u);
+}
+
+TEST_F(Bearings, NeedlesAndFlagsFollowTheirSelectors) {
+  host.tokens = {{550, 100}, {59, 200}, {39, 300}, {49, 1}, {58, 0}};
+  rmi.frame();
+  EXPECT_EQ(rmi.value("left_bearing"), 10);
+  EXPECT_EQ(rmi.value("right_bearing"), 110);
+  EXPECT_EQ(rmi.value("left_signal_flag"), 1);
+  EXPECT_EQ(rmi.value("right_signal_flag"), 0);
+  host.tokens[58] = 0.5;
+  rmi.click("right_bearing_selector");
+  rmi.frame();
+  EXPECT_EQ(rmi.value("left_bearing"), 10);
+  EXPECT_EQ(rmi.value("right_bearing"), 210);
+  EXPECT_EQ(rmi.value("right_signal_flag"), 0);
+  rmi.click("right_bearing_selector"), rmi.click("left_bearing_selector");
+  rmi.frame();
+  EXPECT_EQ(rmi.value("left_bearing"), 210);
+  EXPECT_EQ(rmi.value("left_signal_flag"), 0);
+  EXPECT_EQ(rmi.value("right_signal_flag"), 1);
+}
+
+class HorizontalSituation : public testing::Test {
+ protected:
+  rig::Host host;
+  rig::Gauge hsi{"Hsi"};
+
+  f64 shown(const char* part, std::map<u32, f64> tokens) {
+    for (const auto& [number, value] : tokens) host.tokens[number] = value;
+    hsi.frame();
+    return hsi.value(part);
+  }
+};
+
+TEST_F(HorizontalSituation, PointersLieOnTheTurningCard) {
+  EXPECT_EQ(shown("heading_bug", {{81, 90}, {107, 90}}), -89.5);
+  EXPECT_EQ(shown("course_pointer", {{81, 90}, {45, 120}}), 30.5);
+  EXPECT_EQ(shown("course_knob", {{45, 120}}), 120);
+}
+
+TEST_F(HorizontalSituation, TheHeadingTestShowsItself) {
+  rig::Gauge rmi{"Rmi"};
+  aircraft.nav_aux_switch = 1;
+  shown("course_pointer", {{107, 180}, {45, 90}, {81, 10}});
+  EXPECT_EQ(hsi.value("course_pointer"), 0);
+  EXPECT_EQ(hsi.value("test_flag"), 0);
+  EXPECT_EQ(hsi.value("annunciator"), 3);
+  rmi.frame();
+  EXPECT_EQ(rmi.value("left_bearing"), 90);
+  EXPECT_EQ(rmi.value("left_signal_flag"), 1);
+  shown("course_pointer", {{107, 180.5}});
+  EXPECT_EQ(hsi.value("test_flag"), -1);
+  EXPECT_EQ(hsi.value("course_pointer"), 80.5);
+}
+
+TEST_F(HorizontalSituation, ToFromHidesOnALocalizer) {
+  for (const auto& [code, bits, to_from, image] : {std::tuple{0x187, 0, 1, 0.0},
+                                                   {0, 0x80, 1, -1.0},
+                                                   {0, 0x40, 0, 1.0},
+                                                   {0, 0, 1, 2.0},
+                                                   {0, 0x17F, 2, 3.0}}) {
+    EXPECT_EQ(shown("to_and_from", {{42, code}, {46, bits}, {853, to_from}}), image)
+        << code << ' ' << bits;
+  }
+}
+
+TEST_F(HorizontalSituation, TheAnnunciatorFollowsTheAutopilot) {
+  struct Row {
+    u32 master, hold, course, mode;
+    f64 image;
+  };
+  for (const Row& row : {Row{0, 1, 1, 5, 1}, Row{1, 1, 1, 5, 2}, Row{1, 0, 1, 5, 3}, Row{1, 0, 1, 4, 0},
+                         Row{1, 0, 0, 5, 0}}) {
+    aircraft.ap_master_on = row.master;
+    aircraft.ap_sel2_hold_on = row.hold;
+    aircraft.apcourse_switch_on = row.course;
+    aircraft.ap_mode_selector = row.mode;
+    EXPECT_EQ(shown("annunciator", {}), row.image) << row.master << row.hold << row.course << row.mode;
+    const bool approach = row.course == 1 && row.mode == 5;
+    EXPECT_EQ(shown("approach_light", {{835, 8319}}), approach);
+    EXPECT_EQ(shown("approach_light", {{835, 8320}}), 0);
+  }
+}
+
+TEST_F(HorizontalSituation, ReadOutsShowCourseAndDistances) {
+  shown("course_units", {{45, 247}, {835, 18520}});
+  for (const auto& [part, value] : {std::pair{"course_hundreds", 2.0},
+                                    {"course_tens", 4.0},
+                                    {"course_units", 7.0},
+                                    {"right_distance_thousands", 100.008},
+                                    {"right_distance_units", 0.008},
+                                    {"left_distance_hundreds", 18520 / 832.0 / 10}}) {
+    EXPECT_NEAR(hsi.value(part), value, 1e-9) << part;
+  }
+}
+
+/// What the bar shifts by and turns by, from its own routines.
+TEST_F(HorizontalSituation, TheDeviationBarShiftsForItsOwnSourceAndTurnsWithTheCourse) {
+  for (const rig::NamedPart& part : hsi.parts()) {
+    if (part.name != "course_deviation_bar") continue;
+    const SpritePart& bar = part.element->sprite;
+    Element* element = const_cast<Element*>(part.element);
+    host.tokens = {{849, 0.5}, {848, 0}, {45, 120}, {81, 90}};
+    EXPECT_NEAR(bar.x.value(element), 63.5, 1e-9);
+    EXPECT_EQ(bar.rotation.value(element), 30.5);
+    host.tokens[848] = 1;
+    EXPECT_EQ(bar.x.value(element), 0);
+    return;
+  }
+  ADD_FAILURE() << "no bar";
+}
+
+TEST(Knobs, SendTheHostTheirStepsWithTheirValues) {
+  struct Row {
+    const char *gauge, *knob;
+    u32 event, value;
+    bool click;
+  };
+  for (const Row& row :
+       {Row{"Hsi", "course_knob_down", 65662, 1, true}, Row{"Hsi", "course_knob_up", 65663, 1, true},
+        Row{"Altimeter", "pressure_setting_knob_down", 65884, 1, true},
+        Row{"Altimeter", "pressure_setting_knob_up", 65883, 1, true},
+        Row{"Airspeed", "selected_speed_knob_down", 65897, 0, false},
+        Row{"Airspeed", "selected_speed_knob_up", 65896, 0, false},
+        Row{"Clock", "setting_knob_down", 65659, 0, true},
+        Row{"Clock", "setting_knob_up", 65660, 0, true},
+        Row{"Fdir", "flight_director_switch", 66288, 0, false}}) {
+    rig::Host host;
+    rig::Gauge gauge(row.gauge);
+    gauge.click(row.knob);
+    EXPECT_EQ(host.events, (rig::Events{{row.event, row.value}})) << row.gauge << ' ' << row.knob;
+    EXPECT_EQ(rig::heard(click_sound_request), row.click) << row.gauge << ' ' << row.knob;
+  }
+}
+
+}  // namespace
