@@ -18,16 +18,14 @@ constexpr double crossfeed_radius = 11.5;
 void draw_crossfeed_knob(const Board& board) {
   const Point hub = hub_of(board.gauge, crossfeed);
   knob_seat(board.canvas, hub, crossfeed_radius + 1.3);
-  flow_switch(board.canvas, hub, crossfeed_radius, false);
+  plain_knob(board.canvas, hub, crossfeed_radius);
 }
 
 /// Closed, the bar stands across the line from tank to tank.
 void draw_crossfeed(const Canvas& canvas, int image) {
   constexpr double reach = 4.2;
   const Point way = image == 1 ? Point{reach, 0} : Point{0, reach};
-  set_radial(canvas, crossfeed_hub - Point{2, 3}, crossfeed_hub, 6,
-             {{0, palette::mould_light}, {1, palette::mould}});
-  fill(canvas, circle(crossfeed_hub, 6));
+  plain_knob(canvas, crossfeed_hub, crossfeed_radius);
   const auto bar = [&](double radius) {
     return capsule(crossfeed_hub - way, crossfeed_hub + way, radius, radius);
   };
@@ -71,7 +69,7 @@ void draw_fuel_lever(const Canvas& canvas, int image) {
 }
 
 constexpr Positions lever_words(Spot spot, Anchor anchor) {
-  return {.spot = spot, .up = "RUN", .down = "OFF", .anchor = anchor, .reach = 9.5};
+  return {.spot = spot, .up = "RUN", .down = "OFF", .anchor = anchor, .reach = 11};
 }
 
 constexpr Item items[] = {
@@ -80,9 +78,9 @@ constexpr Item items[] = {
     Legend{at(lever_2, 28), "2", 12},
     lever_words(at(lever_1, 22), Anchor::left),
     lever_words(at(lever_2, -22), Anchor::right),
-    Line{at(lever_1, 22), at(crossfeed, -15)},
+    Line{at(lever_1, 22).level_with(crossfeed), at(crossfeed, -15)},
     Line{at(crossfeed, 15), at(lever_2, -22)},
-    Legend{at(crossfeed, 0, 18.5), "X-FEED", 7.5},
+    Legend{at(crossfeed, 0, 19.8), "X-FEED", 7.5},
     right_of(left_aux, {.reach = 8}, 12),
     right_of(pump_1, {.reach = 8}, 12),
     left_of(pump_2, {.reach = 8}, 12),
@@ -93,7 +91,8 @@ constexpr Item items[] = {
     Legend{at(right_aux, -1, 20), "AUX"},
     Screw{between(pump_1, pump_2), 21},
     Bracket{at(pump_1, 0, 32), at(pump_2)},
-    heading(between(pump_1, pump_2, 0, 41), "FUEL CONTROL", 10),
+    Legend{between(pump_1, pump_2, 0, 40), "BOOST PUMPS"},
+    heading(between(pump_1, pump_2).level_with("left_feed_light"), "FUEL CONTROL", 10),
     beginning(at("left_feed_light", 11), "L FEED"),
     ending(at("right_feed_light", -11), "R FEED"),
 };

@@ -54,7 +54,7 @@ constexpr std::string_view power = "fuel_computer_power_button", reset = "reset_
                            used = "fuel_used_mode_button", weight_mode = "weight_mode_button";
 
 constexpr Item items[] = {
-    Legend{{17, 9}, "FUEL", 7.5},
+    Legend{{17, 9}, "FUEL", 7},
     Legend{{17, 17}, "CMPTR", 7},
     button(power, 7.6),
     button(reset, 7.6),
@@ -70,7 +70,7 @@ constexpr Item items[] = {
 
 constexpr Art art[] = {
     plate(64, items),
-    drawn_art("left_low_fuel_dot", {16, 20}, draw_low_fuel_dot),
+    drawn_art("left_low_fuel_dot", {16, 21}, draw_low_fuel_dot),
     drawn_art("left_test_dot", {22, 8}, draw_test_dot),
     drawn_art("weight_mode_dot", {6, 6}, draw_mode_dot),
 };

@@ -11,11 +11,12 @@ constexpr Print hundreds[] = {
 };
 
 constexpr Item items[] = {
-    Screw{{74, 8}, 12, 3.2},
-    Screw{{74, -8}, 51, 3.2},
-    tank_dial("centre_tank_quantity", hundreds, "CTR"),
-    Legend{at("quantity_test_switch", 0, 27), "TEST", 7.5},
-    Legend{at("quantity_test_switch", 0, 36), "QTY", 7.5},
+    Screw{{75, 8}, 12, 3.2},
+    Screw{{75, 46}, 51, 3.2},
+    tank_dial("centre_tank_quantity", hundreds, "C"),
+    Legend{at("quantity_test_switch", -20), "QTY", 7.5},
+    Legend{at("quantity_test_switch", 0, 26), "TEST", 7.5},
+    Legend{{84, -8}, "GAL\u00d7100", 7},
 };
 
 constexpr Art art[] = {

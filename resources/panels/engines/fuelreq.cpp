@@ -8,7 +8,7 @@ namespace artwork::panels::fuelreq {
 
 /// Usable gallons.
 void draw_capacities(const Board& board) {
-  constexpr Box placard{104, 8, 80, 54};
+  constexpr Box placard{94, 8, 90, 54};
   constexpr std::string_view lines[][2] = {
       {"LEFT", "1280"}, {"CENTRE", "830"}, {"RIGHT", "1280"}, {"TOTAL", "3390"}};
   constexpr Lettering small{.size = 7, .colour = palette::mark};
@@ -26,11 +26,10 @@ void draw_capacities(const Board& board) {
 }
 
 constexpr Item items[] = {
-    Screw{{7.5, 7.5}, 33, 3.2},
-    Screw{{7.5, -7.5}, 78, 3.2},
+    Screw{{7.5, 8.5}, 33, 3.2},
+    Screw{{7.5, -8.5}, 78, 3.2},
     right_of("fuel_request_lever", {.up = "REQ", .down = "OFF"}, 12),
-    below("fuel_request_lever", "FUEL", {0, 1}),
-    Legend{at("fuel_request_lever", 40), "FUEL\nTRUCK", 9},
+    heading(at("fuel_request_lever", 11, -26.5), "FUEL REQUEST"),
     Ornament{draw_capacities},
 };
 

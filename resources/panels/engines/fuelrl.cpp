@@ -12,10 +12,12 @@ constexpr Print hundreds[] = {
 };
 
 constexpr Item items[] = {
-    Screw{{73, 8}, 30, 3.2},
-    Screw{{73, -8}, 74, 3.2},
-    tank_dial("left_tank_quantity", hundreds, "LEFT"),
-    tank_dial("right_tank_quantity", hundreds, "RIGHT"),
+    Legend{between("left_tank_quantity", "right_tank_quantity", 0, -27), "FUEL"},
+    Screw{between("left_tank_quantity", "right_tank_quantity", 0, -16), 30, 3},
+    Screw{between("left_tank_quantity", "right_tank_quantity", 0, 16), 74, 3},
+    Legend{between("left_tank_quantity", "right_tank_quantity", 0, 30), "GAL\u00d7100", 7},
+    tank_dial("left_tank_quantity", hundreds, "L"),
+    tank_dial("right_tank_quantity", hundreds, "R"),
 };
 
 constexpr Art art[] = {
