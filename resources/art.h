@@ -58,6 +58,8 @@ constexpr Art lamp_art(Of of, Size size, Colours colours, std::string_view text 
                        double text_size = legend_size) {
   return {of, size, Lamp{colours, text, text_size}};
 }
+/// Lamps that are alike in pictures that are not.
+constexpr Art lamp_art(Of of, Size size, Lamp lamp) { return {of, size, lamp}; }
 /// A push button whose lens lights up.
 constexpr Art button_art(Of of, Size size, Colours colours, std::string_view text,
                          double text_size = legend_size) {

@@ -102,10 +102,14 @@ void bar_knob(const Canvas& canvas, Point c, double radius, double mark) {
   white_line(canvas, c, radius * 0.25, radius * 0.9, mark, 1.7);
 }
 
-void flow_switch(const Canvas& canvas, Point c, double radius, bool on) {
+void plain_knob(const Canvas& canvas, Point c, double radius) {
   cast_shadow(canvas, circle(c, radius), 1.2, 0.6);
   knurl(canvas, c, radius, radius * 0.84, static_cast<int>(radius * 3));
   cap(canvas, c, radius * 0.8);
+}
+
+void flow_switch(const Canvas& canvas, Point c, double radius, bool on) {
+  plain_knob(canvas, c, radius);
   const double reach = radius * 0.56, way = on ? 0 : 90;
   const Point a = polar(c, reach, up + way), b = polar(c, reach, up + way + 180);
   const Path bar = capsule(a, b, 1.5, 1.5);

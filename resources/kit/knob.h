@@ -13,7 +13,10 @@ void pointer_knob(const Canvas& canvas, Point centre, double radius, double mark
 /// A knob with a bar grip across it and a white line along the bar: rotary selectors.
 void bar_knob(const Canvas& canvas, Point centre, double radius, double mark);
 
-/// A black round push switch whose flow bar lies in line with the flow, and shines, when on.
+/// A black round knob with nothing on its cap.
+void plain_knob(const Canvas& canvas, Point centre, double radius);
+
+/// A plain knob that is a push switch, whose flow bar lies in line with the flow, and shines, when on.
 void flow_switch(const Canvas& canvas, Point centre, double radius, bool on);
 
 /// A knurled ring on the plate in which a knob stands.

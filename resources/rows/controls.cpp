@@ -35,18 +35,24 @@ void draw_knob(const Canvas& canvas, const Knob& knob, int image) {
   grip(canvas, hub, knob.radius, knob.marks[static_cast<std::size_t>(image)]);
 }
 
+Box centred(Size size, Size picture) {
+  const double width = size.width, height = size.height;
+  return {(picture.width - width) / 2, (picture.height - height) / 2, width, height};
+}
+
 void draw_lamp(const Canvas& canvas, const Lamp& row, int image) {
-  const auto colour = static_cast<std::size_t>(image == 0 ? 0 : image - 1);
+  const auto colour = static_cast<std::size_t>(image == 0 || row.lit_first ? 0 : image - 1);
+  const bool lit = (image > 0) != row.lit_first;
   const Lens lens{row.colours.list[colour], row.text, row.text_size};
-  const Box picture = whole(canvas.size());
+  const Box picture = row.size == Size{} ? whole(canvas.size()) : centred(row.size, canvas.size());
   switch (row.setting) {
-    case Setting::frame: return lamp(canvas, picture, lens, image > 0);
-    case Setting::button: return push_button(canvas, picture, lens, image > 0);
+    case Setting::frame: return lamp(canvas, picture, lens, lit);
+    case Setting::button: return push_button(canvas, picture, lens, lit);
     case Setting::flush: break;
   }
   const Box frame = picture.grown(-1);
   lamp_housing(canvas, frame);
-  lamp_lens(canvas, frame.grown(-1.6), lens, image > 0);
+  lamp_lens(canvas, frame.grown(-1.6), lens, lit);
 }
 
 void draw_lens_stack(const Canvas& canvas, const LensStack& stack, int image) {

@@ -14,6 +14,7 @@ namespace artwork {
 namespace {
 
 constexpr double rim_inset = 5.6;  // from the bezel's outer edge to the marks
+constexpr double limit_length = 5.5, limit_width = 1.6;
 
 /// A figure as it is printed: "120", ".5".
 std::string text_of(double value) {
@@ -52,6 +53,11 @@ struct Printer {
   void operator()(const Band& band) const {
     const Path path = ring(centre(), rim - scale.band / 2, angle(band.from), angle(band.to));
     stroke(canvas, path, scale.band, band.colour);
+  }
+  void operator()(const Limit& limit) const {
+    const double at = angle(limit.at);
+    line(canvas, polar(centre(), rim - limit_length, at), polar(centre(), rim, at), limit_width,
+         palette::range_red);
   }
   void operator()(const Arc& arc) const {
     stroke(canvas, ring(centre(), rim, angle(arc.from), angle(arc.to)), arc.width, ink);

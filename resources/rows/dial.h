@@ -29,6 +29,11 @@ struct MarksAt {
   double length, width;
 };
 
+/// A limit: a red line from the rim across the marks.
+struct Limit {
+  double at;
+};
+
 /// The line on which the marks stand.
 struct Arc {
   double from, to, width;
@@ -48,7 +53,7 @@ struct Figures {
   double size = 8;
 };
 
-using Print = std::variant<Band, Marks, MarksAt, Arc, Figures>;
+using Print = std::variant<Band, Marks, MarksAt, Limit, Arc, Figures>;
 
 /// One scale of a dial, in the units that a pilot reads: the needle's value is (reading - zero) * per.
 struct Scale {

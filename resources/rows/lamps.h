@@ -3,6 +3,7 @@
 
 #include <string_view>
 
+#include "resources/kit/geometry.h"
 #include "resources/kit/styles.h"
 #include "resources/rows/list.h"
 
@@ -31,6 +32,8 @@ struct Lamp {
   std::string_view text = "";
   double text_size = legend_size;
   Setting setting = Setting::frame;
+  bool lit_first = false;  ///< of one colour: lit, dark
+  Size size = {};          ///< where it is smaller than its picture, in whose middle it then stands
 };
 
 /// Lenses above one another in one frame; each image after the dark one lights the next of them.

@@ -89,7 +89,9 @@ INSTANTIATE_TEST_SUITE_P(
         LampCase{"Bleedair", "duct_pressure_lamp", 0, 2}, LampCase{"Bleedair", "valve_1_light", 1, 0},
         LampCase{"Ctr", "generator_1_lamp"}, LampCase{"Windshield", "left_windshield_light"},
         LampCase{"Emerlight", "not_armed_lamp"}, LampCase{"Mancon", "manual_control_button"},
-        LampCase{"Hydp", "system_1_electric_pump_lamp"}, LampCase{"Apulg", "apu_running_lamp"}));
+        LampCase{"Cafire", "left_engine_fire_light"}, LampCase{"Fofire", "apu_fire_light"},
+        LampCase{"Cutoff", "right_feed_light"}, LampCase{"Hydp", "system_1_electric_pump_lamp"},
+        LampCase{"Apulg", "apu_running_lamp"}));
 
 TEST(Lamps, GreenAndAmberDifferInHue) {
   const auto hue = [](const char* gauge, const char* part, int image) {

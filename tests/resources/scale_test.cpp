@@ -46,6 +46,7 @@ std::vector<double> readings(const Print& print) {
                           all = {m.from, m.to};
                         },
                         [&](const MarksAt& m) { all.assign(m.values.begin(), m.values.end()); },
+                        [&](const Limit& limit) { all = {limit.at}; },
                         [&](const Figures& f) {
                           for (const Figure& each : f.figures) all.push_back(each.value);
                         },

@@ -1,0 +1,21 @@
+/// Engine 1 core speed, with the pressure ratio on a small dial let into its face.
+#include "resources/panels/engines/engine_dials.h"
+
+namespace artwork::panels::eng1n2 {
+
+constexpr Item items[] = {
+    engine_speed_dial("core_speed"),
+    pressure_ratio_dial("pressure_ratio"),
+    Legend{{10.5, 8}, "N2"},
+    Legend{{-10.5, 8}, "%"},
+    Legend{at("core_speed", 0, 36), "ENG 1", 7},
+};
+
+constexpr Art art[] = {
+    plate(78, items),
+    needle_art("core_speed", {.length = 25.5, .tail = 6, .half_width = 1.6}),
+};
+
+constinit Unit unit{"Eng1n2", art};
+
+}  // namespace artwork::panels::eng1n2
