@@ -64,8 +64,10 @@ constinit Body body{
         click("Engine 2 start switch", {152, 1, 22, 42},
               advances<&Aircraft::eng2_start_switch, complete>),
         click("Start selector off", {80, 52, 35, 28}, selects<&Aircraft::start_selector, nothing>),
-        click("Start selector engine 1", {44, 52, 35, 28}, selects<&Aircraft::start_selector, engine1, event::starter_1_engage>),
-        click("Start selector engine 2", {116, 52, 35, 28}, selects<&Aircraft::start_selector, engine2, event::starter_2_engage>),
+        click("Start selector engine 1", {44, 52, 35, 28},
+              selects<&Aircraft::start_selector, engine1, event::starter_1_engage>),
+        click("Start selector engine 2", {116, 52, 35, 28},
+              selects<&Aircraft::start_selector, engine2, event::starter_2_engage>),
         click("Ready light test", {14, 13, 25, 25}, tests<&test_clock, &testing>),
     },
 };

@@ -20,10 +20,10 @@ constinit Body body{
     {
         click("Left selector flow", {3, 6, 17, 46}, selects<left, pointing_left>),
         click("Left selector quantity", {21, 2, 17, 52}, selects<left, pointing_up>),
-        click("Left selector test", {39, 6, 17, 46}, selects<left, pointing_right>),
+        click("Left selector check", {39, 6, 17, 46}, selects<left, pointing_right>),
         click("Right selector flow", {73, 6, 17, 46}, selects<right, pointing_left>),
         click("Right selector quantity", {91, 2, 17, 52}, selects<right, pointing_up>),
-        click("Right selector test", {109, 6, 16, 46}, selects<right, pointing_right>),
+        click("Right selector check", {109, 6, 16, 46}, selects<right, pointing_right>),
     },
 };
 

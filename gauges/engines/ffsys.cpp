@@ -12,7 +12,7 @@ namespace {
 constinit u32 fuel_used_mode, held_readings, weight_mode;
 
 /// What the selectors choose.
-enum Selected : u32 { quantity, flow, blank_test };
+enum Selected : u32 { quantity, flow, display_check };
 
 /// One side of the computer. Fuel used counts from the datum, the tank's reading at set-up or reset.
 struct Side {
@@ -45,7 +45,7 @@ void write_selected(Side& side) {
   switch (side.selector) {
     case quantity: return write_figures(side.text, whole_i32(read(side.tank_token) / 10));
     case flow: return write_flow(side);
-    case blank_test: return write(side.text, "000");
+    case display_check: return write(side.text, "000");
     default: return write_blank(side.text);
   }
 }
@@ -108,8 +108,9 @@ constinit Body body{
         lamp("Fuel used mode dot", 14340, {25, 43}, shows<&fuel_used_mode>),
         lamp("Right low fuel dot", 14320, {107, 14}, low_fuel_dot<&right>),
         lamp("Left low fuel dot", 14320, {59, 14}, low_fuel_dot<&left>),
-        lamp("Right test dot", 14330, {108, 41}, lit_at<&Aircraft::fuel_selector_right, blank_test>),
-        lamp("Left test dot", 14330, {94, 41}, lit_at<&Aircraft::fuel_selector_left, blank_test>),
+        lamp("Right check dot", 14330, {108, 41},
+             lit_at<&Aircraft::fuel_selector_right, display_check>),
+        lamp("Left check dot", 14330, {94, 41}, lit_at<&Aircraft::fuel_selector_left, display_check>),
         text("Weight display", {63, 36}, display, amber, weight_text, write_weight)
             .from(token::total_fuel),
         text("Right display", {84, 11}, display, amber, right.text, write_side<&right>),

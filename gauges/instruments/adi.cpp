@@ -109,7 +109,7 @@ constinit Body body{
         icon("Slip ball tube", {12110, 1}, {67, 197}).lit_flags(image_flag::transparent),
     },
     {
-        click("Attitude flag test", {67, 6, 50, 16}, does<press_flag_test>),
+        click("Attitude flag button", {67, 6, 50, 16}, does<press_flag_test>),
     },
 };
 

@@ -72,7 +72,7 @@ TEST_F(AttitudeDirector, FlagsTellWhatCannotBeTrusted) {
   EXPECT_EQ(shown("attitude_flag", {}), in_view) << "no engine runs";
   EXPECT_EQ(shown("attitude_flag", {{625, 25}}), withdrawn);
   EXPECT_EQ(shown("attitude_flag", {{625, 0}, {644, 30}}), withdrawn);
-  adi.click("attitude_flag_test");
+  adi.click("attitude_flag_button");
   EXPECT_EQ(aircraft.adi_flag_test_active, 1u);
   EXPECT_TRUE(rig::heard(click_sound_request));
   for (const auto& [clock, flag] : {std::pair{102.0, in_view}, {103.0, withdrawn}}) {

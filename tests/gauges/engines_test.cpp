@@ -298,8 +298,8 @@ TEST_F(FuelComputer, DotsTellLowFuelAndTest) {
     computer.frame();
     EXPECT_EQ(computer.value("left_low_fuel_dot"), row.left_low) << row.left << ' ' << row.fuel;
     EXPECT_EQ(computer.value("right_low_fuel_dot"), row.right_low) << row.right << ' ' << row.fuel;
-    EXPECT_EQ(computer.value("left_test_dot"), row.left_test) << row.left;
-    EXPECT_EQ(computer.value("right_test_dot"), row.right_test) << row.right;
+    EXPECT_EQ(computer.value("left_check_dot"), row.left_test) << row.left;
+    EXPECT_EQ(computer.value("right_check_dot"), row.right_test) << row.right;
   }
 }
 

@@ -33,12 +33,28 @@ bool is_test(std::string_view control) { return control.find("test") != std::str
 
 TEST(Controls, EachMovesThePartItIsNamedAfter) {
   const std::set<std::string> printed_on_the_plate{"Lightsp fire_test_button",
-                                                   "Cabalt standard_pressure_button"};
+                                                   "Cabalt standard_pressure_button",
+                                                   "Aitest timer_button",
+                                                   "Aitestfsx timer_button",
+                                                   "Altimeter pressure_setting_knob_down",
+                                                   "Altimeter pressure_setting_knob_up",
+                                                   "Clock setting_knob_down",
+                                                   "Clock setting_knob_up",
+                                                   "Radalt test_button",
+                                                   "Ffsys fuel_computer_power_button",
+                                                   "Ffsys fuel_used_mode_button",
+                                                   "Ffsys weight_mode_button",
+                                                   "Ffsys reset_button"};
+  const std::set<std::string> answered_by_the_host{"Hsi course_knob_down", "Hsi course_knob_up",
+                                                   "Airspeed selected_speed_knob_down",
+                                                   "Airspeed selected_speed_knob_up"};
   for (const Stimulus* control : controls()) {
     const rig::NamedPart* part = part_of(*control);
     EXPECT_EQ(part == nullptr, printed_on_the_plate.contains(control->text())) << control->text();
     if (part == nullptr) {
-      EXPECT_TRUE(control->heeded) << control->text() << " does nothing";
+      EXPECT_TRUE(control->heeded || !control->changed.empty()) << control->text() << " does nothing";
+    } else if (answered_by_the_host.contains(control->text())) {
+      EXPECT_TRUE(control->heeded) << control->text() << " asks for nothing";
     } else {
       EXPECT_TRUE(control->changed.contains({gauge_of(*control).header().name, part->name}))
           << control->text() << " leaves " << part->name;
@@ -76,6 +92,7 @@ TEST(Controls, ASideAnswersToItsOwnControlsAndTokens) {
     const Stimulus* other = walk::result().find(gauge, sides::mirrored(stimulus.name));
     for (const auto& [place, part] : stimulus.changed) {
       if (part.ends_with("duct_hot_light")) continue;  // a duct that heats up lights it any time
+      if (part.ends_with("display")) continue;         // what it turns to may read the same
       EXPECT_FALSE(sides::opposite(stimulus.name, part))
           << stimulus.text() << " moves " << place << ' ' << part;
       if (!stimulus.area && place != gauge) continue;
@@ -99,13 +116,28 @@ TEST(Controls, EachClickIsHeardOnce) {
       {"Engstart start_selector_engine_1", {"toggle"}},
       {"Engstart start_selector_engine_2", {"toggle"}},
       {"Apu start_button", {"", " other"}},  // soft: the APU itself is heard
+      {"Fuelc quantity_test_switch", {""}},
+      {"Fuelreq fuel_request_lever", {"push"}},
+      {"Radalt test_button", {" other"}},
+      {"Coltsw left_selector_flow", {"toggle"}},  // levers with a pointer
+      {"Coltsw left_selector_quantity", {"toggle"}},
+      {"Coltsw left_selector_check", {"toggle"}},
+      {"Coltsw right_selector_flow", {"toggle"}},
+      {"Coltsw right_selector_quantity", {"toggle"}},
+      {"Coltsw right_selector_check", {"toggle"}},
+      {"Airspeed set_airspeed_bug_1", {""}},  // rings that turn freely
+      {"Airspeed set_airspeed_bug_2", {""}},
+      {"Airspeed set_airspeed_bug_3", {""}},
+      {"Airspeed set_airspeed_bug_4", {""}},
+      {"Airspeed selected_speed_knob_down", {""}},
+      {"Airspeed selected_speed_knob_up", {""}},
   };
   for (const Stimulus* control : controls()) {
     const rig::NamedPart* part = part_of(*control);
     const std::string& kind =
         part != nullptr && part->element->kind == ELEMENT_ICON ? part->name : control->name;
     const bool test = is_test(control->name);
-    const bool toggle = ends_with_one_of(kind, {"switch", "lever", "guard", "bank"});
+    const bool toggle = ends_with_one_of(kind, {"switch", "lever", "guard", "bank", "handle"});
     std::set<std::string> expected{test ? "" : toggle ? "toggle" : "push"};
     const auto unlike = unlike_its_kind.find(control->text());
     if (unlike != unlike_its_kind.end()) expected = unlike->second;
@@ -147,6 +179,18 @@ TEST(Controls, EachHasTheMovesOfItsKind) {
       {"Tempcon right_temperature_selector_up", {{0, 0}, {0, 2}}},
       // Left switches it on and off, right tests it.
       {"Mancon manual_control_button", {{0, 1}, {1, 0}, {1, 2}}},
+      {"Adi attitude_flag_button", {{0, 1}, {1, 1}}},
+      {"Fuelreq fuel_request_lever", {{0, 1}}},
+      {"Coltsw left_selector_flow", {{0, 1}, {1, 1}, {2, 1}}},
+      {"Coltsw left_selector_quantity", {{0, 0}, {1, 0}, {2, 0}}},
+      {"Coltsw left_selector_check", {{0, 2}, {1, 2}, {2, 2}}},
+      {"Coltsw right_selector_flow", {{0, 1}, {1, 1}, {2, 1}}},
+      {"Coltsw right_selector_quantity", {{0, 0}, {1, 0}, {2, 0}}},
+      {"Coltsw right_selector_check", {{0, 2}, {1, 2}, {2, 2}}},
+      // The left button moves a handle down, the right one up.
+      {"Firesw left_fire_handle", {{0, 1}, {1, 0}, {1, 2}, {2, 1}}},
+      {"Firesw apu_fire_handle", {{0, 1}, {1, 0}, {1, 2}, {2, 1}}},
+      {"Firesw right_fire_handle", {{0, 1}, {1, 0}, {1, 2}, {2, 1}}},
   };
   for (const Stimulus* control : controls()) {
     const rig::NamedPart* part = part_of(*control);
@@ -186,7 +230,9 @@ TEST(Controls, ALightUnderTestShinesForTwoSecondsAndTestsProlongEachOther) {
     std::vector<std::pair<std::string, const rig::NamedPart*>> tests;
     for (const rig::NamedArea& area : gauge.areas()) {
       const rig::NamedPart* light = walk::part_of(gauge, area.name);
-      if (is_test(area.name) && light != nullptr) tests.emplace_back(area.name, light);
+      const bool of_its_own_time = area.name == "quantity_test_switch";
+      if (is_test(area.name) && light != nullptr && !of_its_own_time)
+        tests.emplace_back(area.name, light);
     }
     if (gauge.header().name == std::string("Acpwr")) darken_latched_lights(gauge);
     for (const auto& [button, light] : tests) {
@@ -222,10 +268,12 @@ TEST(Controls, TheCursorSaysWhichWayAHalfTurns) {
 }
 
 TEST(Controls, EveryImageOfAnIconIsShownAndNoOther) {
+  // What these show hangs on where the aircraft is; each has its stories.
+  const std::set<std::string> of_the_flight{"Adi", "Altimeter", "Hsi", "Markers", "Radalt"};
   for (const rig::Gauge& gauge : walk::result().gauges) {
     for (const rig::NamedPart& part : gauge.parts()) {
       const walk::Place place{gauge.header().name, part.name};
-      if (part.element->kind != ELEMENT_ICON) continue;
+      if (part.element->kind != ELEMENT_ICON || of_the_flight.contains(place.first)) continue;
       std::set<f64> images;
       for (f64 image = 0; image < part.element->icon.image_count; ++image) images.insert(image);
       EXPECT_EQ(walk::result().shown.at(place), images) << place.first << ' ' << place.second;

@@ -80,7 +80,11 @@ TEST(Records, HeadersAndChainsBelongTogether) {
       const bool root = e == chain.front();
       EXPECT_EQ(e->gauge, gauge);
       EXPECT_EQ(e->kind == ELEMENT_STATIC_IMAGE, root);
-      EXPECT_EQ(e->image_flags == 0x1u, root);
+      // The altimeter's alert draws nothing: its picture lies under the lamps.
+      const bool opaque = e->resource_id == 11480 && e->icon.image_count == 1;
+      if (!opaque) {
+        EXPECT_EQ(e->image_flags == 0x1u, root);
+      }
       if (e->next) {
         EXPECT_EQ(e->next[1], nullptr) << "one child each";
       }
@@ -89,7 +93,8 @@ TEST(Records, HeadersAndChainsBelongTogether) {
 }
 
 TEST(Records, LitCopiesShowTheSameAndFollowThePanelLights) {
-  const std::set<std::pair<std::string, std::string>> dark_by_night{};
+  const std::set<std::pair<std::string, std::string>> dark_by_night{{"Adi", "slip_ball_tube"},
+                                                                    {"Altimeter", "altitude_alert"}};
   rig::Host host;
   for (rig::Gauge& gauge : rig::built_gauges()) {
     const std::string name = gauge.header().name;

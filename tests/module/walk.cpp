@@ -19,7 +19,9 @@ struct Token {
 
 /// All but the clock.
 constexpr Token tokens[] = {
-#define TOKEN(number, name, unit) {number, #name, std::string_view(unit) == "0/1"},
+#define TOKEN(number, name, unit) \
+  {number, #name,                 \
+   std::string_view(unit).starts_with("0/1") || std::string_view(unit).starts_with("0 closed")},
 #define EVENT(number, name)
 #include "module/tokens.inc"
 #undef TOKEN
@@ -51,7 +53,7 @@ std::string sounds_of_click() {
 }
 
 class Walk {
-  static constexpr int rounds = 60, steps_a_stimulus = 4;
+  static constexpr int rounds = 60, steps_a_stimulus = 6;
 
  public:
   Result run() {
@@ -76,7 +78,7 @@ class Walk {
       if (stimulus.gauge == gauge) own.push_back(&stimulus);
     }
     for (std::size_t step = 0; step < own.size() * steps_a_stimulus; ++step) {
-      whole_cockpit_ = random(9) == 0;
+      whole_cockpit_ = random(14) == 0;
       change_surroundings();
       stimulate(*own[random(own.size())]);
     }
@@ -208,6 +210,12 @@ const rig::NamedPart* part_of(const rig::Gauge& gauge, std::string_view control)
       {"landing_lights_levers", "left_landing_light_lever"},
       {"cabin_altitude_knob_down", "selected_cabin_altitude"},
       {"cabin_altitude_knob_up", "selected_cabin_altitude"},
+      {"decision_height_knob_down", "decision_height_bug"},
+      {"decision_height_knob_up", "decision_height_bug"},
+      {"set_airspeed_bug_1", "speed_bug_1"},
+      {"set_airspeed_bug_2", "speed_bug_2"},
+      {"set_airspeed_bug_3", "speed_bug_3"},
+      {"set_airspeed_bug_4", "speed_bug_4"},
   };
   std::string name(control);
   if (const auto other = other_names.find(name); other != other_names.end()) name = other->second;

@@ -71,7 +71,7 @@ constexpr Item items[] = {
 constexpr Art art[] = {
     plate(64, items),
     drawn_art("left_low_fuel_dot", {16, 21}, draw_low_fuel_dot),
-    drawn_art("left_test_dot", {22, 8}, draw_test_dot),
+    drawn_art("left_check_dot", {22, 8}, draw_test_dot),
     drawn_art("weight_mode_dot", {6, 6}, draw_mode_dot),
 };
 
