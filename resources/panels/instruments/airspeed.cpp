@@ -15,18 +15,18 @@ constexpr Print knots[] = {
     Marks{60, 300, 10, 5, 1.1},
     Marks{80, 200, 5, 3, 0.6},
     MarksAt{{350, 400}, 7, 1.8},
-    MarksAt{{325, 375, 425}, 5, 1.1},
-    Marks{300, 425, 5, 3, 0.6},
+    MarksAt{{320, 340, 360, 380, 420}, 4.4, 1},
+    Marks{300, 430, 10, 3, 0.6},
     Figures{{60, 80, 100, 120, 140, 160, 180, 200, 250, 300, 350, 400}, 8.5, 9},
 };
 
 /// The disc's scale runs along the upper edge of its window.
-constexpr double mach_radius = 33;
-constexpr Point window_by{0, -27};
+constexpr double mach_radius = 36;
+constexpr Point window_by{0, -30};
 
 void draw_mach_index(const Board& board) {
   const Point hub = hub_of(board.gauge, "mach_disc");
-  const Point index[] = {{hub.x, hub.y - 33}, {hub.x - 2.6, hub.y - 37.5}, {hub.x + 2.6, hub.y - 37.5}};
+  const Point index[] = {{hub.x, hub.y - 35.5}, {hub.x - 2.6, hub.y - 40}, {hub.x + 2.6, hub.y - 40}};
   fill_hard(board.canvas, polygon(index), palette::symbol);
 }
 
@@ -35,7 +35,7 @@ constexpr Spot bug_knob(std::string_view area) { return at(area); }
 constexpr Item items[] = {
     Dial{.radius = 66,
          .scales = {{.needle = "airspeed", .print = knots, .rim = 60.5}},
-         .words = {{"MACH", {0, -15}, 6.5}, {"KNOTS", {0, 17}, 7.5}},
+         .words = {{"MACH", {0, -16.5}, 6.5}, {"KNOTS", {0, 17}, 7.5}},
          .boss = 6},
     Opening{at("mach_disc", window_by.x, window_by.y), {36, 15}, 2},
     Ornament{draw_mach_index},
@@ -59,7 +59,7 @@ void draw_mach_disc(const Canvas& canvas, int) {
     if (hundredths % 10 == 0) {
       char text[8];
       std::snprintf(text, sizeof text, hundredths == 100 ? "1" : ".%d", hundredths / 10);
-      print(canvas, {0, -mach_radius + 9.2}, text, {.size = 7.5, .colour = palette::mark});
+      print(canvas, {0, -mach_radius + 9.2}, text, {.size = 6.8, .colour = palette::mark});
     }
     cairo_rotate(canvas.cr(), radians(degrees_per_hundredth));
   }

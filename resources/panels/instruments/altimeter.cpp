@@ -12,10 +12,10 @@
 namespace artwork::panels::altimeter {
 
 constexpr Print hundreds[] = {
-    Marks{0, 9, 1, 7, 1.8},
-    Marks{0, 10, 0.5, 5, 1.1},
-    Marks{0, 10, 0.1, 3, 0.6},
-    Figures{{0, 1, 2, 3, 4, 5, 6, 7, 8, 9}, 8.5, 11},
+    Marks{0, 9, 1, 5.6, 1.9},
+    Marks{0, 10, 0.5, 4.4, 1.1},
+    Marks{0, 10, 0.1, 2.8, 0.6},
+    Figures{{0, 1, 2, 3, 4, 5, 6, 7, 8, 9}, 6.2, 9.5},
 };
 
 /// The lens behind the frame; the lit one lies over it.
@@ -25,18 +25,18 @@ void draw_alert_lens(const Board& board) {
 }
 
 constexpr Item items[] = {
-    Dial{.radius = 53.5,
-         .scales = {{.needle = "pointer", .print = hundreds, .rim = 47.6}},
-         .words = {{"ALT", {20, -14}, 6.5}, {"MB", {-15, 8.8}, 6}, {"IN HG", {16, 8.8}, 6}},
-         .boss = 0},
+    Dial{.radius = 55,
+         .scales = {{.needle = "pointer", .print = hundreds, .rim = 49.8}},
+         .words = {{"ALT", {20, -14}, 6.5}, {"HPA", {-15, 8.8}, 6}, {"IN HG", {16, 8.8}, 6}},
+         .boss = 5},
     DrumFrame{"ten_thousands_of_feet", "feet"},
     DrumFrame{"thousands_of_the_hectopascals", "units_of_the_hectopascals"},
     DrumFrame{"inches_of_the_pressure_setting", "hundredths_of_the_inches"},
     Ornament{draw_alert_lens},
-    FixedKnob{between("pressure_setting_knob_down", "pressure_setting_knob_up"), 8.6, 9.8, -30},
-    FixedKnob{between("altitude_bug_knob_down", "altitude_bug_knob_up"), 8.6, 9.8, 20},
-    Legend{{9, 113.5}, "BARO", 6},
-    Legend{{107, 113.5}, "BUG", 6},
+    FixedKnob{between("pressure_setting_knob_down", "pressure_setting_knob_up", 0, -3), 7, 8, -30},
+    FixedKnob{between("altitude_bug_knob_down", "altitude_bug_knob_up", 0, -2), 7, 8, 20},
+    Legend{between("pressure_setting_knob_down", "pressure_setting_knob_up", -3, 9.5), "BARO", 6.5},
+    Legend{between("altitude_bug_knob_down", "altitude_bug_knob_up", 3, 10.5), "BUG", 6.5},
 };
 
 /// Figures that stand still: as on a drum.
@@ -122,7 +122,7 @@ constexpr Art art[] = {
     drawn_art("thousands_of_the_hectopascals", {14, 12}, draw_thousands),
     drum_art("tens_of_the_hectopascals", {7, 12}, pressure),
     drum_art("units_of_the_hectopascals", {7, 12}, pressure),
-    bug_art("altitude_bug", {.from = 40, .to = 49.5, .half_width = 2.5, .colour = palette::bug}),
+    bug_art("altitude_bug", {.from = 41.5, .to = 51, .half_width = 2.5, .colour = palette::bug}),
     drum_art("ten_thousands_of_feet", {10, 17}, feet),
     drum_art("thousands_of_feet", {10, 17}, feet),
     drum_art("feet", {16, 17}, {.figure_size = 9.5, .tail = "0"}),

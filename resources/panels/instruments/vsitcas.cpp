@@ -21,15 +21,15 @@ constexpr Item items[] = {
          .scales = {{.needle = "vertical_speed", .print = thousands, .per = 1000, .rim = 41.5}},
          .words = {{"UP", {-15, -9}, 6.5},
                    {"DN", {-15, 9}, 6.5},
-                   {"FT/MIN", {9, 11}, 6.5},
-                   {"\u00d71000", {9, 19}, 6.5}},
+                   {"FPM", {5, 12}, 6.5},
+                   {"\u00d71000", {5, 20.5}, 6.5}},
          .boss = 5},
 };
 
 constexpr Art art[] = {
     plate(104, items),
     needle_art("vertical_speed", {.length = 36, .tail = 2, .half_width = 2}),
-    flag_art("power_flag", {22, 10}, {"OFF", InView::first, 6.5}),
+    flag_art("power_flag", {18, 9}, {"OFF", InView::first, 5.8}),
 };
 
 constinit Unit unit{"Vsitcas", art};
