@@ -10,7 +10,8 @@ namespace artwork {
 void display_window(const Canvas& canvas, Box box);
 
 /// A framed opening through which what lies behind the plate shows; its edge catches the lamps.
-void opening(const Canvas& canvas, Point centre, Size size, double corner, Lighting lighting);
+void opening(const Canvas& canvas, Point centre, Size size, double corner,
+             Lighting lighting = Lighting::off);
 
 /// A dark frame let into a face, in which drums stand edge to edge. `box` is the drums' room.
 void drum_frame(const Canvas& canvas, Box box, Lighting lighting);

@@ -37,7 +37,7 @@ constexpr Item items[] = {
          .scales = {{.needle = "airspeed", .print = knots, .rim = 60.5}},
          .words = {{"MACH", {0, -16.5}, 6.5}, {"KNOTS", {0, 17}, 7.5}},
          .boss = 6},
-    Opening{at("mach_disc", window_by.x, window_by.y), {36, 15}, 2},
+    Opening{at("mach_disc", window_by.x, window_by.y), {32, 15}, 2},
     Ornament{draw_mach_index},
     FixedKnob{at("set_airspeed_bug_1"), 5.6, 6.6, -40},
     FixedKnob{at("set_airspeed_bug_2"), 5.6, 6.6, 25},

@@ -4,7 +4,7 @@
 namespace artwork::panels::clock {
 
 constexpr Print minutes[] = {
-    Marks{0, 55, 15, 5.4, 2},
+    Marks{0, 45, 15, 5.4, 2},
     Marks{0, 55, 5, 4.6, 1.3},
     Marks{0, 59, 1, 2.4, 0.6},
 };

@@ -8,13 +8,13 @@ constexpr Print celsius[] = {
     Marks{-60, -40, 10, 3.6, 1},
     Marks{-20, 60, 10, 3.6, 1},
     Marks{-20, 60, 5, 2.4, 0.6},
-    Figures{{-60, {-40, -15}, {-20, 15}, 0, 20, 40, 60}, 6, 7.5},
+    Figures{{-60, {-40, -15}, {-20, 15}, 0, 20, 40, 60}, 6, 7},
 };
 
 constexpr Item items[] = {
     Dial{.radius = 31.5,
          .scales = {{.needle = "outside_air_temperature", .print = celsius}},
-         .words = {{"OAT", {0, 13}, 7.5}, {"\u00b0C", {0, 21}, 7}},
+         .words = {{"OAT", {0, 20.5}, 6.5}, {"\u00b0C", {0, 12}, 7}},
          .boss = 0},
 };
 

@@ -8,7 +8,7 @@ namespace artwork::panels::radalt {
 constexpr Print hundreds[] = {
     Marks{0, 5, 1, 5, 1.6},     Marks{0, 5, 0.5, 4, 1},
     Marks{0, 5, 0.1, 2.4, 0.6}, MarksAt{{10, 15, 20, 25}, 5, 1.6},
-    Marks{5, 25, 1, 2.8, 0.7},  Figures{{0, 1, 2, 3, 4, 5, 10, 15, 20, {25, -6}}, 6.2, 8},
+    Marks{5, 25, 1, 2.8, 0.7},  Figures{{0, 1, 2, 3, 4, 5, 10, 15, {20, -4}, {25, 3}}, 6, 7.5},
 };
 
 void draw_dark_light(const Board& board) {
@@ -21,7 +21,7 @@ constexpr Spot knob = between("decision_height_knob_down", "decision_height_knob
 constexpr Item items[] = {
     Dial{.radius = 39.5,
          .scales = {{.needle = "radio_altitude", .print = hundreds, .per = 100, .rim = 34}},
-         .words = {{"RAD ALT", {0, -12}, 6}, {"FT \u00d7100", {0, 12}, 6}},
+         .words = {{"RAD ALT", {4, 9.5}, 5.5}, {"FT \u00d7100", {-1, 16.5}, 5.5}},
          .boss = 5},
     Ornament{draw_dark_light},
     Legend{{22, 5.5}, "DH", 6.5},
