@@ -25,8 +25,9 @@ struct Plate {
   std::span<const Item> items;
 };
 
-using Picture = std::variant<Plate, Lamp, LensStack, RoundLight, Lever, Knob, FlowSwitch, Guard,
-                             GuardedLever, GuardedKnob, Needle, Drum, Tape, Mask, CompassCard, Drawing>;
+using Picture =
+    std::variant<Plate, Lamp, LensStack, RoundLight, Lever, Knob, FlowSwitch, Guard, GuardedLever,
+                 GuardedKnob, Needle, Bug, Flag, Drum, Tape, Mask, CompassCard, Ball, Drawing>;
 
 /// Which bitmaps a row draws: those of a part of the unit's gauge, or a run that gauges share.
 struct Of {
@@ -89,6 +90,9 @@ constexpr Art guarded_knob_art(Of of, Size size) { return {of, size, GuardedKnob
 
 /// As large as pivot and length need.
 constexpr Art needle_art(Of of, Needle needle) { return {of, {}, needle}; }
+/// As large as its pivot and its place on the rim need.
+constexpr Art bug_art(Of of, Bug bug) { return {of, {}, bug}; }
+constexpr Art flag_art(Of of, Size size, Flag flag) { return {of, size, flag}; }
 /// `window` is the size of the window in which it shows.
 constexpr Art drum_art(Of of, Size window, Drum drum) {
   return {of, {window.width, 10 * window.height}, drum};
@@ -97,6 +101,8 @@ constexpr Art tape_art(Of of, Size strip, Tape tape) { return {of, strip, tape};
 /// The window of the tape that is the part `of`.
 constexpr Art mask_art(Of of, Size window, Mask mask = {}) { return {of, window, mask}; }
 constexpr Art compass_card_art(Of of, Size size, CompassCard card) { return {of, size, card}; }
+
+constexpr Art ball_art(Of of, Size size, Ball ball) { return {of, size, ball}; }
 
 /// Pictures that are one of their kind.
 constexpr Art drawn_art(Of of, Size size, DrawRoutine draw, Point hub = {}) {

@@ -24,9 +24,14 @@ Run run_of(const Element& element, const Picture& picture) {
   return {element.resource_id, icon ? static_cast<int>(element.icon.image_count) : 1};
 }
 
-Size needle_size(const Element& element, const Needle& needle) {
+/// What points to the right from its pivot is as large as it needs, and even about its axis.
+Size size_of(const Element& element, const Art& art) {
+  const auto* needle = std::get_if<Needle>(&art.picture);
+  const auto* bug = std::get_if<Bug>(&art.picture);
+  if (needle == nullptr && bug == nullptr) return art.size;
   const PanelPoint pivot = element.needle.center;
-  return {static_cast<int>(pivot.x + needle.length + 1), 2 * pivot.y};
+  const double length = needle == nullptr ? bug->to : needle->length;
+  return {static_cast<int>(pivot.x + length + 2), 2 * pivot.y + 1};
 }
 
 std::string name_of(const Unit& unit, const Art& art) {
@@ -42,9 +47,7 @@ class Table {
       return add(unit, art, {art.of.bitmaps.id, static_cast<int>(art.of.bitmaps.images)}, art.size);
     }
     const Element& element = part(gauge(unit.gauge), art.of.part);
-    const auto* needle = std::get_if<Needle>(&art.picture);
-    add(unit, art, run_of(element, art.picture),
-        needle == nullptr ? art.size : needle_size(element, *needle));
+    add(unit, art, run_of(element, art.picture), size_of(element, art));
   }
 
   void add(const PlainPlate& plate) {

@@ -5,19 +5,16 @@ namespace {
 
 /// Where several gauges share a plate, one of them stands for all.
 constexpr PlainPlate table[] = {
-    {"Msnd", 20},     {"Stewcall", 122},  {"Aitest", 84},     {"Ovhtoggle", 210},   {"Vhf1nav", 110},
-    {"Vhf2nav", 110}, {"Comm", 92},       {"Adf", 78},        {"Transponder", 106}, {"Selcall", 112},
-    {"Dhgpws", 93},   {"Flightrec", 119}, {"Micsel", 166},    {"Trim", 84},         {"Apcon", 156},
-    {"Thleft", 292},  {"Ldmain", 58},     {"Ttc", 70},        {"Checktg", 42},      {"Thright", 236},
-    {"Rmi", 160},     {"Hsi", 186},       {"Altimeter", 142}, {"Adi", 222},         {"Clock", 92},
-    {"Markers", 68},  {"Airspeed", 142},  {"Radalt", 96},     {"Aplight", 22},      {"Adisafe", 106},
-    {"Liftdump", 46}, {"Wiskey", 46},     {"Nav1rad", 102},   {"Stall", 34},        {"Sbrake", 144},
-    {"Sbrakelg", 22}, {"Stabind", 90},    {"Apcourse", 98},   {"Pullup", 52},       {"Apalt", 42},
-    {"Caradar", 136}, {"Gear", 210},      {"Apmode", 92},     {"Pedtg", 56},        {"Cat2apsys", 84},
-    {"Apset", 94},    {"Vsitcas", 104},   {"Flapind", 72},    {"Oat", 66},          {"Fowarn", 144},
-    {"Fobrake", 74},  {"Fouti", 72},      {"Foflt", 72},      {"Fopselect", 50},    {"Gearind", 84},
-    {"Thrtg", 44},    {"Masterwarn", 32}, {"Gustlock", 22},   {"Fdir", 58},         {"Pushback", 178},
-    {"Intro", 497},
+    {"Msnd", 20},       {"Stewcall", 122}, {"Ovhtoggle", 210},   {"Vhf1nav", 110}, {"Vhf2nav", 110},
+    {"Comm", 92},       {"Adf", 78},       {"Transponder", 106}, {"Selcall", 112}, {"Dhgpws", 93},
+    {"Flightrec", 119}, {"Micsel", 166},   {"Trim", 84},         {"Apcon", 156},   {"Thleft", 292},
+    {"Ldmain", 58},     {"Ttc", 70},       {"Checktg", 42},      {"Thright", 236}, {"Aplight", 22},
+    {"Liftdump", 46},   {"Wiskey", 46},    {"Nav1rad", 102},     {"Stall", 34},    {"Sbrake", 144},
+    {"Sbrakelg", 22},   {"Stabind", 90},   {"Apcourse", 98},     {"Pullup", 52},   {"Apalt", 42},
+    {"Caradar", 136},   {"Gear", 210},     {"Apmode", 92},       {"Pedtg", 56},    {"Cat2apsys", 84},
+    {"Apset", 94},      {"Flapind", 72},   {"Fowarn", 144},      {"Fobrake", 74},  {"Fouti", 72},
+    {"Foflt", 72},      {"Fopselect", 50}, {"Gearind", 84},      {"Thrtg", 44},    {"Masterwarn", 32},
+    {"Gustlock", 22},   {"Pushback", 178}, {"Intro", 497},
 };
 
 }  // namespace

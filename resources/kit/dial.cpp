@@ -3,16 +3,6 @@
 namespace artwork {
 namespace {
 
-/// How strongly the lamps shine.
-double power(Lighting lighting) {
-  switch (lighting) {
-    case Lighting::off: return 0;
-    case Lighting::dim: return 0.34;
-    case Lighting::bright: return 1;
-  }
-  return 0;
-}
-
 void bezel(const Canvas& canvas, const DialFace& d) {
   const Point c = d.centre, way{d.radius * 0.72, d.radius * 0.72};
   soft(canvas, circle(c + Point{0.6, 1.0}, d.radius + 0.6), faded(palette::black, 0.5), 1.1);
@@ -54,6 +44,50 @@ void wash(const Canvas& canvas, const DialFace& d, Lighting lighting) {
 }
 
 }  // namespace
+
+double power(Lighting lighting) {
+  switch (lighting) {
+    case Lighting::off: return 0;
+    case Lighting::dim: return 0.34;
+    case Lighting::bright: return 1;
+  }
+  return 0;
+}
+
+void case_face(const Canvas& canvas, Box box, double corner, Lighting lighting) {
+  const Box face = box.grown(-3.2);
+  soft(canvas, rounded({box.x + 0.6, box.y + 1, box.width, box.height}, corner),
+       faded(palette::black, 0.5), 1.1);
+  set_linear(canvas, {box.x, box.y}, {box.right(), box.bottom()},
+             {{0, palette::mould_light}, {0.5, palette::mould}, {1, palette::mould_dark}});
+  fill(canvas, rounded(box, corner));
+  set_linear(canvas, {box.x, box.y}, {box.right(), box.bottom()},
+             {{0, faded(palette::white, 0.5)},
+              {0.4, faded(palette::white, 0.08)},
+              {1, faded(palette::black, 0.6)}});
+  stroke(canvas, rounded(box.grown(-0.4), corner - 0.4), 0.8);
+  set_linear(canvas, {face.x, face.y}, {face.right(), face.bottom()},
+             {{0, palette::well}, {0.6, palette::mould_dark}, {1, palette::steel}});
+  fill(canvas, rounded(face.grown(0.9), corner - 2.3));
+  set_linear(canvas, {face.x, face.y}, {face.right(), face.bottom()},
+             {{0, palette::face_light},
+              {0.5, mixed(palette::face_light, palette::face_dark, 0.5)},
+              {1, palette::face_dark}});
+  fill(canvas, rounded(face, corner - 3.2));
+  const double p = power(lighting);
+  if (p == 0) return;
+  const Saved saved(canvas);
+  rounded(face.grown(0.9), corner - 2.3)(canvas.cr());
+  cairo_clip(canvas.cr());
+  for (const double side : {0.2, 0.8}) {
+    const Point lamp{face.x + side * face.width, face.y};
+    set_radial(canvas, lamp, lamp, face.height,
+               {{0, faded(palette::filament, 0.36 * p)},
+                {0.25, faded(palette::filament_wash, 0.12 * p)},
+                {1, faded(palette::filament_wash, 0.015 * p)}});
+    cairo_paint(canvas.cr());
+  }
+}
 
 Path ring(Point c, double radius, double from, double to) {
   return [=](cairo_t* cr) {

@@ -8,6 +8,9 @@
 
 namespace artwork {
 
+/// How strongly the lamps shine.
+double power(Lighting lighting);
+
 /// A round instrument: `radius` is that of its bezel's outer edge.
 struct DialFace {
   Point centre;
@@ -19,6 +22,8 @@ struct DialFace {
 
 /// The bezel and the empty face, with what its lamps throw on it.
 void dial(const Canvas& canvas, const DialFace& dial, Lighting lighting);
+/// A rectangular one: bezel and empty face within `box`.
+void case_face(const Canvas& canvas, Box box, double corner, Lighting lighting);
 /// The glass over a finished face.
 void dial_glass(const Canvas& canvas, const DialFace& dial);
 /// A curve of a circle, in degrees clockwise from the right.

@@ -65,6 +65,18 @@ inline constexpr Colour well = rgb(0x0B0D0E);
 inline constexpr Colour face_light = rgb(0x1D2022);
 inline constexpr Colour face_dark = rgb(0x0C0E0F);
 
+// Attitude balls.
+inline constexpr Colour sky_light = rgb(0x8CC3EA);
+inline constexpr Colour sky = rgb(0x3F86C8);
+inline constexpr Colour sky_dark = rgb(0x1C4478);
+inline constexpr Colour earth_light = rgb(0xB07C48);
+inline constexpr Colour earth = rgb(0x83552B);
+inline constexpr Colour earth_dark = rgb(0x442A14);
+inline constexpr Colour symbol = rgb(0xFFC02E);    ///< the aircraft's own symbol
+inline constexpr Colour command = rgb(0xF9E04A);   ///< what the flight director commands
+inline constexpr Colour flag_red = rgb(0xE4381F);  ///< warning flags
+inline constexpr Colour bug = rgb(0xFF9A2E);
+
 // Guards.
 inline constexpr Colour guard_light = rgb(0xDE5A49);
 inline constexpr Colour guard = rgb(0xB62C22);

@@ -33,9 +33,17 @@ Box click_box(const GaugeHeader& of, std::string_view name);
 /// All click areas, in the order of the gauge's table.
 std::vector<Box> click_boxes(const GaugeHeader& of);
 
-/// Where an element stands on its plate: for what turns, its pivot.
+/// Where an element stands on its plate.
 constexpr Point place(const Element& element) {
   return {static_cast<double>(element.position.x), static_cast<double>(element.position.y)};
+}
+
+/// What turns turns about the middle of a pixel.
+constexpr Point middle_of(PanelPoint pixel) { return {pixel.x + 0.5, pixel.y + 0.5}; }
+
+/// The point of its plate about which a needle or a sprite turns.
+constexpr Point turning_point(const Element& element) {
+  return middle_of(element.kind == ELEMENT_SPRITE ? element.sprite.texture_center : element.position);
 }
 
 /// Ends the program: the artwork would be wrong without what is missing.

@@ -1,5 +1,7 @@
 #include "resources/kit/window.h"
 
+#include "resources/kit/dial.h"
+
 namespace artwork {
 
 void display_window(const Canvas& canvas, Box box) {
@@ -18,18 +20,34 @@ void display_window(const Canvas& canvas, Box box) {
   fill(canvas, rounded(box, 0.8));
 }
 
-void opening(const Canvas& canvas, Point centre, Size size, double corner) {
+void opening(const Canvas& canvas, Point centre, Size size, double corner, Lighting lighting) {
   const Box hole{centre.x - size.width / 2.0, centre.y - size.height / 2.0,
                  static_cast<double>(size.width), static_cast<double>(size.height)};
-  const Box frame = hole.grown(1.5);
+  const Box frame = hole.grown(1.6);
   set_linear(canvas, {frame.x, frame.y}, {frame.right(), frame.bottom()},
              {{0, palette::mould_dark}, {0.5, palette::mould}, {1, palette::steel}});
-  fill(canvas, rounded(frame, corner + 1.5));
-  // A plate has no half-clear pixels.
+  fill(canvas, rounded(frame, corner + 1.6));
+  stroke(canvas, rounded(hole.grown(1), corner + 1), 0.9,
+         faded(palette::filament_wash, 0.5 * power(lighting)));
+  const Saved saved(canvas);
+  cairo_set_operator(canvas.cr(), CAIRO_OPERATOR_CLEAR);
+  fill_hard(canvas, rounded(hole, corner), palette::black);
+}
+
+void drum_frame(const Canvas& canvas, Box box, Lighting lighting) {
+  const Box frame = box.grown(1.8);
+  set_linear(canvas, {frame.x, frame.y}, {frame.right(), frame.bottom()},
+             {{0, palette::well}, {0.5, palette::mould}, {1, palette::steel}});
+  fill(canvas, rounded(frame, 1.6));
+  stroke(canvas, rounded(frame.grown(-0.4), 1.4), 0.8,
+         faded(palette::filament_wash, 0.5 * power(lighting)));
+  fill(canvas, rounded(box.grown(0.6), 0.6), palette::well);
+}
+
+void fill_hard(const Canvas& canvas, const Path& path, Colour colour) {
   const Saved saved(canvas);
   cairo_set_antialias(canvas.cr(), CAIRO_ANTIALIAS_NONE);
-  cairo_set_operator(canvas.cr(), CAIRO_OPERATOR_CLEAR);
-  fill(canvas, rounded(hole, corner));
+  fill(canvas, path, colour);
 }
 
 void fixed_button(const Canvas& canvas, Point c, double radius, Colour cap) {

@@ -2,14 +2,22 @@
 #pragma once
 
 #include "resources/kit/paint.h"
+#include "resources/kit/styles.h"
 
 namespace artwork {
 
 /// A dark glass in a thin frame. `box` is the glass.
 void display_window(const Canvas& canvas, Box box);
 
-/// A framed opening through which what lies behind the plate shows.
-void opening(const Canvas& canvas, Point centre, Size size, double corner);
+/// A framed opening through which what lies behind the plate shows; its edge catches the lamps.
+void opening(const Canvas& canvas, Point centre, Size size, double corner,
+             Lighting lighting = Lighting::off);
+
+/// A dark frame let into a face, in which drums stand edge to edge. `box` is the drums' room.
+void drum_frame(const Canvas& canvas, Box box, Lighting lighting);
+
+/// What shows on a plate over an opening: such a plate has no half-clear pixels.
+void fill_hard(const Canvas& canvas, const Path& path, Colour colour);
 
 /// A round push button in a turned ring that is part of the plate.
 void fixed_button(const Canvas& canvas, Point centre, double radius, Colour cap);

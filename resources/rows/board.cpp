@@ -12,7 +12,9 @@ Size size_of(const Element& element) {
     return {element.string.size.width, element.string.size.height};
   }
   const Bitmap* bitmap = find_bitmap(element.resource_id);
-  return bitmap == nullptr ? Size{} : bitmap->size;
+  if (bitmap == nullptr) return {};
+  if (element.kind != ELEMENT_MOVING_IMAGE) return bitmap->size;
+  return window_of(element);
 }
 
 Box box_of(const Element& element) {
@@ -26,6 +28,12 @@ double from_edge(double at, int length) { return at < 0 ? length + at : at; }
 
 }  // namespace
 
+Size window_of(const Element& strip) {
+  if (const Bitmap* mask = find_bitmap(strip.moving_image.mask_resource_id)) return mask->size;
+  const Bitmap* picture = find_bitmap(strip.resource_id);
+  return picture == nullptr ? Size{} : Size{picture->size.width, picture->size.height / 10};
+}
+
 Box part_box(const GaugeHeader& gauge, std::string_view name) {
   const Element* element = find_part(gauge, name);
   return element == nullptr ? click_box(gauge, name) : box_of(*element);
@@ -34,7 +42,9 @@ Box part_box(const GaugeHeader& gauge, std::string_view name) {
 Point hub_of(const GaugeHeader& gauge, std::string_view name) {
   const Element* element = find_part(gauge, name);
   if (element == nullptr) return click_box(gauge, name).centre();
-  if (element->kind == ELEMENT_NEEDLE) return place(*element);
+  if (element->kind == ELEMENT_NEEDLE || element->kind == ELEMENT_SPRITE) {
+    return turning_point(*element);
+  }
   const Bitmap* bitmap = find_bitmap(element->resource_id);
   if (bitmap == nullptr || bitmap->art == nullptr) return box_of(*element).centre();
   return place(*element) + hub_in(bitmap->art->picture, bitmap->size);

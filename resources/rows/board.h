@@ -16,6 +16,9 @@ struct Board {
   Lighting lighting = Lighting::off;
 };
 
+/// The size of the window behind which a strip moves.
+Size window_of(const Element& strip);
+
 /// The room that a part's picture, a text or a click area takes on its plate. A name that the gauge has
 /// not ends the program.
 Box part_box(const GaugeHeader& gauge, std::string_view name);

@@ -98,6 +98,7 @@ int image_count(const Picture& picture) {
                                [](const FlowSwitch&) { return 2; }, [](const Guard&) { return 2; },
                                [](const GuardedLever&) { return 2; },
                                [](const GuardedKnob& knob) { return knob.positions; },
+                               [](const Flag& flag) { return flag.in_view == InView::always ? 1 : 2; },
                                [](const Drawing&) { return 0; }, [](const auto&) { return 1; }},
                     picture);
 }

@@ -39,7 +39,7 @@ struct Printer {
   double rim;
   Colour ink;
 
-  Point centre() const { return place(needle); }
+  Point centre() const { return turning_point(needle); }
   double angle(double reading) const {
     return needle_angle(needle, (reading - scale.zero) * scale.per);
   }

@@ -36,10 +36,15 @@ void draw(Canvas& canvas, const Bitmap& bitmap) {
   std::visit(overloaded{
                  [&](const Plate& plate) { draw_plate(canvas, bitmap, plate); },
                  [&](const Needle& row) { draw_needle(canvas, row, element_of(bitmap).needle.center); },
+                 [&](const Bug& row) { draw_bug(canvas, row, element_of(bitmap).needle.center); },
+                 [&](const Flag& row) { draw_flag(canvas, row, bitmap.image); },
                  [&](const Drum& row) { draw_drum(canvas, row, element_of(bitmap).moving_image.y); },
                  [&](const Tape& row) { draw_strip(canvas, bitmap, row); },
                  [&](const Mask& row) { draw_mask(canvas, row); },
-                 [&](const CompassCard& row) { draw_compass_card(canvas, row); },
+                 [&](const CompassCard& row) {
+                   draw_compass_card(canvas, row, turning_point(element_of(bitmap)));
+                 },
+                 [&](const Ball& row) { draw_ball(canvas, row, turning_point(element_of(bitmap))); },
                  [&](const auto&) { draw_control(canvas, bitmap.art->picture, bitmap.image); },
              },
              bitmap.art->picture);

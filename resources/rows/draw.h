@@ -18,10 +18,13 @@ void draw_control(const Canvas& canvas, const Picture& picture, int image);
 
 /// What turns or slides, by what its record says of pivot and range.
 void draw_needle(const Canvas& canvas, const Needle& needle, PanelPoint pivot);
+void draw_bug(const Canvas& canvas, const Bug& bug, PanelPoint pivot);
+void draw_flag(const Canvas& canvas, const Flag& flag, int image);
 void draw_drum(const Canvas& canvas, const Drum& drum, const MovingAxis& axis);
 void draw_tape(const Canvas& canvas, const Tape& tape, const MovingAxis& axis, double window);
 void draw_mask(const Canvas& canvas, const Mask& mask);
-void draw_compass_card(const Canvas& canvas, const CompassCard& card);
+void draw_compass_card(const Canvas& canvas, const CompassCard& card, Point centre);
+void draw_ball(const Canvas& canvas, const Ball& ball, Point centre);
 
 /// A whole plate: paint, what its parts need of it, and its items.
 void draw_plate(const Board& board, std::span<const Item> items);

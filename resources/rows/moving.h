@@ -18,14 +18,35 @@ struct Needle {
   Colour colour = palette::mark;
 };
 
+/// A bug that rides on the rim of a dial: of a needle's picture, only what is out there.
+struct Bug {
+  double from, to;  ///< from the pivot
+  double half_width;
+  Colour colour = palette::mark;
+  bool inward = true;  ///< its point looks toward the pivot
+};
+
+/// Which image of a flag shows it; the other one is its empty slot.
+enum class InView { first, second, always };
+
+/// A warning flag in its slot.
+struct Flag {
+  std::string_view text;
+  InView in_view = InView::first;
+  double text_size = 6.5;
+};
+
 /// A drum of figures, ten windows high, that runs upward behind its window. Each figure stands where
 /// the record's range puts it.
 struct Drum {
   double figure_size;
   double step = 0;  ///< of the value from one figure to the next; 0: a tenth of the range or nearly so
   std::string_view figures = "0123456789";  ///< they go round
+  std::string_view tail = "";               ///< behind each figure: "0" on a drum of tens
+  int ticks = 0;                            ///< parts of a step, marked along the right edge
   Colour ink = palette::mark;
   Colour ground = palette::face_dark;
+  bool blank_below_zero = false;  ///< what lies below nought has no figure
 };
 
 /// A card that slides sideways behind a window: marks, and figures at every so many of them.
@@ -41,10 +62,20 @@ struct Mask {
   double corner = 1;
 };
 
-/// A compass card that turns about the middle of its picture, north up at rest.
+/// A compass card that turns about the record's point of its picture, north up at rest.
 struct CompassCard {
   double radius;
   double figure_size;
+  double inner = 0;  ///< radius of the ring inside the figures; 0: none
+  Point off = {};    ///< of its middle from the record's point, where two copies of it differ in that
+};
+
+/// An attitude ball: sky and ground with a pitch ladder, about the record's point of its picture.
+struct Ball {
+  double per_degree;  ///< pixels
+  double ladder;      ///< length of the lines at tens of degrees
+  double figure_size;
+  double mark_step;  ///< degrees between the shortest lines
 };
 
 }  // namespace artwork

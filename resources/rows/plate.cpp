@@ -74,7 +74,17 @@ struct Fitter {
     const Box field{from.x - 2, from.y - 2, to.right() - from.x + 4, to.bottom() - from.y + 4};
     sunk_field(canvas, field, 2.5, palette::mould_dark);
   }
-  void operator()(const Opening& row) const { opening(canvas, at(row.spot), row.size, row.corner); }
+  void operator()(const Opening& row) const {
+    opening(canvas, at(row.spot), row.size, row.corner, board.lighting);
+  }
+  void operator()(const Face& row) const {
+    case_face(canvas, row.box, row.corner, board.lighting);
+    inscribe(canvas, board.lighting, [&](Colour ink) { row.print(board, ink); });
+  }
+  void operator()(const DrumFrame& row) const {
+    const Box from = part_box(board.gauge, row.from), to = part_box(board.gauge, row.to);
+    drum_frame(canvas, {from.x, from.y, to.right() - from.x, from.height}, board.lighting);
+  }
   void operator()(const Ornament& row) const { row.draw(board); }
   void operator()(const Dial& dial) const { draw_dial(board, dial); }
 };

@@ -122,12 +122,24 @@ struct Opening {
   double corner;  ///< radius
 };
 
+/// The dark face of a rectangular instrument, and what is printed on it.
+struct Face {
+  Box box;
+  double corner;
+  void (*print)(const Board& board, Colour ink);
+};
+
+/// The frame of drums that stand side by side.
+struct DrumFrame {
+  std::string_view from, to;
+};
+
 /// What only one plate has.
 struct Ornament {
   void (*draw)(const Board& board);
 };
 
 using Item = std::variant<Legend, Positions, Screw, CornerScrews, Line, Bracket, Window, FixedButton,
-                          FixedKnob, Recess, Opening, Ornament, Dial>;
+                          FixedKnob, Recess, Opening, Face, DrumFrame, Ornament, Dial>;
 
 }  // namespace artwork

@@ -57,6 +57,18 @@ TEST(BitmapTable, EveryImageOfAPartIsThereAndAsLargeAsTheFirst) {
   });
 }
 
+TEST(BitmapTable, APlateIsOpenWhereItsGaugeHasSprites) {
+  for (const GaugeHeader* gauge : gauges()) {
+    bool sprites = false, open = false;
+    for (const Element* part : parts(*gauge)) sprites = sprites || part->kind == ELEMENT_SPRITE;
+    const Canvas plate = drawn(plate_of(*gauge), 1);
+    for_each_pixel(plate, device_box(plate),
+                   [&](std::uint32_t pixel, int, int) { open = open || pixel == 0; });
+    EXPECT_EQ(open, sprites) << gauge->name;
+    EXPECT_EQ(has_openings(plate_of(*gauge)), sprites) << gauge->name;
+  }
+}
+
 /// Needles and cards may leave their plate; what clicks or switches may not.
 TEST(BitmapTable, IconsAndClickBoxesLieOnThePlate) {
   for_each_part([](const GaugeHeader& gauge, const names::NamedPart& part) {

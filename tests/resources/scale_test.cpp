@@ -115,7 +115,9 @@ TEST(Scales, HaveABrightMarkWhereTheNeedlePoints) {
       if (marks == nullptr) continue;
       const double value = (marks->from + marks->step - scale.zero) * scale.per;
       const double radius = rim - 0.7 * marks->length;
-      EXPECT_GT(brightest_about(canvas, polar(place(needle), radius, needle_angle(needle, value))), 140)
+      EXPECT_GT(
+          brightest_about(canvas, polar(turning_point(needle), radius, needle_angle(needle, value))),
+          140)
           << of.gauge.name << ' ' << name << ' ' << value;
     }
   });
