@@ -2,6 +2,7 @@
 
 #include <pango/pangocairo.h>
 
+#include <algorithm>
 #include <cmath>
 #include <memory>
 
@@ -61,6 +62,20 @@ Box print_line(const Canvas& canvas, Point at, std::string_view text, const Lett
   return {canvas.snapped(left), baseline - height, width, height};
 }
 
+/// A box of turned words as it lies on the whole picture.
+Box on_picture(const Canvas& canvas, Box room) {
+  double left = 1e9, top = 1e9, right = -1e9, bottom = -1e9;
+  for (const Point corner : {Point{room.x, room.y}, Point{room.right(), room.y},
+                             Point{room.x, room.bottom()}, Point{room.right(), room.bottom()}}) {
+    double x = corner.x, y = corner.y;
+    cairo_user_to_device(canvas.cr(), &x, &y);
+    left = std::min(left, x), right = std::max(right, x);
+    top = std::min(top, y), bottom = std::max(bottom, y);
+  }
+  const double scale = canvas.hairline();
+  return {left * scale, top * scale, (right - left) * scale, (bottom - top) * scale};
+}
+
 template <class Draw>
 void for_each_line(Point at, std::string_view text, const Lettering& lettering, Draw draw) {
   int lines = 1;
@@ -101,7 +116,7 @@ TextExtent text_extent(const Canvas& canvas, std::string_view text, const Letter
 void print(const Canvas& canvas, Point at, std::string_view text, const Lettering& lettering,
            Anchor anchor) {
   for_each_line(at, text, lettering, [&](Point place, std::string_view row) {
-    canvas.note_words(print_line(canvas, place, row, lettering, anchor));
+    canvas.note_words(on_picture(canvas, print_line(canvas, place, row, lettering, anchor)));
   });
 }
 

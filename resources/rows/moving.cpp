@@ -163,7 +163,6 @@ void draw_compass_card(const Canvas& canvas, const CompassCard& card, Point abou
         {.size = tens % 9 == 0 ? card.figure_size * 1.15 : card.figure_size, .colour = palette::mark});
     cairo_rotate(canvas.cr(), radians(30));
   }
-  if (card.inner > 0) stroke(canvas, circle({}, card.inner), 0.7, faded(palette::mark, 0.35));
 }
 
 namespace {

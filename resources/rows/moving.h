@@ -66,8 +66,7 @@ struct Mask {
 struct CompassCard {
   double radius;
   double figure_size;
-  double inner = 0;  ///< radius of the ring inside the figures; 0: none
-  Point off = {};    ///< of its middle from the record's point, where two copies of it differ in that
+  Point off = {};  ///< of its middle from the record's point, where two copies of it differ in that
 };
 
 /// An attitude ball: sky and ground with a pitch ladder, about the record's point of its picture.

@@ -96,7 +96,8 @@ TEST(BitmapTable, AClickLandsOnThePictureOfWhatItWorks) {
   for (const GaugeHeader* gauge : gauges()) {
     for (const names::NamedArea& area : names::areas(*gauge)) {
       for (const names::NamedPart& part : names::parts(*gauge)) {
-        if (!area.name.starts_with(part.name)) continue;
+        // A needle's knob stands elsewhere.
+        if (!area.name.starts_with(part.name) || part.element->kind == ELEMENT_NEEDLE) continue;
         const Box box = click_box(*gauge, area.name), picture = part_box(*gauge, part.name);
         const double room = std::min(box.width * box.height, picture.width * picture.height);
         EXPECT_GT(shared_room(box, picture), area.name == part.name ? 0.4 * room : 0)

@@ -6,7 +6,7 @@ namespace artwork::panels::cabalt {
 constexpr Print thousands[] = {
     Marks{0, 15, 1, 5, 1.4},
     Marks{0, 15, 0.5, 3, 0.8},
-    Figures{{{0, -8}, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 12, {15, -5}}, 6.5},
+    Figures{{{0, -8}, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 12, {15, -5}}, 6.5, 7.6},
 };
 
 constexpr Spot knob = between("cabin_altitude_knob_down", "cabin_altitude_knob_up");

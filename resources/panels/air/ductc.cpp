@@ -5,13 +5,13 @@ namespace artwork::panels::ductc {
 
 constexpr Print celsius[] = {
     Band{15, 40, palette::range_green}, Band{55, 60, palette::range_red}, Marks{0, 60, 10, 5, 1.4},
-    Marks{0, 60, 2, 2.8, 0.7},          Figures{{{0, -16}, 20, 40, 60}},
+    Marks{0, 60, 2, 2.8, 0.7},          Figures{{{0, -18}, 20, 40, 60}},
 };
 
 constexpr Dial temperature(std::string_view needle, std::string_view duct) {
   return {.radius = 32.5,
           .scales = {{.needle = needle, .print = celsius}},
-          .words = {{duct, {0, 12}, 8}, {"\u00b0C", {0, 20.5}}}};
+          .words = {{duct, {0, 12.5}, 7.5}, {"\u00b0C", {0, 20.5}}}};
 }
 
 constexpr Item items[] = {

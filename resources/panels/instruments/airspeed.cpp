@@ -3,7 +3,6 @@
 #include <cstdio>
 
 #include "resources/art.h"
-#include "resources/kit/flight.h"
 #include "resources/kit/legend.h"
 #include "resources/kit/window.h"
 #include "resources/rows/board.h"
@@ -29,8 +28,6 @@ void draw_mach_index(const Board& board) {
   const Point index[] = {{hub.x, hub.y - 35.5}, {hub.x - 2.6, hub.y - 40}, {hub.x + 2.6, hub.y - 40}};
   fill_hard(board.canvas, polygon(index), palette::symbol);
 }
-
-constexpr Spot bug_knob(std::string_view area) { return at(area); }
 
 constexpr Item items[] = {
     Dial{.radius = 66,

@@ -27,7 +27,7 @@ void draw_alert_lens(const Board& board) {
 constexpr Item items[] = {
     Dial{.radius = 55,
          .scales = {{.needle = "pointer", .print = hundreds, .rim = 49.8}},
-         .words = {{"ALT", {20, -14}, 6.5}, {"HPA", {-15, 8.8}, 6}, {"IN HG", {16, 8.8}, 6}},
+         .words = {{"HPA", {-15, 8.8}, 6}, {"IN HG", {16, 8.8}, 6}},
          .boss = 5},
     DrumFrame{"ten_thousands_of_feet", "feet"},
     DrumFrame{"thousands_of_the_hectopascals", "units_of_the_hectopascals"},
@@ -43,7 +43,7 @@ constexpr Item items[] = {
 void figures(const Canvas& canvas, std::string_view text) {
   const Box box = whole(canvas.size());
   fill(canvas, rounded(box, 0), palette::face_dark);
-  print(canvas, box.centre(), text, {.size = 8.5, .colour = palette::mark});
+  print(canvas, box.centre(), text, {.size = 7.6, .colour = palette::mark});
 }
 
 void draw_inches(const Canvas& canvas, int image) {
@@ -112,13 +112,13 @@ void draw_below_sea_flag(const Canvas& canvas, int image) {
 }
 
 constexpr Drum feet{.figure_size = 13};
-constexpr Drum pressure{.figure_size = 8.5};
+constexpr Drum pressure{.figure_size = 7.6};
 
 constexpr Art art[] = {
     plate(142, items),
     drawn_art("alert_lamp_frame", {41, 17}, draw_alert),
     drawn_art("inches_of_the_pressure_setting", {14, 12}, draw_inches),
-    drum_art("hundredths_of_the_inches", {14, 12}, {.figure_size = 8.5, .ticks = 5}),
+    drum_art("hundredths_of_the_inches", {14, 12}, {.figure_size = 7.6, .ticks = 5}),
     drawn_art("thousands_of_the_hectopascals", {14, 12}, draw_thousands),
     drum_art("tens_of_the_hectopascals", {7, 12}, pressure),
     drum_art("units_of_the_hectopascals", {7, 12}, pressure),

@@ -9,7 +9,7 @@ constexpr Print minutes[] = {
     Marks{0, 59, 1, 2.4, 0.6},
 };
 constexpr Print hours[] = {
-    Figures{{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12}, 6, 8.5},
+    Figures{{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12}, 6, 7.6},
 };
 
 constexpr Item items[] = {

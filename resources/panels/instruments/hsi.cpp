@@ -140,7 +140,7 @@ constexpr Art art[] = {
     plate(186, items),
     drawn_art("test_switch", {13, 26}, draw_test_switch),
     drawn_art("course_knob", {25, 25}, draw_course_knob),
-    compass_card_art("compass_card", {185, 191}, {.radius = 57.2, .figure_size = 9.5, .inner = 0}),
+    compass_card_art("compass_card", {185, 191}, {.radius = 57.2, .figure_size = 9.5}),
     drawn_art("course_pointer", {77, 105}, draw_course_pointer),
     drawn_art("lubber_line", {11, 10}, draw_lubber_line),
     drawn_art("heading_bug", {60, 11}, draw_heading_bug),
