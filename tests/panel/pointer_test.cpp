@@ -40,9 +40,9 @@ MouseArea area(i32 x, i32 y, i32 width, i32 height, i32 cursor, u32 flags, Mouse
   return row;
 }
 
-MouseArea tooltip(const char* text, u32 help_id = 0) {
+MouseArea tooltip(const char* text) {
   MouseArea row = row_of(MOUSE_TOOLTIP);
-  row.help_id = help_id, row.tooltip = text;
+  row.tooltip = text;
   return row;
 }
 
@@ -170,12 +170,6 @@ TEST_F(OnAGauge, TooltipsBelongToTheirGroups) {
   EXPECT_EQ(areas.tooltip({115, 85}), "Set the height");
   EXPECT_EQ(areas.tooltip({105, 65}), "Outer");
   EXPECT_EQ(areas.tooltip({15, 15}), "");
-}
-
-TEST(HotAreas, NameTheHostsHelpPages) {
-  const std::vector<MouseArea> rows = {group(0, 0, 0, 0), tooltip(nullptr, 0x3053),
-                                       row_of(MOUSE_GROUP_END), row_of(MOUSE_END)};
-  EXPECT_EQ(HotAreas(rows.data()).tooltip({500, 500}), "Set Barometric Pressure");
 }
 
 TEST(HotAreas, TakeExtremeRecords) {
