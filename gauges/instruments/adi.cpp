@@ -65,7 +65,7 @@ f64 runway_rising(Element* symbol) {
   return height <= rising ? rising - height : 0;
 }
 
-/// Up is slow, by the speed that is missing.
+/// Down is slow, by the speed that is missing.
 f64 speed_deviation(Element* pointer) {
   show_picture(*pointer, true);
   return limited(readings.selected_airspeed - readings.airspeed, -12, 12);

@@ -2,18 +2,11 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cmath>
-#include <cstdint>
-#include <cstdlib>
 #include <cstring>
-#include <filesystem>
-#include <fstream>
 #include <iterator>
 #include <numbers>
 #include <set>
-#include <string>
-#include <vector>
+#include <sstream>
 
 namespace {
 
@@ -40,62 +33,48 @@ constexpr PeakRange peak_ranges[] = {
     {-8, -1},     // announcement
 };
 
+struct Family {
+  Kind kind;
+  double shortest_s, longest_s;
+  const char* folder;
+  const char* names;
+};
+
+constexpr Family families[] = {
+    {click, 0.06, 0.08, "", "kippclick"},
+    {click, 0.03, 0.05, "", "click"},
+    {word, 0.6, 2.0, "", "a2500 a1000"},
+    {word, 0.5, 1.1, "", "a500 a400 a300 a200 a100"},
+    {word, 0.25, 0.6, "", "a50 a40 a30 a20 a10"},  // they follow one another within a second
+    {tone, 0.7, 1.2, "", "altalert"},
+    {tone, 1.5, 2.5, "", "radalt"},
+    {chime, 0.8, 2.2, "", "signs stewcall"},
+    {machinery, 5, 8, "", "apu"},
+    {lever, 0.15, 0.9, "", "pbrake sbrake"},
+    {warning, 1.1, 2, "", "stall fire gpws cabwarn"},
+    {warning, 1.1, 2, "Ground/", "gndwarn"},
+    {word, 1, 2.5, "Ground/", "extpwr extpwrdis"},
+    {announcement, 6, 15, "FlightAttend/",
+     "cctaxi ccsaftey ccclimb ccdescent ccfinal ccrollout ccwelcome"},
+    {word, 0.4, 1.2, "FirstOfficer/", "gearu geard 80kts v1 rotate"},
+    {word, 0.7, 1.8, "FirstOfficer/", "flaps00 flaps06 flaps11 flaps18 flaps25 flaps42"},
+};
+
 struct Sound {
-  const char* file;
+  std::string file;
   Kind kind;
   double shortest_s, longest_s;
 };
 
-constexpr Sound sounds[] = {
-    {"Tarv_kippclick.wav", click, 0.06, 0.08},
-    {"Tarv_a2500.wav", word, 1.0, 2.0},
-    {"Tarv_a1000.wav", word, 0.6, 1.4},
-    {"Tarv_a500.wav", word, 0.5, 1.1},
-    {"Tarv_a400.wav", word, 0.5, 1.1},
-    {"Tarv_a300.wav", word, 0.5, 1.1},
-    {"Tarv_a200.wav", word, 0.5, 1.1},
-    {"Tarv_a100.wav", word, 0.5, 1.1},
-    // The last five follow one another within a second.
-    {"Tarv_a50.wav", word, 0.3, 0.6},
-    {"Tarv_a40.wav", word, 0.3, 0.6},
-    {"Tarv_a30.wav", word, 0.3, 0.6},
-    {"Tarv_a20.wav", word, 0.3, 0.6},
-    {"Tarv_a10.wav", word, 0.25, 0.6},
-    {"Tarv_altalert.wav", tone, 0.7, 1.2},
-    {"Tarv_click.wav", click, 0.03, 0.05},
-    {"Tarv_radalt.wav", tone, 1.5, 2.5},
-    {"Tarv_stall.wav", warning, 1.2, 2},
-    {"Tarv_signs.wav", chime, 0.8, 1.8},
-    {"Tarv_fire.wav", warning, 1.3, 1.8},
-    {"Tarv_stewcall.wav", chime, 1.2, 2.2},
-    {"Tarv_apu.wav", machinery, 5, 8},
-    {"Tarv_gpws.wav", warning, 1.1, 2},
-    {"Tarv_pbrake.wav", lever, 0.15, 0.5},
-    {"Tarv_sbrake.wav", lever, 0.4, 0.9},
-    {"Tarv_cabwarn.wav", warning, 1.2, 2},
-    {"Ground/Tarv_extpwr.wav", word, 1, 2.5},
-    {"Ground/Tarv_extpwrdis.wav", word, 1, 2.5},
-    {"Ground/Tarv_gndwarn.wav", warning, 1.2, 2},
-    {"FlightAttend/Tarv_cctaxi.wav", announcement, 6, 15},
-    {"FlightAttend/Tarv_ccsaftey.wav", announcement, 6, 15},
-    {"FlightAttend/Tarv_ccclimb.wav", announcement, 6, 15},
-    {"FlightAttend/Tarv_ccdescent.wav", announcement, 6, 15},
-    {"FlightAttend/Tarv_ccfinal.wav", announcement, 6, 15},
-    {"FlightAttend/Tarv_ccrollout.wav", announcement, 6, 15},
-    {"FlightAttend/Tarv_ccwelcome.wav", announcement, 6, 15},
-    {"FirstOfficer/Tarv_gearu.wav", word, 0.4, 1},
-    {"FirstOfficer/Tarv_geard.wav", word, 0.4, 1.2},
-    {"FirstOfficer/Tarv_flaps00.wav", word, 0.7, 1.8},
-    {"FirstOfficer/Tarv_flaps06.wav", word, 0.7, 1.8},
-    {"FirstOfficer/Tarv_flaps11.wav", word, 0.7, 1.8},
-    {"FirstOfficer/Tarv_flaps18.wav", word, 0.7, 1.8},
-    {"FirstOfficer/Tarv_flaps25.wav", word, 0.7, 1.8},
-    {"FirstOfficer/Tarv_flaps42.wav", word, 0.7, 1.8},
-    {"FirstOfficer/Tarv_80kts.wav", word, 0.5, 1.2},
-    {"FirstOfficer/Tarv_v1.wav", word, 0.4, 1},
-    {"FirstOfficer/Tarv_rotate.wav", word, 0.4, 1},
-};
-static_assert(std::size(sounds) == 46);
+const std::vector<Sound> sounds = [] {
+  std::vector<Sound> all;
+  for (const auto& [kind, shortest, longest, folder, names] : families) {
+    std::istringstream words(names);
+    for (std::string name; words >> name;)
+      all.push_back({folder + ("Tarv_" + name + ".wav"), kind, shortest, longest});
+  }
+  return all;
+}();
 
 bool is_speech(const Sound& sound) { return sound.kind == word || sound.kind == announcement; }
 
@@ -162,6 +141,7 @@ double at_pitch(const std::vector<double>& wave, double hertz, double from_s, do
 }
 
 TEST(SoundFiles, AreExactlyThoseTheAircraftAsksFor) {
+  EXPECT_EQ(sounds.size(), 46u);
   std::set<std::string> wanted, found;
   for (const Sound& sound : sounds) wanted.insert(sound.file);
   for (const auto& entry : fs::recursive_directory_iterator{sound_folder})
@@ -170,17 +150,12 @@ TEST(SoundFiles, AreExactlyThoseTheAircraftAsksFor) {
   EXPECT_EQ(found, wanted);
 }
 
-TEST(SoundFiles, AreMono16BitWithThePlainHeader) {
+TEST(SoundFiles, AreMono16BitWithTheirLengthAndPeak) {
   for (const Sound& sound : sounds) {
     const auto bytes = contents(sound_folder / sound.file);
     ASSERT_GT(bytes.size(), 44u) << sound.file;
     EXPECT_EQ(bytes.substr(0, 44), expected_header(static_cast<std::uint32_t>(bytes.size())))
         << sound.file;
-  }
-}
-
-TEST(SoundFiles, HaveTheirLengthAndPeak) {
-  for (const Sound& sound : sounds) {
     const auto wave = samples(sound.file);
     const double seconds = wave.size() / rate, peak_db = decibels(peak(wave));
     EXPECT_TRUE(seconds >= sound.shortest_s && seconds <= sound.longest_s)
@@ -235,10 +210,7 @@ TEST(SoundFiles, SpeakAtOneLoudnessAndWarnAboveIt) {
 
 TEST(SoundFiles, ChimesAreInTune) {
   const double B4 = 493.88, D5 = 587.33, C6 = 1046.50, E6 = 1318.51, G6 = 1567.98;
-  const struct {
-    const char* file;
-    double pitch, from_s, to_s;
-  } notes[] = {
+  const std::tuple<const char*, double, double, double> notes[] = {
       {"Tarv_signs.wav", B4, 0.05, 0.6},
       {"Tarv_stewcall.wav", D5, 0.05, 0.48},
       {"Tarv_stewcall.wav", B4, 0.55, 1.1},
@@ -250,13 +222,12 @@ TEST(SoundFiles, ChimesAreInTune) {
       {"Tarv_radalt.wav", 1000, 1.0, 1.9},
   };
   const double semitone = std::pow(2, 1 / 12.0);
-  for (const auto& note : notes) {
-    const auto wave = samples(note.file);
-    const double tuned = at_pitch(wave, note.pitch, note.from_s, note.to_s);
-    EXPECT_GT(tuned, 0.02) << note.file << " at " << note.pitch << " Hz";
-    for (const double off : {note.pitch * semitone, note.pitch / semitone})
-      EXPECT_GT(tuned, 3 * at_pitch(wave, off, note.from_s, note.to_s))
-          << note.file << " at " << off << " Hz";
+  for (const auto& [file, pitch, from_s, to_s] : notes) {
+    const auto wave = samples(file);
+    const double tuned = at_pitch(wave, pitch, from_s, to_s);
+    EXPECT_GT(tuned, 0.02) << file << " at " << pitch << " Hz";
+    for (const double off : {pitch * semitone, pitch / semitone})
+      EXPECT_GT(tuned, 3 * at_pitch(wave, off, from_s, to_s)) << file << " at " << off << " Hz";
   }
 }
 

@@ -8,11 +8,7 @@
 #include "host/gauge/gauge_run.h"
 #include "tests/drawing/fixture.h"
 
-namespace {
-
-std::size_t allocations = 0;
-
-}  // namespace
+static std::size_t allocations = 0;
 
 void* operator new(std::size_t size) {
   ++allocations;
@@ -47,15 +43,14 @@ TEST(Allocation, NothingForAGaugeAtRest) {
   gauge.icon(2, {0, 0}, 1);
   gauge.needle(2, {30, 20}, {4, 4}).needle.rate_limit = 1;
   char text[64];
-  Element& string = gauge.add(ELEMENT_STRING, -1, {0, 20});
-  string.string = {{60, 20}, {}, write_text, 0, 0, 0, 400, 0, 63, "Arial", text};
+  gauge.add(ELEMENT_STRING, -1, {0, 20}).string = {{60, 20}, {}, write_text, 0,       0,   0,
+                                                   400,      0,  63,         "Arial", text};
   GaugeRun run(gauge.header);
-  GaugePainter painter(gauge.header, bitmaps, {0, 0, 60, 40});
-  Canvas canvas(60, 40);
+  Scene scene(gauge, bitmaps);
   const Quiet tokens;
   const auto frame = [&] {
     run.frame(tokens);
-    return painter.draw(canvas, run.before(), run.now(), 0.5);
+    return scene.painter->draw(scene.canvas, run.before(), run.now(), 0.5);
   };
   for (int i = 0; i < 3; ++i) frame();
   const std::size_t before = allocations;

@@ -16,18 +16,13 @@ constexpr std::uint32_t red = 0xFFFF0000, green = 0xFF00FF00, blue = 0xFF0000FF,
 /// A made gauge with its painter and its canvas, at a zoom.
 class Scene {
  public:
-  Scene(MadeGauge& gauge, const MadeBitmaps& bitmaps, double zoom = 1) : gauge_(gauge) {
+  Scene(MadeGauge& gauge, const MadeBitmaps& bitmaps, double zoom = 1) {
     const PanelSize size = gauge_size(gauge.header, bitmaps);
     const Rect place{0, 0, static_cast<int>(size.width * zoom), static_cast<int>(size.height * zoom)};
     canvas = Canvas(place.width, place.height);
     painter = std::make_unique<GaugePainter>(gauge.header, bitmaps, place);
-    for (std::size_t i = 0; const Element* element = chain_at(i); ++i)
-      now.push_back({.element = element,
-                     .evaluated = true,
-                     .drawn = true,
-                     .values = {},
-                     .text = {},
-                     .reached = {}});
+    for (const Element* element = gauge.header.element_list[0]; element; element = element->next[0])
+      now.push_back({element, true, true, {}, {}, {}});
     before = now;
   }
 
@@ -55,15 +50,6 @@ class Scene {
   Canvas canvas;
   std::unique_ptr<GaugePainter> painter;
   std::vector<ElementState> before, now;
-
- private:
-  const Element* chain_at(std::size_t index) {
-    const Element* element = gauge_.header.element_list[0];
-    while (element && index-- > 0) element = element->next[0];
-    return element;
-  }
-
-  MadeGauge& gauge_;
 };
 
 inline void PrintTo(const Rect& rect, std::ostream* out) {

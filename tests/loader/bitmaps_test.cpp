@@ -1,9 +1,8 @@
 #include <gtest/gtest.h>
 
-#include <filesystem>
-
 #include "host/loader/module_bitmaps.h"
 #include "tests/loader/resource_bytes.h"
+#include "tests/rig/temp_folder.h"
 
 namespace host {
 namespace {
@@ -13,11 +12,6 @@ constexpr std::uint32_t red = 0xFFFF0000, green = 0xFF00FF00, blue = 0xFF0000FF;
 /// A module's own bitmaps 10 (2 x 2), 20 (4 x 1) and 30, red; dense files are added by the tests.
 class Bitmaps : public testing::Test {
  protected:
-  void SetUp() override {
-    std::filesystem::remove(file_ + ".2x");
-    std::filesystem::remove(file_ + ".3x");
-  }
-
   ModuleBitmaps store() { return ModuleBitmaps(own_, file_); }
 
   static std::uint32_t colour(const ModuleBitmaps& store, std::uint32_t id, int density) {
@@ -25,7 +19,12 @@ class Bitmaps : public testing::Test {
     return bitmap == nullptr ? 0 : bitmap->pixels.front();
   }
 
-  std::string file_ = scratch_folder() + "bitmaps_test.GAU";
+  void write_dense(const char* ending, const ByteList& bytes) {
+    folder_.write("made.GAU" + std::string(ending), text_of(bytes));
+  }
+
+  TempFolder folder_;
+  std::string file_ = folder_ / "made.GAU";
   ByteList own_ = section_bytes({{10, plain_dib(2, 2, 0xFF0000)},
                                  {20, plain_dib(4, 1, 0xFF0000)},
                                  {30, plain_dib(1, 1, 0xFF0000)}});
@@ -43,10 +42,10 @@ TEST_F(Bitmaps, WithoutDenseFilesThereIsOneDensity) {
 }
 
 TEST_F(Bitmaps, DenseOnesCountOnlyAtTheRightSize) {
-  write_file(file_ + ".2x", section_bytes({{10, plain_dib(4, 4, 0x00FF00)},
-                                           {20, plain_dib(8, 1, 0x00FF00)},
-                                           {99, plain_dib(2, 2, 0x00FF00)}}));
-  write_file(file_ + ".3x", section_bytes({{20, plain_dib(12, 3, 0x0000FF)}}));
+  write_dense(".2x", section_bytes({{10, plain_dib(4, 4, 0x00FF00)},
+                                    {20, plain_dib(8, 1, 0x00FF00)},
+                                    {99, plain_dib(2, 2, 0x00FF00)}}));
+  write_dense(".3x", section_bytes({{20, plain_dib(12, 3, 0x0000FF)}}));
   const ModuleBitmaps bitmaps = store();
   EXPECT_EQ(bitmaps.densities(), (std::vector<int>{1, 2, 3}));
   EXPECT_EQ(colour(bitmaps, 10, 2), green);
@@ -55,7 +54,7 @@ TEST_F(Bitmaps, DenseOnesCountOnlyAtTheRightSize) {
   EXPECT_EQ(colour(bitmaps, 30, 2), 0u);
   EXPECT_EQ(colour(bitmaps, 99, 2), 0u);  // no bitmap of the module's own
   EXPECT_EQ(bitmaps.dense_faults(),
-            std::vector<std::string>{"bitmaps_test.GAU.2x: bitmap 20 has 8 x 1 pixels, not 8 x 2"});
+            std::vector<std::string>{"made.GAU.2x: bitmap 20 has 8 x 1 pixels, not 8 x 2"});
 }
 
 TEST_F(Bitmaps, DamagedDenseOnesAreLeftOutAndToldOnceAFile) {
@@ -63,20 +62,20 @@ TEST_F(Bitmaps, DamagedDenseOnesAreLeftOutAndToldOnceAFile) {
                                   {20, plain_dib(9, 2, 0x00FF00)},
                                   {30, plain_dib(2, 2, 0x00FF00)}});
   dense.resize(dense.size() - 16);  // the last bitmap is cut off
-  write_file(file_ + ".2x", dense);
-  write_file(file_ + ".3x", ByteList(40, std::byte{'x'}));
+  write_dense(".2x", dense);
+  write_dense(".3x", ByteList(40, std::byte{'x'}));
   const ModuleBitmaps bitmaps = store();
   EXPECT_EQ(colour(bitmaps, 10, 2), green);
   EXPECT_EQ(colour(bitmaps, 30, 2), 0u);
   EXPECT_EQ(bitmaps.densities(), (std::vector<int>{1, 2}));
-  EXPECT_EQ(bitmaps.dense_faults(),
-            (std::vector<std::string>{
-                "bitmaps_test.GAU.2x: bitmap 30 is damaged: it lies past the end, and 1 more",
-                "bitmaps_test.GAU.3x: holds no bitmap directory"}));
+  EXPECT_EQ(
+      bitmaps.dense_faults(),
+      (std::vector<std::string>{"made.GAU.2x: bitmap 30 is damaged: it lies past the end, and 1 more",
+                                "made.GAU.3x: holds no bitmap directory"}));
 }
 
 TEST_F(Bitmaps, DirectoryMustLieInside) {
-  for (const std::size_t size : {0, 8, 16, 79}) {
+  for (const std::size_t size : {0, 16, 79}) {
     ByteList cut(own_.begin(), own_.begin() + static_cast<std::ptrdiff_t>(size));
     EXPECT_THROW(ModuleBitmaps(cut, file_), ResourceError) << size;
   }

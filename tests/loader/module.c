@@ -56,23 +56,13 @@ static Element *const below_background[] = {(Element *)64, 0};
 #else
 static Element *const below_background[] = {&icon, 0};
 #endif
-#ifdef BREAK_CYCLE
-static Element background;
-static Element *const below_icon[] = {&background, 0};
-#else
 static Element *const below_icon[] = {0};
-#endif
 static const FailureEntry failures[] = {{20, FAILURE_HIDE, 0}, {0, 0, 0}};
 
 static Element background = {ELEMENT_STATIC_IMAGE, 10, {0, 0}, &gauge, below_background, 0, 1, 0,
                              {{{0}}}};
-static Element icon = {
-#ifdef BREAK_KIND
-    9,
-#else
-    ELEMENT_ICON,
-#endif
-    20, {2, 2}, &gauge, below_icon, failures, 3, 0, {.icon = {{0, 0, 0}, one, 1, 2, 1}}};
+static Element icon = {ELEMENT_ICON, 20, {2, 2}, &gauge, below_icon, failures, 3, 0,
+                       {.icon = {{0, 0, 0}, one, 1, 2, 1}}};
 
 static const MouseArea areas[] = {
     {MOUSE_GROUP, 0, 0, 0, 0, CURSOR_ARROW, 0, 0, 0, 0, {0}, 0},
@@ -90,13 +80,7 @@ const GaugeHeader gauge = {
 #ifndef BREAK_NO_SYMBOLS
 VISIBLE ImportTableRecord ImportTable = {{{IMPORT_PANEL_SERVICES, 0, 0}, {0, 0, 0}}};
 #ifndef BREAK_NO_LINKAGE
-VISIBLE
-#ifdef BREAK_VERSION
-LinkageRecord Linkage = {LINKAGE_MODULE_ID, 0, init, init, 0, 0, 0x901, 0, {&gauge, 0}};
-#else
-LinkageRecord Linkage = {LINKAGE_MODULE_ID, 0, init, init, 0, 0, LINKAGE_VERSION, 0,
-                         {&gauge, 0}};
-#endif
+VISIBLE LinkageRecord Linkage = {LINKAGE_MODULE_ID, 0, init, init, 0, 0, LINKAGE_VERSION, 0, {&gauge, 0}};
 #endif
 #endif
 #ifdef BREAK_EXTRA_SYMBOL

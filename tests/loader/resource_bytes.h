@@ -1,14 +1,10 @@
 /// Writes bitmaps and resource sections byte by byte.
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <cstdint>
 #include <cstring>
-#include <filesystem>
-#include <fstream>
 #include <span>
-#include <string>
+#include <string_view>
 #include <vector>
 
 #include "host/loader/byte_view.h"
@@ -87,18 +83,8 @@ inline ByteList section_bytes(const std::vector<NumberedDib>& dibs) {
   return directory;
 }
 
-/// A folder of the running test's own, so that tests may run side by side.
-inline std::string scratch_folder() {
-  const auto* test = testing::UnitTest::GetInstance()->current_test_info();
-  const std::string folder =
-      testing::TempDir() + "loader_" + test->test_suite_name() + "_" + test->name();
-  std::filesystem::create_directories(folder);
-  return folder + "/";
-}
-
-inline void write_file(const std::string& file, std::span<const std::byte> bytes) {
-  std::ofstream(file, std::ios::binary)
-      .write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+inline std::string_view text_of(std::span<const std::byte> bytes) {
+  return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
 }
 
 }  // namespace host

@@ -21,23 +21,19 @@ TEST(PanelSet, OpensClosesAndToggles) {
   panels.open(502);
   EXPECT_TRUE(panels.shows(502));
   EXPECT_EQ(panels.changes(), 1u) << "opening an open window changes nothing";
-  panels.close(502);
-  panels.close(502);
-  EXPECT_FALSE(panels.shows(502));
   panels.toggle(502);
-  EXPECT_TRUE(panels.is_open(1));
+  EXPECT_FALSE(panels.is_open(1));
   panels.toggle(502);
+  panels.close(502);
   EXPECT_FALSE(panels.is_open(1));
 }
 
 TEST(PanelSet, IgnoresIdentsOfOtherCockpits) {
   PanelSet panels = two_windows();
-  for (std::uint32_t ident : {0u, 1u, 501u, 0xFFFFFFFFu}) {
-    panels.open(ident);
-    panels.close(ident);
-    panels.toggle(ident);
-    EXPECT_FALSE(panels.shows(ident));
-  }
+  panels.open(501);
+  panels.close(0);
+  panels.toggle(501);
+  EXPECT_FALSE(panels.shows(501));
   EXPECT_EQ(panels.changes(), 0u);
 }
 
@@ -49,21 +45,15 @@ TEST(PanelSet, SwapsTheFacesOfAMainPanel) {
   panels.close(20);
   EXPECT_EQ(panels.face(0), Face::night);
   EXPECT_TRUE(panels.shows(500)) << "closing the day face leaves the night face open";
-  EXPECT_TRUE(panels.shows(27));
   EXPECT_FALSE(panels.shows(20));
+  panels.close(27);
+  EXPECT_FALSE(panels.shows(500));
+  panels.open(500);
+  EXPECT_TRUE(panels.shows(27)) << "it opens with the face it had";
   panels.open(20);
   panels.close(27);
   EXPECT_EQ(panels.face(0), Face::day);
   EXPECT_TRUE(panels.shows(500));
-}
-
-TEST(PanelSet, ClosesAndOpensWithTheFaceItHad) {
-  PanelSet panels = two_windows();
-  panels.open(27);
-  panels.close(27);
-  EXPECT_FALSE(panels.shows(500));
-  panels.open(500);
-  EXPECT_TRUE(panels.shows(27));
 }
 
 }  // namespace

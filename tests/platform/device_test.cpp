@@ -18,15 +18,10 @@ class Device : public RenderedSound {
     const std::string settings =
         "[general]\ndrivers=wave\nsample-type=int16\n[wave]\nfile=" + recording() + "\n";
     setenv("ALSOFT_CONF", folder_.write("openal.conf", settings).c_str(), 1);
-    platform_choose_audio(PLATFORM_AUDIO_DEVICE);
-    platform_register_window("Main", this);
-    IDirectSound* sound = nullptr;
-    ASSERT_EQ(DirectSoundCreate(nullptr, &sound, nullptr), DS_OK);
-    sound_.reset(sound);
-    ASSERT_EQ(sound_->SetCooperativeLevel(FindWindowA("Main", nullptr), DSSCL_NORMAL), DS_OK);
+    open(PLATFORM_AUDIO_DEVICE);
   }
 
-  std::string recording() const { return (folder_.path() / "heard.wav").native(); }
+  std::string recording() const { return folder_ / "heard.wav"; }
 
   static void play_to_the_end(IDirectSoundBuffer& buffer) {
     ASSERT_EQ(buffer.Play(0, 0, 0), DS_OK);
@@ -51,16 +46,14 @@ class Device : public RenderedSound {
 };
 
 TEST_F(Device, PlaysByItselfAndIsOpenedAgainAfterItWasLost) {
-  const std::vector<std::int16_t> loud(2000, 12000);
-  const std::vector<std::int16_t> soft(2000, 5000);
-  Buffer buffer = mono_16(loud);
+  const Buffer buffer = mono_16(std::vector<std::int16_t>(2000, 12000));
   play_to_the_end(*buffer);
   EXPECT_TRUE(heard(12000));
 
   platform_lose_audio();
   EXPECT_EQ(status(*buffer), DSBSTATUS_BUFFERLOST);
   ASSERT_EQ(buffer->Restore(), DS_OK);
-  fill(*buffer, soft);
+  fill(*buffer, std::vector<std::int16_t>(2000, 5000));
   play_to_the_end(*buffer);
   EXPECT_TRUE(heard(5000));
   EXPECT_EQ(render(100), silence(100)) << "only a rendered mix can be taken";

@@ -55,35 +55,25 @@ class Files : public testing::Test {
 };
 
 TEST_F(Files, PathsAreFoundWhateverTheirSlashesAndCase) {
-  const struct {
-    const char* path;
-    const char* contents;
-  } cases[] = {
+  const std::pair<const char*, const char*> cases[] = {
       {R"(Sound\Ground\Bell.wav)", "bell"},
-      {R"(sOUND\GROUND\bELL.WAV)", "bell"},
-      {"sound/ground/bell.wav", "bell"},
-      {R"(.\Sound\\Ground\..\ground/Bell.wav)", "bell"},
+      {R"(.\Sound\\GROUND\..\ground/bELL.wav)", "bell"},
       {"click.wav", "lower"},  // the exact name before any other
       {"Click.wav", "Upper"},
       {"CLICK.WAV", "Upper"},  // of several others always the same
       {R"(Sound\Ground\Bells.wav)", "-"},
       {R"(Sound\Ground)", "-"},  // a folder is no file
-      {R"(Sound\Missing\Bell.wav)", "-"},
       {R"(click.wav\Bell.wav)", "-"},
       {"", "-"},
   };
-  for (const auto& test : cases) EXPECT_EQ(contents(test.path), test.contents) << test.path;
-  std::string absolute = (folder_.path() / "SOUND/ground/BELL.wav").native();
-  EXPECT_EQ(contents(absolute.c_str()), "bell");
-  std::replace(absolute.begin(), absolute.end(), '/', '\\');
-  EXPECT_EQ(contents(absolute.c_str()), "bell");
+  for (const auto& [path, expected] : cases) EXPECT_EQ(contents(path), expected) << path;
+  EXPECT_EQ(contents((folder_ / R"(SOUND\ground\BELL.wav)").c_str()), "bell");
 }
 
 TEST_F(Files, TheCurrentDirectoryIsNotThePosixOne) {
   const auto posix = std::filesystem::current_path();
   EXPECT_TRUE(SetCurrentDirectoryA(R"(sound\.)"));
   EXPECT_EQ(contents(R"(Ground\Bell.wav)"), "bell");
-  EXPECT_FALSE(SetCurrentDirectoryA("nowhere"));
   EXPECT_FALSE(SetCurrentDirectoryA(R"(Ground\Bell.wav)"));
   EXPECT_EQ(contents(R"(Ground\Bell.wav)"), "bell") << "a refused directory changes nothing";
   EXPECT_EQ(std::filesystem::current_path(), posix);
@@ -98,15 +88,6 @@ TEST_F(Files, OnlyOrdinaryFilesAreOpenedAndOnlyForReading) {
   EXPECT_EQ(open_file(nullptr), INVALID_HANDLE_VALUE);
 }
 
-TEST_F(Files, AnEmptyFileCannotBeMapped) {
-  const HANDLE file = open_file("empty.wav");
-  ASSERT_NE(file, INVALID_HANDLE_VALUE);
-  EXPECT_EQ(GetFileSize(file, nullptr), 0u);
-  EXPECT_EQ(map_file(file), nullptr);
-  EXPECT_EQ(map_file(INVALID_HANDLE_VALUE), nullptr);
-  EXPECT_TRUE(CloseHandle(file));
-}
-
 TEST_F(Files, HandlesAreGoodForOneCloseAndOneKind) {
   const HANDLE file = open_file("click.wav");
   const HANDLE mapping = map_file(file);
@@ -117,6 +98,10 @@ TEST_F(Files, HandlesAreGoodForOneCloseAndOneKind) {
   EXPECT_EQ(map_file(file), nullptr);
   EXPECT_TRUE(CloseHandle(mapping));
   EXPECT_FALSE(UnmapViewOfFile(mapping));
+  const HANDLE empty = open_file("empty.wav");
+  EXPECT_EQ(GetFileSize(empty, nullptr), 0u);
+  EXPECT_EQ(map_file(empty), nullptr) << "there is nothing to map";
+  EXPECT_TRUE(CloseHandle(empty));
 }
 
 }  // namespace

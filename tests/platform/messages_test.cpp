@@ -16,9 +16,7 @@ TEST(Windows, AreFoundByTheirClassWhileRegistered) {
   EXPECT_EQ(FindWindowA("Main", nullptr), nullptr);
   platform_register_window("Main", &first);
   EXPECT_EQ(FindWindowA("MAIN", nullptr), reinterpret_cast<HWND>(&first));
-  EXPECT_EQ(FindWindowA("Mai", nullptr), nullptr);
   EXPECT_EQ(FindWindowA("Main", "Title"), nullptr);
-  EXPECT_EQ(FindWindowA(nullptr, nullptr), nullptr);
   platform_register_window("Main", &second);
   EXPECT_EQ(FindWindowA("Main", nullptr), reinterpret_cast<HWND>(&second));
   platform_register_window("main", nullptr);

@@ -55,17 +55,19 @@ inline platform::ExtensibleFormat extensible(WAVEFORMATEX format) {
 
 class RenderedSound : public testing::Test {
  protected:
-  void SetUp() override {
-    platform_choose_audio(PLATFORM_AUDIO_RENDERED);
+  void SetUp() override { open(PLATFORM_AUDIO_RENDERED); }
+  void TearDown() override {
+    sound_.reset();
+    platform_register_window("Main", nullptr);
+  }
+
+  void open(PlatformAudio audio) {
+    platform_choose_audio(audio);
     platform_register_window("Main", this);
     IDirectSound* sound = nullptr;
     ASSERT_EQ(DirectSoundCreate(nullptr, &sound, nullptr), DS_OK);
     sound_.reset(sound);
     ASSERT_EQ(sound_->SetCooperativeLevel(FindWindowA("Main", nullptr), DSSCL_NORMAL), DS_OK);
-  }
-  void TearDown() override {
-    sound_.reset();
-    platform_register_window("Main", nullptr);
   }
 
   template <typename Format>
@@ -81,7 +83,6 @@ class RenderedSound : public testing::Test {
     return result;
   }
 
-  /// A buffer with these samples.
   template <typename Format, typename Sample>
   Buffer buffer_of(Format format, const std::vector<Sample>& samples) {
     Buffer buffer;

@@ -71,7 +71,7 @@ TEST(Instruments, Bars_and_pointers_move_toward_where_to_fly) {
   EXPECT_GT(token(aircraft, 793), token(aircraft, 77)) << "wanted: nose further down";
   EXPECT_GT(token(aircraft, 794), token(aircraft, 80)) << "wanted: bank further left";
   EXPECT_NEAR(token(aircraft, 835), token(aircraft, 31) * 1852.0, 0.01);
-  EXPECT_EQ(token(aircraft, 853), 0.0);
+  EXPECT_EQ(token(aircraft, 853), -1.0);
 
   aircraft.electrics.avionics_on = false;
   aircraft.step();

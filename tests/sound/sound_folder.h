@@ -53,10 +53,6 @@ class SoundFolder : public testing::Test {
     }
   }
 
-  void remove_sound(std::size_t sound) const {
-    std::filesystem::remove(folder_.path() / file_of(sound));
-  }
-
   /// The levels of the next frames of the mix; both sides must be alike.
   static std::vector<int> listen(std::size_t frames) {
     std::vector<std::int16_t> mix(frames * 2);
@@ -69,10 +65,7 @@ class SoundFolder : public testing::Test {
     return levels;
   }
 
-  /// `count` frames of one level.
-  static std::vector<int> steady(int level, std::size_t count) {
-    return std::vector<int>(count, level);
-  }
+  static std::vector<int> steady(int level, std::size_t count) { return std::vector(count, level); }
 
   std::array<char, 4096> before_{};
   TempFolder folder_;

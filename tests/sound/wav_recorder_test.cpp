@@ -1,9 +1,6 @@
 // The recording of a run: complete, in step with simulated time, and honest about failures.
 #include "host/sound/wav_recorder.h"
 
-#include <cmath>
-#include <sstream>
-
 #include "host/sound/wav_facts.h"
 #include "tests/platform/rendered_sound.h"
 #include "tests/rig/temp_folder.h"
@@ -14,46 +11,32 @@ class Recording : public RenderedSound {
  protected:
   std::string path() const { return (folder_.path() / "run.wav").native(); }
 
-  std::string recorded() const {
-    std::ostringstream bytes;
-    bytes << std::ifstream(path(), std::ios::binary).rdbuf();
-    return bytes.str();
-  }
-
   /// Frame `index` of the recording.
   Frame frame(std::size_t index) const {
     std::int16_t sides[2] = {};
-    std::memcpy(sides, recorded().data() + 44 + 4 * index, sizeof sides);
+    std::ifstream file(path(), std::ios::binary);
+    file.seekg(static_cast<std::streamoff>(44 + 4 * index));
+    file.read(reinterpret_cast<char*>(sides), sizeof sides);
     return {sides[0], sides[1]};
   }
 
   TempFolder folder_;
 };
 
-TEST_F(Recording, IsAWavFileOfTheSimulatedLength) {
+TEST_F(Recording, HasEverySoundAtItsMoment) {
+  const Buffer buffer = mono_16({1000, -1000, 500});
   host::WavRecorder recorder(path());
-  for (int i = 0; i < 90; ++i) recorder.advance(1.0 / 60);
+  for (int i = 0; i < 30; ++i) recorder.advance(1.0 / 60);
+  buffer->Play(0, 0, 0);
+  recorder.advance(0.25);
+  EXPECT_EQ(host::read_wav_facts(path()).seconds, 0.75) << "a run that is killed leaves its sound";
   recorder.finish();
   recorder.advance(1.0);  // heard, but not recorded any more
-  recorder.finish();
   const host::WavFacts facts = host::read_wav_facts(path());
   EXPECT_EQ(facts.rate, 44100u);
   EXPECT_EQ(facts.channels, 2u);
   EXPECT_EQ(facts.bits, 16u);
-  EXPECT_EQ(facts.seconds, 1.5);
-}
-
-TEST_F(Recording, HasEverySoundAtItsMoment) {
-  const Buffer buffer = mono_16({1000, -1000, 500});
-  {
-    host::WavRecorder recorder(path());
-    recorder.advance(0.5);
-    buffer->Play(0, 0, 0);
-    recorder.advance(0.25);
-    EXPECT_EQ(host::read_wav_facts(path()).seconds, 0.75)
-        << "a run that is killed now leaves its sound";
-  }
-  EXPECT_EQ(host::read_wav_facts(path()).seconds, 0.75);
+  EXPECT_EQ(facts.seconds, 0.75);
   EXPECT_EQ(frame(22049), (Frame{}));
   EXPECT_EQ(frame(22050), (Frame{1000, 1000}));
   EXPECT_EQ(frame(22052), (Frame{500, 500}));
@@ -61,22 +44,17 @@ TEST_F(Recording, HasEverySoundAtItsMoment) {
 }
 
 TEST_F(Recording, DoesNotDriftFromSimulatedTime) {
-  for (const double step : {1.0 / 18, 1.0 / 59.94, 0.001, 1.0 / 44100, 7.3}) {
+  for (const double step : {1.0 / 59.94, 1.0 / 44100, 7.3}) {
+    const Buffer buffer = mono_16({1, 2});
+    buffer->Play(0, 0, 0);
     host::WavRecorder recorder;
     double steps = 0;
     for (; steps * step < 20; ++steps) {
       recorder.advance(step);
       ASSERT_NEAR(static_cast<double>(recorder.frames()), (steps + 1) * step * 44100, 0.51) << step;
     }
+    EXPECT_EQ(status(*buffer), 0u) << "without a file too, what has been started ends";
   }
-}
-
-TEST_F(Recording, LetsSoundsEndWithoutAFile) {
-  const Buffer buffer = mono_16(std::vector<std::int16_t>(441, 1));
-  host::WavRecorder recorder;
-  buffer->Play(0, 0, 0);
-  recorder.advance(0.02);
-  EXPECT_EQ(status(*buffer), 0u);
 }
 
 TEST_F(Recording, NamesTheFileThatCannotBeWritten) {

@@ -38,29 +38,21 @@ TEST(Wave, FormatAndSamplesAreFoundOrTheImageIsRefused) {
     std::string samples = "abcd";
   } cases[] = {
       {"ordinary", riff(fmt + samples_chunk), true},
-      {"another chunk first", riff(chunk("LIST", "INFO") + fmt + samples_chunk), true},
       {"an odd chunk between", riff(fmt + chunk("fact", "odd") + samples_chunk), true},
       {"an odd number of samples", riff(fmt + chunk("data", "abc")), true, "abc"},
       {"samples before the format", riff(samples_chunk + fmt), true},
       {"the first of two", riff(fmt + samples_chunk + chunk("data", "efgh")), true},
-      {"an empty chunk between", riff(fmt + chunk("junk", "") + samples_chunk), true},
-      {"no samples at all", riff(fmt + chunk("data", "")), true, ""},
       {"bytes after the end", riff(fmt + samples_chunk) + "tail", true},
-      {"long format", riff(chunk("fmt ", format + "xy") + samples_chunk), true},
       {"samples cut off", riff(fmt + lying_chunk("data", 4000, "abcd")), true},
       {"samples of a huge size", riff(fmt + lying_chunk("data", 0xFFFFFFFF, "abcd")), true},
       {"riff size beyond the file", lying_riff(0xFFFFFFFF, fmt + samples_chunk), true},
       {"riff ends before the samples", lying_riff(28, fmt + samples_chunk), false},
       {"riff ends in the samples", lying_riff(29, fmt + samples_chunk), true},
-      {"riff size 0", lying_riff(0, fmt + samples_chunk), false},
       {"format of 13 bytes", riff(chunk("fmt ", format.substr(0, 13)) + samples_chunk), false},
-      {"format of 12 bytes", riff(chunk("fmt ", format.substr(0, 12)) + samples_chunk), false},
       {"format cut off", riff(samples_chunk + lying_chunk("fmt ", 16, "short")), false},
       {"huge chunk before", riff(lying_chunk("junk", 0xFFFFFFFF, "") + fmt + samples_chunk), false},
       {"no format", riff(samples_chunk), false},
       {"no samples", riff(fmt), false},
-      {"header cut off", riff(fmt + "data" + number(4, 3)), false},
-      {"no chunks", riff(""), false},
       {"only the first words", "RIFF" + number(4, 4), false},
       {"empty", "", false},
       {"another kind of RIFF", "RIFF" + number(40, 4) + "AVI " + fmt + samples_chunk, false},
@@ -77,21 +69,6 @@ TEST(Wave, FormatAndSamplesAreFoundOrTheImageIsRefused) {
   }
 }
 
-TEST(Wave, OnlyWhatIsAskedForIsLookedAt) {
-  const Image bad_format(riff(chunk("fmt ", "short") + samples_chunk));
-  Bytes found;
-  EXPECT_TRUE(parse_wave(bad_format.bytes, nullptr, &found));
-  EXPECT_EQ(text(found), "abcd");
-  EXPECT_FALSE(parse_wave(bad_format.bytes, &found, nullptr));
-  EXPECT_TRUE(found.empty()) << "what was there before is cleared";
-}
-
-/// Whether all of `part` lies in `image`.
-bool inside(Bytes image, Bytes part) {
-  return part.empty() ||
-         (part.data() >= image.data() && part.data() + part.size() <= image.data() + image.size());
-}
-
 TEST(Wave, NoDamageLeadsOutsideTheImage) {
   const std::string whole = riff(chunk("junk", "odd") + fmt + samples_chunk + chunk("end ", "xy"));
   const auto check = [](const std::string& contents) {
@@ -99,8 +76,11 @@ TEST(Wave, NoDamageLeadsOutsideTheImage) {
     Bytes found_format;
     Bytes found_samples;
     parse_wave(image.bytes, &found_format, &found_samples);
-    EXPECT_TRUE(inside(image.bytes, found_format)) << contents;
-    EXPECT_TRUE(inside(image.bytes, found_samples)) << contents;
+    for (const Bytes part : {found_format, found_samples}) {
+      EXPECT_TRUE(part.empty() ||
+                  (part.data() >= image.bytes.data() && &part.back() <= &image.bytes.back()))
+          << contents;
+    }
   };
   for (std::size_t size = 0; size < whole.size(); ++size) check(whole.substr(0, size));
   for (std::size_t at = 0; at < whole.size(); ++at) {

@@ -51,7 +51,8 @@ double hsi_distance_m(const Aircraft& aircraft) {
   return nav.received ? nav.distance_nm * metres_per_nautical_mile : 0.0;
 }
 
-double to_from(const Aircraft& aircraft) { return static_cast<double>(aircraft.nav[0].to_from); }
+/// One less than the enumeration, so that the indicator shows nothing, TO, FROM.
+double to_from(const Aircraft& aircraft) { return static_cast<double>(aircraft.nav[0].to_from) - 1; }
 
 void turn_course(Aircraft& aircraft, double by_deg) {
   double& course_deg = aircraft.nav[0].course_deg;
@@ -82,7 +83,7 @@ constexpr TokenRow tokens[] = {
     {{848, "hsi_source", "0 receiver 1"}, [](const Aircraft&) { return 0.0; }},
     {{849, "hsi_deviation", "full scales, left positive"},
      [](const Aircraft& a) { return -a.nav[0].course_deviation; }},
-    {{853, "to_from", "0 off, 1 to, 2 from"}, to_from},
+    {{853, "to_from", "-1 off, 0 to, 1 from"}, to_from},
     {{854, "course_bearing", "degrees"},
      [](const Aircraft& a) {
        return on_instrument_deg(a.nav[0].course_deg, magnetic_heading_deg(a.flight));
