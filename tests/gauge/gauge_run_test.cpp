@@ -35,6 +35,10 @@ double hide_next(Element* element) {
   element->next[0]->image_flags |= IMAGE_HIDE_CHAIN;
   return 0;
 }
+double hide_first(Element* element) {
+  element->gauge->element_list[0]->next[0]->image_flags |= IMAGE_HIDE_CHAIN;
+  return 0;
+}
 double hide_own_picture(Element* element) {
   element->image_flags |= IMAGE_HIDE_PICTURE;
   return 7;
@@ -124,6 +128,13 @@ TEST_F(GaugeRunTest, HidingCountsInTheFrameInWhichItHappens) {
   EXPECT_EQ(shown(run), "ded-");
   EXPECT_EQ(run.now()[1].values[0], 7);
   EXPECT_EQ(calls, "");
+
+  MadeGauge upwards(1);
+  upwards.icon(2, {0, 0}, 2, a);
+  upwards.icon(3, {0, 0}, 2, hide_first);
+  GaugeRun other(upwards.header);
+  other.frame(tokens_);
+  EXPECT_EQ(shown(other), "dee");
 }
 
 TEST_F(GaugeRunTest, LaterShownCopyCovers) {
@@ -168,10 +179,10 @@ TEST_F(GaugeRunTest, OnlyTheSameThingCovers) {
 }
 
 TEST_F(GaugeRunTest, WithoutRoutinesTheSourceTellsCopiesApart) {
-  for (const u32 token : {10, 11, 10}) gauge_.icon(2, {0, 0}, 2).icon.source.token = token;
+  for (const u32 token : {10, 11, 10, 10}) gauge_.icon(2, {0, 0}, 2).icon.source.token = token;
   GaugeRun run(gauge_.header);
   run.frame(tokens_);
-  EXPECT_EQ(shown(run), "d-dd");
+  EXPECT_EQ(shown(run), "d-d-d");
 }
 
 TEST_F(GaugeRunTest, FailuresChangeWhatIsShown) {

@@ -26,62 +26,37 @@ NeedleScale scale_of(const std::vector<NonlinearityPoint>& table, u32 turn = TUR
   return needle_scale(element);
 }
 
-struct Reading {
-  double value, degrees;
-};
+using Readings = std::vector<std::pair<double, double>>;  // values with their degrees
 
-struct Case {
-  const char* what;
-  std::vector<NonlinearityPoint> table;
-  u32 turn;
-  std::vector<Reading> readings;
-};
-
-const Case cases[] = {
-    {"holds beyond its ends",
-     {{down, 0}, {left, 10}, {up, 30}, {right, 40}},
-     TURN_CLOCKWISE,
-     {{5, 135}, {20, 225}, {40, 360}, {infinite, 360}, {-99, 90}}},
-    {"clockwise through more than one turn",
-     {{right_down, 0}, {up, 50}, {left_down, 100}},
-     TURN_CLOCKWISE,
-     {{25, 157.5}, {50, 270}, {100, 495}}},
-    {"counterclockwise over the top",
-     {{right_down, 0}, {up, 50}, {left_down, 100}},
-     TURN_SHORTER_WAY,
-     {{0, 45}, {25, -22.5}, {50, -90}, {100, -225}}},
-    {"half a turn is taken clockwise",
-     {{down, 0}, {up, 10}, {down, 20}},
-     TURN_SHORTER_WAY,
-     {{5, 180}, {15, 360}}},
-    {"in ascending order of value, whatever the table's",
-     {{up, 10}, {left, 0}, {right, 20}},
-     TURN_CLOCKWISE,
-     {{0, 180}, {5, 225}, {20, 360}}},
-    {"a jump where a value stands twice",
-     {{left, 0}, {up, 10}, {right, 10}, {down, 20}},
-     TURN_CLOCKWISE,
-     {{9.999999999, 270}, {10, 360}, {15, 405}}},
-    {"points that say nothing are passed over",
-     {{pivot, -5}, {left, 0}, {pivot, 1}, {down, nan_value}, {up, infinite}, {up, 10}},
-     TURN_CLOCKWISE,
-     {{-5, 180}, {1, 189}, {10, 270}}},
-    {"no point that says anything", {{pivot, 3}}, TURN_CLOCKWISE, {{3, 0}, {99, 0}}},
-    {"the widest of ranges",
-     {{left, -huge}, {up, huge}},
-     TURN_CLOCKWISE,
-     {{-huge, 180}, {0, 225}, {huge, 270}}},
-    {"no table: the value is the angle", {}, TURN_CLOCKWISE, {{33.5, 33.5}, {-720, -720}}},
-};
+void expect_readings(const char* what, u32 turn, const std::vector<NonlinearityPoint>& table,
+                     const Readings& readings) {
+  const NeedleScale scale = scale_of(table, turn);
+  for (const auto& [value, degrees] : readings)
+    EXPECT_NEAR(needle_angle(scale, value), degrees, 1e-6) << what << ", " << value;
+  EXPECT_TRUE(std::isnan(needle_angle(scale, nan_value))) << what;
+}
 
 TEST(NeedleGeometry, PointsWhereTheTableSays) {
-  for (const Case& c : cases) {
-    const NeedleScale scale = scale_of(c.table, c.turn);
-    for (const Reading& reading : c.readings)
-      EXPECT_NEAR(needle_angle(scale, reading.value), reading.degrees, 1e-6)
-          << c.what << ", " << reading.value;
-    EXPECT_TRUE(std::isnan(needle_angle(scale, nan_value))) << c.what;
-  }
+  constexpr u32 clockwise = TURN_CLOCKWISE, shorter = TURN_SHORTER_WAY;
+  expect_readings("holds beyond its ends", clockwise, {{down, 0}, {left, 10}, {up, 30}, {right, 40}},
+                  {{5, 135}, {20, 225}, {40, 360}, {infinite, 360}, {-99, 90}});
+  expect_readings("more than one turn", clockwise, {{right_down, 0}, {up, 50}, {left_down, 100}},
+                  {{25, 157.5}, {50, 270}, {100, 495}});
+  expect_readings("counterclockwise over the top", shorter,
+                  {{right_down, 0}, {up, 50}, {left_down, 100}}, {{0, 45}, {25, -22.5}, {100, -225}});
+  expect_readings("half a turn is clockwise", shorter, {{down, 0}, {up, 10}, {down, 20}},
+                  {{5, 180}, {15, 360}});
+  expect_readings("in ascending order", clockwise, {{up, 10}, {left, 0}, {right, 20}},
+                  {{0, 180}, {5, 225}, {20, 360}});
+  expect_readings("a jump", clockwise, {{left, 0}, {up, 10}, {right, 10}, {down, 20}},
+                  {{9.999999999, 270}, {10, 360}, {15, 405}});
+  expect_readings("points that say nothing", clockwise,
+                  {{pivot, -5}, {left, 0}, {pivot, 1}, {down, nan_value}, {up, infinite}, {up, 10}},
+                  {{-5, 180}, {1, 189}, {10, 270}});
+  expect_readings("only such points", clockwise, {{pivot, 3}}, {{3, 0}, {99, 0}});
+  expect_readings("the widest of ranges", clockwise, {{left, -huge}, {up, huge}},
+                  {{-huge, 180}, {0, 225}, {huge, 270}});
+  expect_readings("no table: the value is the angle", clockwise, {}, {{33.5, 33.5}, {-720, -720}});
   EXPECT_TRUE(std::isnan(needle_angle({}, infinite)));
 }
 

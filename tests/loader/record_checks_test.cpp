@@ -124,6 +124,7 @@ TEST(RecordChecks, UnsafeElementsAreErrors) {
       {[](R& r) { r.needle.needle.table = nullptr; },
        needle + "calibration points are counted, but there is no table"},
       {[](R& r) { r.text[5] = '6'; }, string + "the text has no end within 5 characters"},
+      {[](R& r) { r.string.string.text = wild<char*>(); }, string + "the text" + unreadable},
       {[](R& r) { r.string.string.font = "A\tB"; },
        string + "the font's name holds characters that cannot be printed"},
       {[](R& r) { r.string.string.max_characters = 1 << 20; }, string + "1048576 characters of text"},
@@ -145,9 +146,12 @@ TEST(RecordChecks, UnsafeGaugesAreErrors) {
       {[](R& r) { r.gauge.element_list[0] = r.elements + 1; },
        "gauge 1 (Full): the first element is not a background but of kind 1"},
       {[](R& r) { r.gauge.draw = nullptr; }, "gauge 1 (Full): the draw routine is null"},
+      {[](R& r) { r.gauge.service = wild<ServiceRoutine>(); },
+       "gauge 1 (Full): the service routine points to something that is not code"},
       {[](R& r) { r.gauge.mouse_areas = nullptr; }, g + "mouse area 0: the entry is null"},
       {[](R& r) { r.areas[1].kind = 5; }, g + "mouse area 1: kind 5 is not a mouse area kind"},
       {[](R& r) { r.areas[1].routine = nullptr; }, g + "mouse area 1: the mouse routine is null"},
+      {[](R& r) { r.areas[2].tooltip = wild<char*>(); }, g + "mouse area 2: the tooltip" + unreadable},
       {[](R& r) { r.areas[3].kind = MOUSE_END; }, g + "mouse area 3: the table ends inside a group"},
       {[](R& r) { r.areas[2].kind = MOUSE_GROUP_END; },
        g + "mouse area 3: it closes a group that is not open"},
@@ -168,6 +172,7 @@ TEST(RecordChecks, UnsafeGaugesAreErrors) {
 
 TEST(RecordChecks, OdditiesAreWarnings) {
   const std::vector<Case> cases = {
+      {[](R& r) { r.icon.gauge = nullptr; }, icon + "it names another gauge as its own"},
       {[](R& r) { r.icon.reserved = 3; }, icon + "the reserved word is 0x3, not 0"},
       {[](R& r) { r.failures[0].action = 9; }, icon + "failure action 9 is not known"},
       {[](R& r) { r.table[1].value = -1; },

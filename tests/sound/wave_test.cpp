@@ -71,10 +71,10 @@ TEST(Wave, FormatAndSamplesAreFoundOrTheImageIsRefused) {
 
 TEST(Wave, NoDamageLeadsOutsideTheImage) {
   const std::string whole = riff(chunk("junk", "odd") + fmt + samples_chunk + chunk("end ", "xy"));
+  static constexpr std::byte stale[4]{};
   const auto check = [](const std::string& contents) {
     const Image image(contents);
-    Bytes found_format;
-    Bytes found_samples;
+    Bytes found_format = stale, found_samples = stale;
     parse_wave(image.bytes, &found_format, &found_samples);
     for (const Bytes part : {found_format, found_samples}) {
       EXPECT_TRUE(part.empty() ||
