@@ -106,7 +106,11 @@ void draw_drum(const Canvas& canvas, const Drum& drum, const MovingAxis& axis) {
   const double step = drum.step == 0 ? figure_step(axis) : drum.step;
   const double middle = (box.width - (drum.ticks > 0 ? 3.5 : 0)) / 2;
   for_each_step(axis, step, [&](double k) {
-    if (drum.blank_below_zero && k < 0) return;
+    if (drum.blank_below_zero && k < 0) {
+      const double pitch = strip.position(step) - strip.position(0);
+      const Box blank{0, strip.position(k * step) - pitch / 2, box.width, pitch};
+      return fill(canvas, rounded(blank, 0), palette::face_dark);
+    }
     const double count = static_cast<double>(drum.figures.size());
     const auto figure = static_cast<std::size_t>(std::lround(wrapped(k, count)));
     const std::string text = std::string(drum.figures.substr(figure, 1)) + std::string(drum.tail);
