@@ -107,8 +107,8 @@ void draw_drum(const Canvas& canvas, const Drum& drum, const MovingAxis& axis) {
   const double middle = (box.width - (drum.ticks > 0 ? 3.5 : 0)) / 2;
   for_each_step(axis, step, [&](double k) {
     if (drum.blank_below_zero && k < 0) {
-      const double pitch = strip.position(step) - strip.position(0);
-      const Box blank{0, strip.position(k * step) - pitch / 2, box.width, pitch};
+      const double window = box.height / 10;
+      const Box blank{0, strip.position(k * step) - window / 2, box.width, window};
       return fill(canvas, rounded(blank, 0), palette::face_dark);
     }
     const double count = static_cast<double>(drum.figures.size());
