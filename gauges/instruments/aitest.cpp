@@ -1,4 +1,4 @@
-/// Approach timer (main panel), the quick one.
+/// Push-button timer (main panel) that stops by itself after 4,450 frames at the normal rate.
 #include "gauges/instruments/frame_timer.h"
 
 namespace tarnvale {

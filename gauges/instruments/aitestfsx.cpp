@@ -1,4 +1,4 @@
-/// Approach timer (main panel), the slow one.
+/// Push-button timer (main panel) that stops by itself after 555,000 frames at the normal rate.
 #include "gauges/instruments/frame_timer.h"
 
 namespace tarnvale {

@@ -17,15 +17,15 @@ f64 test_switch(Element*) {
   return position == up || position == down ? position : 0;
 }
 
-/// Half a degree makes up for the pointer's picture, which lies off its axis by as much.
+/// The course against the heading, half a degree on, as the heading bug is.
 f64 course_on_card(Element*) {
-  constexpr f64 picture = 0.5;
-  return heading_test() ? 0 : read(token::selected_course) - read(token::heading) + picture;
+  constexpr f64 offset = 0.5;
+  return heading_test() ? 0 : read(token::selected_course) - read(token::heading) + offset;
 }
 
 f64 heading_bug(Element*) {
-  constexpr f64 picture = 0.5, from_top = 90;
-  return read(token::heading_bug) + picture - (read(token::heading) + from_top);
+  constexpr f64 offset = 0.5, from_top = 90;
+  return read(token::heading_bug) + offset - (read(token::heading) + from_top);
 }
 
 f64 to_from(Element*) {
@@ -56,8 +56,8 @@ f64 annunciator(Element*) {
 
 /// The bar stands in the middle while the course comes from elsewhere.
 f64 deviation(Element*) {
-  constexpr f64 dots = 5, millimetres_per_inch = 25.4;
-  return read(token::hsi_source) == 0 ? read(token::hsi_deviation) * dots * millimetres_per_inch : 0;
+  if (!(read(token::hsi_source) == 0)) return 0;
+  return read(token::hsi_deviation) * 5 * 25.4;  // 127 to a full scale
 }
 
 template <u32 range>
