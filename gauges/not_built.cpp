@@ -20,16 +20,6 @@ constinit Gauge pedtg{{.name = "Pedtg", .width_mm = 229, .background = 14220}};
 constinit Gauge thrtg{{.name = "Thrtg", .width_mm = 148, .background = 23220}};
 constinit Gauge intro{{.name = "Intro", .width_mm = 1280, .background = 24230}};
 
-// ---- Radios
-constinit Gauge vhf1nav{{.name = "Vhf1nav", .width_mm = 215, .background = 2230}};
-constinit Gauge vhf2nav{{.name = "Vhf2nav", .width_mm = 215, .background = 2290}};
-constinit Gauge comm{{.name = "Comm", .width_mm = 212, .background = 2340}};
-constinit Gauge adf{{.name = "Adf", .width_mm = 195, .background = 2350}};
-constinit Gauge transponder{{.name = "Transponder", .width_mm = 212, .background = 2370}};
-constinit Gauge selcall{{.name = "Selcall", .width_mm = 190, .background = 2460}};
-constinit Gauge micsel{{.name = "Micsel", .width_mm = 194, .background = 3080}};
-constinit Gauge nav1rad{{.name = "Nav1rad", .width_mm = 144, .background = 13140}};
-
 // ---- Warnings
 constinit Gauge dhgpws{{.name = "Dhgpws", .width_mm = 185, .background = 3010}};
 constinit Gauge flightrec{{.name = "Flightrec", .width_mm = 196, .background = 3060}};

@@ -106,7 +106,9 @@ struct Aircraft {
   u32 nav2_timer_deadline = 0;  ///< seconds
   u32 nav_aux_switch = 0;       ///< one switch state on all three navigation heads
   u32 nav_test_switch = 0;      ///< 0 centre, 1 upper, 2 lower; shared likewise
+  u32 transponder_mode = 0;     ///< 0 off, 1..3
   u32 fo_callouts_enabled = 0;
+  u32 cabin_announcements_on = 0;
   u32 ground_power_connected = 0;
 
   // ---- Engines, fuel and fire

@@ -12,14 +12,19 @@ template <typename Part>
 inline constexpr std::size_t row_count = 1;
 template <std::size_t count>
 inline constexpr std::size_t row_count<Rows<count>> = count;
+template <typename Part>
+inline constexpr std::size_t area_count = 1;
+template <std::size_t count>
+inline constexpr std::size_t area_count<Areas<count>> = count;
 
-template <std::size_t total>
-constexpr void append(Rows<total>& all, std::size_t& next, const Row& row) {
-  all[next++] = row;
+template <typename Item, std::size_t total>
+constexpr void append(std::array<Item, total>& all, std::size_t& next, const Item& item) {
+  all[next++] = item;
 }
-template <std::size_t total, std::size_t count>
-constexpr void append(Rows<total>& all, std::size_t& next, const Rows<count>& more) {
-  for (const Row& row : more) all[next++] = row;
+template <typename Item, std::size_t total, std::size_t count>
+constexpr void append(std::array<Item, total>& all, std::size_t& next,
+                      const std::array<Item, count>& more) {
+  for (const Item& item : more) all[next++] = item;
 }
 
 }  // namespace detail
@@ -28,6 +33,15 @@ constexpr void append(Rows<total>& all, std::size_t& next, const Rows<count>& mo
 template <typename... Parts>
 constexpr auto rows(const Parts&... parts) {
   Rows<(0 + ... + detail::row_count<Parts>)> all{};
+  std::size_t next = 0;
+  (detail::append(all, next, parts), ...);
+  return all;
+}
+
+/// The same for click areas.
+template <typename... Parts>
+constexpr auto areas(const Parts&... parts) {
+  Areas<(0 + ... + detail::area_count<Parts>)> all{};
   std::size_t next = 0;
   (detail::append(all, next, parts), ...);
   return all;
@@ -55,6 +69,10 @@ struct Body {
     lay(area);
   }
   constexpr Body(const Gauge& gauge, const Rows<parts>& rows, const Area (&area)[clicks]) {
+    lay(gauge, rows);
+    lay(area);
+  }
+  constexpr Body(const Gauge& gauge, const Rows<parts>& rows, const Areas<clicks>& area) {
     lay(gauge, rows);
     lay(area);
   }
@@ -103,6 +121,8 @@ template <std::size_t parts, std::size_t clicks>
 Body(const Gauge&, const Row (&)[parts], const Area (&)[clicks]) -> Body<parts, clicks>;
 template <std::size_t parts, std::size_t clicks>
 Body(const Gauge&, const Rows<parts>&, const Area (&)[clicks]) -> Body<parts, clicks>;
+template <std::size_t parts, std::size_t clicks>
+Body(const Gauge&, const Rows<parts>&, const Areas<clicks>&) -> Body<parts, clicks>;
 template <std::size_t parts>
 Body(const Gauge&, const Row (&)[parts]) -> Body<parts, 0>;
 template <std::size_t parts>

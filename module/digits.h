@@ -3,7 +3,7 @@
 
 #include <cmath>
 
-#include "interface/panel_interface.h"
+#include "module/numbers.h"
 
 namespace tarnvale {
 
@@ -24,6 +24,12 @@ f64 digit(Element* drum) {
 template <u32 range>
 f64 rolling(Element* drum) {
   return std::fmod(drum_source(drum), range);
+}
+
+/// A drum of a number that the host packs four bits to a figure; `place` 0 is the last figure.
+template <u32 place>
+f64 packed_digit(Element* drum) {
+  return low_word(drum_source(drum)) >> (4 * place) & 0xF;
 }
 
 }  // namespace tarnvale

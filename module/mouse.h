@@ -3,6 +3,7 @@
 /// Boxes are pixels of the gauge's background; a mouse routine gets a point relative to its box.
 #pragma once
 
+#include <array>
 #include <cstddef>
 
 #include "interface/panel_interface.h"
@@ -31,6 +32,10 @@ struct Area {
   MouseArea entries[most_entries];
   std::size_t count;
 };
+
+/// Areas that a function describes, for controls that repeat between gauges.
+template <std::size_t count>
+using Areas = std::array<Area, count>;
 
 namespace detail {
 

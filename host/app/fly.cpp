@@ -2,6 +2,7 @@
 #include "host/app/installation.h"
 #include "host/app/lookup.h"
 #include "host/app/start_notes.h"
+#include "host/sound/identifications.h"
 #include "host/window/flight_deck.h"
 
 namespace host {
@@ -19,7 +20,11 @@ int fly(const FlyOptions& options) {
       throw std::runtime_error("--open: there is no window " + std::to_string(ident));
     cockpit.panels().open(ident);
   }
+  Identifications identifications;
   FlightDeck deck(cockpit, options.deck);
+  deck.after_frame = [&] {
+    identifications.update(cockpit.aircraft().identifications_heard(), cockpit.seconds());
+  };
   deck.fly();
   return exit_fine;
 }

@@ -11,6 +11,7 @@
 #include "host/app/progress.h"
 #include "host/app/start_notes.h"
 #include "host/script/flow_api.h"
+#include "host/sound/identifications.h"
 #include "host/sound/wav_recorder.h"
 
 namespace host {
@@ -76,6 +77,7 @@ class FlowRun {
   }
 
   void after_frame(double seconds) {
+    identifications_.update(cockpit_.aircraft().identifications_heard(), cockpit_.seconds());
     sound_->advance(seconds);
     if (options_.realtime) pacer_.advance(seconds);
     progress_.tick(cockpit_.seconds());
@@ -94,6 +96,7 @@ class FlowRun {
   Progress progress_;
   Pacer pacer_;
   std::unique_ptr<WavRecorder> sound_ = std::make_unique<WavRecorder>();
+  Identifications identifications_;
   GaugeModule module_;
   Cockpit cockpit_;
   FlowSession session_;

@@ -6,9 +6,7 @@ namespace host::simulation {
 
 Aircraft::Aircraft(int steps_per_second) {
   clock.steps_per_second = steps_per_second;
-  nav[0].frequency_mhz = landing_system().frequency_mhz;
-  nav[1].frequency_mhz = vor_stations()[0].frequency_mhz;
-  adf.frequency_khz = ndb_station().frequency_khz;
+  tune_radios();
   airframe.surfaces.settle(controls);
   airframe.stand_at(on_runway_axes(stand_along_m, stand_right_m), runway_true_deg * radians_per_degree,
                     mass_properties(fuel.load()));
@@ -19,6 +17,14 @@ Aircraft::Aircraft(int steps_per_second) {
     engine.oil_temperature_celsius = air.temperature_celsius;
   }
   update_systems(0.0);
+}
+
+void Aircraft::tune_radios() {
+  const auto khz = [](double mhz) { return static_cast<int>(std::lround(mhz * 1000.0)); };
+  nav[0].tuning.active_khz = khz(landing_system().frequency_mhz);
+  nav[1].tuning.active_khz = nav[0].tuning.standby_khz = khz(vor_stations()[0].frequency_mhz);
+  nav[1].tuning.standby_khz = khz(vor_stations()[1].frequency_mhz);
+  adf.tuning.tenths_khz = static_cast<int>(std::lround(ndb_station().frequency_khz * 10.0));
 }
 
 void Aircraft::step() {
@@ -123,6 +129,14 @@ void Aircraft::update_navigation(double dt_s) {
   adf.update(flight, powered);
   marker = powered ? marker_overhead(flight) : 0;
   if (powered) flight_director.update(dt_s, flight, air.indicated_altitude_ft, nav[0], selections);
+}
+
+std::array<std::string_view, 3> Aircraft::identifications_heard() const {
+  std::array<std::string_view, 3> heard{nav[0].ident, nav[1].ident, adf.ident};
+  for (std::size_t i = 0; i < heard.size(); ++i) {
+    if (!audio.identification_on[i]) heard[i] = {};
+  }
+  return heard;
 }
 
 void Aircraft::start_both_engines() {

@@ -9,6 +9,7 @@
 #include "host/simulation/flight/flight_controls.h"
 #include "host/simulation/flight/flight_state.h"
 #include "host/simulation/flight/trim.h"
+#include "host/simulation/navigation/audio_selector.h"
 #include "host/simulation/navigation/flight_director.h"
 #include "host/simulation/navigation/receivers.h"
 #include "host/simulation/placement.h"
@@ -41,6 +42,9 @@ struct Aircraft {
   Electrics electrics;
   std::array<NavReceiver, 2> nav;
   AdfReceiver adf;
+  VhfTuning com{com_band, 121700, 118100};  ///< ground, then tower
+  TransponderCode transponder;              ///< all noughts, as the panel's knobs stand
+  AudioSelector audio;
   int marker = 0;  ///< as marker_overhead()
   Selections selections;
   FlightDirector flight_director;
@@ -51,6 +55,10 @@ struct Aircraft {
 
   /// Runs one step.
   void step();
+
+  /// The identifications that the crew hears: of receiver 1, receiver 2 and the direction finder. Empty
+  /// where nothing is received or the crew does not listen.
+  std::array<std::string_view, 3> identifications_heard() const;
 
   /// What the automatic start does: battery, fuel levers, ignition and both starters.
   void start_both_engines();
@@ -67,6 +75,7 @@ struct Aircraft {
   bool place_in_flight(const InFlight& where);
 
  private:
+  void tune_radios();
   void fly(double dt_s);
   AirframeInputs surroundings() const;
   EngineInputs engine_inputs(std::size_t engine) const;

@@ -73,6 +73,10 @@ double AircraftModel::token(std::uint32_t number) const {
   return row != nullptr ? row->read(systems_->aircraft) : 0.0;
 }
 
+std::array<std::string_view, 3> AircraftModel::identifications_heard() const {
+  return systems_->aircraft.identifications_heard();
+}
+
 void AircraftModel::set_failed(std::uint32_t key, bool failed) {
   if (failed) {
     systems_->failed.insert(key);

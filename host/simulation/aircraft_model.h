@@ -1,10 +1,12 @@
 /// The aircraft behind the panel: what key events do and what token variables read.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <memory>
 #include <optional>
 #include <span>
+#include <string_view>
 
 #include "host/simulation/flight/air_data.h"
 #include "host/simulation/flight/flight_controls.h"
@@ -51,6 +53,10 @@ class AircraftModel {
 
   /// What a host token variable reads; 0 for a number that the aircraft does not know.
   double token(std::uint32_t number) const;
+
+  /// The identifications that the crew hears: of receiver 1, receiver 2 and the direction finder, in
+  /// letters. Empty where nothing is received or the crew does not listen.
+  std::array<std::string_view, 3> identifications_heard() const;
 
   /// Fails or repairs the system behind a failure key.
   void set_failed(std::uint32_t key, bool failed);

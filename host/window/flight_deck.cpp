@@ -59,6 +59,7 @@ void FlightDeck::run_frames() {
   if (now() - frame_due_ > most_late_frames * period) frame_due_ = now();
   for (; now() >= frame_due_; frame_due_ += period) {
     cockpit_.frame();
+    if (after_frame) after_frame();
     last_frame_ = frame_due_;
   }
 }

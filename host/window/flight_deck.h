@@ -3,6 +3,7 @@
 
 #include <chrono>
 #include <filesystem>
+#include <functional>
 #include <string>
 
 #include "host/window/deck_options.h"
@@ -23,6 +24,9 @@ class FlightDeck {
   FlightDeck& operator=(const FlightDeck&) = delete;
 
   void mark_areas(bool marked);
+
+  /// Called after every frame of the cockpit.
+  std::function<void()> after_frame;
 
   /// Flies until the person leaves.
   void fly();

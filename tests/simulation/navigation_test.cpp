@@ -23,7 +23,7 @@ FlightState on_approach(double out_m, double up_m, double right_m) {
 
 NavReceiver tuned(double mhz, const FlightState& flight, double course_deg = 70.0) {
   NavReceiver receiver;
-  receiver.frequency_mhz = mhz;
+  receiver.tuning.active_khz = static_cast<int>(std::lround(mhz * 1000));
   receiver.course_deg = course_deg;
   receiver.update(flight, true);
   return receiver;
@@ -55,7 +55,7 @@ TEST(Ils, Is_heard_where_it_is_sent_and_only_when_tuned_and_powered) {
   EXPECT_FALSE(tuned(110.30, on_approach(35000, 1500, 0)).glide_slope);
   EXPECT_FALSE(tuned(109.90, on_approach(10000, 500, 0)).received);
   NavReceiver dead;
-  dead.frequency_mhz = 110.30;
+  dead.tuning.active_khz = 110300;
   dead.update(on_approach(10000, 500, 0), false);
   EXPECT_FALSE(dead.received);
   EXPECT_LT(dead.distance_nm, 0.0);
@@ -98,7 +98,7 @@ TEST(Vor, Hides_behind_the_horizon) {
 TEST(Adf, Needle_shows_the_way_relative_to_the_nose) {
   FlightState flight = on_approach(20000, 1000, 0);
   AdfReceiver adf;
-  adf.frequency_khz = 368.0;
+  adf.tuning.tenths_khz = 3680;
   adf.update(flight, true);
   ASSERT_TRUE(adf.received);
   EXPECT_NEAR(on_instrument_deg(adf.bearing_deg, magnetic_heading_deg(flight)), 0.0, 0.01);

@@ -28,12 +28,15 @@ double horizon_nm(const FlightState& flight) {
   return 1.23 * (std::sqrt(std::max(flight.height_ft, 10.0)) + std::sqrt(mast_ft));
 }
 
-bool same(double frequency, double other) { return std::abs(frequency - other) < 0.001; }
+bool tuned_to(const VhfTuning& tuning, double station_mhz) {
+  return tuning.active_khz == std::lround(station_mhz * 1000.0);
+}
 
 }  // namespace
 
 void NavReceiver::forget() {
   received = localizer = glide_slope = false;
+  ident = {};
   distance_nm = -1.0;
   course_deviation = slope_deviation = 0.0;
   to_from = ToFrom::off;
@@ -42,11 +45,11 @@ void NavReceiver::forget() {
 void NavReceiver::update(const FlightState& flight, bool powered) {
   forget();
   if (!powered) return;
-  if (same(frequency_mhz, landing_system().frequency_mhz)) {
+  if (tuned_to(tuning, landing_system().frequency_mhz)) {
     update_landing_system(flight, landing_system());
   }
   for (const VorStation& station : vor_stations()) {
-    if (same(frequency_mhz, station.frequency_mhz)) update_vor(flight, station);
+    if (tuned_to(tuning, station.frequency_mhz)) update_vor(flight, station);
   }
 }
 
@@ -56,6 +59,7 @@ void NavReceiver::update_landing_system(const FlightState& flight, const Landing
   const double behind_deg = std::abs(off_course_deg);
   if (sight.slant_nm > std::min(25.0, horizon_nm(flight)) || behind_deg > 35.0) return;
   received = localizer = true;
+  ident = station.ident;
   distance_nm = sight.slant_nm;
   bearing_deg = magnetic_deg(sight.bearing_true_deg);
   course_deviation = std::clamp(off_course_deg / localizer_full_scale_deg, -1.0, 1.0);
@@ -77,6 +81,7 @@ void NavReceiver::update_vor(const FlightState& flight, const VorStation& statio
   const Sight sight = sight_of(station.position_m, flight);
   if (sight.slant_nm > std::min(100.0, horizon_nm(flight))) return;
   received = true;
+  ident = station.ident;
   distance_nm = sight.slant_nm;
   bearing_deg = magnetic_deg(sight.bearing_true_deg);
   const double off_deg = turn_degrees(bearing_deg - course_deg);
@@ -90,7 +95,9 @@ void NavReceiver::update_vor(const FlightState& flight, const VorStation& statio
 void AdfReceiver::update(const FlightState& flight, bool powered) {
   const NdbStation& station = ndb_station();
   const Sight sight = sight_of(station.position_m, flight);
-  received = powered && same(frequency_khz, station.frequency_khz) && sight.slant_nm < 130.0;
+  received = powered && tuning.tenths_khz == std::lround(station.frequency_khz * 10.0) &&
+             sight.slant_nm < 130.0;
+  ident = received ? station.ident : std::string_view();
   if (received) bearing_deg = magnetic_deg(sight.bearing_true_deg);
 }
 

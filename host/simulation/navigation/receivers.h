@@ -7,7 +7,10 @@
 /// localizer, 0.7 of glide slope, 10 of a VOR's course.
 #pragma once
 
+#include <string_view>
+
 #include "host/simulation/flight/flight_state.h"
+#include "host/simulation/navigation/tuning.h"
 #include "host/simulation/world/stations.h"
 
 namespace host::simulation {
@@ -20,10 +23,11 @@ enum class ToFrom { off = 0, to = 1, from = 2 };
 
 /// A VOR, localizer, glide slope and DME receiver. Directions are magnetic.
 struct NavReceiver {
-  double frequency_mhz = 0.0;
+  VhfTuning tuning{nav_band, 108000, 108000};
   double course_deg = 70.0;  ///< selected by the crew
 
   bool received = false;
+  std::string_view ident;  ///< what the station keys; empty without a signal
   bool localizer = false;
   bool glide_slope = false;
   double distance_nm = -1.0;      ///< along the slant; negative without a signal
@@ -43,8 +47,9 @@ struct NavReceiver {
 
 /// A direction finder.
 struct AdfReceiver {
-  double frequency_khz = 0.0;
+  AdfTuning tuning{1900};
   bool received = false;
+  std::string_view ident;    ///< as a NavReceiver's
   double bearing_deg = 0.0;  ///< magnetic, to the station
 
   void update(const FlightState& flight, bool powered);
