@@ -44,7 +44,29 @@ TEST(Controls, EachMovesThePartItIsNamedAfter) {
                                                    "Ffsys fuel_computer_power_button",
                                                    "Ffsys fuel_used_mode_button",
                                                    "Ffsys weight_mode_button",
-                                                   "Ffsys reset_button"};
+                                                   "Ffsys reset_button",
+                                                   "Comm megahertz_knob_down",
+                                                   "Comm megahertz_knob_up",
+                                                   "Comm kilohertz_knob_down",
+                                                   "Comm kilohertz_knob_up",
+                                                   "Nav1rad megahertz_knob_down",
+                                                   "Nav1rad megahertz_knob_up",
+                                                   "Nav1rad kilohertz_knob_down",
+                                                   "Nav1rad kilohertz_knob_up",
+                                                   "Vhf1nav megahertz_knob_down",
+                                                   "Vhf1nav megahertz_knob_up",
+                                                   "Vhf1nav kilohertz_knob_down",
+                                                   "Vhf1nav kilohertz_knob_up",
+                                                   "Vhf2nav megahertz_knob_down",
+                                                   "Vhf2nav megahertz_knob_up",
+                                                   "Vhf2nav kilohertz_knob_down",
+                                                   "Vhf2nav kilohertz_knob_up",
+                                                   "Adf set_adf_freq_0_1hz",
+                                                   "Adf set_adf_freq_1hz",
+                                                   "Adf set_adf_freq_10hz",
+                                                   "Adf set_adf_freq_100hz",
+                                                   "Vhf1nav dme_test_button",
+                                                   "Vhf2nav dme_test_button"};
   const std::set<std::string> answered_by_the_host{"Hsi course_knob_down", "Hsi course_knob_up",
                                                    "Airspeed selected_speed_knob_down",
                                                    "Airspeed selected_speed_knob_up"};
@@ -69,9 +91,14 @@ bool is_guard_of(std::string guard, std::string_view control) {
 }
 
 TEST(Controls, EachLeavesTheOtherControlsOfItsGaugeAlone) {
-  // The APU's master ends its start.
+  // The APU's master ends its start, a transponder that is off shows no ident, and there is one
+  // transmitter at a time.
   const auto goes_along = [](const Stimulus& control, const std::string& part) {
-    return control.text() == "Apu master_switch" && part == "start_button";
+    const std::string text = control.text();
+    return (text == "Apu master_switch" && part == "start_button") ||
+           (text.starts_with("Transponder mode_selector") && part == "ident_button") ||
+           (text.starts_with("Micsel") && part.ends_with("microphone_button")) ||
+           (text.starts_with("Micsel") && part.ends_with("microphones_button"));
   };
   for (const Stimulus* control : controls()) {
     const rig::Gauge& gauge = gauge_of(*control);
@@ -91,8 +118,9 @@ TEST(Controls, ASideAnswersToItsOwnControlsAndTokens) {
     const std::string gauge = gauge_of(stimulus).header().name;
     const Stimulus* other = walk::result().find(gauge, sides::mirrored(stimulus.name));
     for (const auto& [place, part] : stimulus.changed) {
-      if (part.ends_with("duct_hot_light")) continue;  // a duct that heats up lights it any time
-      if (part.ends_with("display")) continue;         // what it turns to may read the same
+      if (part.ends_with("duct_hot_light")) continue;     // a duct that heats up lights it any time
+      if (part.ends_with("display")) continue;            // what it turns to may read the same
+      if (part.ends_with("microphone_button")) continue;  // one transmitter at a time
       EXPECT_FALSE(sides::opposite(stimulus.name, part))
           << stimulus.text() << " moves " << place << ' ' << part;
       if (!stimulus.area && place != gauge) continue;
@@ -131,6 +159,32 @@ TEST(Controls, EachClickIsHeardOnce) {
       {"Airspeed set_airspeed_bug_4", {""}},
       {"Airspeed selected_speed_knob_down", {""}},
       {"Airspeed selected_speed_knob_up", {""}},
+      {"Comm transfer_button", {"toggle"}},
+      {"Nav1rad transfer_button", {"toggle"}},
+      {"Vhf1nav transfer_button", {"toggle"}},
+      {"Vhf2nav transfer_button", {"toggle"}},
+      {"Nav1rad deviation_check_switch_up", {"push"}},
+      {"Nav1rad deviation_check_switch_down", {"push"}},
+      {"Vhf1nav deviation_check_switch_up", {"push"}},
+      {"Vhf1nav deviation_check_switch_down", {"push"}},
+      {"Vhf2nav deviation_check_switch_up", {"push"}},
+      {"Vhf2nav deviation_check_switch_down", {"push"}},
+      {"Adf set_adf_freq_0_1hz", {"toggle"}},
+      {"Adf set_adf_freq_1hz", {"toggle"}},
+      {"Adf set_adf_freq_10hz", {"toggle"}},
+      {"Adf set_adf_freq_100hz", {"toggle"}},
+      {"Transponder first_code_knob", {"toggle"}},
+      {"Transponder second_code_knob", {"toggle"}},
+      {"Transponder third_code_knob", {"toggle"}},
+      {"Transponder fourth_code_knob", {"toggle"}},
+      {"Selcall taxi_announcement_button", {"", " other"}},
+      {"Selcall safety_announcement_button", {"", " other"}},
+      {"Selcall climb_announcement_button", {"", " other"}},
+      {"Selcall descent_announcement_button", {"", " other"}},
+      {"Selcall final_approach_announcement_button", {"", " other"}},
+      {"Selcall roll_out_announcement_button", {"", " other"}},
+      {"Selcall welcome_announcement_button", {"push", "push other"}},
+      {"Selcall ground_power_button", {"push other"}},
   };
   for (const Stimulus* control : controls()) {
     const rig::NamedPart* part = part_of(*control);
@@ -187,6 +241,12 @@ TEST(Controls, EachHasTheMovesOfItsKind) {
       {"Coltsw right_selector_flow", {{0, 1}, {1, 1}, {2, 1}}},
       {"Coltsw right_selector_quantity", {{0, 0}, {1, 0}, {2, 0}}},
       {"Coltsw right_selector_check", {{0, 2}, {1, 2}, {2, 2}}},
+      // A transfer shines for some seconds; without a mode there is nothing to identify.
+      {"Comm transfer_button", {{0, 1}}},
+      {"Nav1rad transfer_button", {{0, 1}}},
+      {"Vhf1nav transfer_button", {{0, 1}}},
+      {"Vhf2nav transfer_button", {{0, 1}}},
+      {"Transponder ident_button", {{0, 0}, {0, 1}, {1, 0}}},
       // The left button moves a handle down, the right one up.
       {"Firesw left_fire_handle", {{0, 1}, {1, 0}, {1, 2}, {2, 1}}},
       {"Firesw apu_fire_handle", {{0, 1}, {1, 0}, {1, 2}, {2, 1}}},

@@ -40,8 +40,11 @@ constexpr Kind lamp{0x7, FAILURE_HIDE}, by_hand{0x3, 0}, needle{0x83, FAILURE_ZE
 
 /// A lamp shines by itself and goes dark without power; what a hand moves does neither.
 TEST(Words, SayWhetherAPartShinesAndWhatItDoesWithoutPower) {
-  const std::set<std::string> shines_too{"Mancon manual_control_button", "Adi attitude_flag"};
-  const std::set<std::string> unlit{"Hsi approach_light"};
+  const std::set<std::string> shines_too{"Mancon manual_control_button", "Adi attitude_flag",
+                                         "Vhf1nav vor_check_button", "Nav1rad vor_check_button"};
+  const std::set<std::string> lit_buttons{"Micsel", "Selcall"};  // gauges of them
+  const std::set<std::string> unlit{"Hsi approach_light", "Transponder ident_light"};
+  const std::set<std::string> unlit_lamps{"Vhf2nav vor_check_button"};
   const std::set<std::string> coarse_needles{"Adi bank_pointer", "Adisafe bank_pointer",
                                              "Engtgt engine_1_gas_temperature",
                                              "Engtgt engine_2_gas_temperature"};
@@ -55,8 +58,12 @@ TEST(Words, SayWhetherAPartShinesAndWhatItDoesWithoutPower) {
       Kind expected = turns ? needle : electric_picture;
       if (coarse_needles.contains(text)) expected.first = 0x3;
       if (e.kind == ELEMENT_ICON && part.name != "instrument_lighting") {
-        expected = (shines && !unlit.contains(text)) || shines_too.contains(text) ? lamp : by_hand;
+        expected = (shines && !unlit.contains(text)) || shines_too.contains(text) ||
+                           lit_buttons.contains(gauge.header().name)
+                       ? lamp
+                       : by_hand;
       }
+      if (unlit_lamps.contains(text)) expected = electric_picture;
       if (text == "Altimeter altitude_alert") expected.first = 0x1;
       EXPECT_EQ(
           Kind(e.image_flags & ~IMAGE_HIDE_PICTURE, e.failures != nullptr ? e.failures->action : 0),

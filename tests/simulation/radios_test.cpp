@@ -1,5 +1,6 @@
 // The radios as the cockpit works them: by events, seen by tokens and heard through the stations.
 
+#include "host/simulation/table.h"
 #include "tests/simulation/aircraft_rig.h"
 #include "tests/simulation/flown.h"
 

@@ -29,7 +29,7 @@ constexpr Item items[] = {
 
 constexpr Art art[] = {
     plate(78, items),
-    drawn_art("display_power", {53, 20}, radios::draw_glass),
+    drawn_art("display_power", {53, 20}, radios::draw_shaded_glass),
 };
 
 constinit Unit unit{"Adf", art};

@@ -60,7 +60,7 @@ constexpr Item items[] = {
 
 constexpr Art art[] = {
     plate(166, items),
-    flush_lamp_art("vhf_1_microphone_button", {16, 16}, lens::green, "MIC", 6),
+    flush_lamp_art("vhf_1_microphone_button", {16, 16}, lens::green, "MIC", 5.5),
     flush_lamp_art("nav_1_audio_button", {16, 16}, lens::white, "ID", 6.5),
     flush_lamp_art("adf_audio_button", {16, 16}, lens::white, "ID", 6.5),
 };

@@ -59,6 +59,13 @@ inline void draw_glass(const Canvas& canvas, int image) {
   glass_gloss(canvas, 0.09);
 }
 
+/// The same, and the shade of the drums behind it; of two that lie over one another each has half.
+inline void draw_shaded_glass(const Canvas& canvas, int image) {
+  if (image == 0) return dark_glass(canvas);
+  drum_shade(canvas, 0.36);
+  glass_gloss(canvas, 0.05);
+}
+
 /// A cover that the image draws: off, then on.
 inline void draw_cover(const Canvas& canvas, int image) {
   if (image == 1) return dark_glass(canvas);

@@ -40,7 +40,7 @@ constexpr Item items[] = {
     mode({-11, -10}, "SBY", Anchor::right),
     mode({11, -10}, "ON", Anchor::left),
     mode({14, 8}, "ALT", Anchor::left),
-    heading(middle(-7), "TRANSPONDER"),
+    heading(at("ident_button", 0, 27), "XPDR"),
 };
 
 /// It points to the right; the needle's record turns it.
@@ -65,7 +65,7 @@ constexpr Art art[] = {
     drawn_art("ident_button", {18, 10}, draw_ident_button),
     knob_art("mode_selector", {19, 21}, {-120, -40, 40, 120},
              {.radius = 8.4, .seat = 1.2, .grip = Grip::pointer, .ticks = {2, 3.8}}),
-    drawn_art("display_power", {45, 28}, radios::draw_glass),
+    drawn_art("display_power", {45, 28}, radios::draw_shaded_glass),
 };
 
 constinit Unit unit{"Transponder", art};
