@@ -90,7 +90,9 @@ TEST(Words, FitTheirPictures) {
     // The figures of a drum fill it from seam to seam; those of a ball and a card go on behind the face.
     const Picture* picture = bitmap.art == nullptr ? nullptr : &bitmap.art->picture;
     if (picture != nullptr && std::holds_alternative<Ball>(*picture)) continue;
-    const double edge = picture != nullptr && std::holds_alternative<Drum>(*picture) ? 0.4 : 2;
+    const bool figure = picture != nullptr && (std::holds_alternative<Drum>(*picture) ||
+                                               bitmap.art->of.part.ends_with("leading_figure"));
+    const double edge = figure ? 0.4 : 2;
     for (const int density : {1, 2, 3}) {
       const Canvas canvas = drawn(bitmap, density);
       for (const Box& room : canvas.words()) {
