@@ -25,6 +25,7 @@ int fly(const FlyOptions& options) {
   deck.after_frame = [&] {
     identifications.update(cockpit.aircraft().identifications_heard(), cockpit.seconds());
   };
+  deck.on_pause = [&] { identifications.silence(); };
   deck.fly();
   return exit_fine;
 }

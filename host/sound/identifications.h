@@ -19,6 +19,9 @@ class Identifications {
   /// seconds. A station keys on all the time: who tunes it in hears it from where it is.
   void update(std::span<const std::string_view> heard, double seconds);
 
+  /// Nothing is heard until the next update.
+  void silence() { receivers_.clear(); }
+
  private:
   struct Release {
     void operator()(IUnknown* object) const { object->Release(); }

@@ -27,6 +27,8 @@ class FlightDeck {
 
   /// Called after every frame of the cockpit.
   std::function<void()> after_frame;
+  /// Called when frames stop for a while.
+  std::function<void()> on_pause;
 
   /// Flies until the person leaves.
   void fly();

@@ -93,6 +93,7 @@ void FlightDeck::toggle_panel_lights() {
 void FlightDeck::toggle_pause() {
   paused_ = !paused_;
   frame_due_ = now();
+  if (paused_ && on_pause) on_pause();
   notices_.set_badge(paused_ ? "PAUSED" : "");
 }
 

@@ -89,6 +89,23 @@ TEST(FlowSound, TheClickIsHeardOnceAtItsTime) {
   EXPECT_LT(audible, 15) << "a toggle click is short and dry";
 }
 
+TEST(FlowSound, AStationIsHeardInMorseWhileTheAudioSelectorListens) {
+  const TempFolder folder;
+  const std::string flow = folder.write("station.lua",
+                                        "event('battery_toggle') event('avionics_toggle')\n"
+                                        "open_window(503) wait(6)\n"
+                                        "click('Micsel', 'nav_2_audio_button') wait(8.5)\n"
+                                        "click('Micsel', 'nav_2_audio_button') wait(8)\n");
+  const std::string sound = folder / "station.wav";
+  const Outcome outcome = tarnvale("run " + flow + " --wav " + sound);
+  ASSERT_EQ(outcome.exit_code, 0) << outcome.output;
+  const std::vector<double> starts = onsets(loudness(sound));
+  const double expected[] = {6, 10, 10.75, 12,
+                             14.5};  // click, T, R, N of the ten seconds' round, click
+  ASSERT_EQ(starts.size(), std::size(expected));
+  for (std::size_t i = 0; i < starts.size(); ++i) EXPECT_NEAR(starts[i], expected[i], 0.12);
+}
+
 TEST(FlowFailure, NamesTheFileAndTheLine) {
   const TempFolder folder;
   const std::string flow =

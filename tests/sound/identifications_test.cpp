@@ -73,15 +73,16 @@ class Ears : public RenderedSound {
 
 TEST_F(Ears, HearEachStationInItsOwnTimeFromWhereItIs) {
   EXPECT_EQ(listen({"", "", ""}, 4), "    ");
-  EXPECT_EQ(listen({"ITV", "", ""}, 17), "  ===   = = = ===")
-      << "half a second into its own time";
+  EXPECT_EQ(listen({"ITV", "", ""}, 17), "  ===   = = = ===") << "half a second into its own time";
   EXPECT_EQ(listen({"", "", ""}, 59), std::string(59, ' '));
   EXPECT_EQ(listen({"ITV", "", ""}, 12), "= =   ===   ") << "ten seconds later it begins again";
   EXPECT_EQ(listen({"", "", ""}, 1), " ") << "and ends at once";
 }
 
-TEST_F(Ears, OutliveTheirDevice) {
-  EXPECT_EQ(listen({"TV"}, 3), "===");
+TEST_F(Ears, AreDeafInAPauseAndOutliveTheirDevice) {
+  EXPECT_EQ(listen({"TV"}, 2), "==");
+  ears.silence();
+  EXPECT_EQ(render(5512), silence(5512));
   platform_lose_audio();
   seconds = 10;
   EXPECT_EQ(listen({"TV"}, 7), "===   =");
