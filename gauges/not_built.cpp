@@ -4,22 +4,6 @@
 
 namespace tarnvale {
 
-// ---- Sound
-constinit Gauge stewcall{{.name = "Stewcall", .width_mm = 82, .background = 1030}};
-constinit Gauge hvsnd{{.name = "Hvsnd", .width_mm = 20, .background = 10}};
-
-// ---- Instruments
-
-// ---- Panel
-constinit Gauge ovhtoggle{{.name = "Ovhtoggle", .width_mm = 196, .background = 2050}};
-constinit Gauge checktg{{.name = "Checktg", .width_mm = 114, .background = 4340}};
-constinit Gauge caradar{{.name = "Caradar", .width_mm = 162, .background = 14110}};
-constinit Gauge pselect{{.name = "Pselect", .width_mm = 96, .background = 14220}};
-constinit Gauge fopselect{{.name = "Fopselect", .width_mm = 96, .background = 20240}};
-constinit Gauge pedtg{{.name = "Pedtg", .width_mm = 229, .background = 14220}};
-constinit Gauge thrtg{{.name = "Thrtg", .width_mm = 148, .background = 23220}};
-constinit Gauge intro{{.name = "Intro", .width_mm = 1280, .background = 24230}};
-
 // ---- Warnings
 constinit Gauge dhgpws{{.name = "Dhgpws", .width_mm = 185, .background = 3010}};
 constinit Gauge flightrec{{.name = "Flightrec", .width_mm = 196, .background = 3060}};
@@ -59,7 +43,5 @@ constinit Gauge apalt{{.name = "Apalt", .width_mm = 116, .background = 14060}};
 constinit Gauge apmode{{.name = "Apmode", .width_mm = 203, .background = 14140}};
 constinit Gauge cat2apsys{{.name = "Cat2apsys", .width_mm = 104, .background = 14240}};
 constinit Gauge apset{{.name = "Apset", .width_mm = 120, .background = 14350}};
-
-// ---- Engines
 
 }  // namespace tarnvale
