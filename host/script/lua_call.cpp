@@ -16,6 +16,32 @@ namespace {
                               wanted);
 }
 
+bool is_plain_number(lua_State* state) { return lua_type(state, -1) == LUA_TNUMBER; }
+
+// The numbers of the list on top; another element ends it as it has no place in a list of numbers.
+std::vector<double> list_on_top(lua_State* state) {
+  constexpr std::size_t longest = 100;
+  std::vector<double> numbers;
+  while (numbers.size() < longest) {
+    lua_rawgeti(state, -1, static_cast<lua_Integer>(numbers.size() + 1));
+    const bool more = is_plain_number(state);
+    if (more) numbers.push_back(lua_tonumber(state, -1));
+    lua_pop(state, 1);
+    if (!more) break;
+  }
+  return numbers;
+}
+
+LuaField::Value value_on_top(lua_State* state) {
+  switch (lua_type(state, -1)) {
+    case LUA_TBOOLEAN: return static_cast<bool>(lua_toboolean(state, -1));
+    case LUA_TNUMBER: return lua_tonumber(state, -1);
+    case LUA_TSTRING: return std::string(lua_tostring(state, -1));
+    case LUA_TTABLE: return list_on_top(state);
+    default: return {};
+  }
+}
+
 }  // namespace
 
 LuaCall::LuaCall(lua_State* state) : state_(state), count_(lua_gettop(state)) {}
@@ -77,6 +103,21 @@ std::string LuaCall::shown(int index) const {
   return result;
 }
 
+std::vector<LuaField> LuaCall::fields(int index) const {
+  std::vector<LuaField> fields;
+  if (!has(index)) return fields;
+  if (!is_table(index)) wrong(index, "what", "a table");
+  luaL_checkstack(state_, 4, nullptr);
+  lua_pushnil(state_);
+  while (lua_next(state_, index) != 0) {
+    if (lua_type(state_, -2) != LUA_TSTRING) wrong(index, "what", "a table of named fields");
+    fields.push_back({lua_tostring(state_, -2), value_on_top(state_)});
+    lua_pop(state_, 1);
+  }
+  std::ranges::sort(fields, {}, &LuaField::name);  // the same flow gets the same message every time
+  return fields;
+}
+
 void LuaCall::unpack(int index, int most) {
   const int size = static_cast<int>(std::min<lua_Unsigned>(lua_rawlen(state_, index), most));
   luaL_checkstack(state_, size, nullptr);
@@ -116,6 +157,8 @@ void LuaCall::give_nothing() {
   lua_pushnil(state_);
   ++given_;
 }
+
+void LuaCall::give_top() { ++given_; }
 
 void LuaCall::begin_list() {
   lua_newtable(state_);

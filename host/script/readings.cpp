@@ -100,6 +100,16 @@ void give_events(LuaCall& call, const FlowSession& session) {
   }
 }
 
+void give_sounds(LuaCall& call, const FlowSession& session) {
+  call.begin_list();
+  for (const HeardSound& sound : session.sounds) {
+    call.begin_entry();
+    call.field("name", std::string_view(sound.name));
+    call.field("seconds", sound.seconds);
+    call.end_entry();
+  }
+}
+
 void give_sound_level(LuaCall& call, const FlowSession& session) {
   const double seconds = call.number(1, "seconds");
   if (seconds <= 0 || seconds > 10) throw std::invalid_argument("argument 1 (seconds) must be 0 to 10");
@@ -120,6 +130,7 @@ void bind_readings(LuaRunner& runner, FlowSession& session) {
     call.begin_list();
     for (const std::string& message : session.messages) call.append(message);
   });
+  runner.bind("sounds", [&](LuaCall& call) { give_sounds(call, session); });
   runner.bind("sound_level", [&](LuaCall& call) { give_sound_level(call, session); });
   runner.bind("open_window", [&](LuaCall& call) { panels.open(call.key(1, "ident")); });
   runner.bind("close_window", [&](LuaCall& call) { panels.close(call.key(1, "ident")); });

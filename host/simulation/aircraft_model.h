@@ -39,6 +39,9 @@ class AircraftModel {
   /// The day's weather: pressure, temperature, wind and gusts.
   simulation::Weather& weather();
 
+  /// Puts both engines at a warm idle with battery and avionics on, as after a start some minutes ago.
+  void make_ready();
+
   /// Lines it up for take-off as it is, at rest, the parking brake set.
   void place_on_runway();
 
