@@ -20,6 +20,7 @@
 /// the fields with their ranges.
 ///     fly{elevator = 0.1, throttle = {0.6, 0.7}, flaps = 18, gear = "up"}
 ///     weather{wind_from = 340, wind_speed = 10, gusts = 1, pressure = 1013, warmer_by = -5}
+///     controls()           where the controls stand, in a table as fly takes it
 ///     make_ready()         both engines at a warm idle, battery and avionics on
 ///     place_on_runway()    lined up as it is, at rest, the parking brake set
 ///     place_in_flight{altitude = 3000, airspeed = 160, heading = 70, along = -15000, right = 0}

@@ -14,37 +14,75 @@ constexpr std::string_view gear_positions[] = {"up", "down"};
 bool gear_is_down(const LuaField& field) { return field.one_of(gear_positions) == 1; }
 std::size_t flap_detent(const LuaField& field) { return field.one_of(simulation::flap_detents_deg); }
 
-template <double FlightControls::*control, int least>
-void take_ratio(FlightControls& controls, const LuaField& field) {
-  controls.*control = field.number(least, 1);
-}
+// ---- Controls: how a flow sets each, and how it finds where it stands
 
-template <std::array<double, 2> FlightControls::*control>
-void take_both(FlightControls& controls, const LuaField& field) {
-  controls.*control = field.both(0, 1);
-}
-
-template <bool FlightControls::*control>
-void take_truth(FlightControls& controls, const LuaField& field) {
-  controls.*control = field.truth();
-}
-
-constexpr KnownField<FlightControls> control_fields[] = {
-    {"elevator", take_ratio<&FlightControls::elevator, -1>},
-    {"aileron", take_ratio<&FlightControls::aileron, -1>},
-    {"rudder", take_ratio<&FlightControls::rudder, -1>},
-    {"pitch_trim", take_ratio<&FlightControls::pitch_trim, -1>},
-    {"aileron_trim", take_ratio<&FlightControls::aileron_trim, -1>},
-    {"rudder_trim", take_ratio<&FlightControls::rudder_trim, -1>},
-    {"throttle", take_both<&FlightControls::throttle>},
-    {"flaps", [](FlightControls& c, const LuaField& field) { c.flap_detent = flap_detent(field); }},
-    {"gear", [](FlightControls& c, const LuaField& field) { c.gear_down = gear_is_down(field); }},
-    {"speed_brake", take_ratio<&FlightControls::speed_brake, 0>},
-    {"lift_dumpers", take_truth<&FlightControls::lift_dumpers_out>},
-    {"brakes", take_both<&FlightControls::brake>},
-    {"tiller", take_ratio<&FlightControls::tiller, -1>},
-    {"parking_brake", take_truth<&FlightControls::parking_brake_set>},
+struct Control {
+  KnownField<FlightControls> field;
+  LuaField::Value (*position)(const FlightControls&);
 };
+
+template <double FlightControls::*ratio, int least>
+constexpr Control lever(std::string_view name) {
+  return {{name, [](FlightControls& c, const LuaField& field) { c.*ratio = field.number(least, 1); }},
+          [](const FlightControls& c) -> LuaField::Value { return c.*ratio; }};
+}
+
+template <std::array<double, 2> FlightControls::*ratios>
+constexpr Control levers(std::string_view name) {
+  return {{name, [](FlightControls& c, const LuaField& field) { c.*ratios = field.both(0, 1); }},
+          [](const FlightControls& c) -> LuaField::Value {
+            return std::vector((c.*ratios).begin(), (c.*ratios).end());
+          }};
+}
+
+template <bool FlightControls::*flag>
+constexpr Control latch(std::string_view name) {
+  return {{name, [](FlightControls& c, const LuaField& field) { c.*flag = field.truth(); }},
+          [](const FlightControls& c) -> LuaField::Value { return c.*flag; }};
+}
+
+constexpr Control flap_lever{
+    {"flaps", [](FlightControls& c, const LuaField& field) { c.flap_detent = flap_detent(field); }},
+    [](const FlightControls& c) -> LuaField::Value {
+      return simulation::flap_detents_deg[c.limited().flap_detent];
+    }};
+
+constexpr Control gear_lever{
+    {"gear", [](FlightControls& c, const LuaField& field) { c.gear_down = gear_is_down(field); }},
+    [](const FlightControls& c) -> LuaField::Value {
+      return std::string(gear_positions[c.gear_down ? 1 : 0]);
+    }};
+
+constexpr std::array controls{
+    lever<&FlightControls::elevator, -1>("elevator"),
+    lever<&FlightControls::aileron, -1>("aileron"),
+    lever<&FlightControls::rudder, -1>("rudder"),
+    lever<&FlightControls::pitch_trim, -1>("pitch_trim"),
+    lever<&FlightControls::aileron_trim, -1>("aileron_trim"),
+    lever<&FlightControls::rudder_trim, -1>("rudder_trim"),
+    levers<&FlightControls::throttle>("throttle"),
+    flap_lever,
+    gear_lever,
+    lever<&FlightControls::speed_brake, 0>("speed_brake"),
+    latch<&FlightControls::lift_dumpers_out>("lift_dumpers"),
+    levers<&FlightControls::brake>("brakes"),
+    lever<&FlightControls::tiller, -1>("tiller"),
+    latch<&FlightControls::parking_brake_set>("parking_brake"),
+};
+
+constexpr auto control_fields = [] {
+  std::array<KnownField<FlightControls>, controls.size()> fields{};
+  for (std::size_t i = 0; i < fields.size(); ++i) fields[i] = controls[i].field;
+  return fields;
+}();
+
+void give_controls(LuaCall& call, const FlightControls& positions) {
+  call.begin_list();
+  for (const Control& control : controls)
+    call.field({std::string(control.field.name), control.position(positions)});
+}
+
+// ---- Weather and place
 
 constexpr KnownField<Weather> weather_fields[] = {
     // The tower tells the wind as the compass shows it.
@@ -86,8 +124,10 @@ void place_in_flight(const LuaCall& call, AircraftModel& aircraft) {
 void bind_flying(LuaRunner& runner, FlowSession& session) {
   AircraftModel& aircraft = session.cockpit().aircraft();
   runner.bind("fly", [&](LuaCall& call) {
-    aircraft.controls() = with_fields<FlightControls>(aircraft.controls(), "fly", call, control_fields);
+    aircraft.controls() =
+        with_fields<FlightControls>(aircraft.controls(), "fly", call, std::span(control_fields));
   });
+  runner.bind("controls", [&](LuaCall& call) { give_controls(call, aircraft.controls()); });
   runner.bind("weather", [&](LuaCall& call) {
     aircraft.weather() = with_fields<Weather>(aircraft.weather(), "weather", call, weather_fields);
   });

@@ -42,6 +42,20 @@ LuaField::Value value_on_top(lua_State* state) {
   }
 }
 
+void push(lua_State* state, std::monostate) { lua_pushnil(state); }
+void push(lua_State* state, bool value) { lua_pushboolean(state, value); }
+void push(lua_State* state, double value) { lua_pushnumber(state, value); }
+void push(lua_State* state, const std::string& text) {
+  lua_pushlstring(state, text.data(), text.size());
+}
+void push(lua_State* state, const std::vector<double>& numbers) {
+  lua_newtable(state);
+  for (std::size_t i = 0; i < numbers.size(); ++i) {
+    lua_pushnumber(state, numbers[i]);
+    lua_rawseti(state, -2, static_cast<lua_Integer>(i + 1));
+  }
+}
+
 }  // namespace
 
 LuaCall::LuaCall(lua_State* state) : state_(state), count_(lua_gettop(state)) {}
@@ -175,6 +189,11 @@ void LuaCall::field(const char* name, double value) {
 void LuaCall::field(const char* name, std::string_view value) {
   lua_pushlstring(state_, value.data(), value.size());
   lua_setfield(state_, -2, name);
+}
+
+void LuaCall::field(const LuaField& field) {
+  std::visit([this](const auto& value) { push(state_, value); }, field.value);
+  lua_setfield(state_, -2, field.name.c_str());
 }
 
 void LuaCall::end_entry() { lua_rawseti(state_, -2, ++entries_); }

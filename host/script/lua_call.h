@@ -56,6 +56,7 @@ class LuaCall {
   void begin_entry();
   void field(const char* name, double value);
   void field(const char* name, std::string_view value);
+  void field(const LuaField& field);
   void end_entry();
   void append(std::string_view value);
 
