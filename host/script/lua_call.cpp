@@ -120,11 +120,11 @@ std::string LuaCall::shown(int index) const {
 std::vector<LuaField> LuaCall::fields(int index) const {
   std::vector<LuaField> fields;
   if (!has(index)) return fields;
-  if (!is_table(index)) wrong(index, "what", "a table");
+  if (!is_table(index)) wrong(index, "fields", "a table");
   luaL_checkstack(state_, 4, nullptr);
   lua_pushnil(state_);
   while (lua_next(state_, index) != 0) {
-    if (lua_type(state_, -2) != LUA_TSTRING) wrong(index, "what", "a table of named fields");
+    if (lua_type(state_, -2) != LUA_TSTRING) wrong(index, "fields", "a table of named fields");
     fields.push_back({lua_tostring(state_, -2), value_on_top(state_)});
     lua_pop(state_, 1);
   }
