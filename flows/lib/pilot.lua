@@ -34,6 +34,12 @@ local function distance()
       + drum("Rmi", "left_distance_units") + drum("Rmi", "left_distance_tenths") / 10
 end
 
+-- Of the scale, positive above the slope; nil while there is no signal.
+local function slope()
+  if not shown("Adi", "glide_slope_pointer") then return nil end
+  return value("Adi", "glide_slope_pointer", 2) / 119
+end
+
 function pilot.look()
   return {
     seconds = now(),
@@ -45,8 +51,8 @@ function pilot.look()
     heading = value("Hsi", "compass_card", 3),
     height = value("Radalt", "radio_altitude"),                 -- 2,500 at most
     distance = distance(),
-    localizer = -value("Hsi", "course_deviation_bar", 1) / 127,   -- of the scale: the beam lies right
-    slope = value("Adi", "glide_slope_pointer", 2) / 119,         -- of the scale: above the slope
+    localizer = -value("Hsi", "course_deviation_bar", 1) / 127,   -- of the scale: the beam is right
+    slope = slope(),
     beacon = (value("Rmi", "right_bearing") + 90) % 360,          -- from the nose
   }
 end
@@ -117,7 +123,7 @@ end
 -- Three degrees down at the airspeed, more or less by what the wind has been found to need.
 local function climb_for_slope(seen, dt)
   local steepness = math.tan(math.rad(SLOPE))
-  local feet_high = math.tan(math.rad(SLOPE_SCALE * seen.slope)) * seen.height / steepness
+  local feet_high = math.rad(SLOPE_SCALE * (seen.slope or 0)) * seen.height / steepness
   hands.sink = within((hands.sink or 0) + 0.3 * within(feet_high, -100, 100) * dt, -300, 300)
   local on_slope = -steepness * seen.airspeed * FEET_A_MINUTE - hands.sink
   return within(on_slope - 6 * feet_high, on_slope - 600, on_slope + 600)

@@ -33,6 +33,8 @@
 ///         the image of an icon, from 0; nil while it shows nothing
 ///     value(gauge, part [, axis])  value(gauge, bitmap [, nth [, axis]])
 ///         what a needle or another moving part shows
+///     shown(gauge, part)          shown(gauge, bitmap [, nth])
+///         whether it is in view
 ///     text(gauge, part)           text(gauge [, nth])
 ///         what a text field shows
 ///     events()     the key events since the last gesture: {number=, name=, value=, seconds=}

@@ -115,8 +115,10 @@ TEST_F(FlowApi, OpensAndClosesWindows) {
 }
 
 TEST_F(FlowApi, FailsAndRepairsASystem) {
-  EXPECT_EQ(fly("fail(20)\nwait(0.1)\nexpect(image('Masterbat', 40) == nil, 'a failed lamp shows')\n"
-                "repair(20)\nwait(0.1)\nexpect(image('Masterbat', 40) == 0)"),
+  EXPECT_EQ(fly("fail(20)\nwait(0.1)\nexpect(image('Masterbat', 40) == nil and not shown('Masterbat', "
+                "40), 'a failed lamp shows')\n"
+                "repair(20)\nwait(0.1)\nexpect(image('Masterbat', 40) == 0 and shown('Masterbat', "
+                "'battery_lamp'))"),
             "");
 }
 
