@@ -32,12 +32,13 @@ end
 
 local function idles(engine) return token("engine_" .. engine .. "_core_speed") > 51 end
 
-say("Start page: the engines start by themselves")
-open_window(508)
+say("Start page")
+start_page()
 wait(0.5)
 click("Intro", "captain_running")
-close_window(508)
-wait_until(function() return idles(1) and idles(2) end, 120, "both engines to idle")
+wait(1)
+expect(window_open(500), "the captain's panel is closed")
+expect(idles(1) and idles(2), "the engines do not idle")
 
 say("Lined up on runway 07")
 place_on_runway()
