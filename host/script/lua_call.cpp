@@ -16,15 +16,12 @@ namespace {
                               wanted);
 }
 
-bool is_plain_number(lua_State* state) { return lua_type(state, -1) == LUA_TNUMBER; }
-
 // The numbers of the list on top; another element ends it as it has no place in a list of numbers.
 std::vector<double> list_on_top(lua_State* state) {
-  constexpr std::size_t longest = 100;
+  constexpr lua_Integer longest = 100;
   std::vector<double> numbers;
-  while (numbers.size() < longest) {
-    lua_rawgeti(state, -1, static_cast<lua_Integer>(numbers.size() + 1));
-    const bool more = is_plain_number(state);
+  for (lua_Integer i = 1; i <= longest; ++i) {
+    const bool more = lua_rawgeti(state, -1, i) == LUA_TNUMBER;
     if (more) numbers.push_back(lua_tonumber(state, -1));
     lua_pop(state, 1);
     if (!more) break;
@@ -50,9 +47,10 @@ void push(lua_State* state, const std::string& text) {
 }
 void push(lua_State* state, const std::vector<double>& numbers) {
   lua_newtable(state);
-  for (std::size_t i = 0; i < numbers.size(); ++i) {
-    lua_pushnumber(state, numbers[i]);
-    lua_rawseti(state, -2, static_cast<lua_Integer>(i + 1));
+  lua_Integer place = 0;
+  for (const double number : numbers) {
+    lua_pushnumber(state, number);
+    lua_rawseti(state, -2, ++place);
   }
 }
 
