@@ -19,6 +19,7 @@
 #include "host/simulation/systems/electrics.h"
 #include "host/simulation/systems/engine.h"
 #include "host/simulation/systems/engine_start.h"
+#include "host/simulation/systems/failures.h"
 #include "host/simulation/systems/fuel.h"
 #include "host/simulation/systems/lights.h"
 
@@ -50,6 +51,7 @@ struct Aircraft {
   FlightDirector flight_director;
   Cabin cabin;
   ProgramWindows windows;
+  Failures failures;
 
   /// Parked, everything off. From 10 to 120 steps a second; 60 is what the cockpit runs with.
   explicit Aircraft(int steps_per_second = usual_steps_per_second);
