@@ -51,6 +51,8 @@ simulation::FlightControls& AircraftModel::controls() { return systems_->aircraf
 
 simulation::Weather& AircraftModel::weather() { return systems_->aircraft.air.weather; }
 
+void AircraftModel::make_ready() { systems_->aircraft.make_ready(); }
+
 void AircraftModel::hand_over() { systems_->aircraft.hand_over(); }
 
 void AircraftModel::place_on_runway() { systems_->aircraft.place_on_runway(); }

@@ -40,6 +40,9 @@ class AircraftModel {
   /// The day's weather: pressure, temperature, wind and gusts.
   simulation::Weather& weather();
 
+  /// Puts both engines at a warm idle with battery and avionics on, as after a start some minutes ago.
+  void make_ready();
+
   /// As the ground crew hands it over, for the start page: battery, avionics and auxiliary power unit on,
   /// fuel levers open, both engines standing and ready to idle at once.
   void hand_over();
