@@ -20,9 +20,7 @@ constinit Body body{
         altitude_drum("Ten thousands of feet", figures, {23, 12}, {0, 9}, digit<10000>),
         altitude_drum("Thousands of feet", figures, {32, 12}, {0, 9}, digit<1000>),
         altitude_drum("Hundreds of feet", 14090, {41, 11}, {0, 900}, rolling<1000>),
-        icon("Power flag", 14070, {23, 11})
-            .from(token::battery)
-            .lit_flags(image_flag::transparent),
+        icon("Power flag", 14070, {23, 11}).from(token::battery).lit_flags(image_flag::transparent),
     },
     {
         decrease("Selected altitude knob down", {74, 6, 16, 30},
@@ -34,10 +32,8 @@ constinit Body body{
 
 }  // namespace
 
-constinit Gauge apalt{{.name = "Apalt",
-                       .width_mm = 116,
-                       .background = 14060,
-                       .light_token = token::recognition_lights},
-                      body};
+constinit Gauge apalt{
+    {.name = "Apalt", .width_mm = 116, .background = 14060, .light_token = token::recognition_lights},
+    body};
 
 }  // namespace tarnvale

@@ -53,8 +53,7 @@ void selector_up() {
 f64 mode_and_capture(Element*) {
   const u32 mode = aircraft.ap_mode_selector;
   if (!receives(receives_glide_slope)) return mode;
-  const bool captured =
-      full_glide_slope_signal() && mode == localizer && aircraft.ap_sel3_arm_on == 1;
+  const bool captured = full_glide_slope_signal() && mode == localizer && aircraft.ap_sel3_arm_on == 1;
   send(captured ? event::approach_hold_on : event::approach_hold_off);
   if (!captured) return mode;
   aircraft.ap_sel2_hold_on = 0;
@@ -73,9 +72,8 @@ constexpr u32 step = 1;
 
 constinit Body body{
     apmode,
-    rows(selected_figures(
-             {"Selected speed hundreds", "Selected speed tens", "Selected speed units"},
-             token::selected_airspeed, {27, 16}, 9),
+    rows(selected_figures({"Selected speed hundreds", "Selected speed tens", "Selected speed units"},
+                          token::selected_airspeed, {27, 16}, 9),
          icon("Altitude hold switch", bitmap::toggle_switch, {169, 7},
               mirrors<token::altitude_hold, &Aircraft::ap_mode_button_on>),
          icon("Mode selector", {14150, 6}, {89, 16}, mode_and_capture)),

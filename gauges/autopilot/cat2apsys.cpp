@@ -63,7 +63,8 @@ f64 speed(Element*) {
   hold_goes_on(speed_clock, aircraft.cat2_speed_test_active);
   if (hold_goes_on(lamp_clock, green_test)) return within_limits;
   if (amber_test == 1) return out_of_limits;
-  if (aircraft.cat2_speed_test_active == 1) return read(token::flap_position) == 0 ? out_of_limits : dark;
+  if (aircraft.cat2_speed_test_active == 1)
+    return read(token::flap_position) == 0 ? out_of_limits : dark;
   return watched_speed();
 }
 

@@ -41,13 +41,24 @@ TEST(Controls, EachMovesThePartItIsNamedAfter) {
                                                    "Clock setting_knob_down",
                                                    "Clock setting_knob_up",
                                                    "Radalt test_button",
+                                                   "Apmode selected_speed_knob_down",
+                                                   "Apmode selected_speed_knob_up",
+                                                   "Apalt selected_altitude_knob_down",
+                                                   "Apalt selected_altitude_knob_up",
+                                                   "Apcourse selected_heading_knob_down",
+                                                   "Apcourse selected_heading_knob_up",
+                                                   "Cat2apsys green_test_button",
+                                                   "Cat2apsys amber_test_button",
                                                    "Ffsys fuel_computer_power_button",
                                                    "Ffsys fuel_used_mode_button",
                                                    "Ffsys weight_mode_button",
                                                    "Ffsys reset_button"};
-  const std::set<std::string> answered_by_the_host{"Hsi course_knob_down", "Hsi course_knob_up",
+  const std::set<std::string> answered_by_the_host{"Hsi course_knob_down",
+                                                   "Hsi course_knob_up",
                                                    "Airspeed selected_speed_knob_down",
-                                                   "Airspeed selected_speed_knob_up"};
+                                                   "Airspeed selected_speed_knob_up",
+                                                   "Apcourse vertical_speed_wheel_down",
+                                                   "Apcourse vertical_speed_wheel_up"};
   for (const Stimulus* control : controls()) {
     const rig::NamedPart* part = part_of(*control);
     EXPECT_EQ(part == nullptr, printed_on_the_plate.contains(control->text())) << control->text();
@@ -119,6 +130,8 @@ TEST(Controls, EachClickIsHeardOnce) {
       {"Fuelc quantity_test_switch", {""}},
       {"Fuelreq fuel_request_lever", {"push"}},
       {"Radalt test_button", {" other"}},
+      {"Apcon test_switch_1", {"push"}},
+      {"Apcon test_switch_2", {"push"}},
       {"Coltsw left_selector_flow", {"toggle"}},  // levers with a pointer
       {"Coltsw left_selector_quantity", {"toggle"}},
       {"Coltsw left_selector_check", {"toggle"}},
