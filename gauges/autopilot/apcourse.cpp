@@ -32,9 +32,9 @@ constinit Body body{
                  Press::left_held),
         increase("Selected heading knob up", {141, 57, 24, 34}, turns_by_one<event::heading_bug_up>,
                  Press::left_held),
-        decrease("Vertical speed wheel down", {76, 34, 25, 30},
+        decrease("Vertical speed thumb wheel down", {76, 34, 25, 30},
                  turns_by_one<event::selected_vertical_speed_down>, Press::left_held),
-        increase("Vertical speed wheel up", {76, 2, 25, 30},
+        increase("Vertical speed thumb wheel up", {76, 2, 25, 30},
                  turns_by_one<event::selected_vertical_speed_up>, Press::left_held),
     },
 };

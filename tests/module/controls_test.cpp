@@ -47,18 +47,17 @@ TEST(Controls, EachMovesThePartItIsNamedAfter) {
                                                    "Apalt selected_altitude_knob_up",
                                                    "Apcourse selected_heading_knob_down",
                                                    "Apcourse selected_heading_knob_up",
+                                                   "Apcourse vertical_speed_thumb_wheel_down",
+                                                   "Apcourse vertical_speed_thumb_wheel_up",
                                                    "Cat2apsys green_test_button",
                                                    "Cat2apsys amber_test_button",
                                                    "Ffsys fuel_computer_power_button",
                                                    "Ffsys fuel_used_mode_button",
                                                    "Ffsys weight_mode_button",
                                                    "Ffsys reset_button"};
-  const std::set<std::string> answered_by_the_host{"Hsi course_knob_down",
-                                                   "Hsi course_knob_up",
+  const std::set<std::string> answered_by_the_host{"Hsi course_knob_down", "Hsi course_knob_up",
                                                    "Airspeed selected_speed_knob_down",
-                                                   "Airspeed selected_speed_knob_up",
-                                                   "Apcourse vertical_speed_wheel_down",
-                                                   "Apcourse vertical_speed_wheel_up"};
+                                                   "Airspeed selected_speed_knob_up"};
   for (const Stimulus* control : controls()) {
     const rig::NamedPart* part = part_of(*control);
     EXPECT_EQ(part == nullptr, printed_on_the_plate.contains(control->text())) << control->text();
@@ -80,9 +79,10 @@ bool is_guard_of(std::string guard, std::string_view control) {
 }
 
 TEST(Controls, EachLeavesTheOtherControlsOfItsGaugeAlone) {
-  // The APU's master ends its start.
+  // The APU's master ends its start, the autothrottle its speed hold.
   const auto goes_along = [](const Stimulus& control, const std::string& part) {
-    return control.text() == "Apu master_switch" && part == "start_button";
+    return (control.text() == "Apu master_switch" && part == "start_button") ||
+           (control.text() == "Apset autothrottle_button" && part == "airspeed_hold_button");
   };
   for (const Stimulus* control : controls()) {
     const rig::Gauge& gauge = gauge_of(*control);
@@ -194,6 +194,10 @@ TEST(Controls, EachHasTheMovesOfItsKind) {
       {"Mancon manual_control_button", {{0, 1}, {1, 0}, {1, 2}}},
       {"Adi attitude_flag_button", {{0, 1}, {1, 1}}},
       {"Fuelreq fuel_request_lever", {{0, 1}}},
+      // They engage only where they can.
+      {"Apset approach_button", {{0, 0}, {0, 1}, {1, 0}}},
+      {"Apset heading_hold_button", {{0, 0}, {0, 1}, {1, 0}}},
+      {"Apset airspeed_hold_button", {{0, 0}, {0, 1}, {1, 0}}},
       {"Coltsw left_selector_flow", {{0, 1}, {1, 1}, {2, 1}}},
       {"Coltsw left_selector_quantity", {{0, 0}, {1, 0}, {2, 0}}},
       {"Coltsw left_selector_check", {{0, 2}, {1, 2}, {2, 2}}},
@@ -222,6 +226,9 @@ TEST(Controls, EachHasTheMovesOfItsKind) {
     if ((control->area->area->mouse_flags & MOUSE_RIGHT) != 0) {  // the right button tests a light
       std::erase_if(seen, [](const auto& move) { return move.first == move.second; });
     }
+    if (part->name == "mode_selector") {  // on a glide slope the knob goes on by itself
+      for (const auto& capture : {std::pair{2.0, 4.0}, {4.0, 2.0}, {4.0, 4.0}}) seen.erase(capture);
+    }
     EXPECT_EQ(seen, expected) << control->text();
   }
 }
@@ -243,9 +250,8 @@ TEST(Controls, ALightUnderTestShinesForTwoSecondsAndTestsProlongEachOther) {
     std::vector<std::pair<std::string, const rig::NamedPart*>> tests;
     for (const rig::NamedArea& area : gauge.areas()) {
       const rig::NamedPart* light = walk::part_of(gauge, area.name);
-      const bool of_its_own_time = area.name == "quantity_test_switch";
-      if (is_test(area.name) && light != nullptr && !of_its_own_time)
-        tests.emplace_back(area.name, light);
+      const bool no_light = area.name == "quantity_test_switch" || area.name.starts_with("test_switch");
+      if (is_test(area.name) && light != nullptr && !no_light) tests.emplace_back(area.name, light);
     }
     if (gauge.header().name == std::string("Acpwr")) darken_latched_lights(gauge);
     for (const auto& [button, light] : tests) {
@@ -271,7 +277,8 @@ TEST(Controls, ALightUnderTestShinesForTwoSecondsAndTestsProlongEachOther) {
 TEST(Controls, TheCursorSaysWhichWayAHalfTurns) {
   for (const Stimulus* control : controls()) {
     const rig::NamedPart* part = part_of(*control);
-    const bool lever = part != nullptr && ends_with_one_of(part->name, {"lever", "switch"});
+    const bool lever =
+        part != nullptr && ends_with_one_of(part->name, {"lever", "switch", "mode_selector"});
     const i32 expected = lever                             ? CURSOR_HAND
                          : control->name.ends_with("up")   ? CURSOR_INCREASE
                          : control->name.ends_with("down") ? CURSOR_DECREASE

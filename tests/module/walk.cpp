@@ -11,6 +11,11 @@ namespace {
 
 using namespace tarnvale;
 
+/// How the units of tokens begin that are 0 or 1, or lie between.
+constexpr bool is_one_of(std::string_view unit, std::initializer_list<std::string_view> beginnings) {
+  return std::ranges::any_of(beginnings, [&](auto each) { return unit.starts_with(each); });
+}
+
 struct Token {
   u32 number;
   const char* name;
@@ -19,9 +24,7 @@ struct Token {
 
 /// All but the clock.
 constexpr Token tokens[] = {
-#define TOKEN(number, name, unit) \
-  {number, #name,                 \
-   std::string_view(unit).starts_with("0/1") || std::string_view(unit).starts_with("0 closed")},
+#define TOKEN(number, name, unit) {number, #name, is_one_of(unit, {"0/1", "0 closed", "0..1"})},
 #define EVENT(number, name)
 #include "module/tokens.inc"
 #undef TOKEN

@@ -13,9 +13,9 @@
 namespace artwork::panels::apcourse {
 
 constexpr std::string_view wheel = "vertical_speed_wheel", source = "navigation_source_button";
-constexpr Spot thumb = between("vertical_speed_wheel_up", "vertical_speed_wheel_down");
+constexpr Spot thumb = between("vertical_speed_thumb_wheel_up", "vertical_speed_thumb_wheel_down");
 
-/// The lines beside the window between which the selected speed stands.
+/// The marks beside the window between which the selected speed stands.
 void draw_index(const Board& board) {
   const Box window = part_box(board.gauge, wheel).grown(1.8);
   const double y = window.centre().y;

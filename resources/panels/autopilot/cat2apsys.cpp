@@ -6,6 +6,7 @@ namespace artwork::panels::cat2apsys {
 constexpr std::string_view green = "green_test_button", amber = "amber_test_button";
 
 constexpr Item items[] = {
+    CornerScrews{6.5, 3},
     FixedButton{at(green), 5.4, palette::range_green},
     FixedButton{at(amber), 5.4, palette::range_amber},
     Legend{at(green, 3.5, 13), "TEST", 6},
@@ -15,15 +16,15 @@ constexpr Item items[] = {
 };
 
 constexpr Size size{35, 17};
-constexpr Colours off_on{lens::amber, lens::green};
+constexpr Colours armed_captured{lens::amber, lens::green};
 
 constexpr Art art[] = {
     plate(98, items),
     flush_lamp_art("left_arm_lamp", size, lens::green, "ARM"),
-    flush_lamp_art("left_localizer_lamp", size, off_on, "LOC"),
-    flush_lamp_art("left_glide_slope_lamp", size, off_on, "GS"),
-    flush_lamp_art("speed_lamp", size, off_on, "SPD"),
-    flush_lamp_art("altitude_lamp", size, off_on, "ALT"),
+    flush_lamp_art("left_localizer_lamp", size, armed_captured, "LOC"),
+    flush_lamp_art("left_glide_slope_lamp", size, armed_captured, "GS"),
+    flush_lamp_art("speed_lamp", size, armed_captured, "SPD"),
+    flush_lamp_art("altitude_lamp", size, armed_captured, "ALT"),
 };
 
 constinit Unit unit{"Cat2apsys", art};
