@@ -17,6 +17,7 @@
 #include "host/simulation/program_windows.h"
 #include "host/simulation/systems/air_controls.h"
 #include "host/simulation/systems/apu.h"
+#include "host/simulation/systems/cabin.h"
 #include "host/simulation/systems/electrics.h"
 #include "host/simulation/systems/engine.h"
 #include "host/simulation/systems/engine_start.h"
@@ -49,6 +50,7 @@ struct Aircraft {
   AutopilotModes autopilot;
   FlightDirector flight_director;
   bool cabin_door_open = false;
+  Cabin cabin;
   ProgramWindows windows;
 
   /// Parked, everything off. From 10 to 120 steps a second; 60 is what the cockpit runs with.
