@@ -18,15 +18,19 @@ constexpr Area knob(const char* tooltip, Box box) {
 
 constinit Body body{
     adf,
-    {
-        drum("Thousands", 2270, {71, 17}, figure, packed_digit<2>).from(token::adf_frequency_ends),
-        drum("Hundreds", 2270, {81, 17}, figure, packed_digit<2>).from(token::adf_frequency),
-        drum("Tens", 2270, {91, 17}, figure, packed_digit<1>).from(token::adf_frequency),
-        drum("Units", 2270, {101, 17}, figure, packed_digit<0>).from(token::adf_frequency),
-        drum("Tenths", 2260, {111, 17}, figure, packed_digit<0>).from(token::adf_frequency_ends),
-        icon("Display", 2360, glass, display),
-        icon("Display power", 2360, glass).from(token::battery).lit_flags(image_flag::transparent),
-    },
+    rows(all_failing_with(
+             failure::direction_finder,
+             {
+                 drum("Thousands", 2270, {71, 17}, figure, packed_digit<2>)
+                     .from(token::adf_frequency_ends),
+                 drum("Hundreds", 2270, {81, 17}, figure, packed_digit<2>).from(token::adf_frequency),
+                 drum("Tens", 2270, {91, 17}, figure, packed_digit<1>).from(token::adf_frequency),
+                 drum("Units", 2270, {101, 17}, figure, packed_digit<0>).from(token::adf_frequency),
+                 drum("Tenths", 2260, {111, 17}, figure, packed_digit<0>)
+                     .from(token::adf_frequency_ends),
+             }),
+         icon("Display", 2360, glass, display),
+         icon("Display power", 2360, glass).from(token::battery).lit_flags(image_flag::transparent)),
     {
         knob<event::adf_tenths_up>("Set ADF Freq 0.1Hz", {118, 44, 24, 24}),
         knob<event::adf_units_up>("Set ADF Freq 1Hz", {95, 44, 15, 24}),

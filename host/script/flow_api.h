@@ -12,9 +12,10 @@
 ///     wait(seconds)  now()
 ///     wait_until(condition, timeout, what)   condition is a function; fails after the timeout
 ///
-/// The aircraft. Tokens, events and failures by their number, tokens and events also by name.
+/// The aircraft. Tokens, events and failures by their number or their name.
 ///     token(which)  set_token(which, value)  release_token(which)
-///     event(which [, value])  fail(key)  repair(key)
+///     event(which [, value])  fail(which)  repair(which)
+///     failures_per_hour(rate)      how many systems fail by chance; 0: none
 ///
 /// Flying. Each takes a table of named fields; what it does not name stays as it is. flying_api.cpp lists
 /// the fields with their ranges.

@@ -8,6 +8,7 @@
 #include <span>
 #include <string_view>
 
+#include "host/simulation/failure_row.h"
 #include "host/simulation/flight/air_data.h"
 #include "host/simulation/flight/flight_controls.h"
 #include "host/simulation/placement.h"
@@ -65,9 +66,12 @@ class AircraftModel {
   /// letters. Empty where nothing is received or the crew does not listen.
   std::array<std::string_view, 3> identifications_heard() const;
 
-  /// Fails or repairs the system behind a failure key.
-  void set_failed(std::uint32_t key, bool failed);
+  /// Fails or repairs the system behind a failure key. Returns false for a key that no system has.
+  bool set_failed(std::uint32_t key, bool failed);
   bool failed(std::uint32_t key) const;
+
+  /// How many systems fail by chance in an hour; 0, as at the start: none.
+  void set_failure_rate(double per_hour);
 
   /// Puts a token to a value by its name or number, for scripts and tests: a held reading that
   /// the models no longer change. An empty value lets it go again.
@@ -75,6 +79,7 @@ class AircraftModel {
 
   static std::span<const TableRow> tokens();
   static std::span<const TableRow> events();
+  static std::span<const FailureRow> failures();
 
  private:
   struct Systems;

@@ -40,11 +40,13 @@ constexpr Kind lamp{0x7, FAILURE_HIDE}, by_hand{0x3, 0}, needle{0x83, FAILURE_ZE
 
 /// A lamp shines by itself and goes dark without power; what a hand moves does neither.
 TEST(Words, SayWhetherAPartShinesAndWhatItDoesWithoutPower) {
-  const std::set<std::string> shines_too{"Mancon manual_control_button", "Adi attitude_flag",
-                                         "Vhf1nav vor_check_button", "Nav1rad vor_check_button"};
+  const std::set<std::string> shines_too{
+      "Mancon manual_control_button", "Adi attitude_flag",        "Apset airspeed_hold_button",
+      "Apset heading_hold_button",    "Apset approach_button",    "Apset autopilot_master_button",
+      "Apset autothrottle_button",    "Vhf1nav vor_check_button", "Nav1rad vor_check_button"};
   const std::set<std::string> lit_buttons{"Micsel", "Selcall"};  // gauges of them
   const std::set<std::string> unlit{"Hsi approach_light", "Transponder ident_light"};
-  const std::set<std::string> unlit_lamps{"Vhf2nav vor_check_button"};
+  const std::set<std::string> unlit_lamps{"Apcon door_open_light", "Vhf2nav vor_check_button"};
   const std::set<std::string> coarse_needles{"Adi bank_pointer", "Adisafe bank_pointer",
                                              "Engtgt engine_1_gas_temperature",
                                              "Engtgt engine_2_gas_temperature"};
