@@ -11,6 +11,7 @@
 #include "host/simulation/flight/trim.h"
 #include "host/simulation/navigation/flight_director.h"
 #include "host/simulation/navigation/receivers.h"
+#include "host/simulation/navigation/standby_compass.h"
 #include "host/simulation/placement.h"
 #include "host/simulation/program_windows.h"
 #include "host/simulation/systems/air_controls.h"
@@ -18,8 +19,11 @@
 #include "host/simulation/systems/electrics.h"
 #include "host/simulation/systems/engine.h"
 #include "host/simulation/systems/engine_start.h"
+#include "host/simulation/systems/flight_recorder.h"
 #include "host/simulation/systems/fuel.h"
+#include "host/simulation/systems/ground_proximity.h"
 #include "host/simulation/systems/lights.h"
+#include "host/simulation/systems/stall_warning.h"
 
 namespace host::simulation {
 
@@ -44,6 +48,10 @@ struct Aircraft {
   int marker = 0;  ///< as marker_overhead()
   Selections selections;
   FlightDirector flight_director;
+  StandbyCompass standby_compass;
+  StallWarning stall_warning;
+  GroundProximity ground_proximity;
+  FlightRecorder flight_recorder;
   ProgramWindows windows;
 
   /// Parked, everything off. From 10 to 120 steps a second; 60 is what the cockpit runs with.
@@ -79,6 +87,10 @@ struct Aircraft {
   void update_fuel(double dt_s);
   void update_electrics(double dt_s);
   void update_navigation(double dt_s);
+  void update_warnings(double dt_s);
+  GroundProximityInputs ground_proximity_inputs() const;
+  /// What follows where it has been put somewhere else.
+  void arrive();
 };
 
 }  // namespace host::simulation

@@ -94,7 +94,9 @@ TEST(Records, HeadersAndChainsBelongTogether) {
 
 TEST(Records, LitCopiesShowTheSameAndFollowThePanelLights) {
   const std::set<std::pair<std::string, std::string>> dark_by_night{{"Adi", "slip_ball_tube"},
-                                                                    {"Altimeter", "altitude_alert"}};
+                                                                    {"Altimeter", "altitude_alert"},
+                                                                    {"Pullup", "unlit_face"},
+                                                                    {"Stall", "unlit_face"}};
   rig::Host host;
   for (rig::Gauge& gauge : rig::built_gauges()) {
     const std::string name = gauge.header().name;
