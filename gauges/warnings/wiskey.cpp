@@ -1,5 +1,5 @@
-/// Standby compass (above the glareshield): a floating card that needs nothing but the earth's field. It
-/// is read from the pilot's side, so its figures run backwards.
+/// Standby compass (above the glareshield): a card that floats in the earth's field. It is read from the
+/// pilot's side, so its figures run backwards.
 #include "module/catalogue.h"
 
 namespace tarnvale {
@@ -17,7 +17,7 @@ f64 level(Element*) { return 1; }
 constexpr Row compass_card() {
   Row row = card("Compass card", 13130, 13131, {8, 2}, {0, 360}, card_place)
                 .from(token::standby_compass)
-                .failing(failure::never);
+                .fails_with(failure::standby_compass);
   for (Element* e : {&row.day, &row.lit}) e->moving_image.y = {{}, level, 1, 1};
   return row;
 }

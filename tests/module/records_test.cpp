@@ -94,6 +94,7 @@ TEST(Records, HeadersAndChainsBelongTogether) {
 
 TEST(Records, LitCopiesShowTheSameAndFollowThePanelLights) {
   const std::set<std::pair<std::string, std::string>> dark_by_night{{"Adi", "slip_ball_tube"},
+                                                                    {"Apalt", "power_flag"},
                                                                     {"Altimeter", "altitude_alert"},
                                                                     {"Pullup", "unlit_face"},
                                                                     {"Stall", "unlit_face"}};
