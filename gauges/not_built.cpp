@@ -4,14 +4,6 @@
 
 namespace tarnvale {
 
-// ---- Warnings
-constinit Gauge dhgpws{{.name = "Dhgpws", .width_mm = 185, .background = 3010}};
-constinit Gauge flightrec{{.name = "Flightrec", .width_mm = 196, .background = 3060}};
-constinit Gauge wiskey{{.name = "Wiskey", .width_mm = 71, .background = 13120}};
-constinit Gauge stall{{.name = "Stall", .width_mm = 76, .background = 13250}};
-constinit Gauge pullup{{.name = "Pullup", .width_mm = 28, .background = 13490}};
-constinit Gauge fowarn{{.name = "Fowarn", .width_mm = 29, .background = 20070}};
-constinit Gauge masterwarn{{.name = "Masterwarn", .width_mm = 58, .background = 24020}};
 
 // ---- Controls
 constinit Gauge trim{{.name = "Trim", .width_mm = 192, .background = 3230}};

@@ -137,11 +137,14 @@ struct Aircraft {
   u32 dh_light_on = 0;
   f64 dh_setting_ft = 0.0;    ///< 0..500 in steps of 10
   u32 dh_setting_ft_int = 0;  ///< kept in step with dh_setting_ft
-  u32 stall_warning_switch_on = 0;
   u32 gpws_switch_on = 0;
+  u32 gpws_test_active = 0;
+  u32 stall_warning_switch_on = 0;
+  u32 stall_test_active = 0;
   u32 flight_recorder_button_on = 0;
 
   // ---- Flight controls and ground handling
+  u32 pedestal_selector_switch = 0;  ///< 0 centre, 1, 2
   u32 brake_control_switch_on = 0;
   u32 ttc_switch_on = 0;
   u32 stabind_vertical_on = 0;
@@ -153,5 +156,8 @@ extern constinit Aircraft aircraft;
 
 /// Asks for one playing of a sound. Asking again before it has been played changes nothing.
 inline void request(SoundRequest sound) { aircraft.sound_requests[sound] = 1; }
+
+/// Takes back a request that has not been played yet.
+inline void withdraw(SoundRequest sound) { aircraft.sound_requests[sound] = 0; }
 
 }  // namespace tarnvale

@@ -16,7 +16,9 @@ inline constexpr Bitmaps wide_guarded_switch{2170, 2};  ///< off, on; stands und
 inline constexpr Bitmaps wide_guard{2180, 2};           ///< closed, open
 inline constexpr Bitmaps four_way_guarded_switch{2220,
                                                  4};    ///< four positions; stands under a red guard
+inline constexpr Bitmaps warning_button{3020, 2};       ///< dark, lit; its lens says ON
 inline constexpr Bitmaps pump_switch{3280, 2};          ///< off, on
+inline constexpr Bitmaps test_lamp{3420, 2};            ///< dark, lit; stands in a push button
 inline constexpr Bitmaps light_lever{4260, 2};          ///< off, on
 inline constexpr Bitmaps landing_light_lever{4310, 2};  ///< off, on
 inline constexpr Bitmaps light_button{13230, 2};        ///< dark, lit

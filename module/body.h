@@ -61,6 +61,11 @@ struct DayOnly {
   Rows<count> rows;
 };
 
+/// A help text of the host's own for the whole of a gauge that answers nothing.
+struct HelpPage {
+  u32 id;
+};
+
 /// The chain below the background, and the mouse table: sizes come from the lists. Unless the rows are
 /// `DayOnly`, the chain is the rows by day and after them the lit copy.
 template <std::size_t parts, std::size_t clicks, std::size_t copies = 2>
@@ -87,6 +92,9 @@ struct Body {
   constexpr Body(const Gauge& gauge, const Row (&rows)[parts]) {
     lay(gauge, rows);
     lay(std::span<const Area>{});
+  }
+  constexpr Body(const Gauge& gauge, const Row (&rows)[parts], HelpPage help) : Body(gauge, rows) {
+    areas[0].help_id = help.id;
   }
   constexpr Body(const Gauge& gauge, const Rows<parts>& rows) {
     lay(gauge, rows);
@@ -133,6 +141,8 @@ template <std::size_t parts, std::size_t clicks>
 Body(const Gauge&, const Rows<parts>&, const Areas<clicks>&) -> Body<parts, clicks>;
 template <std::size_t parts>
 Body(const Gauge&, const Row (&)[parts]) -> Body<parts, 0>;
+template <std::size_t parts>
+Body(const Gauge&, const Row (&)[parts], HelpPage) -> Body<parts, 0>;
 template <std::size_t parts>
 Body(const Gauge&, const Rows<parts>&) -> Body<parts, 0>;
 template <std::size_t parts>

@@ -78,6 +78,13 @@ struct Row {
     return row;
   }
 
+  /// A strip in a window of the size of bitmap `mask`, in place of a tenth of its own length.
+  constexpr Row behind(i32 mask) const {
+    Row row = only(ELEMENT_MOVING_IMAGE);
+    row.day.moving_image.mask_resource_id = row.lit.moving_image.mask_resource_id = mask;
+    return row;
+  }
+
   /// An icon's switch mode and scale, where they are not those that its number of images gives.
   constexpr Row mode(u32 switch_mode, f64 switch_scale) const {
     Row row = only(ELEMENT_ICON);

@@ -1,6 +1,7 @@
 /// What several panels know about the aircraft's systems.
 #pragma once
 
+#include "module/host.h"
 #include "module/variables.h"
 
 namespace tarnvale {
@@ -10,6 +11,11 @@ inline constexpr f64 running_percent = 25.0;
 
 /// Below this core speed, in percent, an engine does not turn its generator.
 inline constexpr f64 generator_turning_percent = 10.0;
+
+inline bool no_engine_runs() {
+  return read(token::engine_1_core_speed) < running_percent &&
+         read(token::engine_2_core_speed) < running_percent;
+}
 
 /// The ground unit goes before the APU's generator, which feeds the buses when it is up alone.
 inline bool apu_feeds_buses() {

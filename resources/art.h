@@ -25,9 +25,9 @@ struct Plate {
   std::span<const Item> items;
 };
 
-using Picture =
-    std::variant<Plate, Lamp, LensStack, RoundLight, Lever, Knob, FlowSwitch, Guard, GuardedLever,
-                 GuardedKnob, Needle, Bug, Flag, Drum, Tape, Mask, CompassCard, Ball, Drawing>;
+using Picture = std::variant<Plate, Lamp, LensStack, RoundLight, Lever, Knob, FlowSwitch, Guard,
+                             GuardedLever, GuardedKnob, Needle, Bug, Flag, Drum, Tape, CompassStrip,
+                             Mask, CompassCard, Ball, Drawing>;
 
 /// Which bitmaps a row draws: those of a part of the unit's gauge, or a run that gauges share.
 struct Of {
@@ -102,8 +102,11 @@ constexpr Art flag_art(Of of, Size size, Flag flag) { return {of, size, flag}; }
 constexpr Art drum_art(Of of, Size window, Drum drum) {
   return {of, {window.width, 10 * window.height}, drum};
 }
+/// A drum as long as its strip, whose window is that of its mask.
+constexpr Art masked_drum_art(Of of, Size strip, Drum drum) { return {of, strip, drum}; }
 constexpr Art tape_art(Of of, Size strip, Tape tape) { return {of, strip, tape}; }
-/// The window of the tape that is the part `of`.
+constexpr Art compass_strip_art(Of of, Size strip, CompassStrip card) { return {of, strip, card}; }
+/// The window of the strip that is the part `of`.
 constexpr Art mask_art(Of of, Size window, Mask mask = {}) { return {of, window, mask}; }
 constexpr Art compass_card_art(Of of, Size size, CompassCard card) { return {of, size, card}; }
 

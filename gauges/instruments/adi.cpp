@@ -28,10 +28,7 @@ void take_readings() {
 
 /// In view without a running engine, and for a test.
 f64 attitude_flag(Element*) {
-  if (read(token::engine_1_core_speed) < running_percent &&
-      read(token::engine_2_core_speed) < running_percent) {
-    return 1;
-  }
+  if (no_engine_runs()) return 1;
   return hold_goes_on(test_clock, aircraft.adi_flag_test_active);
 }
 

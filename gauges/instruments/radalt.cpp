@@ -2,30 +2,12 @@
 /// test. It owns the decision height that other panels show.
 #include "module/catalogue.h"
 #include "module/controls.h"
+#include "module/decision_height.h"
 
 namespace tarnvale {
 namespace {
 
-constexpr f64 feet_per_metre = 3.2808;
-constexpr u32 highest_setting = 500, step = 10;
-
 constinit HoldClock test_clock;
-
-void set_decision_height(u32 feet) {
-  aircraft.dh_setting_ft = feet;
-  aircraft.dh_setting_ft_int = feet;
-  request(click_sound_request);
-}
-
-void lower_decision_height() {
-  const u32 now = aircraft.dh_setting_ft_int;
-  set_decision_height(now < step ? 0 : now - step);
-}
-
-void raise_decision_height() {
-  const u32 now = aircraft.dh_setting_ft_int;
-  set_decision_height(now > highest_setting - step ? highest_setting : now + step);
-}
 
 void press_test() {
   start_hold(test_clock, aircraft.radalt_test_active);
@@ -36,8 +18,7 @@ void press_test() {
 /// alone.
 f64 decision_height_light(Element*) {
   constexpr f64 lit = 0, dark = -1;
-  const u32 height = whole_u32(read(token::radio_altitude) * feet_per_metre);
-  const bool reached = aircraft.dh_setting_ft > 0 && height <= aircraft.dh_setting_ft;
+  const bool reached = at_decision_height();
   if (!reached && aircraft.radalt_test_active == 1) return lit;
   aircraft.dh_light_on = reached;
   return reached ? lit : dark;

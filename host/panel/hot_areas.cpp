@@ -8,11 +8,12 @@ namespace {
 
 constexpr std::uint32_t any_button = MOUSE_LEFT | MOUSE_RIGHT;
 
-// Tooltips that name one of the host's own help pages instead of carrying a text.
+// Tooltips and groups that name one of the host's own help pages instead of carrying a text.
 std::string help_text(std::uint32_t help_id) {
   switch (help_id) {
     case 0x3053: return "Set Barometric Pressure";
     case 0x3071: return "Set Selected Airspeed";
+    case 0xAB77: return "Standby Compass";
     default: return {};
   }
 }
@@ -67,15 +68,20 @@ void HotAreas::read(const MouseArea* table) {
     const int depth = static_cast<int>(groups.size()) - 1;
     if (row->kind == MOUSE_GROUP) {
       groups.push_back(placed(*row, group));
+      if (row->help_id) add_tooltip(groups.back(), depth + 1, help_text(row->help_id));
     } else if (row->kind == MOUSE_GROUP_END) {
       if (groups.size() > 1) groups.pop_back();
     } else if (row->kind == MOUSE_CLICK_AREA) {
       areas_.push_back({placed(*row, group), depth, row->cursor, row->mouse_flags, row->routine});
     } else if (row->kind == MOUSE_TOOLTIP) {
       std::string text = row->help_id ? help_text(row->help_id) : row->tooltip ? row->tooltip : "";
-      tooltips_.push_back({group, depth, group.width == 0 && group.height == 0, std::move(text)});
+      add_tooltip(group, depth, std::move(text));
     }
   }
+}
+
+void HotAreas::add_tooltip(const Box& group, int depth, std::string text) {
+  tooltips_.push_back({group, depth, group.width == 0 && group.height == 0, std::move(text)});
 }
 
 const HotArea* HotAreas::at(PanelPoint point, std::uint32_t actions) const {

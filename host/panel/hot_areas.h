@@ -79,6 +79,7 @@ class HotAreas {
   };
 
   void read(const MouseArea* table);
+  void add_tooltip(const Box& group, int depth, std::string text);
   void find_pairs();
   const Pair* pair_of(const HotArea* area) const;
   const Pair* pair_around(PanelPoint point) const;

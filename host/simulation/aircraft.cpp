@@ -1,8 +1,15 @@
 #include "host/simulation/aircraft.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace host::simulation {
+namespace {
+
+/// Core speed of an engine that has lit, at which its oil pressure starts the flight recorder.
+constexpr double recorder_starts_percent = 40.0;
+
+}  // namespace
 
 Aircraft::Aircraft(int steps_per_second) {
   clock.steps_per_second = steps_per_second;
@@ -17,6 +24,7 @@ Aircraft::Aircraft(int steps_per_second) {
     engine.oil_temperature_celsius = air.temperature_celsius;
   }
   update_systems(0.0);
+  standby_compass.settle(flight);
 }
 
 void Aircraft::tune_radios() {
@@ -35,6 +43,7 @@ void Aircraft::step() {
   update_systems(clock.step_s());
   update_fuel(clock.step_s());
   update_navigation(clock.step_s());
+  update_warnings(clock.step_s());
 }
 
 AirframeInputs Aircraft::surroundings() const {
@@ -81,6 +90,9 @@ void Aircraft::update_systems(double dt_s) {
   update_engine_start(dt_s);
   update_engines(dt_s);
   update_electrics(dt_s);
+  const bool engine_runs = engines[0].core_speed_percent > recorder_starts_percent ||
+                           engines[1].core_speed_percent > recorder_starts_percent;
+  flight_recorder.update(dt_s, electrics.has_dc(), engine_runs, flight.on_ground);
 }
 
 void Aircraft::update_engine_start(double dt_s) {
@@ -156,6 +168,44 @@ std::array<std::string_view, 3> Aircraft::identifications_heard() const {
   return heard;
 }
 
+GroundProximityInputs Aircraft::ground_proximity_inputs() const {
+  const Surfaces& surfaces = airframe.surfaces;
+  GroundProximityInputs inputs{
+      .powered = electrics.avionics_on && electrics.has_dc() && !failures[System::avionics],
+      .on_ground = flight.on_ground,
+      .height_ft = flight.height_ft,
+      .altitude_ft = air.indicated_altitude_ft,
+      .vertical_speed_fpm = flight.vertical_speed_fpm,
+      .airspeed_kt = air.indicated_airspeed_kt,
+      .gear_down = *std::ranges::min_element(surfaces.gear) >= 1.0,
+      .landing_flaps = surfaces.flap_deg >= landing_flap_deg,
+  };
+  if (nav[0].glide_slope) inputs.slope_deviation = nav[0].slope_deviation;
+  return inputs;
+}
+
+void Aircraft::update_warnings(double dt_s) {
+  standby_compass.update(dt_s, flight);
+  stall_warning.update(dt_s, {
+                                 .powered = electrics.has_dc(),
+                                 .on_ground = flight.on_ground,
+                                 .angle_of_attack_rad = flight.angle_of_attack_rad,
+                                 .flap_deg = airframe.surfaces.flap_deg,
+                                 .mach = air.mach,
+                                 .airspeed_kt = air.indicated_airspeed_kt,
+                             });
+  ground_proximity.update(dt_s, ground_proximity_inputs());
+}
+
+void Aircraft::arrive() {
+  update_systems(0.0);
+  update_navigation(0.0);
+  standby_compass.settle(flight);
+  stall_warning = {};
+  ground_proximity = {};
+  update_warnings(0.0);
+}
+
 void Aircraft::start_both_engines() {
   electrics.battery_on = true;
   engine_start.ignition_armed = true;
@@ -196,8 +246,7 @@ void Aircraft::place_on_runway() {
   airframe.stand_at(on_runway_axes(line_up_along_m, 0.0), runway_true_deg * radians_per_degree,
                     mass_properties(fuel.load()));
   airframe.report(flight);
-  update_systems(0.0);
-  update_navigation(0.0);
+  arrive();
 }
 
 void Aircraft::put_in_the_air(const InFlight& where) {
@@ -234,8 +283,7 @@ bool Aircraft::place_in_flight(const InFlight& where) {
       200.0 / 3600.0 * (engines[0].fuel_flow_kg_per_h + engines[1].fuel_flow_kg_per_h);
   const double thrust_n = trim.thrust_n * (1.0 - burned_kg / mass_properties(fuel.load()).mass_kg);
   start_engines_at_once(thrust_n);
-  update_systems(0.0);
-  update_navigation(0.0);
+  arrive();
   return trim.found && std::abs(engines[0].thrust_n * 2.0 - thrust_n) < 1.0;
 }
 

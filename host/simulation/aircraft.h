@@ -14,6 +14,7 @@
 #include "host/simulation/navigation/audio_selector.h"
 #include "host/simulation/navigation/flight_director.h"
 #include "host/simulation/navigation/receivers.h"
+#include "host/simulation/navigation/standby_compass.h"
 #include "host/simulation/placement.h"
 #include "host/simulation/program_windows.h"
 #include "host/simulation/systems/air_controls.h"
@@ -23,8 +24,11 @@
 #include "host/simulation/systems/engine.h"
 #include "host/simulation/systems/engine_start.h"
 #include "host/simulation/systems/failures.h"
+#include "host/simulation/systems/flight_recorder.h"
 #include "host/simulation/systems/fuel.h"
+#include "host/simulation/systems/ground_proximity.h"
 #include "host/simulation/systems/lights.h"
+#include "host/simulation/systems/stall_warning.h"
 
 namespace host::simulation {
 
@@ -57,6 +61,10 @@ struct Aircraft {
   Selections selections;
   AutopilotModes autopilot;
   FlightDirector flight_director;
+  StandbyCompass standby_compass;
+  StallWarning stall_warning;
+  GroundProximity ground_proximity;
+  FlightRecorder flight_recorder;
   bool cabin_door_open = false;
   Cabin cabin;
   ProgramWindows windows;
@@ -110,6 +118,10 @@ struct Aircraft {
   void update_fuel(double dt_s);
   void update_electrics(double dt_s);
   void update_navigation(double dt_s);
+  void update_warnings(double dt_s);
+  GroundProximityInputs ground_proximity_inputs() const;
+  /// What follows where it has been put somewhere else.
+  void arrive();
 };
 
 }  // namespace host::simulation

@@ -45,6 +45,7 @@ extern const SystemRows lights_rows;
 extern const SystemRows navigation_rows;
 extern const SystemRows program_windows_rows;
 extern const SystemRows radios_rows;
+extern const SystemRows warnings_rows;
 
 /// All rows of all systems, ascending by number.
 std::span<const TokenRow> token_table();

@@ -11,11 +11,12 @@ const Element& element_of(const Bitmap& bitmap) {
   return part(*gauge_of(*bitmap.unit), bitmap.art->of.part);
 }
 
-void draw_strip(const Canvas& canvas, const Bitmap& bitmap, const Tape& tape) {
-  const MovingImagePart& record = element_of(bitmap).moving_image;
-  const Bitmap* mask = find_bitmap(record.mask_resource_id);
-  if (mask == nullptr) wrong(subject(bitmap) + " has no mask");
-  draw_tape(canvas, tape, record.x, mask->size.width);
+/// A strip that slides sideways needs a mask: without one its window would be as wide as itself.
+double masked_width(const Bitmap& bitmap) {
+  const Element& strip = element_of(bitmap);
+  if (find_bitmap(strip.moving_image.mask_resource_id) == nullptr)
+    wrong(subject(bitmap) + " has no mask");
+  return window_of(strip).width;
 }
 
 void draw_plate(Canvas& canvas, const Bitmap& bitmap, const Plate& plate) {
@@ -38,8 +39,17 @@ void draw(Canvas& canvas, const Bitmap& bitmap) {
                  [&](const Needle& row) { draw_needle(canvas, row, element_of(bitmap).needle.center); },
                  [&](const Bug& row) { draw_bug(canvas, row, element_of(bitmap).needle.center); },
                  [&](const Flag& row) { draw_flag(canvas, row, bitmap.image); },
-                 [&](const Drum& row) { draw_drum(canvas, row, element_of(bitmap).moving_image.y); },
-                 [&](const Tape& row) { draw_strip(canvas, bitmap, row); },
+                 [&](const Drum& row) {
+                   const Element& drum = element_of(bitmap);
+                   draw_drum(canvas, row, drum.moving_image.y, window_of(drum).height);
+                 },
+                 [&](const Tape& row) {
+                   draw_tape(canvas, row, element_of(bitmap).moving_image.x, masked_width(bitmap));
+                 },
+                 [&](const CompassStrip& row) {
+                   draw_compass_strip(canvas, row, element_of(bitmap).moving_image.x,
+                                      masked_width(bitmap));
+                 },
                  [&](const Mask& row) { draw_mask(canvas, row); },
                  [&](const CompassCard& row) {
                    draw_compass_card(canvas, row, turning_point(element_of(bitmap)));

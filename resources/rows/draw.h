@@ -20,7 +20,10 @@ void draw_control(const Canvas& canvas, const Picture& picture, int image);
 void draw_needle(const Canvas& canvas, const Needle& needle, PanelPoint pivot);
 void draw_bug(const Canvas& canvas, const Bug& bug, PanelPoint pivot);
 void draw_flag(const Canvas& canvas, const Flag& flag, int image);
-void draw_drum(const Canvas& canvas, const Drum& drum, const MovingAxis& axis);
+/// `window` is how much of it shows at a time, along its way.
+void draw_drum(const Canvas& canvas, const Drum& drum, const MovingAxis& axis, double window);
+void draw_compass_strip(const Canvas& canvas, const CompassStrip& strip, const MovingAxis& axis,
+                        double window);
 void draw_tape(const Canvas& canvas, const Tape& tape, const MovingAxis& axis, double window);
 void draw_mask(const Canvas& canvas, const Mask& mask);
 void draw_compass_card(const Canvas& canvas, const CompassCard& card, Point centre);

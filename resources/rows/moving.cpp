@@ -99,15 +99,14 @@ void draw_flag(const Canvas& canvas, const Flag& flag, int image) {
   print(canvas, slot.centre(), flag.text, {.size = flag.text_size, .colour = palette::white});
 }
 
-void draw_drum(const Canvas& canvas, const Drum& drum, const MovingAxis& axis) {
+void draw_drum(const Canvas& canvas, const Drum& drum, const MovingAxis& axis, double window) {
   const Box box = whole(canvas.size());
   ground(canvas, drum.ground);
-  const Strip strip{box.height, box.height / 10, axis};
+  const Strip strip{box.height, window, axis};
   const double step = drum.step == 0 ? figure_step(axis) : drum.step;
   const double middle = (box.width - (drum.ticks > 0 ? 3.5 : 0)) / 2;
   for_each_step(axis, step, [&](double k) {
     if (drum.blank_below_zero && k < 0) {
-      const double window = box.height / 10;
       const Box blank{0, strip.position(k * step) - window / 2, box.width, window};
       return fill(canvas, rounded(blank, 0), palette::face_dark);
     }
@@ -144,8 +143,34 @@ void draw_tape(const Canvas& canvas, const Tape& tape, const MovingAxis& axis, d
   });
 }
 
+void draw_compass_strip(const Canvas& canvas, const CompassStrip& card, const MovingAxis& axis,
+                        double window) {
+  const Box box = whole(canvas.size());
+  ground(canvas, palette::face_dark);
+  const Strip strip{box.width, window, axis};
+  constexpr int turn = 360;
+  for_each_step(axis, 5, [&](double k) {
+    const int heading = static_cast<int>(wrapped(turn - 5 * k, turn));
+    const double x = strip.position(5 * k);
+    const bool thirty = heading % 30 == 0, ten = heading % 10 == 0;
+    const double length = ten ? 10 : 6, width = thirty ? 1.7 : ten ? 1.1 : 0.7;
+    line(canvas, {x, box.bottom() - 2 - length}, {x, box.bottom() - 2}, width, palette::mark);
+    if (!thirty) return;
+    const double size = heading % 90 == 0 ? card.figure_size * 1.15 : card.figure_size;
+    print(canvas, {x, (box.height - 12) / 2}, point_of_the_compass(heading / 10),
+          {.size = size, .colour = palette::mark});
+  });
+}
+
 void draw_mask(const Canvas& canvas, const Mask& mask) {
-  fill(canvas, rounded(whole(canvas.size()), mask.corner), palette::white);
+  const Box box = whole(canvas.size());
+  const Colour seen = palette::white, gone = faded(seen, mask.round ? 0.25 : 1);
+  set_linear(canvas, {0, 0}, {box.right(), 0}, {{0, gone}, {0.3, seen}, {0.7, seen}, {1, gone}});
+  fill(canvas, rounded(box, mask.corner));
+  if (mask.slit == 0) return;
+  const Saved saved(canvas);
+  cairo_set_operator(canvas.cr(), CAIRO_OPERATOR_CLEAR);
+  fill(canvas, rounded({box.centre().x - mask.slit / 2, 0, mask.slit, box.height}, 0), seen);
 }
 
 void draw_compass_card(const Canvas& canvas, const CompassCard& card, Point about) {

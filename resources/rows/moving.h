@@ -57,9 +57,17 @@ struct Tape {
   double round = 0;  ///< printed figures start again at this one: 360 on a heading tape
 };
 
-/// The window of a tape: opaque where it shows.
+/// The card of a floating compass, unrolled: marks every five degrees under figures and letters. It is read
+/// from the side, so that its figures run backwards; the record's range is one turn.
+struct CompassStrip {
+  double figure_size;
+};
+
+/// The window of a strip: opaque where it shows.
 struct Mask {
   double corner = 1;
+  double slit = 0;     ///< width of a line in the middle that stays open to the plate
+  bool round = false;  ///< the strip bends away at both sides, into what is dark on the plate
 };
 
 /// A compass card that turns about the record's point of its picture, north up at rest.

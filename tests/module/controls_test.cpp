@@ -41,6 +41,13 @@ TEST(Controls, EachMovesThePartItIsNamedAfter) {
                                                    "Clock setting_knob_down",
                                                    "Clock setting_knob_up",
                                                    "Radalt test_button",
+                                                   "Dhgpws test_switch",
+                                                   "Flightrec readout_button",
+                                                   "Flightrec thumbwheel_1",
+                                                   "Flightrec thumbwheel_2",
+                                                   "Flightrec thumbwheel_3",
+                                                   "Flightrec thumbwheel_4",
+                                                   "Flightrec thumbwheel_5",
                                                    "Apmode selected_speed_knob_down",
                                                    "Apmode selected_speed_knob_up",
                                                    "Apalt selected_altitude_knob_down",
@@ -154,6 +161,10 @@ TEST(Controls, EachClickIsHeardOnce) {
       {"Coltsw right_selector_flow", {"toggle"}},
       {"Coltsw right_selector_quantity", {"toggle"}},
       {"Coltsw right_selector_check", {"toggle"}},
+      {"Dhgpws stall_warning_button", {"push", "push other"}},  // the warning's sound, in a test
+      {"Dhgpws ground_proximity_button", {"push", "push other"}},
+      {"Flightrec event_button", {""}},
+      {"Flightrec readout_button", {""}},
       {"Airspeed set_airspeed_bug_1", {""}},  // rings that turn freely
       {"Airspeed set_airspeed_bug_2", {""}},
       {"Airspeed set_airspeed_bug_3", {""}},
@@ -318,7 +329,8 @@ TEST(Controls, TheCursorSaysWhichWayAHalfTurns) {
 
 TEST(Controls, EveryImageOfAnIconIsShownAndNoOther) {
   // What these show hangs on where the aircraft is, or cannot be seen; each has its stories.
-  const std::set<std::string> of_the_flight{"Adi", "Altimeter", "Hsi", "Hvsnd", "Markers", "Radalt"};
+  const std::set<std::string> of_the_flight{"Adi",   "Altimeter", "Dhgpws", "Hsi",
+                                            "Hvsnd", "Markers",   "Radalt"};
   for (const rig::Gauge& gauge : walk::result().gauges) {
     for (const rig::NamedPart& part : gauge.parts()) {
       const walk::Place place{gauge.header().name, part.name};

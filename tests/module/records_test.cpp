@@ -93,8 +93,11 @@ TEST(Records, HeadersAndChainsBelongTogether) {
 }
 
 TEST(Records, LitCopiesShowTheSameAndFollowThePanelLights) {
-  const std::set<std::pair<std::string, std::string>> dark_by_night{
-      {"Adi", "slip_ball_tube"}, {"Apalt", "power_flag"}, {"Altimeter", "altitude_alert"}};
+  const std::set<std::pair<std::string, std::string>> dark_by_night{{"Adi", "slip_ball_tube"},
+                                                                    {"Apalt", "power_flag"},
+                                                                    {"Altimeter", "altitude_alert"},
+                                                                    {"Pullup", "unlit_face"},
+                                                                    {"Stall", "unlit_face"}};
   rig::Host host;
   for (rig::Gauge& gauge : rig::built_gauges()) {
     const std::string name = gauge.header().name;

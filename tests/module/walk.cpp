@@ -136,6 +136,7 @@ class Walk {
     if (random(4) == 0) randomize(tokens[random(std::size(tokens))]);
     if (random(2) == 0) host_.tokens[token::battery] = 1;
     if (random(16) == 0) aircraft.ground_power_connected = static_cast<u32>(random(2));
+    if (random(16) == 0) aircraft.pedestal_selector_switch = static_cast<u32>(random(3));
     if (random(16) == 0) aircraft.duct_pressure_light = static_cast<u32>(random(3));
   }
 
@@ -240,14 +241,17 @@ const rig::NamedPart* part_of(const rig::Gauge& gauge, std::string_view control)
       {"landing_lights_levers", "left_landing_light_lever"},
       {"cabin_altitude_knob_down", "selected_cabin_altitude"},
       {"cabin_altitude_knob_up", "selected_cabin_altitude"},
-      {"decision_height_knob_down", "decision_height_bug"},
-      {"decision_height_knob_up", "decision_height_bug"},
       {"set_airspeed_bug_1", "speed_bug_1"},
       {"set_airspeed_bug_2", "speed_bug_2"},
       {"set_airspeed_bug_3", "speed_bug_3"},
       {"set_airspeed_bug_4", "speed_bug_4"},
   };
   std::string name(control);
+  // Two panels set the decision height; each shows it its own way.
+  if (name.starts_with("decision_height_knob")) {
+    const bool drums = gauge.header().name == std::string_view("Dhgpws");
+    name = drums ? "decision_height_tens" : "decision_height_bug";
+  }
   if (const auto other = other_names.find(name); other != other_names.end()) name = other->second;
   while (true) {
     const auto part = std::ranges::find(gauge.parts(), name, &rig::NamedPart::name);

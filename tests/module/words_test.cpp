@@ -41,12 +41,17 @@ constexpr Kind lamp{0x7, FAILURE_HIDE}, by_hand{0x3, 0}, needle{0x83, FAILURE_ZE
 /// A lamp shines by itself and goes dark without power; what a hand moves does neither.
 TEST(Words, SayWhetherAPartShinesAndWhatItDoesWithoutPower) {
   const std::set<std::string> shines_too{
-      "Mancon manual_control_button", "Adi attitude_flag",        "Apset airspeed_hold_button",
-      "Apset heading_hold_button",    "Apset approach_button",    "Apset autopilot_master_button",
-      "Apset autothrottle_button",    "Vhf1nav vor_check_button", "Nav1rad vor_check_button"};
+      "Mancon manual_control_button",    "Adi attitude_flag",
+      "Apset airspeed_hold_button",      "Apset heading_hold_button",
+      "Apset approach_button",           "Apset autopilot_master_button",
+      "Apset autothrottle_button",       "Vhf1nav vor_check_button",
+      "Nav1rad vor_check_button",        "Dhgpws ground_proximity_button",
+      "Dhgpws stall_warning_button",     "Dhgpws ground_proximity_test_cover",
+      "Dhgpws stall_warning_test_cover", "Flightrec event_button"};
   const std::set<std::string> lit_buttons{"Micsel", "Selcall"};  // gauges of them
   const std::set<std::string> unlit{"Hsi approach_light", "Transponder ident_light"};
-  const std::set<std::string> unlit_lamps{"Apcon door_open_light", "Vhf2nav vor_check_button"};
+  const std::set<std::string> unlit_lamps{"Apcon door_open_light", "Vhf2nav vor_check_button",
+                                          "Masterwarn warning_light", "Masterwarn caution_light"};
   const std::set<std::string> coarse_needles{"Adi bank_pointer", "Adisafe bank_pointer",
                                              "Engtgt engine_1_gas_temperature",
                                              "Engtgt engine_2_gas_temperature"};
@@ -67,6 +72,7 @@ TEST(Words, SayWhetherAPartShinesAndWhatItDoesWithoutPower) {
       }
       if (unlit_lamps.contains(text)) expected = electric_picture;
       if (text == "Altimeter altitude_alert") expected.first = 0x1;
+      if (text == "Dhgpws decision_height_tens") expected = by_hand;
       EXPECT_EQ(
           Kind(e.image_flags & ~IMAGE_HIDE_PICTURE, e.failures != nullptr ? e.failures->action : 0),
           expected)

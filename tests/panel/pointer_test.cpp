@@ -170,6 +170,10 @@ TEST_F(OnAGauge, TooltipsBelongToTheirGroups) {
   EXPECT_EQ(areas.tooltip({115, 85}), "Set the height");
   EXPECT_EQ(areas.tooltip({105, 65}), "Outer");
   EXPECT_EQ(areas.tooltip({15, 15}), "");
+  MouseArea whole = group(0, 0, 0, 0);
+  whole.help_id = 0xAB77;
+  const std::vector<MouseArea> helped = {whole, row_of(MOUSE_GROUP_END), row_of(MOUSE_END)};
+  EXPECT_EQ(HotAreas(helped.data()).tooltip({15, 15}), "Standby Compass");
 }
 
 TEST(HotAreas, TakeExtremeRecords) {

@@ -29,7 +29,7 @@ TEST(BitmapTable, SizesAreWithinBounds) {
   for (const Bitmap& bitmap : bitmap_table()) {
     EXPECT_GE(std::min(bitmap.size.width, bitmap.size.height), 2) << subject(bitmap);
     EXPECT_LE(bitmap.size.width, 1280) << subject(bitmap);
-    EXPECT_LE(bitmap.size.height, 497) << subject(bitmap);
+    EXPECT_LE(bitmap.size.height, 817) << subject(bitmap);
   }
 }
 

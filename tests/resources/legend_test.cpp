@@ -88,12 +88,12 @@ TEST(Words, LieUnderNoMovingPart) {
 TEST(Words, FitTheirPictures) {
   for (const Bitmap& bitmap : bitmap_table()) {
     if (bitmap.background) continue;
-    // The figures of a drum fill it from seam to seam; those of a ball and a card go on behind the face.
+    // The figures of a drum fill it from seam to seam, and so does a figure its own window; those of a ball
+    // and a card go on behind the face.
     const Picture* picture = bitmap.art == nullptr ? nullptr : &bitmap.art->picture;
     if (picture != nullptr && std::holds_alternative<Ball>(*picture)) continue;
-    const bool figure = picture != nullptr && (std::holds_alternative<Drum>(*picture) ||
-                                               bitmap.art->of.part.ends_with("leading_figure"));
-    const double edge = figure ? 0.4 : 2;
+    const bool drum = picture != nullptr && std::holds_alternative<Drum>(*picture);
+    const double edge = drum || bitmap.size.width <= 10 ? 0.4 : 2;
     for (const int density : {1, 2, 3}) {
       const Canvas canvas = drawn(bitmap, density);
       for (const Box& room : canvas.words()) {

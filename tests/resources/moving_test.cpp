@@ -18,7 +18,7 @@ Canvas drum(double minimum, double maximum) {
   MovingAxis axis{};
   axis.minimum = minimum;
   axis.maximum = maximum;
-  draw_drum(canvas, {.figure_size = 12}, axis);
+  draw_drum(canvas, {.figure_size = 12}, axis, window);
   return canvas;
 }
 

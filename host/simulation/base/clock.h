@@ -17,6 +17,15 @@ inline constexpr double day_start_s = 10.0 * 3600.0;
 
 inline constexpr double day_s = 24.0 * 3600.0;
 
+/// A day of the year, which has no leap day.
+struct Date {
+  int months_past;  ///< since the year began, 0..11
+  int day;          ///< of the month, 1..31
+};
+
+/// The date on which a flight begins.
+inline constexpr Date first_date{4, 16};
+
 struct Clock {
   int steps_per_second = usual_steps_per_second;
   std::uint64_t steps = 0;
@@ -31,6 +40,9 @@ struct Clock {
   /// Seconds since midnight, of the world and of the panel's clock.
   double time_of_day_s() const { return std::fmod(day_start_s + elapsed_s(), day_s); }
   double panel_clock_s() const { return std::fmod(time_of_day_s() + panel_clock_offset_s, day_s); }
+
+  /// The date, which changes at midnight.
+  Date date() const;
 
   /// Sets the panel's clock forward (or back); it goes round at midnight.
   void set_panel_clock(double by_s) {

@@ -79,10 +79,14 @@ double lift_slope(double mach) {
   return low_speed_slope / std::sqrt(1.0 - 0.5 * limited * limited);
 }
 
+double greatest_lift(double mach, const FlapEffect& flaps) {
+  return flaps.greatest_lift * on_curve(greatest_lift_with_mach, mach);
+}
+
 Lift wing_lift(double angle_of_attack_rad, double mach, const FlapEffect& flaps) {
   const double slope = lift_slope(mach);
   const double line = flaps.lift_at_zero + slope * angle_of_attack_rad;
-  const double greatest = flaps.greatest_lift * on_curve(greatest_lift_with_mach, mach);
+  const double greatest = greatest_lift(mach, flaps);
   if (line >= 0.0) return upright_lift(line, slope, greatest, angle_of_attack_rad);
   const Lift mirrored = upright_lift(-line, slope, inverted_ratio * greatest, -angle_of_attack_rad);
   return {-mirrored.coefficient, line, mirrored.separated};

@@ -34,6 +34,9 @@ struct Lift {
 
 Lift wing_lift(double angle_of_attack_rad, double mach, const FlapEffect& flaps);
 
+/// CLmax at a Mach number.
+double greatest_lift(double mach, const FlapEffect& flaps);
+
 /// The lift slope `a` per radian.
 double lift_slope(double mach);
 

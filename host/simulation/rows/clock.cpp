@@ -18,6 +18,10 @@ constexpr TokenRow tokens[] = {
     {{4, "local_minutes", "minutes"}, [](const Aircraft& a) { return panel_clock(a, 60.0, 60.0); }},
     {{5, "local_seconds", "seconds"}, [](const Aircraft& a) { return panel_clock(a, 1.0, 60.0); }},
     {{336, "simulation_rate", "ratio to real time"}, [](const Aircraft&) { return 1.0; }},
+    {{746, "months_past", "months since the year began, 0..11"},
+     [](const Aircraft& a) { return static_cast<double>(a.clock.date().months_past); }},
+    {{747, "day_of_month", "1..31"},
+     [](const Aircraft& a) { return static_cast<double>(a.clock.date().day); }},
     {{604, "clock_seconds", "seconds"}, [](const Aircraft& a) { return a.clock.reading_s(); }},
 };
 

@@ -42,6 +42,8 @@ constexpr TokenRow tokens[] = {
     {{80, "attitude_bank", "degrees, left positive"}, left_bank_deg},
     {{81, "heading", "degrees magnetic"},
      [](const Aircraft& a) { return magnetic_heading_deg(a.flight); }},
+    {{83, "standby_compass", "degrees magnetic, as the compass shows"},
+     [](const Aircraft& a) { return a.standby_compass.reading_deg; }},
     {{128, "throttle_1", "0..16384"},
      [](const Aircraft& a) { return control_full * std::clamp(a.controls.throttle[0], 0.0, 1.0); }},
     {{323, "parking_brake", "0 released, 32767 set"},

@@ -28,7 +28,16 @@ void draw_rocker(const Canvas& canvas, int image) {
        image == 1 ? mixed(palette::lamp_green, palette::white, 0.5) : palette::steel);
 }
 
+/// The lens alone: the button about it is the plate's.
+void draw_test_lamp(const Canvas& canvas, int image) {
+  const Box box = whole(canvas.size());
+  fill(canvas, rounded(box, 1.6), palette::well);
+  lamp_lens(canvas, box.grown(-1), {lens::blue}, image == 1);
+}
+
 constexpr Art art[] = {
+    button_art(bitmap::warning_button, {24, 24}, lens::green, "ON", 7.5),
+    drawn_art(bitmap::test_lamp, {10, 12}, draw_test_lamp),
     round_light_art(bitmap::round_light, {26, 26},
                     {.colour = lens::amber, .radius = 9.6, .centre = 12.5, .lit_first = true}),
     lamp_art(bitmap::off_lamp, {27, 22}, lens::amber, "OFF"),

@@ -1,0 +1,28 @@
+/// PULL UP light. Its unlit face lies over the plate's dark lens, and over the lit one.
+#include "resources/panels/warnings/annunciator.h"
+#include "resources/rows/board.h"
+
+namespace artwork::panels::pullup {
+
+constexpr Size picture{28, 52};
+constexpr Lens lens{lens::red, "PULL\nUP", 7};
+
+void draw_dark_lens(const Board& board) {
+  lamp_lens(board.canvas, annunciator_lens(whole(picture)), {lens.colour}, false);
+}
+
+void draw_light(const Canvas& canvas, int image) {
+  if (image == 1) return draw_annunciator(canvas, lens, true);
+  draw_annunciator_rim(canvas, lens);
+}
+
+constexpr Item items[] = {Ornament{draw_dark_lens}};
+
+constexpr Art art[] = {
+    plate(picture.height, items),
+    drawn_art("warning_light", picture, draw_light),
+};
+
+constinit Unit unit{"Pullup", art};
+
+}  // namespace artwork::panels::pullup
