@@ -126,6 +126,14 @@ struct Aircraft {
   u32 dh_light_on = 0;
   f64 dh_setting_ft = 0.0;    ///< 0..500 in steps of 10
   u32 dh_setting_ft_int = 0;  ///< kept in step with dh_setting_ft
+
+  // ---- Flight controls and ground handling
+  u32 speedbrake_armed = 0;
+  u32 lift_dump_armed = 0;
+  u32 lift_dump_deployed = 0;
+  u32 brake_control_switch_on = 1;
+  u32 pedestal_selector_switch = 0;  ///< 0 centre, 1 left, 2 right
+  u32 ttc_switch = 1;
 };
 
 extern constinit Aircraft aircraft;

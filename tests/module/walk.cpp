@@ -13,20 +13,22 @@ using namespace tarnvale;
 
 struct Token {
   u32 number;
-  const char* name;
+  const char *name, *unit;
   bool on_off;
 };
 
 /// All but the clock.
 constexpr Token tokens[] = {
 #define TOKEN(number, name, unit) \
-  {number, #name,                 \
-   std::string_view(unit).starts_with("0/1") || std::string_view(unit).starts_with("0 closed")},
+  {                               \
+    number, #name, unit,          \
+        std::string_view(unit).starts_with("0/1") || std::string_view(unit).starts_with("0 closed") ||
+    std::string_view(unit).starts_with("0 released")},
 #define EVENT(number, name)
 #include "module/tokens.inc"
 #undef TOKEN
 #undef EVENT
-};
+};  // namespace
 
 /// What a gauge shows: the values of its parts, and of a text the letters as a number.
 using Picture = std::vector<f64>;
@@ -86,8 +88,12 @@ class Walk {
 
   void randomize(const Token& token) {
     constexpr f64 values[] = {0, 1, 5, 9, 12, 30, 60, 75, 84, 110, 3000, 9000, 22000, 40000};
+    constexpr f64 travel[] = {0,     50,    1500,  3000,  5000,  7000, 9000,
+                              11000, 13000, 14500, 15500, 16300, 22000};
     if (token.number == token::clock_seconds) return;
-    host_.tokens[token.number] = values[random(token.on_off ? 2 : std::size(values))];
+    const bool lever = std::string_view(token.unit) == "0..16384";
+    const auto pick = [&](auto& of) { return of[random(token.on_off ? 2 : std::size(of))]; };
+    host_.tokens[token.number] = lever ? pick(travel) : pick(values);
   }
 
   void list_stimuli() {
@@ -187,7 +193,7 @@ class Walk {
   Result result_;
 };
 
-}  // namespace
+}  // namespace walk
 
 std::string Stimulus::text() const {
   return std::string(result().gauges[gauge].header().name) + ' ' + name;

@@ -7,7 +7,6 @@
 namespace host::simulation {
 namespace {
 
-constexpr double parking_brake_full = 32767.0;
 constexpr double control_full = 16384.0;
 
 /// 256 to a metre a second, so that 1 ft/min is 1.30048.
@@ -41,23 +40,16 @@ constexpr TokenRow tokens[] = {
     {{80, "attitude_bank", "degrees, left positive"}, left_bank_deg},
     {{81, "heading", "degrees magnetic"},
      [](const Aircraft& a) { return magnetic_heading_deg(a.flight); }},
-    {{128, "throttle_1", "0..16384"},
-     [](const Aircraft& a) { return control_full * std::clamp(a.controls.throttle[0], 0.0, 1.0); }},
-    {{323, "parking_brake", "0 released, 32767 set"},
-     [](const Aircraft& a) { return a.controls.parking_brake_set ? parking_brake_full : 0.0; }},
     {{328, "flap_position", "0..16384"},
      [](const Aircraft& a) { return control_full * a.airframe.surfaces.flap_deg / full_flap_deg; }},
+    {{783, "stabiliser", "10 degrees, nose up positive"},
+     [](const Aircraft& a) { return a.airframe.surfaces.stabiliser_rad * degrees_per_radian / 10.0; }},
     {{614, "radio_altitude", "metres"},
      [](const Aircraft& a) { return a.flight.height_ft * metres_per_foot; }},
 };
 
-constexpr EventRow events[] = {
-    {{0x100D8, "parking_brake_toggle", ""},
-     [](Aircraft& a, std::uint32_t) { a.controls.parking_brake_set = !a.controls.parking_brake_set; }},
-};
-
 }  // namespace
 
-constinit const SystemRows flight_rows{tokens, events};
+constinit const SystemRows flight_rows{tokens, {}};
 
 }  // namespace host::simulation
