@@ -14,16 +14,15 @@ using namespace tarnvale;
 struct Token {
   u32 number;
   const char *name, *unit;
-  bool on_off;
+
+  bool is(std::string_view kind) const { return std::string_view(unit).starts_with(kind); }
+  bool on_off() const { return is("0/1") || is("0 closed") || is("0 released"); }
+  bool lever() const { return is("0..16384"); }
 };
 
 /// All but the clock.
 constexpr Token tokens[] = {
-#define TOKEN(number, name, unit) \
-  {                               \
-    number, #name, unit,          \
-        std::string_view(unit).starts_with("0/1") || std::string_view(unit).starts_with("0 closed") ||
-    std::string_view(unit).starts_with("0 released")},
+#define TOKEN(number, name, unit) {number, #name, unit},
 #define EVENT(number, name)
 #include "module/tokens.inc"
 #undef TOKEN
@@ -91,9 +90,8 @@ class Walk {
     constexpr f64 travel[] = {0,     50,    1500,  3000,  5000,  7000, 9000,
                               11000, 13000, 14500, 15500, 16300, 22000};
     if (token.number == token::clock_seconds) return;
-    const bool lever = std::string_view(token.unit) == "0..16384";
-    const auto pick = [&](auto& of) { return of[random(token.on_off ? 2 : std::size(of))]; };
-    host_.tokens[token.number] = lever ? pick(travel) : pick(values);
+    const auto pick = [&](auto& of) { return of[random(token.on_off() ? 2 : std::size(of))]; };
+    host_.tokens[token.number] = token.lever() ? pick(travel) : pick(values);
   }
 
   void list_stimuli() {
@@ -193,7 +191,7 @@ class Walk {
   Result result_;
 };
 
-}  // namespace walk
+}  // namespace
 
 std::string Stimulus::text() const {
   return std::string(result().gauges[gauge].header().name) + ' ' + name;

@@ -51,7 +51,7 @@ TEST(Pedestal, The_speed_brake_opens_in_three_seconds_and_slows_the_flight) {
   EXPECT_LT(braked.airframe.surfaces.speed_brake, 1.0);
   run(braked, 20.0), run(clean, 20.0);
   EXPECT_EQ(braked.airframe.surfaces.speed_brake, 1.0);
-  EXPECT_LT(braked.air.indicated_airspeed_kt, clean.air.indicated_airspeed_kt - 30.0);
+  EXPECT_LT(braked.air.indicated_airspeed_kt, clean.air.indicated_airspeed_kt - 10.0);
   event(braked, 0x10357);
   EXPECT_EQ(token(braked, 869), 0.0);
   run(braked, 3.1);
@@ -108,8 +108,10 @@ Stop stop_from(double knots, bool antiskid, double brake_celsius = 15.0) {
   Aircraft aircraft = on_the_runway();
   aircraft.controls.parking_brake_set = false;
   aircraft.controls.throttle = {1, 1};
-  while (aircraft.air.indicated_airspeed_kt < knots) aircraft.step();
+  while (aircraft.air.indicated_airspeed_kt < knots + 10.0) aircraft.step();
   aircraft.controls.throttle = {0, 0};
+  while (aircraft.engines[0].thrust_n > 5000.0 || aircraft.air.indicated_airspeed_kt > knots)
+    aircraft.step();
   if (!antiskid) event(aircraft, 0x104A0);
   aircraft.brakes.temperature_celsius.fill(brake_celsius);
   aircraft.controls.brake = {1, 1};
@@ -125,7 +127,7 @@ TEST(Brakes, Take_the_energy_of_a_stop_as_heat) {
     const double mps = knots * 0.514444;
     const double all_celsius = 36000.0 * mps * mps / 2.0 / 2.0 / 60e3;
     const Stop stop = stop_from(knots, true);
-    EXPECT_LT(stop.celsius - 15.0, all_celsius) << knots;
+    EXPECT_LT(stop.celsius - 15.0, all_celsius) << knots << stop.metres;
     EXPECT_GT(stop.celsius - 15.0, 0.7 * all_celsius) << knots;
     EXPECT_NEAR(stop.after.brakes.temperature_celsius[1], stop.celsius, 1.0) << "both alike";
   }
@@ -173,11 +175,11 @@ TEST(Hydraulics, What_moves_draws_on_its_own_system) {
   struct Row {
     const char* what;
     void (*move)(FlightControls&);
-    double utility_dip_psi, flight_dip_psi;
+    double utility_psi, flight_psi;  ///< by which the pressure dips
   };
-  for (const Row& row : {Row{"gear", [](FlightControls& f) { f.gear_down = true; }, 60, 0},
-                         Row{"flaps", [](FlightControls& f) { f.flap_detent = 5; }, 15, 0},
-                         Row{"elevator", [](FlightControls& f) { f.elevator = 0.5; }, 0, 15}}) {
+  for (const Row& row : {Row{"gear", [](FlightControls& f) { f.gear_down = true; }, 85, 0},
+                         Row{"flaps", [](FlightControls& f) { f.flap_detent = 5; }, 22, 0},
+                         Row{"elevator", [](FlightControls& f) { f.elevator = 0.5; }, 0, 113}}) {
     Aircraft aircraft = flying({.altitude_ft = 3000, .airspeed_kt = 180});
     run(aircraft, 1.0);
     const double utility_psi = aircraft.hydraulics.utility.pressure_psi;
@@ -188,9 +190,9 @@ TEST(Hydraulics, What_moves_draws_on_its_own_system) {
       least_utility_psi = std::fmin(least_utility_psi, aircraft.hydraulics.utility.pressure_psi);
       least_flight_psi = std::fmin(least_flight_psi, aircraft.hydraulics.flight.pressure_psi);
     });
-    EXPECT_GE(utility_psi - least_utility_psi, row.utility_dip_psi) << row.what;
-    EXPECT_GE(flight_psi - least_flight_psi, row.flight_dip_psi) << row.what;
-    if (row.flight_dip_psi == 0) EXPECT_LT(flight_psi - least_flight_psi, 5.0) << row.what;
+    EXPECT_NEAR(utility_psi - least_utility_psi, row.utility_psi, 0.2 * row.utility_psi + 2.0)
+        << row.what;
+    EXPECT_NEAR(flight_psi - least_flight_psi, row.flight_psi, 0.2 * row.flight_psi + 2.0) << row.what;
   }
 }
 

@@ -29,7 +29,7 @@ constexpr double bottom_spring_n_per_m = 4e6;
 constexpr double carcass_spring_n_per_m = 1.0e6;  // along the wheel
 constexpr double carcass_damping_s = 0.06;        // damper to spring
 constexpr double relaxation_m = 0.7;
-constexpr double grip = 0.7, antiskid_grip = 0.5, sliding_grip = 0.35, rolling_resistance = 0.015;
+constexpr double grip = 0.7, braking_grip = 0.5, sliding_grip = 0.3, rolling_resistance = 0.015;
 
 /// A point of the aircraft against the ground.
 struct Contact {
@@ -77,8 +77,8 @@ double bristle_n(double& stretch_m, double slip_mps, double spring_n_per_m, doub
 double brake_limit_n(const Leg& leg, double load_n, const GroundMotion& m) {
   if (leg.pedal < 0) return 0.0;
   const double wanted_n = leg.brake_n * m.brake[static_cast<std::size_t>(leg.pedal)];
-  if (m.antiskid) return std::min(wanted_n, antiskid_grip * load_n);
-  return wanted_n < grip * load_n ? wanted_n : sliding_grip * load_n;
+  if (wanted_n <= braking_grip * load_n) return wanted_n;
+  return (m.antiskid ? braking_grip : sliding_grip) * load_n;
 }
 
 Vector tyre_force_n(double dt_s, Tyre& tyre, const Leg& leg, const Contact& c, const Rolling& wheel,

@@ -11,8 +11,8 @@
 ///           main wheels and 3 for the nose wheel, which makes the aircraft run straight by itself
 ///
 /// so that a standing aircraft is held by springs and does not creep, and a rolling one corners by its
-/// slip angle. The antiskid lets a brake use 0.5 of its wheel's load at most; without it a wheel that is
-/// braked beyond 0.7 locks and slides on 0.35. Without gear the fuselage, tail and wing tips slide on
+/// slip angle. A braked wheel holds 0.5 of its load at most: the antiskid keeps it
+/// there, without it the wheel locks and slides on 0.3. Without gear the fuselage, tail and wing tips slide on
 /// friction alone.
 #pragma once
 

@@ -20,7 +20,7 @@ void draw_throttle(const Canvas& canvas, int image) {
 
 void draw_quadrant(const Board& board) {
   throttle_quadrant(board.canvas, throttle);
-  placard(board.canvas, {8, 192, 62, 62}, "LANDING", "GEAR DOWN\nFLAPS 42\nDUMPERS ARM\nSPD BRK IN");
+  placard(board.canvas, {9, 205, 60, 47}, "LANDING", "GEAR DOWN\nFLAPS 42\nDUMPERS ARM\nSPD BRK IN");
 }
 
 void draw_speed_brake_slot(const Board& board) {

@@ -10,7 +10,7 @@ namespace artwork::panels::thright {
 constexpr LeverTravel throttle{144.5, 164, 82, 146, 44};
 constexpr Point throttle_corner{97, 0};
 
-constexpr LeverTravel flaps{34.5, 170, 90, 154, 62};
+constexpr LeverTravel flaps{34.5, 167, 88, 151, 60};
 constexpr Point flaps_corner{6, 30};
 constexpr int last_detent = 5;
 
@@ -23,7 +23,7 @@ void draw_throttle(const Canvas& canvas, int image) {
 
 void draw_quadrant(const Board& board) {
   throttle_quadrant(board.canvas, throttle);
-  placard(board.canvas, {193, 84, 54, 62}, "TAKE-OFF", "FLAPS 11\nTRIM SET\nDUMPERS IN\nSPD BRK IN");
+  placard(board.canvas, {196, 99, 49, 47}, "TAKE-OFF", "FLAPS 11\nTRIM SET\nDUMPERS IN\nSPD BRK IN");
 }
 
 /// The gate: a notch for each detent.
