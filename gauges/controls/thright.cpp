@@ -9,7 +9,7 @@ constinit u32 auxiliary = 0;
 
 f64 throttle_image(Element*) { return throttle_lever_image(read(token::throttle_2)); }
 
-/// The lever stands in the detent that the flaps have reached.
+/// The detent that the lever stands in.
 f64 flap_lever_image(Element*) {
   constexpr f64 steps[] = {2730, 5460, 8190, 10920, 13650};
   return steps_passed(steps, read(token::flap_position));

@@ -10,10 +10,10 @@ constinit Body body{
     {
         lamp("Parking brake light", 4330, {2, 35}).from(token::parking_brake),
         icon("Top temperature control switch", bitmap::light_lever, {57, 3},
-             shows<&Aircraft::ttc_switch>),
+             shows<&Aircraft::ttc_switch_on>),
     },
     {
-        click("Top temperature control switch", {50, 2, 24, 40}, toggles<&Aircraft::ttc_switch>),
+        click("Top temperature control switch", {50, 2, 24, 40}, toggles<&Aircraft::ttc_switch_on>),
     },
 };
 

@@ -54,7 +54,8 @@ TEST(Controls, EachMovesThePartItIsNamedAfter) {
                                                    "Ffsys fuel_computer_power_button",
                                                    "Ffsys fuel_used_mode_button",
                                                    "Ffsys weight_mode_button",
-                                                   "Ffsys reset_button"};
+                                                   "Ffsys reset_button",
+                                                   "Stewcall crew_call_button"};
   for (const Stimulus* control : controls()) {
     const rig::NamedPart* part = part_of(*control);
     EXPECT_EQ(part == nullptr, printed_on_the_plate.contains(control->text())) << control->text();
@@ -124,7 +125,10 @@ TEST(Controls, EachClickIsHeardOnce) {
       {"Engstart start_selector_off", {"toggle"}},      // a lever
       {"Engstart start_selector_engine_1", {"toggle"}},
       {"Engstart start_selector_engine_2", {"toggle"}},
-      {"Apu start_button", {"", " other"}},  // soft: the APU itself is heard
+      {"Apu start_button", {"", " other"}},       // soft: the APU itself is heard
+      {"Stewcall crew_call_button", {" other"}},  // chimes of their own
+      {"Stewcall left_sign_switch", {" other"}},
+      {"Stewcall right_sign_switch", {" other"}},
       {"Fuelc quantity_test_switch", {""}},
       {"Fuelreq fuel_request_lever", {"push"}},
       {"Radalt test_button", {" other"}},
