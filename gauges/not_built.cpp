@@ -32,13 +32,4 @@ constinit Gauge gearind{{.name = "Gearind", .width_mm = 122, .background = 20260
 constinit Gauge gustlock{{.name = "Gustlock", .width_mm = 21, .background = 24050}};
 constinit Gauge pushback{{.name = "Pushback", .width_mm = 252, .background = 24120}};
 
-// ---- Autopilot
-constinit Gauge apcon{{.name = "Apcon", .width_mm = 206, .background = 3340}};
-constinit Gauge aplight{{.name = "Aplight", .width_mm = 26, .background = 12460}};
-constinit Gauge apcourse{{.name = "Apcourse", .width_mm = 171, .background = 13450}};
-constinit Gauge apalt{{.name = "Apalt", .width_mm = 116, .background = 14060}};
-constinit Gauge apmode{{.name = "Apmode", .width_mm = 203, .background = 14140}};
-constinit Gauge cat2apsys{{.name = "Cat2apsys", .width_mm = 104, .background = 14240}};
-constinit Gauge apset{{.name = "Apset", .width_mm = 120, .background = 14350}};
-
 }  // namespace tarnvale

@@ -3,6 +3,8 @@
 
 #include <array>
 
+#include "host/simulation/autopilot/modes.h"
+#include "host/simulation/autopilot/selections.h"
 #include "host/simulation/base/clock.h"
 #include "host/simulation/flight/air_data.h"
 #include "host/simulation/flight/airframe.h"
@@ -50,9 +52,12 @@ struct Aircraft {
   Electrics electrics;
   std::array<NavReceiver, 2> nav;
   AdfReceiver adf;
-  int marker = 0;  ///< as marker_overhead()
+  int marker = 0;                       ///< as marker_overhead()
+  bool hsi_on_area_navigation = false;  ///< instead of receiver 1
   Selections selections;
+  AutopilotModes autopilot;
   FlightDirector flight_director;
+  bool cabin_door_open = false;
   Cabin cabin;
   ProgramWindows windows;
   Failures failures;

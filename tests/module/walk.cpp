@@ -16,7 +16,9 @@ struct Token {
   const char *name, *unit;
 
   bool is(std::string_view kind) const { return std::string_view(unit).starts_with(kind); }
-  bool on_off() const { return is("0/1") || is("0 closed") || is("0 released"); }
+  bool on_off() const {
+    return is("0/1") || is("0 closed") || is("0 released") || std::string_view(unit) == "0..1";
+  }
   bool lever() const { return is("0..16384"); }
 };
 
@@ -177,14 +179,20 @@ class Walk {
     const u32 buttons = stimulus.area->area->mouse_flags & (MOUSE_LEFT | MOUSE_RIGHT);
     const bool right = buttons == MOUSE_RIGHT || (buttons != MOUSE_LEFT && random(2) == 0);
     sounds_of_click();  // what the frames asked for
+    note_events();      // and sent
     const Aircraft was = aircraft;
-    host_.events.clear();
     result_.gauges[stimulus.gauge].click(stimulus.name, right ? MOUSE_RIGHT : MOUSE_LEFT);
     stimulus.sounds.insert(sounds_of_click());
-    for (const auto& [event, value] : host_.events) result_.events.insert(event);
+    stimulus.heeded |= !host_.events.empty();
+    note_events();
     Aircraft now = aircraft;
     std::ranges::copy(was.sound_requests, now.sound_requests);
-    stimulus.heeded |= !host_.events.empty() || std::memcmp(&was, &now, sizeof was) != 0;
+    stimulus.heeded |= std::memcmp(&was, &now, sizeof was) != 0;
+  }
+
+  void note_events() {
+    for (const auto& [event, value] : host_.events) result_.events.insert(event);
+    host_.events.clear();
   }
 
   void note_move(Stimulus& stimulus, const Picture& before) {
