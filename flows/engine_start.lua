@@ -1,6 +1,5 @@
--- From a cold and dark cockpit to both engines running and on their generators, through the overhead
--- panel alone: battery, APU, bleed air, start panel. Only the fuel levers, which stand on the pedestal,
--- are moved by their events.
+-- From a cold and dark cockpit to both engines running and on their generators: battery, APU, bleed air
+-- and start panel on the overhead, fuel levers on the throttle pedestal.
 
 -- The six controls that open the way from the APU to the starters, and the two beside them.
 local BLEED_LINEUP = {
@@ -32,7 +31,8 @@ local function start(engine)
   expect(image("Engstart", "start_selector") == engine.selected, "the selector is not at " .. name)
 
   wait_until(function() return core_speed() > 20 end, 30, name .. " to turn")
-  event("fuel_lever_" .. engine.number .. "_toggle")
+  click("Cutoff", id .. "_fuel_lever")
+  expect_event("fuel_lever_" .. engine.number .. "_toggle")
   wait_until(function() return switch() == 2 end, 30, name .. " to release its start switch")
   expect(core_speed() > 25, "the start of " .. name .. " ended early")
   wait_until(function() return core_speed() > 50 end, 60, name .. " to come to idle")
@@ -106,7 +106,9 @@ click("Engstart", "start_master_switch")
 expect_event("ignition_arm")
 wait(0.2)
 expect(ready_light_lit(), "the ready light is dark")
+open_window(504)
 for _, engine in ipairs(ENGINES) do start(engine) end
+close_window(504)
 wait(0.2)
 expect(not ready_light_lit(), "the ready light is lit with both engines running")
 

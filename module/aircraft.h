@@ -144,8 +144,11 @@ struct Aircraft {
   u32 flight_recorder_button_on = 0;
 
   // ---- Flight controls and ground handling
-  u32 pedestal_selector_switch = 0;  ///< 0 centre, 1, 2
+  u32 speedbrake_armed = 0;
+  u32 lift_dump_armed = 0;
+  u32 lift_dump_deployed = 0;
   u32 brake_control_switch_on = 0;
+  u32 pedestal_selector_switch = 0;  ///< 0 centre, 1 left, 2 right
   u32 ttc_switch_on = 0;
   u32 stabind_vertical_on = 0;
   u32 stabind_horizontal_on = 0;

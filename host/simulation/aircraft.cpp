@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace host::simulation {
 namespace {
@@ -23,6 +24,8 @@ Aircraft::Aircraft(int steps_per_second) {
     engine.gas_temperature_celsius = air.temperature_celsius;
     engine.oil_temperature_celsius = air.temperature_celsius;
   }
+  brakes.temperature_celsius.fill(air.temperature_celsius);
+  hydraulics.settle(core_speeds_percent(), airframe.surfaces);
   update_systems(0.0);
   standby_compass.settle(flight);
 }
@@ -50,7 +53,8 @@ AirframeInputs Aircraft::surroundings() const {
   AirframeInputs inputs;
   inputs.mass = mass_properties(fuel.load());
   inputs.thrust_n = {engines[0].thrust_n, engines[1].thrust_n};
-  inputs.brake = controls.parking_brake_set ? std::array{1.0, 1.0} : controls.brake;
+  inputs.brake = brakes.torque_ratio();
+  inputs.antiskid = brakes.antiskid_on;
   inputs.density_kg_per_m3 = air.density_kg_per_m3;
   inputs.sound_mps = air.sound_mps;
   inputs.wind_mps = air.weather.wind.velocity_mps();
@@ -58,10 +62,22 @@ AirframeInputs Aircraft::surroundings() const {
   return inputs;
 }
 
+/// Armed, the dumpers run out as soon as wheels carry the aircraft and both throttles are closed. In the air a
+/// lock keeps them in.
+FlightControls Aircraft::governed_controls() {
+  constexpr double closed_ratio = 0.01;
+  const bool closed = controls.throttle[0] < closed_ratio && controls.throttle[1] < closed_ratio;
+  if (controls.lift_dumpers_armed && flight.on_ground && closed) controls.lift_dumpers_out = true;
+  FlightControls governed = controls;
+  governed.lift_dumpers_out = controls.lift_dumpers_out && flight.on_ground;
+  return governed;
+}
+
 void Aircraft::fly(double dt_s) {
   const auto gear_was = airframe.surfaces.gear;
-  airframe.surfaces.update(dt_s, controls);
+  airframe.surfaces.update(dt_s, governed_controls());
   if (failures[System::gear]) airframe.surfaces.gear = gear_was;
+  update_brakes(dt_s);
   if (chocks_in && controls.parking_brake_set) {
     chocks_in = false;
     airframe.stand_at(airframe.position_m, airframe.attitude.angles().heading_rad,
@@ -93,16 +109,16 @@ void Aircraft::update_systems(double dt_s) {
   const bool engine_runs = engines[0].core_speed_percent > recorder_starts_percent ||
                            engines[1].core_speed_percent > recorder_starts_percent;
   flight_recorder.update(dt_s, electrics.has_dc(), engine_runs, flight.on_ground);
+  update_hydraulics(dt_s);
 }
 
 void Aircraft::update_engine_start(double dt_s) {
-  engine_start.update(
-      dt_s, {
-                .core_speed_percent = {engines[0].core_speed_percent, engines[1].core_speed_percent},
-                .has_dc = electrics.has_dc(),
-                .apu_at_speed = apu.at_speed(),
-                .on_ground = flight.on_ground,
-            });
+  engine_start.update(dt_s, {
+                                .core_speed_percent = core_speeds_percent(),
+                                .has_dc = electrics.has_dc(),
+                                .apu_at_speed = apu.at_speed(),
+                                .on_ground = flight.on_ground,
+                            });
 }
 
 EngineInputs Aircraft::engine_inputs(std::size_t engine) const {
@@ -125,6 +141,24 @@ void Aircraft::update_engines(double dt_s) {
   for (std::size_t i = 0; i < engines.size(); ++i) engines[i].update(dt_s, engine_inputs(i));
 }
 
+void Aircraft::update_brakes(double dt_s) {
+  brakes.update(dt_s, {
+                          .pedal = controls.brake,
+                          .parking_brake_set = controls.parking_brake_set,
+                          .energy_j = std::exchange(airframe.gear.braked_j, {}),
+                          .air_temperature_celsius = air.temperature_celsius,
+                          .slipstream_mps = airframe.surfaces.gear[1] * flight.true_airspeed_mps,
+                      });
+}
+
+std::array<double, 2> Aircraft::core_speeds_percent() const {
+  return {engines[0].core_speed_percent, engines[1].core_speed_percent};
+}
+
+void Aircraft::update_hydraulics(double dt_s) {
+  hydraulics.update(dt_s, core_speeds_percent(), airframe.surfaces);
+}
+
 void Aircraft::update_fuel(double dt_s) {
   fuel.boost_pump_failed = {failures[System::boost_pump_1], failures[System::boost_pump_2]};
   fuel.update(dt_s, {
@@ -138,7 +172,7 @@ void Aircraft::update_fuel(double dt_s) {
 void Aircraft::update_electrics(double dt_s) {
   electrics.update(
       dt_s, {
-                .core_speed_percent = {engines[0].core_speed_percent, engines[1].core_speed_percent},
+                .core_speed_percent = core_speeds_percent(),
                 .apu_at_speed = apu.at_speed(),
                 .apu_cranking = apu.cranking(),
                 .on_ground = flight.on_ground,
@@ -243,6 +277,8 @@ void Aircraft::place_on_runway() {
   controls.parking_brake_set = true;
   controls.gear_down = true;
   airframe.surfaces.settle(controls);
+  hydraulics.settle(core_speeds_percent(), airframe.surfaces);
+  brakes.pressure_ratio = {1.0, 1.0};
   airframe.stand_at(on_runway_axes(line_up_along_m, 0.0), runway_true_deg * radians_per_degree,
                     mass_properties(fuel.load()));
   airframe.report(flight);
@@ -298,6 +334,7 @@ void Aircraft::start_engines_at_once(double thrust_n) {
     (engines[0].thrust_n * 2.0 < thrust_n ? low : high) = controls.throttle[0];
   }
   engines[1].settle(engine_inputs(1));
+  hydraulics.settle(core_speeds_percent(), airframe.surfaces);
 }
 
 }  // namespace host::simulation

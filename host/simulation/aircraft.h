@@ -19,6 +19,7 @@
 #include "host/simulation/program_windows.h"
 #include "host/simulation/systems/air_controls.h"
 #include "host/simulation/systems/apu.h"
+#include "host/simulation/systems/brakes.h"
 #include "host/simulation/systems/cabin.h"
 #include "host/simulation/systems/electrics.h"
 #include "host/simulation/systems/engine.h"
@@ -27,6 +28,7 @@
 #include "host/simulation/systems/flight_recorder.h"
 #include "host/simulation/systems/fuel.h"
 #include "host/simulation/systems/ground_proximity.h"
+#include "host/simulation/systems/hydraulics.h"
 #include "host/simulation/systems/lights.h"
 #include "host/simulation/systems/stall_warning.h"
 
@@ -50,6 +52,8 @@ struct Aircraft {
   EngineStart engine_start;
   std::array<Engine, 2> engines;
   Apu apu;
+  Brakes brakes;
+  Hydraulics hydraulics;
   Electrics electrics;
   std::array<NavReceiver, 2> nav;
   AdfReceiver adf;
@@ -106,6 +110,7 @@ struct Aircraft {
  private:
   void tune_radios();
   void fly(double dt_s);
+  FlightControls governed_controls();
   AirframeInputs surroundings() const;
   EngineInputs engine_inputs(std::size_t engine) const;
   void put_in_the_air(const InFlight& where);
@@ -115,6 +120,9 @@ struct Aircraft {
   void follow_handing_over();
   void update_engine_start(double dt_s);
   void update_engines(double dt_s);
+  void update_brakes(double dt_s);
+  void update_hydraulics(double dt_s);
+  std::array<double, 2> core_speeds_percent() const;
   void update_fuel(double dt_s);
   void update_electrics(double dt_s);
   void update_navigation(double dt_s);

@@ -43,6 +43,7 @@ extern const SystemRows flight_director_rows;
 extern const SystemRows fuel_rows;
 extern const SystemRows lights_rows;
 extern const SystemRows navigation_rows;
+extern const SystemRows pedestal_rows;
 extern const SystemRows program_windows_rows;
 extern const SystemRows radios_rows;
 extern const SystemRows warnings_rows;

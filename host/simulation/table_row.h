@@ -20,12 +20,10 @@ const TableRow* find_row(std::span<const TableRow> rows, std::string_view name);
 
 /// The numbers that the host's own code works with. All others stand in the rows of their systems.
 namespace token {
-inline constexpr std::uint32_t panel_lights = 10;          ///< 0/1: on, the cockpit is seen by night
-inline constexpr std::uint32_t fuel_lever[] = {895, 896};  ///< 0 closed, 1 open; of engines 1 and 2
+inline constexpr std::uint32_t panel_lights = 10;  ///< 0/1: on, the cockpit is seen by night
 }  // namespace token
 namespace event {
 inline constexpr std::uint32_t panel_lights_toggle = 0x100D6;
-inline constexpr std::uint32_t fuel_lever_toggle[] = {0x103BE, 0x103BF};
 }  // namespace event
 
 }  // namespace host

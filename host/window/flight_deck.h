@@ -51,7 +51,6 @@ class FlightDeck {
   /// Sends a key event of the aircraft past the panel, as a keyboard command does.
   void send(std::uint32_t event);
   void toggle_panel_lights();
-  void move_fuel_lever(std::size_t engine);  ///< 1 or 2
   void toggle_pause();
   void change_zoom(double factor);
   void save_picture();

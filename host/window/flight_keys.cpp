@@ -30,8 +30,6 @@ void FlightDeck::take_key(const SDL_Keysym& key) {
     case SDLK_0:
     case SDLK_KP_0: views_.main().set_zoom(std::nullopt); break;
     case SDLK_d: toggle_panel_lights(); break;
-    case SDLK_F5: move_fuel_lever(1); break;
-    case SDLK_F6: move_fuel_lever(2); break;
     case SDLK_p: toggle_pause(); break;
     case SDLK_s:
     case SDLK_F12: save_picture(); break;
@@ -70,12 +68,6 @@ void FlightDeck::send(std::uint32_t event) {
   cockpit_.aircraft().key_event(event, 0);
   const std::string name(find_row(AircraftModel::events(), event)->name);
   journal_.call("event(\"" + name + "\")", cockpit_.seconds());
-}
-
-void FlightDeck::move_fuel_lever(std::size_t engine) {
-  send(event::fuel_lever_toggle[engine - 1]);
-  const bool open = cockpit_.aircraft().token(token::fuel_lever[engine - 1]) != 0;
-  notices_.add("Fuel lever " + std::to_string(engine) + (open ? " open" : " closed"), now());
 }
 
 // The main panels' faces follow, as they do for the switch on the panel.

@@ -28,7 +28,6 @@ constexpr std::array rows{
     HelpRow{"Drag", "Move a lever; elsewhere move the view"},
     HelpRow{"Flight", ""},
     HelpRow{"D", "Panel lights: day and night"},
-    HelpRow{"F5  F6", "Fuel levers of engines 1 and 2"},
     HelpRow{"P", "Pause"},
     HelpRow{"S  F12", "Save a picture of the screen"},
     HelpRow{"H  F1", "This page"},

@@ -85,8 +85,12 @@ struct Printer {
 
 }  // namespace
 
+Point middle_of(const GaugeHeader& gauge, const Dial& dial) {
+  return hub_of(gauge, dial.scales[0].needle) + dial.off;
+}
+
 void draw_dial(const Board& board, const Dial& dial) {
-  const DialFace face{hub_of(board.gauge, dial.scales[0].needle), dial.radius, dial.bezel};
+  const DialFace face{middle_of(board.gauge, dial), dial.radius, dial.bezel};
   const auto print_face = [&](Colour ink) {
     for (const Scale& scale : dial.scales) {
       const double rim = scale.rim == 0 ? dial.radius - rim_inset : scale.rim;
@@ -97,7 +101,12 @@ void draw_dial(const Board& board, const Dial& dial) {
       print(board.canvas, face.centre + word.by, word.text, {.size = word.size, .colour = ink});
     }
   };
-  meter(board.canvas, face, board.lighting, print_face, dial.boss);
+  const bool one_pivot = dial.off.x == 0 && dial.off.y == 0;
+  meter(board.canvas, face, board.lighting, print_face, one_pivot ? dial.boss : 0);
+  if (one_pivot) return;
+  for (const Scale& scale : dial.scales) {
+    dial_hub(board.canvas, hub_of(board.gauge, scale.needle), dial.boss);
+  }
 }
 
 }  // namespace artwork

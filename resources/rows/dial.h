@@ -72,13 +72,15 @@ struct Word {
   double size = 7;
 };
 
-/// A round instrument about the pivot of its first scale's needle.
+/// A round instrument about the pivot of its first scale's needle, or beside it.
 struct Dial {
   double radius;  ///< of the bezel's outer edge
   List<Scale, 2> scales;
   List<Word, 4> words = {};
   double boss = 4.6;  ///< under the needle; 0 where the needle has a cap of its own
   double bezel = 3.4;
+  /// Where the dial's middle lies from that pivot: two needles beside each other each have their own boss.
+  Point off = {};
 };
 
 }  // namespace artwork

@@ -31,6 +31,8 @@ void draw_ball(const Canvas& canvas, const Ball& ball, Point centre);
 
 /// A whole plate: paint, what its parts need of it, and its items.
 void draw_plate(const Board& board, std::span<const Item> items);
+/// The middle of a dial on its plate.
+Point middle_of(const GaugeHeader& gauge, const Dial& dial);
 void draw_dial(const Board& board, const Dial& dial);
 
 /// Where a control turns within its picture of that size.

@@ -71,7 +71,8 @@ INSTANTIATE_TEST_SUITE_P(Flows, ShippedFlow,
                                                   "4-generators", "5-night", "6-ready"}},
                                          Shipped{"engine_start",
                                                  {"1-cold-and-dark", "2-apu-on-line", "3-start-air",
-                                                  "4-both-running"}}),
+                                                  "4-both-running"}},
+                                         Shipped{"pedestal", {"1-parked", "2-flaps", "3-part-power"}}),
                          [](const auto& shipped) { return std::string(shipped.param.flow); });
 
 TEST(Circuit, IsFlownInCalmAirAndInLightWinds) {

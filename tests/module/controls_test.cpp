@@ -31,6 +31,16 @@ bool ends_with_one_of(std::string_view name, std::initializer_list<std::string_v
 /// A light under test is no control.
 bool is_test(std::string_view control) { return control.find("test") != std::string_view::npos; }
 
+/// Levers and pointers that stand where the host's answer puts them.
+const std::set<std::string> answered_by_the_host{"Hsi course_knob_down",
+                                                 "Hsi course_knob_up",
+                                                 "Airspeed selected_speed_knob_down",
+                                                 "Airspeed selected_speed_knob_up",
+                                                 "Thleft throttle_1_lever",
+                                                 "Thright throttle_2_lever",
+                                                 "Thright flap_lever_up",
+                                                 "Thright flap_lever_down"};
+
 TEST(Controls, EachMovesThePartItIsNamedAfter) {
   const std::set<std::string> printed_on_the_plate{"Lightsp fire_test_button",
                                                    "Cabalt standard_pressure_button",
@@ -67,9 +77,6 @@ TEST(Controls, EachMovesThePartItIsNamedAfter) {
       "megahertz_knob_down", "megahertz_knob_up",  "kilohertz_knob_down",
       "kilohertz_knob_up",   "set_adf_freq_100hz", "set_adf_freq_10hz",
       "set_adf_freq_1hz",    "set_adf_freq_0_1hz", "dme_test_button"};
-  const std::set<std::string> answered_by_the_host{"Hsi course_knob_down", "Hsi course_knob_up",
-                                                   "Airspeed selected_speed_knob_down",
-                                                   "Airspeed selected_speed_knob_up"};
   for (const Stimulus* control : controls()) {
     const rig::NamedPart* part = part_of(*control);
     const bool printed =
@@ -93,15 +100,16 @@ bool is_guard_of(std::string guard, std::string_view control) {
 }
 
 TEST(Controls, EachLeavesTheOtherControlsOfItsGaugeAlone) {
-  // The APU's master ends its start, the autothrottle its speed hold, a transponder that is off shows no ident, and there is one
-  // transmitter at a time.
+  // The APU's master ends its start, the autothrottle its speed hold, a transponder that is off shows no
+  // ident, there is one transmitter at a time, and armed dumpers are deployed at once.
   const auto goes_along = [](const Stimulus& control, const std::string& part) {
     const std::string text = control.text();
     return (text == "Apu master_switch" && part == "start_button") ||
            (text == "Apset autothrottle_button" && part == "airspeed_hold_button") ||
            (text.starts_with("Transponder mode_selector") && part == "ident_button") ||
            (text.starts_with("Micsel") && part.ends_with("microphone_button")) ||
-           (text.starts_with("Micsel") && part.ends_with("microphones_button"));
+           (text.starts_with("Micsel") && part.ends_with("microphones_button")) ||
+           (text == "Ldmain lift_dump_arm_switch" && part == "lift_dump_deployment_switch");
   };
   for (const Stimulus* control : controls()) {
     const rig::Gauge& gauge = gauge_of(*control);
@@ -124,6 +132,7 @@ TEST(Controls, ASideAnswersToItsOwnControlsAndTokens) {
       if (part.ends_with("duct_hot_light")) continue;     // a duct that heats up lights it any time
       if (part.ends_with("display")) continue;            // what it turns to may read the same
       if (part.ends_with("microphone_button")) continue;  // one transmitter at a time
+      if (part.ends_with("dumper_light")) continue;       // both throttles and both dumpers decide
       EXPECT_FALSE(sides::opposite(stimulus.name, part))
           << stimulus.text() << " moves " << place << ' ' << part;
       if (!stimulus.area && place != gauge) continue;
@@ -179,6 +188,13 @@ TEST(Controls, EachClickIsHeardOnce) {
       {"Selcall roll_out_announcement_button", {"", " other"}},
       {"Selcall welcome_announcement_button", {"push", "push other"}},
       {"Selcall ground_power_button", {"push other"}},
+      {"Thleft throttle_1_lever", {""}},  // levers that slide
+      {"Thright throttle_2_lever", {""}},
+      {"Thright flap_lever_up", {""}},
+      {"Thright flap_lever_down", {""}},
+      {"Thleft parking_brake_lever", {" other"}},  // heard as what they are
+      {"Thleft speed_brake_switch", {" other"}},
+      {"Vcthleft speed_brake_switch", {" other"}},
   };
   for (const Stimulus* control : controls()) {
     const rig::NamedPart* part = part_of(*control);
@@ -240,6 +256,19 @@ TEST(Controls, EachHasTheMovesOfItsKind) {
       {"Coltsw right_selector_check", {{0, 2}, {1, 2}, {2, 2}}},
       // Without a mode there is nothing to identify.
       {"Transponder ident_button", {{0, 0}, {0, 1}, {1, 0}}},
+      // Left of the centre, and right of it.
+      {"Thright pedestal_selector_switch_left", {{0, 1}, {1, 0}, {2, 0}}},
+      {"Thright pedestal_selector_switch_right", {{0, 2}, {1, 0}, {2, 0}}},
+      {"Vcthright pedestal_selector_switch_left", {{0, 1}, {1, 0}, {2, 0}}},
+      {"Vcthright pedestal_selector_switch_right", {{0, 2}, {1, 0}, {2, 0}}},
+      // Its lower position comes first.
+      {"Thright auxiliary_switch_up", {{0, 2}, {1, 0}, {2, 0}}},
+      {"Thright auxiliary_switch_down", {{0, 1}, {1, 0}, {2, 0}}},
+      {"Vcthright auxiliary_switch_up", {{0, 2}, {1, 0}, {2, 0}}},
+      {"Vcthright auxiliary_switch_down", {{0, 1}, {1, 0}, {2, 0}}},
+      // It cannot be armed at take-off thrust.
+      {"Thleft speed_brake_switch", {{0, 0}, {0, 1}, {1, 0}}},
+      {"Vcthleft speed_brake_switch", {{0, 0}, {0, 1}, {1, 0}}},
       // The left button moves a handle down, the right one up.
       {"Firesw left_fire_handle", {{0, 1}, {1, 0}, {1, 2}, {2, 1}}},
       {"Firesw apu_fire_handle", {{0, 1}, {1, 0}, {1, 2}, {2, 1}}},
@@ -248,7 +277,7 @@ TEST(Controls, EachHasTheMovesOfItsKind) {
   for (const Stimulus* control : controls()) {
     const rig::NamedPart* part = part_of(*control);
     if (part == nullptr || part->element->kind != ELEMENT_ICON) continue;
-    if (is_test(control->name)) continue;
+    if (is_test(control->name) || answered_by_the_host.contains(control->text())) continue;
     const f64 last = part->element->icon.image_count - 1.0;
     Moves expected = moves_of(control->name, part->name, last);
     const auto own = of_its_own.find(control->text());
@@ -317,12 +346,16 @@ TEST(Controls, ALightUnderTestShinesForTwoSecondsAndTestsProlongEachOther) {
 TEST(Controls, TheCursorSaysWhichWayAHalfTurns) {
   for (const Stimulus* control : controls()) {
     const rig::NamedPart* part = part_of(*control);
-    const bool lever =
-        part != nullptr && ends_with_one_of(part->name, {"lever", "switch", "mode_selector"});
-    const i32 expected = lever                             ? CURSOR_HAND
-                         : control->name.ends_with("up")   ? CURSOR_INCREASE
-                         : control->name.ends_with("down") ? CURSOR_DECREASE
-                                                           : CURSOR_HAND;
+    const bool lever = part != nullptr && part->name != "flap_lever" &&
+                       ends_with_one_of(part->name, {"lever", "switch", "mode_selector"});
+    // Pulled down, the flap lever gives more flap.
+    const bool turned_round = part != nullptr && part->name == "flap_lever";
+    const bool more = control->name.ends_with(turned_round ? "down" : "up");
+    const bool less = control->name.ends_with(turned_round ? "up" : "down");
+    const i32 expected = lever  ? CURSOR_HAND
+                         : more ? CURSOR_INCREASE
+                         : less ? CURSOR_DECREASE
+                                : CURSOR_HAND;
     EXPECT_EQ(control->area->area->cursor, expected) << control->text();
   }
 }

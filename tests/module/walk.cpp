@@ -11,25 +11,25 @@ namespace {
 
 using namespace tarnvale;
 
-/// How the units of tokens begin that are 0 or 1, or lie between.
-constexpr bool is_one_of(std::string_view unit, std::initializer_list<std::string_view> beginnings) {
-  return std::ranges::any_of(beginnings, [&](auto each) { return unit.starts_with(each); });
-}
-
 struct Token {
   u32 number;
-  const char* name;
-  bool on_off;
+  const char *name, *unit;
+
+  bool is(std::string_view kind) const { return std::string_view(unit).starts_with(kind); }
+  bool on_off() const {
+    return is("0/1") || is("0 closed") || is("0 released") || std::string_view(unit) == "0..1";
+  }
+  bool lever() const { return is("0..16384"); }
 };
 
 /// All but the clock.
 constexpr Token tokens[] = {
-#define TOKEN(number, name, unit) {number, #name, is_one_of(unit, {"0/1", "0 closed", "0..1"})},
+#define TOKEN(number, name, unit) {number, #name, unit},
 #define EVENT(number, name)
 #include "module/tokens.inc"
 #undef TOKEN
 #undef EVENT
-};
+};  // namespace
 
 /// What a gauge shows: the values of its parts, and of a text the letters as a number.
 using Picture = std::vector<f64>;
@@ -104,8 +104,11 @@ class Walk {
 
   void randomize(const Token& token) {
     constexpr f64 values[] = {0, 1, 5, 9, 12, 30, 60, 75, 84, 110, 3000, 9000, 22000, 40000};
+    constexpr f64 travel[] = {0,     50,    1500,  3000,  5000,  7000, 9000,
+                              11000, 13000, 14500, 15500, 16300, 22000};
     if (token.number == token::clock_seconds) return;
-    host_.tokens[token.number] = values[random(token.on_off ? 2 : std::size(values))];
+    const auto pick = [&](auto& of) { return of[random(token.on_off() ? 2 : std::size(of))]; };
+    host_.tokens[token.number] = token.lever() ? pick(travel) : pick(values);
   }
 
   /// The start page and the buttons for windows are no part of the aircraft.

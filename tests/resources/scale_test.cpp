@@ -84,7 +84,7 @@ TEST(Scales, KeepTheirFiguresOnTheFace) {
     for (const DialOf& each : all_dials()) {
       const Canvas canvas(plate_of(each.gauge).size, density, 0);
       draw_dial({canvas, each.gauge}, each.dial);
-      const Point pivot = hub_of(each.gauge, each.dial.scales[0].needle);
+      const Point pivot = middle_of(each.gauge, each.dial);
       for (const Box& room : canvas.words()) {
         const double x = std::max(std::abs(room.x - pivot.x), std::abs(room.right() - pivot.x));
         const double y = std::max(std::abs(room.y - pivot.y), std::abs(room.bottom() - pivot.y));

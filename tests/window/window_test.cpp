@@ -162,13 +162,6 @@ TEST_F(InAWindow, ThePanelLightsComeOnAndTheHelpLiesOverThePanel) {
   EXPECT_EQ(leave(), 0);
 }
 
-TEST_F(InAWindow, TheFuelLeversMoveWithTheirKeys) {
-  screen->hands("key F5 sleep 0.1 key F6");
-  EXPECT_TRUE(recorded("event(\"fuel_lever_1_toggle\")"));
-  EXPECT_TRUE(recorded("event(\"fuel_lever_2_toggle\")"));
-  EXPECT_EQ(leave(), 0);
-}
-
 TEST_F(InAWindow, PanelsOpenWithKeysAndTearOff) {
   screen->hands("key 6");
   EXPECT_TRUE(recorded("open_window(505)"));

@@ -64,7 +64,7 @@ GroundForces Airframe::ground_forces(double dt_s, const AirframeInputs& inputs) 
   }
   return gear.update(dt_s, {inputs.mass.centre_m, height_m, attitude.to_body({0.0, 0.0, 1.0}),
                             attitude.to_body(velocity_mps), rate_rad_per_s, surfaces.gear, inputs.brake,
-                            surfaces.steering_rad});
+                            surfaces.steering_rad, inputs.antiskid});
 }
 
 void Airframe::slice(double dt_s, const AirframeInputs& inputs) {

@@ -22,6 +22,7 @@ struct AirframeInputs {
   MassProperties mass;
   std::array<double, 2> thrust_n{};
   std::array<double, 2> brake{};  ///< left and right: 0..1
+  bool antiskid = true;
   double density_kg_per_m3 = 1.225;
   double sound_mps = 340.294;
   Vector wind_mps;  ///< over the ground: north, east, down

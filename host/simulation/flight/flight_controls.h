@@ -20,10 +20,11 @@ struct FlightControls {
   std::array<double, 2> throttle{};  ///< engines 1 and 2: 0 idle .. 1 take-off
   std::size_t flap_detent = 0;       ///< index in flap_detents_deg
   bool gear_down = true;
-  double speed_brake = 0.0;  ///< 0 shut .. 1 open
-  bool lift_dumpers_out = false;
-  std::array<double, 2> brake{};  ///< left and right pedal: 0 .. 1
-  double tiller = 0.0;            ///< -1 left .. 1 right
+  double speed_brake = 0.0;         ///< 0 shut .. 1 open
+  bool lift_dumpers_out = false;    ///< they follow on the ground alone
+  bool lift_dumpers_armed = false;  ///< they run out by themselves with the throttles closed
+  std::array<double, 2> brake{};    ///< left and right pedal: 0 .. 1
+  double tiller = 0.0;              ///< -1 left .. 1 right
   bool parking_brake_set = false;
 
   /// The same within the ranges above: a ratio beyond its end stands at it, one that is no number at 0.

@@ -29,7 +29,7 @@ constexpr double bottom_spring_n_per_m = 4e6;
 constexpr double carcass_spring_n_per_m = 1.0e6;  // along the wheel
 constexpr double carcass_damping_s = 0.06;        // damper to spring
 constexpr double relaxation_m = 0.7;
-constexpr double grip = 0.7, antiskid_grip = 0.5, rolling_resistance = 0.015;
+constexpr double grip = 0.7, braking_grip = 0.5, sliding_grip = 0.3, rolling_resistance = 0.015;
 
 /// A point of the aircraft against the ground.
 struct Contact {
@@ -73,9 +73,12 @@ double bristle_n(double& stretch_m, double slip_mps, double spring_n_per_m, doub
   return std::clamp(-spring_n_per_m * (stretch_m + carcass_damping_s * slip_mps), -most_n, most_n);
 }
 
-double along_limit_n(const Leg& leg, double load_n, const GroundMotion& m) {
-  const double pedal = leg.pedal < 0 ? 0.0 : m.brake[static_cast<std::size_t>(leg.pedal)];
-  return std::min(leg.brake_n * pedal, antiskid_grip * load_n) + rolling_resistance * load_n;
+/// What the brake can hold.
+double brake_limit_n(const Leg& leg, double load_n, const GroundMotion& m) {
+  if (leg.pedal < 0) return 0.0;
+  const double wanted_n = leg.brake_n * m.brake[static_cast<std::size_t>(leg.pedal)];
+  if (wanted_n <= braking_grip * load_n) return wanted_n;
+  return (m.antiskid ? braking_grip : sliding_grip) * load_n;
 }
 
 Vector tyre_force_n(double dt_s, Tyre& tyre, const Leg& leg, const Contact& c, const Rolling& wheel,
@@ -124,9 +127,15 @@ GroundForces LandingGear::update(double dt_s, const GroundMotion& m) {
       continue;
     }
     const Rolling wheel = rolling_of(m.down, i == 0 ? m.steering_rad : 0.0);
-    add(sum, c,
-        m.down * -load_n[i] +
-            tyre_force_n(dt_s, tyres[i], leg, c, wheel, load_n[i], along_limit_n(leg, load_n[i], m)));
+    const double brake_n = brake_limit_n(leg, load_n[i], m);
+    const double along_most_n = brake_n + rolling_resistance * load_n[i];
+    const Vector tyre_n = tyre_force_n(dt_s, tyres[i], leg, c, wheel, load_n[i], along_most_n);
+    if (leg.pedal >= 0) {
+      const double slowed_w = -dot(tyre_n, wheel.along) * dot(c.velocity_mps, wheel.along);
+      braked_j[static_cast<std::size_t>(leg.pedal)] +=
+          std::max(0.0, slowed_w) * brake_n / along_most_n * dt_s;
+    }
+    add(sum, c, m.down * -load_n[i] + tyre_n);
     sum.main_wheel_down = sum.main_wheel_down || i > 0;
   }
   if (m.height_m < 20.0) add_bare_points(sum, m);

@@ -11,8 +11,9 @@
 ///           main wheels and 3 for the nose wheel, which makes the aircraft run straight by itself
 ///
 /// so that a standing aircraft is held by springs and does not creep, and a rolling one corners by its
-/// slip angle. The antiskid lets a brake use 0.5 of its wheel's load at most. Without gear the fuselage,
-/// tail and wing tips slide on friction alone.
+/// slip angle. A braked wheel holds 0.5 of its load at most: the antiskid keeps it
+/// there, without it the wheel locks and slides on 0.3. Without gear the fuselage, tail and wing tips slide on
+/// friction alone.
 #pragma once
 
 #include <array>
@@ -30,6 +31,7 @@ struct GroundMotion {
   std::array<double, 3> gear;   ///< nose, left, right: 0 up .. 1 locked
   std::array<double, 2> brake;  ///< left, right: 0..1
   double steering_rad;
+  bool antiskid = true;
 };
 
 struct GroundForces {
@@ -44,7 +46,8 @@ struct Tyre {
 
 struct LandingGear {
   std::array<Tyre, 3> tyres;
-  std::array<double, 3> load_n{};  ///< nose, left, right
+  std::array<double, 3> load_n{};    ///< nose, left, right
+  std::array<double, 2> braked_j{};  ///< heat in the left and right brakes, until someone takes it
 
   GroundForces update(double dt_s, const GroundMotion& motion);
 };

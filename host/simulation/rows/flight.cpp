@@ -7,7 +7,6 @@
 namespace host::simulation {
 namespace {
 
-constexpr double parking_brake_full = 32767.0;
 constexpr double control_full = 16384.0;
 constexpr double gear_down = 16383.0;
 
@@ -30,6 +29,17 @@ double slip_ball_pixels(const Aircraft& aircraft) {
   return std::clamp(2.0 * lean_deg, -15.0, 15.0);
 }
 
+// As far as the dials' scales go; the jacks have a degree more at their upper end.
+double stabiliser(const Aircraft& aircraft) {
+  return std::clamp(aircraft.airframe.surfaces.stabiliser_rad * degrees_per_radian, -3.0, 9.0) / 10.0;
+}
+
+// The lever's: lever pictures and calls go by it, from detent to detent, and the indicator shows it.
+double flap_lever(std::size_t detent) {
+  constexpr double detent_step = 3277.0;
+  return std::min(control_full, detent_step * static_cast<double>(detent));
+}
+
 constexpr TokenRow tokens[] = {
     {{60, "on_ground", "0/1"}, [](const Aircraft& a) { return on_off(a.flight.on_ground); }},
     {{65, "vertical_speed", "1/256 metres/second"},
@@ -44,25 +54,17 @@ constexpr TokenRow tokens[] = {
      [](const Aircraft& a) { return magnetic_heading_deg(a.flight); }},
     {{83, "standby_compass", "degrees magnetic, as the compass shows"},
      [](const Aircraft& a) { return a.standby_compass.reading_deg; }},
-    {{128, "throttle_1", "0..16384"},
-     [](const Aircraft& a) { return control_full * std::clamp(a.controls.throttle[0], 0.0, 1.0); }},
-    {{323, "parking_brake", "0 released, 32767 set"},
-     [](const Aircraft& a) { return a.controls.parking_brake_set ? parking_brake_full : 0.0; }},
     {{328, "flap_position", "0..16384"},
-     [](const Aircraft& a) { return control_full * a.airframe.surfaces.flap_deg / full_flap_deg; }},
+     [](const Aircraft& a) { return flap_lever(a.controls.flap_detent); }},
     {{332, "nose_gear_position", "0..16383"},
      [](const Aircraft& a) { return gear_down * a.airframe.surfaces.gear[0]; }},
+    {{783, "stabiliser", "10 degrees, nose up positive"}, stabiliser},
     {{614, "radio_altitude", "metres"},
      [](const Aircraft& a) { return a.flight.height_ft * metres_per_foot; }},
 };
 
-constexpr EventRow events[] = {
-    {{0x100D8, "parking_brake_toggle", ""},
-     [](Aircraft& a, std::uint32_t) { a.controls.parking_brake_set = !a.controls.parking_brake_set; }},
-};
-
 }  // namespace
 
-constinit const SystemRows flight_rows{tokens, events};
+constinit const SystemRows flight_rows{tokens, {}};
 
 }  // namespace host::simulation

@@ -29,13 +29,13 @@ constexpr TokenRow tokens[] = {
     {{305, "centre_tank_quantity", "gallons"},
      [](const Aircraft& a) { return gallons(a.fuel.centre_kg); }},
     {{386, "total_fuel", "gallons"}, [](const Aircraft& a) { return gallons(a.fuel.total_kg()); }},
-    {{token::fuel_lever[0], "fuel_lever_1", "0 closed, 1 open"}, lever<0>},
-    {{token::fuel_lever[1], "fuel_lever_2", "0 closed, 1 open"}, lever<1>},
+    {{895, "fuel_lever_1", "0 closed, 1 open"}, lever<0>},
+    {{896, "fuel_lever_2", "0 closed, 1 open"}, lever<1>},
 };
 
 constexpr EventRow events[] = {
-    {{event::fuel_lever_toggle[0], "fuel_lever_1_toggle", ""}, toggle_lever<0>},
-    {{event::fuel_lever_toggle[1], "fuel_lever_2_toggle", ""}, toggle_lever<1>},
+    {{0x103BE, "fuel_lever_1_toggle", ""}, toggle_lever<0>},
+    {{0x103BF, "fuel_lever_2_toggle", ""}, toggle_lever<1>},
     {{0x10324, "boost_pump_1_toggle", ""}, toggle_pump<0>},
     {{0x10325, "boost_pump_2_toggle", ""}, toggle_pump<1>},
     {{0x10424, "crossfeed_toggle", ""}, [](Aircraft& a, std::uint32_t) { a.fuel.toggle_crossfeed(); }},

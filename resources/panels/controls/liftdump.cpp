@@ -1,0 +1,32 @@
+/// Lift-dumper lights: left and right, each with what its dumper does.
+#include "resources/art.h"
+#include "resources/kit/lamp.h"
+
+namespace artwork::panels::liftdump {
+
+constexpr Lens out{palette::lamp_amber, "OUT", 7};
+
+/// Dark, off, armed, out.
+constexpr Lens lenses[] = {out, {palette::lamp_white, "OFF", 7}, {palette::lamp_green, "ARM", 7}, out};
+
+/// The records begin the right picture a pixel higher than the left one; their lamps stand level.
+void draw_light(const Canvas& canvas, int image) {
+  const Point middle = whole(canvas.size()).centre();
+  lamp(canvas, {middle.x - 12.5, middle.y - 12.5, 25, 25}, lenses[image], image > 0);
+}
+
+constexpr Item items[] = {
+    Legend{at("left_lift_dumper_light", 0, -13.5), "L", 6.5},
+    Legend{at("right_lift_dumper_light", 0, -13.5), "R", 6.5},
+    Legend{middle(-7), "LIFT DUMP", 7},
+};
+
+constexpr Art art[] = {
+    plate(46, items),
+    drawn_art("right_lift_dumper_light", {25, 27}, draw_light),
+    drawn_art("left_lift_dumper_light", {25, 25}, draw_light),
+};
+
+constinit Unit unit{"Liftdump", art};
+
+}  // namespace artwork::panels::liftdump
