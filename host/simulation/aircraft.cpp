@@ -3,6 +3,13 @@
 #include <cmath>
 
 namespace host::simulation {
+namespace {
+
+double true_heading_rad(const InFlight& where) {
+  return (where.heading_deg + magnetic_variation_deg) * radians_per_degree;
+}
+
+}  // namespace
 
 Aircraft::Aircraft(int steps_per_second) {
   clock.steps_per_second = steps_per_second;
@@ -171,8 +178,7 @@ void Aircraft::put_in_the_air(const InFlight& where) {
 
 Trim Aircraft::trim_for(const InFlight& where) {
   const double mach = where.mach > 0.0 ? where.mach : mach_at(where.airspeed_kt, air.pressure_hpa);
-  const double heading_rad = (where.heading_deg + magnetic_variation_deg) * radians_per_degree;
-  const Trim trim = trim_level(airframe, surroundings(), mach * air.sound_mps, heading_rad);
+  const Trim trim = trim_level(airframe, surroundings(), mach * air.sound_mps, true_heading_rad(where));
   controls.pitch_trim = trim_for_stabiliser(trim.stabiliser_rad);
   airframe.report(flight);
   air.update(flight);
@@ -183,14 +189,26 @@ bool Aircraft::place_in_flight(const InFlight& where) {
   put_in_the_air(where);
   const Trim trim = trim_for(where);
   start_engines_at_once(trim.thrust_n);
-  // The crew sets the thrust for the minutes to come, which burn weight away, not for the first one.
-  const double burned_kg =
-      200.0 / 3600.0 * (engines[0].fuel_flow_kg_per_h + engines[1].fuel_flow_kg_per_h);
-  const double thrust_n = trim.thrust_n * (1.0 - burned_kg / mass_properties(fuel.load()).mass_kg);
+  const double thrust_n = thrust_for_minutes(where);
   start_engines_at_once(thrust_n);
   update_systems(0.0);
   update_navigation(0.0);
   return trim.found && std::abs(engines[0].thrust_n * 2.0 - thrust_n) < 1.0;
+}
+
+// Fuel burned is weight gone, and less weight needs less thrust: with the levers left alone it would climb
+// ever faster. The crew therefore sets what the aircraft will need some minutes on; it sinks a little
+// first and is back when ten minutes are over.
+double Aircraft::thrust_for_minutes(const InFlight& where) const {
+  constexpr double ahead_s = 260.0;
+  AirframeInputs inputs = surroundings();
+  FuelLoad load = fuel.load();
+  for (double* tank_kg : {&load.left_kg, &load.right_kg}) {
+    *tank_kg -= ahead_s / 3600.0 * engines[0].fuel_flow_kg_per_h;
+  }
+  inputs.mass = mass_properties(load);
+  Airframe lighter = airframe;
+  return trim_level(lighter, inputs, airframe.airspeed_mps, true_heading_rad(where)).thrust_n;
 }
 
 void Aircraft::start_engines_at_once(double thrust_n) {

@@ -77,6 +77,7 @@ struct Aircraft {
   EngineInputs engine_inputs(std::size_t engine) const;
   void put_in_the_air(const InFlight& where);
   Trim trim_for(const InFlight& where);
+  double thrust_for_minutes(const InFlight& where) const;
   void start_engines_at_once(double thrust_n);
   void update_systems(double dt_s);
   void update_engine_start(double dt_s);
