@@ -50,7 +50,7 @@ AirframeInputs Aircraft::surroundings() const {
 }
 
 void Aircraft::fly(double dt_s) {
-  airframe.surfaces.update(dt_s, controls);
+  airframe.surfaces.update(dt_s, controls, autopilot.servos.deflections);
   if (chocks_in && controls.parking_brake_set) {
     chocks_in = false;
     airframe.stand_at(airframe.position_m, airframe.attitude.angles().heading_rad,
@@ -124,12 +124,18 @@ void Aircraft::update_electrics(double dt_s) {
             });
 }
 
+bool Aircraft::has_avionics() const { return electrics.avionics_on && electrics.has_dc(); }
+
+Sensed Aircraft::sensed() const {
+  return {flight, air, nav[0], airframe.surfaces.flap_deg, hsi_on_area_navigation, has_avionics()};
+}
+
 void Aircraft::update_navigation(double dt_s) {
-  const bool powered = electrics.avionics_on && electrics.has_dc();
+  const bool powered = has_avionics();
   for (NavReceiver& receiver : nav) receiver.update(flight, powered);
   adf.update(flight, powered);
   marker = powered ? marker_overhead(flight) : 0;
-  if (powered) flight_director.update(dt_s, flight, air.indicated_altitude_ft, nav[0], selections);
+  autopilot.update(dt_s, sensed(), controls);
 }
 
 void Aircraft::start_both_engines() {
@@ -158,6 +164,7 @@ void Aircraft::place_on_runway() {
                     mass_properties(fuel.load()));
   airframe.report(flight);
   update_systems(0.0);
+  autopilot.reset(sensed());
   update_navigation(0.0);
 }
 
@@ -192,6 +199,7 @@ bool Aircraft::place_in_flight(const InFlight& where) {
   const double thrust_n = thrust_for_minutes(where);
   start_engines_at_once(thrust_n);
   update_systems(0.0);
+  autopilot.reset(sensed());
   update_navigation(0.0);
   return trim.found && std::abs(engines[0].thrust_n * 2.0 - thrust_n) < 1.0;
 }

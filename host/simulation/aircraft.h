@@ -3,15 +3,13 @@
 
 #include <array>
 
-#include "host/simulation/autopilot/modes.h"
-#include "host/simulation/autopilot/selections.h"
+#include "host/simulation/autopilot/autopilot.h"
 #include "host/simulation/base/clock.h"
 #include "host/simulation/flight/air_data.h"
 #include "host/simulation/flight/airframe.h"
 #include "host/simulation/flight/flight_controls.h"
 #include "host/simulation/flight/flight_state.h"
 #include "host/simulation/flight/trim.h"
-#include "host/simulation/navigation/flight_director.h"
 #include "host/simulation/navigation/receivers.h"
 #include "host/simulation/placement.h"
 #include "host/simulation/program_windows.h"
@@ -45,9 +43,7 @@ struct Aircraft {
   AdfReceiver adf;
   int marker = 0;                       ///< as marker_overhead()
   bool hsi_on_area_navigation = false;  ///< instead of receiver 1
-  Selections selections;
-  AutopilotModes autopilot;
-  FlightDirector flight_director;
+  Autopilot autopilot;
   bool cabin_door_open = false;
   ProgramWindows windows;
 
@@ -59,6 +55,9 @@ struct Aircraft {
 
   /// What the automatic start does: battery, fuel levers, ignition and both starters.
   void start_both_engines();
+
+  /// What the autopilot's computers see.
+  Sensed sensed() const;
 
   /// Puts both engines at a warm idle with battery and avionics on, as after a start some
   /// minutes ago.
@@ -73,6 +72,7 @@ struct Aircraft {
 
  private:
   void fly(double dt_s);
+  bool has_avionics() const;
   AirframeInputs surroundings() const;
   EngineInputs engine_inputs(std::size_t engine) const;
   void put_in_the_air(const InFlight& where);

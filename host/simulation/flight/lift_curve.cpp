@@ -61,6 +61,10 @@ Lift upright_lift(double line, double slope, double greatest, double angle_of_at
           0.5 + 0.5 * smooth(beyond_rad / break_rad)};
 }
 
+double greatest_lift(double mach, const FlapEffect& flaps) {
+  return flaps.greatest_lift * on_curve(greatest_lift_with_mach, mach);
+}
+
 }  // namespace
 
 FlapEffect flap_effect(double flap_deg) {
@@ -79,10 +83,14 @@ double lift_slope(double mach) {
   return low_speed_slope / std::sqrt(1.0 - 0.5 * limited * limited);
 }
 
+double angle_of_attack_rad(double part_of_greatest, double mach, const FlapEffect& flaps) {
+  return (part_of_greatest * greatest_lift(mach, flaps) - flaps.lift_at_zero) / lift_slope(mach);
+}
+
 Lift wing_lift(double angle_of_attack_rad, double mach, const FlapEffect& flaps) {
   const double slope = lift_slope(mach);
   const double line = flaps.lift_at_zero + slope * angle_of_attack_rad;
-  const double greatest = flaps.greatest_lift * on_curve(greatest_lift_with_mach, mach);
+  const double greatest = greatest_lift(mach, flaps);
   if (line >= 0.0) return upright_lift(line, slope, greatest, angle_of_attack_rad);
   const Lift mirrored = upright_lift(-line, slope, inverted_ratio * greatest, -angle_of_attack_rad);
   return {-mirrored.coefficient, line, mirrored.separated};
