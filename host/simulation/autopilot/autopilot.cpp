@@ -29,24 +29,22 @@ void Autopilot::toggle(const Sensed& sensed, const FlightControls& hand) {
 }
 
 void Autopilot::reset(const Sensed& sensed) {
-  modes.engaged = modes.approach = false;
+  modes.engaged = false;
   servos = {};
   autothrottle.start(sensed);
   director.start(sensed);
 }
 
-void Autopilot::end_what_cannot_go_on(const Sensed& sensed, const FlightControls& hand) {
+void Autopilot::keep_what_can_go_on(const Sensed& sensed, const FlightControls& hand) {
   if (!can_fly(sensed, hand, 50.0, 30.0)) modes.engaged = false;
   const bool beam = sensed.nav.localizer && sensed.nav.glide_slope;
-  if (!beam || sensed.flight.on_ground) modes.approach = false;
-  if (!sensed.powered) {
-    modes.lateral = LateralMode::level;
-    modes.altitude_hold = false;
-  }
+  modes.approach = beam && (modes.approach || modes.approach_armed);
+  if (sensed.flight.on_ground) modes.arm_approach(false);
+  if (!sensed.powered) modes.forget();
 }
 
 void Autopilot::update(double dt_s, const Sensed& sensed, FlightControls& controls) {
-  end_what_cannot_go_on(sensed, controls);
+  keep_what_can_go_on(sensed, controls);
   if (sensed.powered) director.update(dt_s, modes, selections, sensed);
   if (modes.engaged) {
     servos.hold(dt_s, director.vertical.pitch_rad, director.lateral.bank_rad, sensed,

@@ -29,7 +29,7 @@ struct Autopilot {
   void update(double dt_s, const Sensed& sensed, FlightControls& controls);
 
  private:
-  void end_what_cannot_go_on(const Sensed& sensed, const FlightControls& hand);
+  void keep_what_can_go_on(const Sensed& sensed, const FlightControls& hand);
 };
 
 }  // namespace host::simulation

@@ -6,7 +6,7 @@ namespace {
 constexpr double usual_climb_fpm = 1500.0;
 
 bool chosen_sideways(const AutopilotModes& modes) {
-  return modes.engaged || modes.approach || modes.lateral != LateralMode::level;
+  return modes.engaged || modes.lateral != LateralMode::level;
 }
 
 bool chosen_up_and_down(const AutopilotModes& modes) {
@@ -14,7 +14,6 @@ bool chosen_up_and_down(const AutopilotModes& modes) {
 }
 
 LateralMode lateral_mode(const AutopilotModes& modes, const NavReceiver& nav) {
-  if (modes.approach) return LateralMode::navigation;
   if (chosen_sideways(modes)) return modes.lateral;
   return nav.localizer ? LateralMode::navigation : LateralMode::heading;
 }

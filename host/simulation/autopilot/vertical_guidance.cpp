@@ -120,11 +120,12 @@ double VerticalGuidance::wanted_climb_mps(Selections& selections, const Sensed& 
 void VerticalGuidance::follow(double dt_s, const Sensed& sensed) {
   constexpr double at_once = 1.1, sum_per_s = 0.3;
   // A sum that runs away from the pitch really flown would have to run back first.
-  constexpr double follows_s = 8.0;
+  constexpr double follows_s = 4.0, loose_rad = 1.0 * radians_per_degree;
   const double path_rad = climb_mps_ / speed_mps(sensed);
   missing_rad = path_rad - climb_now_mps(sensed) / speed_mps(sensed);
   const double unflown_rad = sensed.flight.attitude.pitch_rad - pitch_rad;
-  pitch_sum_rad_ += (sum_per_s * missing_rad + unflown_rad / follows_s) * dt_s;
+  const double apart_rad = unflown_rad - std::clamp(unflown_rad, -loose_rad, loose_rad);
+  pitch_sum_rad_ += (sum_per_s * missing_rad + apart_rad / follows_s) * dt_s;
   pitch_sum_rad_ = std::clamp(pitch_sum_rad_, lowest_rad, highest_rad);
   const double wanted_rad = path_rad + pitch_sum_rad_ + at_once * missing_rad + turn_pitch_rad(sensed);
   const double most_rad = std::min(highest_rad, highest_pitch_rad(sensed));

@@ -3,15 +3,15 @@
 /// Each of them asks for a vertical speed w, which changes by at most 0.08 g:
 ///   wheel     the selected vertical speed
 ///   altitude  the wheel's, toward the selected altitude, until its capture: then
-///             w = e / 5 s close to it and sqrt(2 * 0.05 g e) farther away, e being what is left to go
-///   slope     w = -ground speed * tan(3 degrees) - e / 6 s, e being the height above it, which is
+///             w = e / 6 s close to it and sqrt(2 * 0.05 g e) farther away, e being what is left to go
+///   slope     w = -ground speed * tan(3 degrees) - e / 4.5 s, e being the height above it, which is
 ///             the deviation times the distance that the radio height tells
-/// and what is missing of the path angle, (w - climb) / V, moves the pitch: 0.8 of it at once, the rest by a
-/// sum at 0.25 a second. In a turn the wing needs 1/cos(bank) of its lift, at 150 kt some 13 degrees more
-/// angle of attack for each whole weight. The pitch keeps between 10 degrees down and 20 up, and
-/// below what would ask the wing for more than 0.78 of its greatest lift, 1.13 times its stalling speed.
+/// The pitch is the path's own, w / V, and 1.1 of what is still missing of that, and its sum at 0.3 a second.
+/// In a turn the wing carries 1/cos(bank) of the weight: at 150 kt 0.22 radians of angle of attack for a whole
+/// one. The pitch keeps between 10 degrees down and 20 up, and below what would take the wing beyond
+/// 0.78 of its greatest lift, which is 1.13 times the stalling speed: then height gives way, not speed.
 ///
-/// Check value: 1,500 ft/min end 66 m (218 ft) before the altitude.
+/// Check value: 1,500 ft/min begin to end 59 m (194 ft) before the altitude.
 #pragma once
 
 #include "host/simulation/autopilot/modes.h"
