@@ -116,6 +116,17 @@ TEST(Autopilot, Goes_to_the_selected_altitude_at_the_wheels_rate_and_turns_the_w
   }
 }
 
+TEST(FlightDirector, Leads_to_an_altitude_chosen_by_hand_at_the_usual_rate) {
+  Aircraft aircraft = flying(quick);
+  aircraft.autopilot.selections.altitude_ft = 9000.0;
+  run(aircraft, 2.0);
+  EXPECT_EQ(token(aircraft, 120), 0.0) << "the wheel is nobody's yet";
+  send(aircraft, {"altitude_hold_on"});
+  run(aircraft, 2.0);
+  EXPECT_EQ(token(aircraft, 120), 1500.0);
+  EXPECT_GT(aircraft.autopilot.director.pitch_deg, pitch_deg(aircraft) + 2.0);
+}
+
 TEST(Autopilot, Without_an_altitude_it_holds_the_wheels_climb_from_the_present_one_on) {
   Aircraft aircraft = flying(quick);
   aircraft.controls.throttle = {0.9, 0.9};

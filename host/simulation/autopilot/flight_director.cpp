@@ -28,7 +28,9 @@ void FlightDirector::start(const Sensed& sensed) {
 void FlightDirector::update(double dt_s, AutopilotModes& modes, Selections& selections,
                             const Sensed& sensed) {
   lateral.update(dt_s, lateral_mode(modes, sensed.nav), sensed, selections.heading_bug_deg);
-  if (chosen_up_and_down(modes)) {
+  if (chosen_up_and_down(modes) != chosen_up_and_down_) vertical.choose_again();
+  chosen_up_and_down_ = chosen_up_and_down(modes);
+  if (chosen_up_and_down_) {
     vertical.update(dt_s, modes, selections, sensed, lateral.on_course);
   } else {
     AutopilotModes usual = modes;

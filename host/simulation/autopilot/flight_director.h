@@ -23,6 +23,9 @@ struct FlightDirector {
 
   /// May turn modes off that have ended, and the vertical speed's wheel.
   void update(double dt_s, AutopilotModes& modes, Selections& selections, const Sensed& sensed);
+
+ private:
+  bool chosen_up_and_down_ = false;
 };
 
 }  // namespace host::simulation

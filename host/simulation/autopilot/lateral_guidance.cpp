@@ -114,6 +114,10 @@ LateralGuidance::Turn LateralGuidance::wanted_turn(const Sensed& sensed, double 
 /// The bank at which it does not turn, from the bank and the turn that it has.
 void LateralGuidance::learn_standing_bank(double dt_s, const Sensed& sensed) {
   constexpr double learned_s = 15.0, most_rad = 6.0 * radians_per_degree;
+  if (sensed.flight.on_ground) {
+    standing_bank_rad_ = 0.0;
+    return;
+  }
   const EulerAngles& attitude = sensed.flight.attitude;
   const Vector& rate = sensed.flight.rate_rad_per_s;
   const double turn_rad_per_s =

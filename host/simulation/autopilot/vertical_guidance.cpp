@@ -37,8 +37,9 @@ double climb_for_slope_mps(const Sensed& sensed, double most_mps) {
 
 /// From above at once, from below when the slope has come down to the aircraft.
 bool captures_slope(const Sensed& sensed, double climb_mps) {
+  constexpr double nearly = -0.1;
   const double above = sensed.nav.slope_deviation;
-  return std::abs(above) < 1.0 && (above >= 0.0 || climb_for_slope_mps(sensed, 100.0) < climb_mps);
+  return std::abs(above) < 1.0 && (above > nearly || climb_for_slope_mps(sensed, 100.0) < climb_mps);
 }
 
 /// What a turn adds to the angle of attack.
@@ -60,9 +61,14 @@ double highest_pitch_rad(const Sensed& sensed) {
 
 }  // namespace
 
-void VerticalGuidance::start(const Sensed& sensed) {
+void VerticalGuidance::choose_again() {
   mode = VerticalMode::vertical_speed;
   captured = false;
+  goal_ft_ = -1.0;
+}
+
+void VerticalGuidance::start(const Sensed& sensed) {
+  choose_again();
   climb_mps_ = climb_now_mps(sensed);
   pitch_rad = std::clamp(sensed.flight.attitude.pitch_rad, lowest_rad, highest_rad);
   pitch_sum_rad_ = pitch_rad - climb_mps_ / speed_mps(sensed) - turn_pitch_rad(sensed);

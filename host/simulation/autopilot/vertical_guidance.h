@@ -31,7 +31,10 @@ struct VerticalGuidance {
   /// As from this moment: the aircraft's own pitch and climb.
   void start(const Sensed& sensed);
 
-  /// On its way to an altitude it turns the wheel toward it, there to zero; leaving any other mode it
+  /// Takes the modes of the next update as freshly chosen.
+  void choose_again();
+
+  /// On its way to an altitude it turns the wheel toward it, there to zero; leaving the slope it
   /// sets the wheel to the present climb. `on_course` lets the slope be captured.
   void update(double dt_s, AutopilotModes& modes, Selections& selections, const Sensed& sensed,
               bool on_course);
