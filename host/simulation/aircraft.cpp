@@ -30,6 +30,7 @@ Aircraft::Aircraft(int steps_per_second) {
 
 void Aircraft::step() {
   ++clock.steps;
+  failures.update(clock.step_s());
   controls = controls.limited();
   fly(clock.step_s());
   update_systems(clock.step_s());
@@ -50,7 +51,9 @@ AirframeInputs Aircraft::surroundings() const {
 }
 
 void Aircraft::fly(double dt_s) {
+  const auto gear_was = airframe.surfaces.gear;
   airframe.surfaces.update(dt_s, controls, autopilot.servos.deflections);
+  if (failures[System::gear]) airframe.surfaces.gear = gear_was;
   if (chocks_in && controls.parking_brake_set) {
     chocks_in = false;
     airframe.stand_at(airframe.position_m, airframe.attitude.angles().heading_rad,
@@ -64,9 +67,17 @@ void Aircraft::fly(double dt_s) {
   airframe.report(flight);
 }
 
+void Aircraft::follow_handing_over() {
+  if (!electrics.battery_on) apu = {};
+  const bool turning = engines[0].core_speed_percent > 1.0 || engines[1].core_speed_percent > 1.0;
+  handed_over = electrics.battery_on && !turning;
+}
+
 void Aircraft::update_systems(double dt_s) {
-  air.update(flight);
-  if (!electrics.has_dc()) apu.stop();
+  air.update(flight, {.pitot_blocked = failures[System::airspeed],
+                      .static_blocked = failures[System::altimeter]});
+  if (handed_over) follow_handing_over();
+  if (!electrics.has_dc() || failures[System::apu]) apu.stop();
   apu.update(dt_s);
   update_engine_start(dt_s);
   update_engines(dt_s);
@@ -88,7 +99,7 @@ EngineInputs Aircraft::engine_inputs(std::size_t engine) const {
       .fuel_lever_open = fuel.lever_open[engine],
       .ignition = engine_start.ignition(engine) && electrics.has_dc(),
       .crank_speed_percent = engine_start.crank_speed_percent[engine],
-      .fuel_available = fuel.at_engine[engine],
+      .fuel_available = fuel.at_engine[engine] && !failures.of(System::engine_1, engine),
       .throttle_ratio = controls.throttle[engine],
       .antiice_bleed = air_controls.engine_antiice_on,
       .air_temperature_celsius = air.temperature_celsius,
@@ -104,6 +115,7 @@ void Aircraft::update_engines(double dt_s) {
 }
 
 void Aircraft::update_fuel(double dt_s) {
+  fuel.boost_pump_failed = {failures[System::boost_pump_1], failures[System::boost_pump_2]};
   fuel.update(dt_s, {
                         .flow_kg_per_h = {engines[0].fuel_flow_kg_per_h, engines[1].fuel_flow_kg_per_h},
                         .altitude_ft = flight.altitude_ft,
@@ -121,19 +133,32 @@ void Aircraft::update_electrics(double dt_s) {
                 .on_ground = flight.on_ground,
                 .engine_antiice = air_controls.engine_antiice_on,
                 .lights_on = lights.count_on(),
+                .generator_failed = {failures[System::generator_1], failures[System::generator_2]},
+                .all_failed = failures[System::electrical],
             });
 }
 
-bool Aircraft::has_avionics() const { return electrics.avionics_on && electrics.has_dc(); }
+bool Aircraft::has_avionics() const {
+  return electrics.avionics_on && electrics.has_dc() && !failures[System::avionics];
+}
 
 Sensed Aircraft::sensed() const {
-  return {flight, air, nav[0], airframe.surfaces.flap_deg, hsi_on_area_navigation, has_avionics()};
+  return {flight,
+          air,
+          nav[0],
+          airframe.surfaces.flap_deg,
+          hsi_on_area_navigation,
+          has_avionics(),
+          !failures[System::attitude] && !failures[System::compass]};
 }
 
 void Aircraft::update_navigation(double dt_s) {
   const bool powered = has_avionics();
-  for (NavReceiver& receiver : nav) receiver.update(flight, powered);
-  adf.update(flight, powered);
+  for (std::size_t i = 0; i < nav.size(); ++i) {
+    nav[i].update(flight, powered && !failures.of(System::receiver_1, i));
+    if (failures[System::distance]) nav[i].distance_nm = -1.0;
+  }
+  adf.update(flight, powered && !failures[System::direction_finder]);
   marker = powered ? marker_overhead(flight) : 0;
   autopilot.update(dt_s, sensed(), controls);
 }
@@ -152,6 +177,21 @@ void Aircraft::make_ready() {
   electrics.avionics_on = true;
   start_both_engines();
   for (int i = 0; i < warm_up_s * clock.steps_per_second; ++i) update_systems(clock.step_s());
+}
+
+void Aircraft::start_automatically() { handed_over ? make_ready() : start_both_engines(); }
+
+void Aircraft::connect_ground_power() {
+  electrics.external_power = true;
+  apu = {.running = true, .speed_percent = 100.0};
+}
+
+void Aircraft::hand_over() {
+  electrics.battery_on = electrics.avionics_on = true;
+  fuel.lever_open = {true, true};
+  apu = {.running = true, .speed_percent = 100.0};
+  handed_over = true;
+  update_systems(0.0);
 }
 
 void Aircraft::place_on_runway() {

@@ -15,9 +15,11 @@
 #include "host/simulation/program_windows.h"
 #include "host/simulation/systems/air_controls.h"
 #include "host/simulation/systems/apu.h"
+#include "host/simulation/systems/cabin.h"
 #include "host/simulation/systems/electrics.h"
 #include "host/simulation/systems/engine.h"
 #include "host/simulation/systems/engine_start.h"
+#include "host/simulation/systems/failures.h"
 #include "host/simulation/systems/fuel.h"
 #include "host/simulation/systems/lights.h"
 
@@ -31,6 +33,9 @@ struct Aircraft {
   Turbulence turbulence;
   /// Under the wheels until the crew first sets the parking brake; they hold the aircraft altogether.
   bool chocks_in = true;
+  /// By the ground crew, and its engines have not turned since: an automatic start finds them at idle, and
+  /// with the battery all power goes.
+  bool handed_over = false;
   AirData air;
   AirControls air_controls;
   Lights lights;
@@ -44,8 +49,9 @@ struct Aircraft {
   int marker = 0;                       ///< as marker_overhead()
   bool hsi_on_area_navigation = false;  ///< instead of receiver 1
   Autopilot autopilot;
-  bool cabin_door_open = false;
+  Cabin cabin;
   ProgramWindows windows;
+  Failures failures;
 
   /// Parked, everything off. From 10 to 120 steps a second; 60 is what the cockpit runs with.
   explicit Aircraft(int steps_per_second = usual_steps_per_second);
@@ -62,6 +68,15 @@ struct Aircraft {
   /// Puts both engines at a warm idle with battery and avionics on, as after a start some
   /// minutes ago.
   void make_ready();
+
+  /// What the automatic start leads to: at once where the aircraft has just been handed over.
+  void start_automatically();
+
+  /// The ground crew's part: a ground unit feeds the aircraft, and the auxiliary power unit is at speed.
+  void connect_ground_power();
+
+  /// As the start page finds it: battery, avionics and auxiliary power unit on, fuel levers open.
+  void hand_over();
 
   /// Lines it up on the runway as it is, at rest, without chocks, the parking brake set.
   void place_on_runway();
@@ -80,6 +95,7 @@ struct Aircraft {
   double thrust_for_minutes(const InFlight& where) const;
   void start_engines_at_once(double thrust_n);
   void update_systems(double dt_s);
+  void follow_handing_over();
   void update_engine_start(double dt_s);
   void update_engines(double dt_s);
   void update_fuel(double dt_s);

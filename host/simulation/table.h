@@ -33,6 +33,7 @@ extern const SystemRows air_controls_rows;
 extern const SystemRows air_data_rows;
 extern const SystemRows apu_rows;
 extern const SystemRows autopilot_rows;
+extern const SystemRows cabin_rows;
 extern const SystemRows clock_rows;
 extern const SystemRows electrics_rows;
 extern const SystemRows engine_rows;

@@ -239,6 +239,7 @@ TEST(Autopilot, Engages_only_where_it_can_fly_and_lets_go_where_it_cannot) {
       {"stick turned", [](Aircraft& a) { a.controls.aileron = -0.3; }},
       {"avionics off", [](Aircraft& a) { a.electrics.avionics_on = false; }},
       {"no power", [](Aircraft& a) { a.electrics = {}; }},
+      {"gyros dead", [](Aircraft& a) { a.failures.set(2, true); }},
       {"rolled over",
        [](Aircraft& a) {
          a.airframe.attitude = Quaternion::from({1.0, 0.0, 0.0});

@@ -14,8 +14,8 @@ bool stick_moved(const FlightControls& hand) {
 bool can_fly(const Sensed& sensed, const FlightControls& hand, double bank_limit_deg,
              double pitch_limit_deg) {
   const EulerAngles& attitude = sensed.flight.attitude;
-  return sensed.powered && !sensed.flight.on_ground && !sensed.flight.buffeting && !stick_moved(hand) &&
-         std::abs(attitude.bank_rad) < bank_limit_deg * radians_per_degree &&
+  return sensed.powered && sensed.gyros_true && !sensed.flight.on_ground && !sensed.flight.buffeting &&
+         !stick_moved(hand) && std::abs(attitude.bank_rad) < bank_limit_deg * radians_per_degree &&
          std::abs(attitude.pitch_rad) < pitch_limit_deg * radians_per_degree;
 }
 

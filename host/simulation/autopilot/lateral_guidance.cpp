@@ -37,11 +37,16 @@ double course_deg(const NavReceiver& nav) {
   return nav.localizer ? landing_system().course_true_deg - magnetic_variation_deg : nav.course_deg;
 }
 
+/// Without a distance measured: that of a usual moment, which makes the course tight far out and loose near.
+double distance_m(const NavReceiver& nav) {
+  const double usual_nm = nav.localizer ? 8.0 : 20.0;
+  return (nav.distance_nm > 0.0 ? nav.distance_nm : usual_nm) * metres_per_nautical_mile;
+}
+
 /// Above the station needles swing; the course itself is the best thing to go by there.
 bool in_cone_of_confusion(const Sensed& sensed) {
   const double up_m = sensed.flight.height_ft * metres_per_foot;
-  const double slant_m = sensed.nav.distance_nm * metres_per_nautical_mile;
-  return !sensed.nav.localizer && slant_m < std::max(1500.0, 1.6 * up_m);
+  return !sensed.nav.localizer && distance_m(sensed.nav) < std::max(1500.0, 1.6 * up_m);
 }
 
 /// The course's distance to the right.
@@ -49,7 +54,7 @@ double aside_m(const Sensed& sensed) {
   const NavReceiver& nav = sensed.nav;
   if (!nav.received || in_cone_of_confusion(sensed)) return 0.0;
   return std::sin(nav.course_deviation * law_of(nav).full_scale_deg * radians_per_degree) *
-         nav.distance_nm * metres_per_nautical_mile;
+         distance_m(nav);
 }
 
 /// By how much the track should lead to the right of the course.

@@ -16,6 +16,7 @@ struct Sensed {
   bool area_navigation =
       false;  ///< the course comes from the navigation computer, not from the receiver
   bool powered = false;
+  bool gyros_true = true;  ///< attitude and heading can be believed
 };
 
 }  // namespace host::simulation

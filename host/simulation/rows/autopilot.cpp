@@ -76,8 +76,6 @@ constexpr EventRow events[] = {
     {{0x10167, "selected_vertical_speed_down", ""}, click<&Selections::turn_vertical_speed, -100>},
     {{0x10168, "selected_speed_up", ""}, click<&Selections::turn_airspeed, 1>},
     {{0x10169, "selected_speed_down", ""}, click<&Selections::turn_airspeed, -1>},
-    {{0x10355, "cabin_door_toggle", ""},
-     [](Aircraft& a, std::uint32_t) { a.cabin_door_open = !a.cabin_door_open; }},
 };
 
 }  // namespace
