@@ -37,9 +37,9 @@ double course_deg(const NavReceiver& nav) {
   return nav.localizer ? landing_system().course_true_deg - magnetic_variation_deg : nav.course_deg;
 }
 
-/// Without a distance measured: that of a usual moment, which makes the course tight far out and loose near.
+/// Without a distance measured it is taken for a short one: loose far out rather than restless near.
 double distance_m(const NavReceiver& nav) {
-  const double usual_nm = nav.localizer ? 8.0 : 20.0;
+  const double usual_nm = nav.localizer ? 4.0 : 8.0;
   return (nav.distance_nm > 0.0 ? nav.distance_nm : usual_nm) * metres_per_nautical_mile;
 }
 
