@@ -10,6 +10,10 @@ namespace {
 /// Core speed of an engine that has lit, at which its oil pressure starts the flight recorder.
 constexpr double recorder_starts_percent = 40.0;
 
+double true_heading_rad(const InFlight& where) {
+  return (where.heading_deg + magnetic_variation_deg) * radians_per_degree;
+}
+
 }  // namespace
 
 Aircraft::Aircraft(int steps_per_second) {
@@ -75,7 +79,7 @@ FlightControls Aircraft::governed_controls() {
 
 void Aircraft::fly(double dt_s) {
   const auto gear_was = airframe.surfaces.gear;
-  airframe.surfaces.update(dt_s, governed_controls());
+  airframe.surfaces.update(dt_s, governed_controls(), autopilot.servos.deflections);
   if (failures[System::gear]) airframe.surfaces.gear = gear_was;
   update_brakes(dt_s);
   if (chocks_in && controls.parking_brake_set) {
@@ -183,15 +187,29 @@ void Aircraft::update_electrics(double dt_s) {
             });
 }
 
+bool Aircraft::has_avionics() const {
+  return electrics.avionics_on && electrics.has_dc() && !failures[System::avionics];
+}
+
+Sensed Aircraft::sensed() const {
+  return {flight,
+          air,
+          nav[0],
+          airframe.surfaces.flap_deg,
+          hsi_on_area_navigation,
+          has_avionics(),
+          !failures[System::attitude] && !failures[System::compass]};
+}
+
 void Aircraft::update_navigation(double dt_s) {
-  const bool powered = electrics.avionics_on && electrics.has_dc() && !failures[System::avionics];
+  const bool powered = has_avionics();
   for (std::size_t i = 0; i < nav.size(); ++i) {
     nav[i].update(flight, powered && !failures.of(System::receiver_1, i));
     if (failures[System::distance]) nav[i].distance_nm = -1.0;
   }
   adf.update(flight, powered && !failures[System::direction_finder]);
   marker = powered ? marker_overhead(flight) : 0;
-  if (powered) flight_director.update(dt_s, flight, air.indicated_altitude_ft, nav[0], selections);
+  autopilot.update(dt_s, sensed(), controls);
 }
 
 std::array<std::string_view, 3> Aircraft::identifications_heard() const {
@@ -233,6 +251,7 @@ void Aircraft::update_warnings(double dt_s) {
 
 void Aircraft::arrive() {
   update_systems(0.0);
+  autopilot.reset(sensed());
   update_navigation(0.0);
   standby_compass.settle(flight);
   stall_warning = {};
@@ -302,8 +321,7 @@ void Aircraft::put_in_the_air(const InFlight& where) {
 
 Trim Aircraft::trim_for(const InFlight& where) {
   const double mach = where.mach > 0.0 ? where.mach : mach_at(where.airspeed_kt, air.pressure_hpa);
-  const double heading_rad = (where.heading_deg + magnetic_variation_deg) * radians_per_degree;
-  const Trim trim = trim_level(airframe, surroundings(), mach * air.sound_mps, heading_rad);
+  const Trim trim = trim_level(airframe, surroundings(), mach * air.sound_mps, true_heading_rad(where));
   controls.pitch_trim = trim_for_stabiliser(trim.stabiliser_rad);
   airframe.report(flight);
   air.update(flight);
@@ -314,13 +332,25 @@ bool Aircraft::place_in_flight(const InFlight& where) {
   put_in_the_air(where);
   const Trim trim = trim_for(where);
   start_engines_at_once(trim.thrust_n);
-  // The crew sets the thrust for the minutes to come, which burn weight away, not for the first one.
-  const double burned_kg =
-      200.0 / 3600.0 * (engines[0].fuel_flow_kg_per_h + engines[1].fuel_flow_kg_per_h);
-  const double thrust_n = trim.thrust_n * (1.0 - burned_kg / mass_properties(fuel.load()).mass_kg);
+  const double thrust_n = thrust_for_minutes(where);
   start_engines_at_once(thrust_n);
   arrive();
   return trim.found && std::abs(engines[0].thrust_n * 2.0 - thrust_n) < 1.0;
+}
+
+// Fuel burned is weight gone, and less weight needs less thrust: with the levers left alone it would climb
+// ever faster. The crew therefore sets what the aircraft will need some minutes on; it sinks a little
+// first and is back when ten minutes are over.
+double Aircraft::thrust_for_minutes(const InFlight& where) const {
+  constexpr double ahead_s = 260.0;
+  AirframeInputs inputs = surroundings();
+  FuelLoad load = fuel.load();
+  for (double* tank_kg : {&load.left_kg, &load.right_kg}) {
+    *tank_kg -= ahead_s / 3600.0 * engines[0].fuel_flow_kg_per_h;
+  }
+  inputs.mass = mass_properties(load);
+  Airframe lighter = airframe;
+  return trim_level(lighter, inputs, airframe.airspeed_mps, true_heading_rad(where)).thrust_n;
 }
 
 void Aircraft::start_engines_at_once(double thrust_n) {

@@ -3,8 +3,7 @@
 
 #include <array>
 
-#include "host/simulation/autopilot/modes.h"
-#include "host/simulation/autopilot/selections.h"
+#include "host/simulation/autopilot/autopilot.h"
 #include "host/simulation/base/clock.h"
 #include "host/simulation/flight/air_data.h"
 #include "host/simulation/flight/airframe.h"
@@ -12,7 +11,6 @@
 #include "host/simulation/flight/flight_state.h"
 #include "host/simulation/flight/trim.h"
 #include "host/simulation/navigation/audio_selector.h"
-#include "host/simulation/navigation/flight_director.h"
 #include "host/simulation/navigation/receivers.h"
 #include "host/simulation/navigation/standby_compass.h"
 #include "host/simulation/placement.h"
@@ -62,9 +60,7 @@ struct Aircraft {
   AudioSelector audio;
   int marker = 0;                       ///< as marker_overhead()
   bool hsi_on_area_navigation = false;  ///< instead of receiver 1
-  Selections selections;
-  AutopilotModes autopilot;
-  FlightDirector flight_director;
+  Autopilot autopilot;
   StandbyCompass standby_compass;
   StallWarning stall_warning;
   GroundProximity ground_proximity;
@@ -86,6 +82,9 @@ struct Aircraft {
 
   /// What the automatic start does: battery, fuel levers, ignition and both starters.
   void start_both_engines();
+
+  /// What the autopilot's computers see.
+  Sensed sensed() const;
 
   /// Puts both engines at a warm idle with battery and avionics on, as after a start some
   /// minutes ago.
@@ -111,10 +110,12 @@ struct Aircraft {
   void tune_radios();
   void fly(double dt_s);
   FlightControls governed_controls();
+  bool has_avionics() const;
   AirframeInputs surroundings() const;
   EngineInputs engine_inputs(std::size_t engine) const;
   void put_in_the_air(const InFlight& where);
   Trim trim_for(const InFlight& where);
+  double thrust_for_minutes(const InFlight& where) const;
   void start_engines_at_once(double thrust_n);
   void update_systems(double dt_s);
   void follow_handing_over();

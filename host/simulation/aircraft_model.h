@@ -36,7 +36,8 @@ class AircraftModel {
   /// Seconds simulated so far, whole steps only.
   double seconds() const;
 
-  /// What flies the aircraft: hands and feet, a script or an autopilot write here between steps.
+  /// What flies the aircraft: hands and feet or a script write here between steps. The autopilot moves the
+  /// surfaces beside them, and of this record the trim wheel and the throttle levers.
   simulation::FlightControls& controls();
 
   /// The day's weather: pressure, temperature, wind and gusts.

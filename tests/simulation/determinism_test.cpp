@@ -51,6 +51,10 @@ TEST(Determinism, A_flight_through_rough_air_is_the_same_in_any_slices) {
     aircraft.weather().wind.gust_mps = 2.0;
     aircraft.controls().aileron = 0.1;
     aircraft.controls().throttle[1] = 0.9;
+    for (const char* event : {"autopilot_toggle", "altitude_hold_on", "autothrottle_arm_toggle",
+                              "airspeed_hold_on", "navigation_hold_on"}) {
+      send(aircraft, event);
+    }
     for (int i = 0; i < 20 * parts; ++i) aircraft.advance(1.0 / parts);
     return all_bits(aircraft);
   };

@@ -133,14 +133,14 @@ TEST(Ground, The_flight_director_leads_down_the_beam_to_the_runway_past_three_ma
                               .right_m = -1500,
                               .flap_detent = 5,
                               .gear_down = true});
-  aircraft.selections.heading_bug_deg = 90;
-  aircraft.selections.altitude_ft = 2500;
+  aircraft.autopilot.selections.heading_bug_deg = 90;
+  aircraft.autopilot.selections.altitude_ft = 2500;
   std::vector<int> markers{0};
   double throttle = aircraft.controls.throttle[0], gentlest_fpm = 0.0;
   run(aircraft, 400.0, [&] {
     const bool flare = aircraft.flight.height_ft < 50.0;
-    hold_attitude(aircraft, flare ? 5.0 : aircraft.flight_director.pitch_deg + 0.7,
-                  aircraft.flight_director.bank_deg);
+    hold_attitude(aircraft, flare ? 5.0 : aircraft.autopilot.director.pitch_deg + 0.7,
+                  aircraft.autopilot.director.bank_deg);
     const double faster_mps2 =
         aircraft.flight.specific_force_mps2.x - 9.80665 * std::sin(aircraft.flight.attitude.pitch_rad);
     throttle += 0.0004 * (135.0 - aircraft.air.indicated_airspeed_kt) - 0.002 * faster_mps2;

@@ -10,16 +10,39 @@ void AutopilotModes::hold(LateralMode mode, bool on) {
   }
 }
 
-void AutopilotModes::arm_approach(bool on) {
-  approach_armed = on;
-  if (!on) approach = false;
+void AutopilotModes::hold_heading(bool on) {
+  hold(LateralMode::heading, on);
+  if (on) arm_approach(false);
 }
 
-void AutopilotModes::hold_approach(bool on, bool received) { approach = on && received; }
+void AutopilotModes::hold_navigation(bool on) {
+  hold(LateralMode::navigation, on);
+  if (!on) arm_approach(false);
+}
+
+void AutopilotModes::arm_approach(bool on) {
+  approach_armed = on;
+  if (on) {
+    lateral = LateralMode::navigation;
+  } else {
+    approach = false;
+  }
+}
+
+void AutopilotModes::hold_approach(bool on, bool received) {
+  arm_approach(on && received);
+  approach = on && received;
+}
 
 void AutopilotModes::toggle_autothrottle() {
   autothrottle_armed = !autothrottle_armed;
   if (!autothrottle_armed) airspeed_hold = false;
+}
+
+void AutopilotModes::forget() {
+  lateral = LateralMode::level;
+  altitude_hold = false;
+  arm_approach(false);
 }
 
 }  // namespace host::simulation

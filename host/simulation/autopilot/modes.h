@@ -12,17 +12,18 @@ struct AutopilotModes {
   LateralMode lateral = LateralMode::level;
   bool altitude_hold = false;  ///< goes to the selected altitude and stays there
   bool approach_armed = false;
-  bool approach = false;  ///< localizer and glide slope
+  bool approach = false;  ///< on the course, the slope is flown once it has come
   bool autothrottle_armed = false;
   bool airspeed_hold = false;  ///< the armed autothrottle moves the levers
 
-  void hold_heading(bool on) { hold(LateralMode::heading, on); }
-  void hold_navigation(bool on) { hold(LateralMode::navigation, on); }
+  /// A heading ends the approach, and so does the end of the navigation that it stands on.
+  void hold_heading(bool on);
+  void hold_navigation(bool on);
 
-  /// Off, it takes the approach with it.
+  /// Armed, it flies the course and waits for the glide slope; disarmed, it ends the approach.
   void arm_approach(bool on);
 
-  /// There is nothing to hold without a localizer and a glide slope.
+  /// There is nothing to hold unless localizer and glide slope are received.
   void hold_approach(bool on, bool received);
 
   /// Disarmed, it lets go of the levers.
@@ -30,6 +31,9 @@ struct AutopilotModes {
 
   /// Only an armed autothrottle takes a speed.
   void hold_airspeed(bool on) { airspeed_hold = on && autothrottle_armed; }
+
+  /// What the computers lose with their power. Switches stay as they stand.
+  void forget();
 
  private:
   void hold(LateralMode mode, bool on);

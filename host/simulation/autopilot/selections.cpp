@@ -1,6 +1,7 @@
 #include "host/simulation/autopilot/selections.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "host/simulation/base/angle.h"
 
@@ -20,6 +21,11 @@ void Selections::turn_airspeed(double by_kt) {
 
 void Selections::turn_vertical_speed(double by_fpm) {
   vertical_speed_fpm = std::clamp(vertical_speed_fpm + by_fpm, -6000.0, 6000.0);
+}
+
+void Selections::set_vertical_speed(double fpm) {
+  constexpr double click_fpm = 100.0;
+  vertical_speed_fpm = std::clamp(click_fpm * std::round(fpm / click_fpm) + 0.0, -6000.0, 6000.0);
 }
 
 }  // namespace host::simulation

@@ -14,6 +14,9 @@ struct Selections {
   void turn_altitude(double by_ft);
   void turn_airspeed(double by_kt);
   void turn_vertical_speed(double by_fpm);
+
+  /// To the nearest click of the wheel.
+  void set_vertical_speed(double fpm);
 };
 
 }  // namespace host::simulation

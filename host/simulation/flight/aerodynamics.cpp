@@ -16,8 +16,8 @@ constexpr double induced_factor = 1.0 / (std::numbers::pi * aspect_ratio * 0.80)
 struct Flow {
   double speed_mps, mach;
   double alpha, beta;
-  double roll, pitch, yaw, unwanted_yaw;  // rates, made dimensionless
-  double induced_ratio;                   // 1 in free air, less near the ground
+  double roll, pitch, yaw;  // rates, made dimensionless
+  double induced_ratio;     // 1 in free air, less near the ground
   FlapEffect flaps;
   Lift wing;
 };
@@ -40,7 +40,6 @@ Flow flow_of(const AirMotion& motion, const Surfaces& surfaces) {
   flow.roll = motion.rate_rad_per_s.x * span_s;
   flow.pitch = motion.rate_rad_per_s.y * chord_s;
   flow.yaw = motion.rate_rad_per_s.z * span_s;
-  flow.unwanted_yaw = flow.yaw - motion.turn_rate_rad_per_s * span_s;
   flow.induced_ratio = ground_ratio(motion.height_m);
   flow.flaps = flap_effect(surfaces.flap_deg);
   flow.wing = wing_lift(flow.alpha, flow.mach, flow.flaps);
@@ -77,8 +76,8 @@ double roll_coefficient(const Flow& flow, const Surfaces& s, double lift) {
 }
 
 double yaw_coefficient(const Flow& flow, const Surfaces& s, double lift) {
-  return 0.14 * flow.beta - (0.03 + 0.05 * lift) * flow.roll - 0.22 * flow.yaw -
-         0.25 * flow.unwanted_yaw - 0.004 * s.aileron_rad + 0.09 * s.rudder_rad;
+  return 0.14 * flow.beta - (0.03 + 0.05 * lift) * flow.roll - 0.22 * flow.yaw - 0.004 * s.aileron_rad +
+         0.09 * s.rudder_rad;
 }
 
 }  // namespace

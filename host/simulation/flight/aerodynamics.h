@@ -11,10 +11,9 @@
 ///        the high tail loses half of the elevator in the stalled wing's wake
 ///   CY = -0.85 beta + 0.17 dr
 ///   Cl = -0.13 beta - 0.45 p^ + (0.10 + 0.15 CL) r^ + 0.068 da + 0.015 dr
-///   Cn =  0.14 beta - (0.03 + 0.05 CL) p^ - 0.22 r^ - 0.004 da + 0.09 dr, and the yaw damper
+///   Cn =  0.14 beta - (0.03 + 0.05 CL) p^ - 0.22 r^ - 0.004 da + 0.09 dr
 ///
 /// Controls have the sign of the pilot's hand: de and ih pull the nose up, da rolls right, dr yaws right.
-/// The yaw damper answers what yaw a steady turn at that bank does not need, with 0.45 per radian of r^.
 #pragma once
 
 #include "host/simulation/base/vector.h"
@@ -31,8 +30,7 @@ struct AirMotion {
   Vector rate_rad_per_s;  ///< about its axes
   double density_kg_per_m3 = 1.225;
   double sound_mps = 340.294;
-  double height_m = 1000.0;          ///< of the wing above the ground
-  double turn_rate_rad_per_s = 0.0;  ///< the yaw rate of a steady turn at the present bank
+  double height_m = 1000.0;  ///< of the wing above the ground
 };
 
 struct AirForces {

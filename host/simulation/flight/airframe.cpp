@@ -18,11 +18,6 @@ double datum_height_m() {
   return height_m;
 }
 
-/// The yaw rate of a steady turn: g sin(bank) cos(pitch) / V.
-double turn_rate_rad_per_s(const Vector& down, double speed_mps) {
-  return gravity_mps2 * down.y / std::max(speed_mps, 30.0);
-}
-
 Vector thrust_moment_nm(const std::array<double, 2>& thrust_n, const Vector& centre_m) {
   const Vector left{0.0, -engine_out_m, -engine_up_m}, right{0.0, engine_out_m, -engine_up_m};
   return cross(left - centre_m, {thrust_n[0], 0.0, 0.0}) +
@@ -38,7 +33,6 @@ Vector angular_acceleration(const Vector& moment_nm, const Vector& rate, const V
 }  // namespace
 
 Loads Airframe::flying_loads(const AirframeInputs& inputs) {
-  const Vector down = attitude.to_body({0.0, 0.0, 1.0});
   AirMotion motion;
   motion.airspeed_mps = attitude.to_body(velocity_mps - inputs.wind_mps) - inputs.gust_mps;
   motion.rate_rad_per_s = rate_rad_per_s;
@@ -48,7 +42,6 @@ Loads Airframe::flying_loads(const AirframeInputs& inputs) {
   // A pitot tube feels what comes from ahead and below, not a wind from the side or from behind.
   airspeed_mps =
       motion.airspeed_mps.x > 0.0 ? std::hypot(motion.airspeed_mps.x, motion.airspeed_mps.z) : 0.0;
-  motion.turn_rate_rad_per_s = turn_rate_rad_per_s(down, airspeed_mps);
   air = air_forces(motion, surfaces);
   return {air.force_n + Vector{inputs.thrust_n[0] + inputs.thrust_n[1], 0.0, 0.0},
           air.moment_nm - cross(inputs.mass.centre_m, air.force_n) +

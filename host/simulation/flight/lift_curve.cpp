@@ -83,6 +83,10 @@ double greatest_lift(double mach, const FlapEffect& flaps) {
   return flaps.greatest_lift * on_curve(greatest_lift_with_mach, mach);
 }
 
+double angle_of_attack_rad(double part_of_greatest, double mach, const FlapEffect& flaps) {
+  return (part_of_greatest * greatest_lift(mach, flaps) - flaps.lift_at_zero) / lift_slope(mach);
+}
+
 Lift wing_lift(double angle_of_attack_rad, double mach, const FlapEffect& flaps) {
   const double slope = lift_slope(mach);
   const double line = flaps.lift_at_zero + slope * angle_of_attack_rad;

@@ -37,6 +37,9 @@ Lift wing_lift(double angle_of_attack_rad, double mach, const FlapEffect& flaps)
 /// CLmax at a Mach number.
 double greatest_lift(double mach, const FlapEffect& flaps);
 
+/// The angle of attack of that part of CLmax, up to some 0.8 where the curve is straight.
+double angle_of_attack_rad(double part_of_greatest, double mach, const FlapEffect& flaps);
+
 /// The lift slope `a` per radian.
 double lift_slope(double mach);
 

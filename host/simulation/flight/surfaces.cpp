@@ -9,13 +9,19 @@ namespace {
 
 constexpr double control_lag_s = 0.08;  // hydraulic jacks
 constexpr double stabiliser_middle_rad = 3.5 * radians_per_degree;
-constexpr double stabiliser_travel_rad = 7.0 * radians_per_degree;
 constexpr std::array<double, 3> gear_rate_per_s{1.0 / 8.0, 1.0 / 9.0, 1.0 / 9.5};
 
-double unit(double ratio) { return std::clamp(ratio, -1.0, 1.0); }
+double within(double angle_rad, double reach_rad) {
+  return std::clamp(angle_rad, -reach_rad, reach_rad);
+}
 
-double elevator_rad(const FlightControls& controls) {
-  return controls.elevator * (controls.elevator > 0.0 ? 25.0 : 15.0) * radians_per_degree;
+constexpr double elevator_up_rad = 25.0 * radians_per_degree;
+constexpr double elevator_down_rad = 15.0 * radians_per_degree;
+constexpr double aileron_reach_rad = 20.0 * radians_per_degree;
+constexpr double rudder_reach_rad = 25.0 * radians_per_degree;
+
+double hand_elevator_rad(const FlightControls& controls) {
+  return controls.elevator * (controls.elevator > 0.0 ? elevator_up_rad : elevator_down_rad);
 }
 
 double steering_rad(const FlightControls& controls) {
@@ -32,13 +38,18 @@ double trim_for_stabiliser(double stabiliser_rad) {
   return (stabiliser_rad - stabiliser_middle_rad) / stabiliser_travel_rad;
 }
 
-void Surfaces::update(double dt_s, const FlightControls& controls) {
+void Surfaces::update(double dt_s, const FlightControls& controls, const ServoDeflections& servos) {
   const auto follow = [dt_s](double& surface, double target) {
     surface = lag(surface, target, control_lag_s, dt_s);
   };
-  follow(elevator_rad, simulation::elevator_rad(controls));
-  follow(aileron_rad, 20.0 * radians_per_degree * unit(controls.aileron + controls.aileron_trim));
-  follow(rudder_rad, 25.0 * radians_per_degree * unit(controls.rudder + controls.rudder_trim));
+  follow(elevator_rad, std::clamp(hand_elevator_rad(controls) + servos.elevator_rad, -elevator_down_rad,
+                                  elevator_up_rad));
+  follow(aileron_rad,
+         within(aileron_reach_rad * (controls.aileron + controls.aileron_trim) + servos.aileron_rad,
+                aileron_reach_rad));
+  follow(rudder_rad,
+         within(rudder_reach_rad * (controls.rudder + controls.rudder_trim) + servos.rudder_rad,
+                rudder_reach_rad));
   follow(steering_rad, simulation::steering_rad(controls));
   stabiliser_rad = approach(stabiliser_rad, stabiliser_for_trim_rad(controls.pitch_trim),
                             1.0 * radians_per_degree, dt_s);
@@ -52,7 +63,7 @@ void Surfaces::update(double dt_s, const FlightControls& controls) {
 
 void Surfaces::settle(const FlightControls& controls) {
   constexpr double longer_than_any_travel_s = 100.0;
-  update(longer_than_any_travel_s, controls);
+  update(longer_than_any_travel_s, controls, {});
 }
 
 }  // namespace host::simulation

@@ -9,6 +9,14 @@
 namespace host::simulation {
 
 inline constexpr double full_flap_deg = flap_detents_deg.back();
+inline constexpr double stabiliser_travel_rad = 7.0 * radians_per_degree;  ///< either way of its middle
+
+/// What servos add to the crew's controls; each sign is that of the control beside it.
+struct ServoDeflections {
+  double elevator_rad = 0.0;
+  double aileron_rad = 0.0;
+  double rudder_rad = 0.0;
+};
 
 /// Radians; each sign is that of the control that moves it.
 struct Surfaces {
@@ -23,7 +31,7 @@ struct Surfaces {
   double steering_rad = 0.0;  ///< nose wheel, right positive: tiller 60 degrees, pedals 6
 
   /// The controls stand within their limits.
-  void update(double dt_s, const FlightControls& controls);
+  void update(double dt_s, const FlightControls& controls, const ServoDeflections& servos);
 
   /// Everything at once where the controls ask for it.
   void settle(const FlightControls& controls);

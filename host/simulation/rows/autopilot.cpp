@@ -6,53 +6,54 @@ namespace {
 
 template <bool AutopilotModes::*mode>
 double engaged(const Aircraft& aircraft) {
-  return on_off(aircraft.autopilot.*mode);
-}
-
-template <bool AutopilotModes::*mode>
-void toggle(Aircraft& aircraft, std::uint32_t) {
-  aircraft.autopilot.*mode = !(aircraft.autopilot.*mode);
+  return on_off(aircraft.autopilot.modes.*mode);
 }
 
 /// Puts one mode on or off.
 template <void (AutopilotModes::*hold)(bool), bool on>
 void put(Aircraft& aircraft, std::uint32_t) {
-  (aircraft.autopilot.*hold)(on);
+  (aircraft.autopilot.modes.*hold)(on);
 }
 
 template <bool on>
 void put_altitude_hold(Aircraft& aircraft, std::uint32_t) {
-  aircraft.autopilot.altitude_hold = on;
+  aircraft.autopilot.modes.altitude_hold = on;
 }
 
 template <bool on>
 void put_approach(Aircraft& aircraft, std::uint32_t) {
   const NavReceiver& nav = aircraft.nav[0];
-  aircraft.autopilot.hold_approach(on, nav.localizer && nav.glide_slope);
+  aircraft.autopilot.modes.hold_approach(on, nav.localizer && nav.glide_slope);
 }
 
 /// One click of a knob.
 template <void (Selections::*turn)(double), int by>
 void click(Aircraft& aircraft, std::uint32_t) {
-  (aircraft.selections.*turn)(by);
+  (aircraft.autopilot.selections.*turn)(by);
 }
 
 constexpr TokenRow tokens[] = {
     {{103, "autopilot", "0/1"}, engaged<&AutopilotModes::engaged>},
     {{106, "heading_hold", "0/1"},
-     [](const Aircraft& a) { return on_off(a.autopilot.lateral == LateralMode::heading); }},
+     [](const Aircraft& a) { return on_off(a.autopilot.modes.lateral == LateralMode::heading); }},
     {{107, "heading_bug", "degrees magnetic"},
-     [](const Aircraft& a) { return a.selections.heading_bug_deg; }},
+     [](const Aircraft& a) { return a.autopilot.selections.heading_bug_deg; }},
     {{108, "altitude_hold", "0/1"}, engaged<&AutopilotModes::altitude_hold>},
-    {{109, "selected_altitude", "feet"}, [](const Aircraft& a) { return a.selections.altitude_ft; }},
-    {{116, "selected_airspeed", "knots"}, [](const Aircraft& a) { return a.selections.airspeed_kt; }},
+    {{109, "selected_altitude", "feet"},
+     [](const Aircraft& a) { return a.autopilot.selections.altitude_ft; }},
+    {{116, "selected_airspeed", "knots"},
+     [](const Aircraft& a) { return a.autopilot.selections.airspeed_kt; }},
     {{120, "selected_vertical_speed", "feet/minute"},
-     [](const Aircraft& a) { return a.selections.vertical_speed_fpm; }},
+     [](const Aircraft& a) { return a.autopilot.selections.vertical_speed_fpm; }},
 };
 
 constexpr EventRow events[] = {
-    {{0x1002C, "autopilot_toggle", ""}, toggle<&AutopilotModes::engaged>},
-    {{0x10101, "yaw_damper_toggle", ""}, toggle<&AutopilotModes::yaw_damper_on>},
+    {{0x1002C, "autopilot_toggle", ""},
+     [](Aircraft& a, std::uint32_t) { a.autopilot.toggle(a.sensed(), a.controls); }},
+    {{0x10101, "yaw_damper_toggle", ""},
+     [](Aircraft& a, std::uint32_t) {
+       a.autopilot.modes.yaw_damper_on = !a.autopilot.modes.yaw_damper_on;
+     }},
     {{0x1010D, "approach_arm_on", ""}, put<&AutopilotModes::arm_approach, true>},
     {{0x10115, "approach_arm_off", ""}, put<&AutopilotModes::arm_approach, false>},
     {{0x1010E, "approach_hold_on", ""}, put_approach<true>},
@@ -64,7 +65,7 @@ constexpr EventRow events[] = {
     {{0x10113, "navigation_hold_on", ""}, put<&AutopilotModes::hold_navigation, true>},
     {{0x1011B, "navigation_hold_off", ""}, put<&AutopilotModes::hold_navigation, false>},
     {{0x10144, "autothrottle_arm_toggle", ""},
-     [](Aircraft& a, std::uint32_t) { a.autopilot.toggle_autothrottle(); }},
+     [](Aircraft& a, std::uint32_t) { a.autopilot.modes.toggle_autothrottle(); }},
     {{0x1022D, "airspeed_hold_on", ""}, put<&AutopilotModes::hold_airspeed, true>},
     {{0x1022E, "airspeed_hold_off", ""}, put<&AutopilotModes::hold_airspeed, false>},
     {{0x10157, "heading_bug_up", ""}, click<&Selections::turn_heading, 1>},
@@ -75,8 +76,6 @@ constexpr EventRow events[] = {
     {{0x10167, "selected_vertical_speed_down", ""}, click<&Selections::turn_vertical_speed, -100>},
     {{0x10168, "selected_speed_up", ""}, click<&Selections::turn_airspeed, 1>},
     {{0x10169, "selected_speed_down", ""}, click<&Selections::turn_airspeed, -1>},
-    {{0x10355, "cabin_door_toggle", ""},
-     [](Aircraft& a, std::uint32_t) { a.cabin_door_open = !a.cabin_door_open; }},
 };
 
 }  // namespace

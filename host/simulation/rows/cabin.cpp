@@ -14,6 +14,8 @@ constexpr EventRow events[] = {
      [](Aircraft& a, std::uint32_t) { a.cabin.left_sign = !a.cabin.left_sign; }},
     {{0x1049F, "right_cabin_sign_toggle", ""},
      [](Aircraft& a, std::uint32_t) { a.cabin.right_sign = !a.cabin.right_sign; }},
+    {{0x10355, "cabin_door_toggle", ""},
+     [](Aircraft& a, std::uint32_t) { a.cabin.door_open = !a.cabin.door_open; }},
 };
 
 }  // namespace

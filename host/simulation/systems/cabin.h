@@ -1,4 +1,4 @@
-/// The cabin: the lighted signs over the seats.
+/// The cabin: the lighted signs over the seats, and the door.
 #pragma once
 
 namespace host::simulation {
@@ -6,6 +6,7 @@ namespace host::simulation {
 struct Cabin {
   bool left_sign = false;   ///< no smoking
   bool right_sign = false;  ///< fasten seat belts
+  bool door_open = false;
 };
 
 }  // namespace host::simulation

@@ -37,8 +37,8 @@ constexpr CurvePoint lit_temperature[] = {{15.0, 430.0}, {22.0, 545.0}, {30.0, 5
 constexpr double degrees_per_acceleration = 12.0;  // above idle, per percent a second
 constexpr double bleed_degrees = 15.0;
 
-constexpr CurvePoint lit_fuel_flow[] = {{15.0, 130.0}, {30.0, 220.0},  {52.0, 330.0},
-                                        {75.0, 850.0}, {96.0, 2500.0}, {102.0, 3000.0}};
+constexpr CurvePoint lit_fuel_flow[] = {{15.0, 130.0},  {30.0, 220.0},  {52.0, 330.0},  {75.0, 850.0},
+                                        {86.0, 1500.0}, {96.0, 2500.0}, {102.0, 3000.0}};
 constexpr double unlit_fuel_flow_kg_per_h = 120.0;
 
 // Temperature and pressure rise where the intake stops the air.

@@ -1,0 +1,353 @@
+// What the autopilot flies, from the panels' events to the tokens that the panels read.
+
+#include "host/simulation/aircraft_model.h"
+#include "host/simulation/table.h"
+#include "tests/simulation/flown.h"
+
+namespace host::simulation {
+namespace {
+
+using Names = std::vector<std::string_view>;
+
+double token(const Aircraft& aircraft, std::uint32_t number) {
+  return find_token(number)->read(aircraft);
+}
+
+void send(Aircraft& aircraft, const Names& events, int times = 1) {
+  for (std::string_view name : events) {
+    const TableRow* row = find_row(AircraftModel::events(), name);
+    ASSERT_NE(row, nullptr) << name;
+    for (int i = 0; i < times; ++i) find_event(row->number)->apply(aircraft, 0);
+  }
+}
+
+double off_heading(const Aircraft& aircraft, double heading_deg) {
+  return std::abs(std::remainder(magnetic_heading_deg(aircraft.flight) - heading_deg, 360.0));
+}
+
+/// Runs the aircraft and returns the greatest that each of the signals has been.
+template <typename... Signals>
+std::array<double, sizeof...(Signals)> greatest(Aircraft& aircraft, double seconds,
+                                                Signals... signals) {
+  std::array<double, sizeof...(Signals)> found;
+  found.fill(-1e9);
+  run(aircraft, seconds, [&] {
+    std::size_t i = 0;
+    ((found[i] = std::fmax(found[i], signals()), ++i), ...);
+  });
+  return found;
+}
+
+/// Engaged where it is, everything selected as it flies.
+Aircraft engaged(const InFlight& where, int pace = usual_steps_per_second, const Wind& wind = {}) {
+  Aircraft aircraft(pace);
+  aircraft.air.weather.wind = {wind.from_true_deg, wind.speed_kt, 0.0};
+  EXPECT_TRUE(aircraft.place_in_flight(where));
+  aircraft.air.weather.wind = wind;
+  aircraft.autopilot.selections = {where.heading_deg, where.altitude_ft,
+                                   aircraft.air.indicated_airspeed_kt, 0.0};
+  send(aircraft,
+       {"autopilot_toggle", "altitude_hold_on", "autothrottle_arm_toggle", "airspeed_hold_on"});
+  EXPECT_EQ(token(aircraft, 103), 1.0);
+  return aircraft;
+}
+
+constexpr InFlight slow{.altitude_ft = 3000, .airspeed_kt = 150, .flap_detent = 3, .gear_down = true};
+constexpr InFlight quick{.altitude_ft = 5000, .airspeed_kt = 250};
+constexpr InFlight high{.altitude_ft = 33000, .mach = 0.75};
+
+TEST(Autopilot, Holds_what_it_is_told_smoothly_and_in_gusts_at_any_pace) {
+  struct Case {
+    InFlight where;
+    double gust_mps, heading_deg, altitude_ft, speed_kt;
+  };
+  for (const Case& c : {Case{slow, 0, 0.1, 5, 0.5}, Case{high, 0, 0.1, 5, 0.5},
+                        Case{quick, 1, 3, 30, 10}, Case{slow, 1, 4, 40, 10}}) {
+    for (int pace : {10, 60, 120}) {
+      SCOPED_TRACE(testing::Message()
+                   << c.where.altitude_ft << " ft, gusts " << c.gust_mps << ", pace " << pace);
+      Aircraft aircraft = engaged(c.where, pace, {.gust_mps = c.gust_mps});
+      send(aircraft, {"heading_hold_on"});
+      const auto [turn, climb, gain] = greatest(
+          aircraft, 300.0, [&] { return off_heading(aircraft, c.where.heading_deg); },
+          [&] { return std::abs(aircraft.flight.altitude_ft - c.where.altitude_ft); },
+          [&] { return std::abs(aircraft.air.indicated_airspeed_kt - token(aircraft, 116)); });
+      EXPECT_LT(turn, c.heading_deg);
+      EXPECT_LT(climb, c.altitude_ft);
+      EXPECT_LT(gain, c.speed_kt);
+    }
+  }
+}
+
+TEST(Autopilot, Turns_to_the_bug_the_shorter_way_within_its_bank) {
+  for (const InFlight& where : {slow, quick, high}) {
+    for (double turn_deg : {-90.0, 40.0}) {
+      SCOPED_TRACE(testing::Message() << where.altitude_ft << " ft, by " << turn_deg);
+      Aircraft aircraft = engaged(where);
+      send(aircraft, {"heading_hold_on"});
+      send(aircraft, {turn_deg < 0 ? "heading_bug_down" : "heading_bug_up"}, std::abs(turn_deg));
+      const double way = std::copysign(1.0, turn_deg), bug_deg = token(aircraft, 107);
+      const auto [bank, roll, climb, beyond] = greatest(
+          aircraft, 200.0, [&] { return std::abs(bank_deg(aircraft)); },
+          [&] { return degrees(std::abs(aircraft.flight.rate_rad_per_s.x)); },
+          [&] { return std::abs(aircraft.flight.altitude_ft - where.altitude_ft); },
+          [&] { return way * std::remainder(magnetic_heading_deg(aircraft.flight) - bug_deg, 360.0); });
+      EXPECT_LT(bank, 27.0);
+      EXPECT_LT(roll, 7.0);
+      EXPECT_LT(climb, 20.0);
+      EXPECT_LT(beyond, 0.5) << "overshoot";
+      EXPECT_LT(off_heading(aircraft, bug_deg), 0.3);
+    }
+  }
+}
+
+TEST(Autopilot, Goes_to_the_selected_altitude_at_the_wheels_rate_and_turns_the_wheel_back) {
+  for (int way : {-1, 1}) {
+    Aircraft aircraft = engaged(quick);
+    run(aircraft, 5.0);
+    EXPECT_EQ(token(aircraft, 120), 0.0);
+    send(aircraft, {way < 0 ? "selected_altitude_down" : "selected_altitude_up"}, 15);
+    run(aircraft, 25.0);
+    EXPECT_EQ(token(aircraft, 120), 1500.0 * way);
+    EXPECT_NEAR(aircraft.flight.vertical_speed_fpm, 1500.0 * way, 100.0);
+    const auto [beyond_ft, gain_kt] = greatest(
+        aircraft, 90.0, [&] { return way * (aircraft.flight.altitude_ft - token(aircraft, 109)); },
+        [&] { return std::abs(aircraft.air.indicated_airspeed_kt - 250.0); });
+    EXPECT_LT(beyond_ft, 15.0) << "overshoot";
+    EXPECT_LT(gain_kt, way < 0 ? 10.0 : 4.0) << "idling engines hold no more";
+    EXPECT_NEAR(aircraft.air.indicated_altitude_ft, 5000.0 + 1500.0 * way, 3.0);
+    EXPECT_EQ(token(aircraft, 120), 0.0);
+    EXPECT_EQ(token(aircraft, 108), 1.0);
+  }
+}
+
+TEST(FlightDirector, Leads_to_an_altitude_chosen_by_hand_at_the_usual_rate) {
+  Aircraft aircraft = flying(quick);
+  aircraft.autopilot.selections.altitude_ft = 9000.0;
+  run(aircraft, 2.0);
+  EXPECT_EQ(token(aircraft, 120), 0.0) << "the wheel is nobody's yet";
+  send(aircraft, {"altitude_hold_on"});
+  run(aircraft, 2.0);
+  EXPECT_EQ(token(aircraft, 120), 1500.0);
+  EXPECT_GT(aircraft.autopilot.director.pitch_deg, pitch_deg(aircraft) + 2.0);
+}
+
+TEST(Autopilot, Without_an_altitude_it_holds_the_wheels_climb_from_the_present_one_on) {
+  Aircraft aircraft = flying(quick);
+  aircraft.controls.throttle = {0.9, 0.9};
+  run(aircraft, 20.0, [&] { hold_attitude(aircraft, 7.0, 0.0); });
+  aircraft.controls.elevator = aircraft.controls.aileron = 0.0;
+  const double climb_fpm = aircraft.flight.vertical_speed_fpm;
+  send(aircraft, {"autopilot_toggle"});
+  EXPECT_NEAR(token(aircraft, 120), climb_fpm, 50.0);
+  send(aircraft, {"selected_vertical_speed_down"}, 10);
+  double load = 0;
+  run(aircraft, 30.0, [&] {
+    load = std::fmax(load, std::abs(-aircraft.flight.specific_force_mps2.z / 9.80665 - 1.0));
+  });
+  EXPECT_NEAR(aircraft.flight.vertical_speed_fpm, token(aircraft, 120), 60.0);
+  EXPECT_LT(load, 0.2);
+}
+
+TEST(Autothrottle, Moves_the_levers_to_the_selected_speed_only_while_armed_and_holding) {
+  Aircraft aircraft = engaged({.altitude_ft = 5000, .airspeed_kt = 200});
+  const double before = token(aircraft, 128);
+  send(aircraft, {"selected_speed_up"}, 20);
+  run(aircraft, 10.0);
+  EXPECT_GT(token(aircraft, 128), before + 2000.0);
+  run(aircraft, 80.0);
+  EXPECT_NEAR(aircraft.air.indicated_airspeed_kt, 220.0, 1.0);
+  EXPECT_EQ(aircraft.controls.throttle[0], aircraft.controls.throttle[1]);
+  for (const auto& off : {Names{"airspeed_hold_off"},
+                          {"airspeed_hold_on", "autothrottle_arm_toggle", "airspeed_hold_on"}}) {
+    send(aircraft, off);
+    aircraft.controls.throttle = {0.6, 0.3};
+    run(aircraft, 5.0);
+    EXPECT_EQ(aircraft.controls.throttle, (std::array{0.6, 0.3}));
+  }
+}
+
+TEST(Autopilot, Captures_a_radial_from_its_heading_and_follows_it_over_the_station) {
+  Aircraft aircraft = engaged({.altitude_ft = 6000,
+                               .airspeed_kt = 220,
+                               .heading_deg = 90,
+                               .along_m = -20000,
+                               .right_m = -9000});
+  aircraft.nav[0].frequency_mhz = vor_stations()[0].frequency_mhz;
+  aircraft.nav[0].course_deg = 50.0;
+  send(aircraft, {"navigation_hold_on"});
+  run(aircraft, 60.0);
+  EXPECT_LT(off_heading(aircraft, 90.0), 1.0) << "the bug, until the course comes";
+  const auto [beyond] = greatest(aircraft, 120.0, [&] { return -aircraft.nav[0].course_deviation; });
+  EXPECT_LT(beyond, 0.05) << "overshoot, in scales";
+  EXPECT_NEAR(aircraft.nav[0].course_deviation, 0.0, 0.03);
+  EXPECT_EQ(token(aircraft, 853), 0.0) << "TO";
+  const auto [bank] = greatest(aircraft, 240.0, [&] { return std::abs(bank_deg(aircraft)); });
+  EXPECT_LT(bank, 8.0) << "calm above the station";
+  EXPECT_EQ(token(aircraft, 853), 1.0) << "FROM";
+  EXPECT_NEAR(aircraft.nav[0].course_deviation, 0.0, 0.03);
+
+  send(aircraft, {"hsi_source_toggle", "course_up"});
+  run(aircraft, 60.0);
+  EXPECT_LT(off_heading(aircraft, 50.0), 0.5) << "without a route it keeps its track";
+}
+
+// A coupled approach to 50 ft, as the panels send it: the glide slope's hold again in every frame.
+TEST(Autopilot, Flies_the_approach_to_the_flare) {
+  struct Case {
+    int pace;
+    Wind wind;
+    double intercept_deg, course_scales, slope_scales;
+  };
+  for (const Case& c : {Case{60, {}, 30, 0.02, 0.15}, Case{10, {162, 20, 0}, 30, 0.05, 0.15},
+                        Case{120, {342, 25, 0}, -45, 0.05, 0.15}, Case{60, {142, 15, 1}, 45, 0.1, 0.5},
+                        Case{10, {0, 20, 1}, -30, 0.1, 0.5}}) {
+    Aircraft aircraft = engaged({.altitude_ft = 2800,
+                                 .airspeed_kt = 150,
+                                 .heading_deg = 70 + c.intercept_deg,
+                                 .along_m = -27000,
+                                 .right_m = -100 * c.intercept_deg,
+                                 .flap_detent = 3,
+                                 .gear_down = true},
+                                c.pace, c.wind);
+    send(aircraft, {"navigation_hold_on", "approach_arm_on"});
+    send(aircraft, {"selected_speed_down"}, 10);
+    double course = 0, slope = 0;
+    for (int i = 0; i < 700 * c.pace && !aircraft.flight.on_ground; ++i) {
+      aircraft.step();
+      if (aircraft.nav[0].glide_slope) send(aircraft, {"approach_hold_on"});
+      if (aircraft.flight.height_ft < 200.0) continue;
+      if (i > 150 * c.pace) course = std::fmax(course, std::abs(aircraft.nav[0].course_deviation));
+      if (token(aircraft, 108) == 0.0)
+        slope = std::fmax(slope, std::abs(aircraft.nav[0].slope_deviation));
+    }
+    EXPECT_LT(course, c.course_scales) << "pace " << c.pace << ", wind from " << c.wind.from_true_deg;
+    EXPECT_LT(slope, c.slope_scales) << "pace " << c.pace << ", wind from " << c.wind.from_true_deg;
+    EXPECT_GT(slope, 0.0);
+    ASSERT_TRUE(aircraft.flight.on_ground);
+    EXPECT_LT(std::abs(runway_axes(aircraft.flight.position_m).right_m), 10.0);
+    EXPECT_LT(std::abs(aircraft.flight.vertical_speed_fpm), 1000.0);
+    aircraft.step();
+    EXPECT_EQ(token(aircraft, 103), 0.0) << "on the ground it lets go";
+  }
+}
+
+TEST(Autopilot, Engages_only_where_it_can_fly_and_lets_go_where_it_cannot) {
+  struct Case {
+    const char* what;
+    void (*happens)(Aircraft&);
+  };
+  const Case cases[] = {
+      {"stick pulled", [](Aircraft& a) { a.controls.elevator = 0.3; }},
+      {"stick turned", [](Aircraft& a) { a.controls.aileron = -0.3; }},
+      {"avionics off", [](Aircraft& a) { a.electrics.avionics_on = false; }},
+      {"no power", [](Aircraft& a) { a.electrics = {}; }},
+      {"gyros dead", [](Aircraft& a) { a.failures.set(2, true); }},
+      {"rolled over",
+       [](Aircraft& a) {
+         a.airframe.attitude = Quaternion::from({1.0, 0.0, 0.0});
+       }},
+      {"before a stall",
+       [](Aircraft& a) {
+         a.airframe.attitude = Quaternion::from({0.0, 0.3, 1.25});
+       }},
+      {"on the ground", [](Aircraft& a) { a.place_on_runway(); }},
+  };
+  for (const Case& c : cases) {
+    Aircraft aircraft = engaged(quick);
+    run(aircraft, 1.0);
+    c.happens(aircraft);
+    aircraft.step();
+    EXPECT_EQ(token(aircraft, 103), 0.0) << c.what;
+    send(aircraft, {"autopilot_toggle"});
+    EXPECT_EQ(token(aircraft, 103), 0.0) << c.what << ": the switch springs back";
+  }
+  Aircraft cold;
+  send(cold, {"autopilot_toggle"});
+  EXPECT_EQ(token(cold, 103), 0.0);
+}
+
+TEST(Autopilot, One_mode_ends_another) {
+  struct Case {
+    Names events;
+    LateralMode lateral;
+    bool armed, approach;
+  };
+  using enum LateralMode;
+  for (const Case& c : {Case{{"heading_hold_on"}, heading, false, false},
+                        Case{{"heading_hold_on", "navigation_hold_off"}, heading, false, false},
+                        Case{{"heading_hold_on", "heading_hold_off"}, level, false, false},
+                        Case{{"navigation_hold_on", "approach_arm_on"}, navigation, true, true},
+                        Case{{"approach_hold_on"}, navigation, true, true},
+                        Case{{"approach_hold_on", "approach_hold_off"}, navigation, false, false},
+                        Case{{"approach_arm_on", "approach_arm_off"}, navigation, false, false},
+                        Case{{"approach_arm_on", "navigation_hold_off"}, level, false, false},
+                        Case{{"approach_arm_on", "heading_hold_on"}, heading, false, false}}) {
+    Aircraft aircraft =
+        engaged({.altitude_ft = 2500, .airspeed_kt = 150, .along_m = -15000, .flap_detent = 3});
+    aircraft.step();
+    send(aircraft, c.events);
+    aircraft.step();
+    const std::string_view last = c.events.back();
+    const AutopilotModes& modes = aircraft.autopilot.modes;
+    EXPECT_EQ(modes.lateral, c.lateral) << last;
+    EXPECT_EQ(token(aircraft, 106), c.lateral == heading ? 1.0 : 0.0) << last;
+    EXPECT_EQ(modes.approach_armed, c.armed) << last;
+    EXPECT_EQ(modes.approach, c.approach) << last;
+  }
+  Aircraft beyond = engaged(high);
+  send(beyond, {"approach_hold_on"});
+  beyond.step();
+  EXPECT_FALSE(beyond.autopilot.modes.approach) << "nothing is received";
+}
+
+TEST(Autopilot, Lets_go_without_a_jerk_and_the_bars_go_on) {
+  for (double seconds : {15.0, 90.0}) {  // in a turn and a climb, and in level flight
+    Aircraft aircraft = engaged({.altitude_ft = 5000, .airspeed_kt = 200});
+    aircraft.autopilot.selections = {150.0, 5800.0, 200.0, 0.0};
+    send(aircraft, {"heading_hold_on"});
+    run(aircraft, seconds);
+    const FlightDirector shown = aircraft.autopilot.director;
+    const double before = aircraft.flight.specific_force_mps2.z;
+    send(aircraft, {"autopilot_toggle"});
+    const auto [jerk, roll] = greatest(
+        aircraft, 2.0,
+        [&] { return std::abs(aircraft.flight.specific_force_mps2.z - before) / 9.80665; },
+        [&] { return degrees(std::abs(aircraft.flight.rate_rad_per_s.x)); });
+    EXPECT_LT(jerk, 0.04);
+    EXPECT_LT(roll, 2.0);
+    EXPECT_NEAR(aircraft.autopilot.director.bank_deg, shown.bank_deg, 1.0);
+    EXPECT_NEAR(aircraft.autopilot.director.pitch_deg, shown.pitch_deg, 1.0);
+  }
+}
+
+TEST(Autopilot, Flies_on_with_a_dead_engine_and_gives_way_in_height_before_it_stalls) {
+  Aircraft aircraft = engaged(quick);
+  send(aircraft, {"heading_hold_on"});
+  aircraft.fuel.lever_open[0] = false;
+  const auto [turn] = greatest(aircraft, 240.0, [&] { return off_heading(aircraft, 70.0); });
+  EXPECT_LT(turn, 3.0);
+  EXPECT_LT(off_heading(aircraft, 70.0), 0.5);
+  EXPECT_NEAR(aircraft.flight.altitude_ft, 5000.0, 10.0);
+
+  send(aircraft, {"airspeed_hold_off"});
+  aircraft.controls.throttle = {0.0, 0.0};
+  run(aircraft, 180.0);
+  EXPECT_EQ(token(aircraft, 103), 1.0);
+  EXPECT_GT(aircraft.air.indicated_airspeed_kt, 130.0);
+  EXPECT_LT(aircraft.flight.altitude_ft, 4900.0);
+}
+
+TEST(YawDamper, Damps_the_dutch_roll_while_on) {
+  const auto swing_left = [](bool on) {
+    Aircraft aircraft = flying({.altitude_ft = 5000, .airspeed_kt = 160, .flap_detent = 3});
+    if (on) send(aircraft, {"yaw_damper_toggle"});
+    aircraft.airframe.rate_rad_per_s.z = 0.1;
+    run(aircraft, 8.0);
+    return greatest(aircraft, 5.0, [&] { return std::abs(aircraft.flight.sideslip_rad); })[0];
+  };
+  EXPECT_LT(swing_left(true), 0.5 * swing_left(false));
+}
+
+}  // namespace
+}  // namespace host::simulation
