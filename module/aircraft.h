@@ -122,6 +122,11 @@ struct Aircraft {
   u32 fire_test_clock = 0;     ///< seconds
   u32 fire_test_deadline = 0;  ///< seconds
 
+  // ---- Flight controls
+  u32 stabind_needle_on = 0;
+  u32 stabind_vertical_on = 0;
+  u32 stabind_horizontal_on = 0;
+
   // ---- Warnings and recorders
   u32 dh_light_on = 0;
   f64 dh_setting_ft = 0.0;    ///< 0..500 in steps of 10

@@ -20,6 +20,8 @@
 #include "host/simulation/systems/engine_start.h"
 #include "host/simulation/systems/fuel.h"
 #include "host/simulation/systems/lights.h"
+#include "host/simulation/systems/trim_drives.h"
+#include "host/simulation/systems/tug.h"
 
 namespace host::simulation {
 
@@ -29,8 +31,11 @@ struct Aircraft {
   FlightState flight;
   Airframe airframe;
   Turbulence turbulence;
-  /// Under the wheels until the crew first sets the parking brake; they hold the aircraft altogether.
+  TrimDrives trim_drives;
+  /// Under the wheels until the crew first sets the parking brake or the tug comes; they hold the aircraft
+  /// altogether.
   bool chocks_in = true;
+  Tug tug;
   AirData air;
   AirControls air_controls;
   Lights lights;
@@ -68,6 +73,8 @@ struct Aircraft {
 
  private:
   void fly(double dt_s);
+  void stand_or_roll(double dt_s);
+  TugInputs tug_inputs() const;
   AirframeInputs surroundings() const;
   EngineInputs engine_inputs(std::size_t engine) const;
   void put_in_the_air(const InFlight& where);

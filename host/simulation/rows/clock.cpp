@@ -17,7 +17,7 @@ constexpr TokenRow tokens[] = {
      [](const Aircraft& a) { return panel_clock(a, 3600.0, 24.0); }},
     {{4, "local_minutes", "minutes"}, [](const Aircraft& a) { return panel_clock(a, 60.0, 60.0); }},
     {{5, "local_seconds", "seconds"}, [](const Aircraft& a) { return panel_clock(a, 1.0, 60.0); }},
-    {{336, "simulation_rate", "ratio to real time"}, [](const Aircraft&) { return 1.0; }},
+    {{336, "simulation_rate", "1/256 of real time"}, [](const Aircraft&) { return 256.0; }},
     {{604, "clock_seconds", "seconds"}, [](const Aircraft& a) { return a.clock.reading_s(); }},
 };
 

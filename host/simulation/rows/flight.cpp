@@ -29,6 +29,17 @@ double slip_ball_pixels(const Aircraft& aircraft) {
   return std::clamp(2.0 * lean_deg, -15.0, 15.0);
 }
 
+// As far as the dials' scales go; the jacks have a degree more at their upper end.
+double stabiliser(const Aircraft& aircraft) {
+  return std::clamp(aircraft.airframe.surfaces.stabiliser_rad * degrees_per_radian, -3.0, 9.0) / 10.0;
+}
+
+// The lever's: lever pictures and calls go by it, from detent to detent, and the indicator shows it.
+double flap_lever(std::size_t detent) {
+  constexpr double detent_step = 3277.0;
+  return std::min(control_full, detent_step * static_cast<double>(detent));
+}
+
 constexpr TokenRow tokens[] = {
     {{60, "on_ground", "0/1"}, [](const Aircraft& a) { return on_off(a.flight.on_ground); }},
     {{65, "vertical_speed", "1/256 metres/second"},
@@ -46,7 +57,8 @@ constexpr TokenRow tokens[] = {
     {{323, "parking_brake", "0 released, 32767 set"},
      [](const Aircraft& a) { return a.controls.parking_brake_set ? parking_brake_full : 0.0; }},
     {{328, "flap_position", "0..16384"},
-     [](const Aircraft& a) { return control_full * a.airframe.surfaces.flap_deg / full_flap_deg; }},
+     [](const Aircraft& a) { return flap_lever(a.controls.flap_detent); }},
+    {{783, "stabiliser", "10 degrees, nose up positive"}, stabiliser},
     {{614, "radio_altitude", "metres"},
      [](const Aircraft& a) { return a.flight.height_ft * metres_per_foot; }},
 };
