@@ -51,7 +51,7 @@ f64 turn_programme_light(Element*) {
   return p.light;
 }
 
-/// Dark, it asks for the turn.
+/// Its first picture, the lit one, asks for the turn.
 inline f64 turn_light(Element*) {
   const bool free = tug.parking_brake == 0 && tug.turning == 0;
   if (free && tug.left.progress > push_distance) tug.turn_light = 0;
