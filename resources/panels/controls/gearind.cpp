@@ -7,7 +7,7 @@ constexpr Size lamp{27, 13};
 
 constexpr Item items[] = {
     Screw{{7, 8}, 17, 2.8},
-    Screw{{7, -8}, 80, 2.8},
+    Screw{{-6.5, 6.5}, 80, 2.6},
     Legend{{12.5, 23}, "CUT", 6.5},
     Legend{{12.5, 71}, "HORN", 6},
     Legend{at("left_upper_down_light", 0, -12), "LEFT", 7.5},
