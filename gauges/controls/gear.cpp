@@ -31,11 +31,11 @@ f64 handle(Element*) {
 
 constinit i32 last_gear;
 
-void take_first_gear(uintptr_t) { last_gear = whole_i32(read(token::nose_gear)); }
+void take_first_gear(uintptr_t) { last_gear = whole_i32(read(token::nose_gear_position)); }
 
 void call_gear() {
   constexpr i32 up = 0, down_and_locked = 16383;
-  const i32 gear = whole_i32(read(token::nose_gear));
+  const i32 gear = whole_i32(read(token::nose_gear_position));
   const bool called = gear != last_gear && aircraft.fo_callouts_enabled == 1;
   if (called && gear == up) request(gearu_sound_request);
   if (called && gear == down_and_locked) request(geard_sound_request);

@@ -20,7 +20,8 @@ f64 in_transit(Element*) {
 }
 
 constexpr Bitmaps green{20270, 2}, unlocked{20280, 2}, door{20290, 2};
-constexpr u32 left = token::left_gear, nose = token::nose_gear, right = token::right_gear;
+constexpr u32 left = token::left_gear_position, nose = token::nose_gear_position,
+              right = token::right_gear_position;
 
 constinit u32 horn_cutout;
 

@@ -131,8 +131,7 @@ constinit Body body{
         text("Tail heading", {39, 69}, figures, white, tail_text, tail)
             .from(token::heading, token::heading),
         lamp("Turn light", 24190, {34, 92}, turn_light),
-        lamp("Left programme light", 24170, {98, 62},
-             turn_programme_light<left, left_turn_goes_on>),
+        lamp("Left programme light", 24170, {98, 62}, turn_programme_light<left, left_turn_goes_on>),
         programme("Left programme progress", left_text, runs<&left_text, step_left, left>),
         lamp("Back programme light", 24160, {151, 96}, back_light),
         programme("Back programme progress", back_text, runs<&back_text, step_back, back>),

@@ -19,6 +19,7 @@ int fly(const FlyOptions& options) {
       throw std::runtime_error("--open: there is no window " + std::to_string(ident));
     cockpit.panels().open(ident);
   }
+  if (options.open.empty()) cockpit.begin_with_start_page();
   FlightDeck deck(cockpit, options.deck);
   deck.fly();
   return exit_fine;

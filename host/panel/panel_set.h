@@ -21,6 +21,10 @@ class PanelSet {
  public:
   explicit PanelSet(const PanelConfig& config);
 
+  /// Shows the start page and no other window that can be opened. False where the panel has none.
+  bool begin_with_start_page();
+
+  /// The start page gives way to any other window.
   void open(std::uint32_t ident);
   void close(std::uint32_t ident);
   void toggle(std::uint32_t ident);
@@ -52,6 +56,7 @@ class PanelSet {
   void set(std::size_t window, State state);
 
   std::vector<Entry> entries_;
+  std::optional<std::size_t> start_page_;
   std::vector<State> states_;
   unsigned changes_ = 0;
 };

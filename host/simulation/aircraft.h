@@ -15,6 +15,7 @@
 #include "host/simulation/program_windows.h"
 #include "host/simulation/systems/air_controls.h"
 #include "host/simulation/systems/apu.h"
+#include "host/simulation/systems/cabin.h"
 #include "host/simulation/systems/electrics.h"
 #include "host/simulation/systems/engine.h"
 #include "host/simulation/systems/engine_start.h"
@@ -36,6 +37,9 @@ struct Aircraft {
   /// altogether.
   bool chocks_in = true;
   Tug tug;
+  /// By the ground crew, and its engines have not turned since: an automatic start finds them at idle, and
+  /// with the battery all power goes.
+  bool handed_over = false;
   AirData air;
   AirControls air_controls;
   Lights lights;
@@ -49,6 +53,7 @@ struct Aircraft {
   int marker = 0;  ///< as marker_overhead()
   Selections selections;
   FlightDirector flight_director;
+  Cabin cabin;
   ProgramWindows windows;
 
   /// Parked, everything off. From 10 to 120 steps a second; 60 is what the cockpit runs with.
@@ -63,6 +68,15 @@ struct Aircraft {
   /// Puts both engines at a warm idle with battery and avionics on, as after a start some
   /// minutes ago.
   void make_ready();
+
+  /// What the automatic start leads to: at once where the aircraft has just been handed over.
+  void start_automatically();
+
+  /// The ground crew's part: a ground unit feeds the aircraft, and the auxiliary power unit is at speed.
+  void connect_ground_power();
+
+  /// As the start page finds it: battery, avionics and auxiliary power unit on, fuel levers open.
+  void hand_over();
 
   /// Lines it up on the runway as it is, at rest, without chocks, the parking brake set.
   void place_on_runway();
@@ -81,6 +95,7 @@ struct Aircraft {
   Trim trim_for(const InFlight& where);
   void start_engines_at_once(double thrust_n);
   void update_systems(double dt_s);
+  void follow_handing_over();
   void update_engine_start(double dt_s);
   void update_engines(double dt_s);
   void update_fuel(double dt_s);

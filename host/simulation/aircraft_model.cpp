@@ -53,6 +53,8 @@ simulation::FlightControls& AircraftModel::controls() { return systems_->aircraf
 
 simulation::Weather& AircraftModel::weather() { return systems_->aircraft.air.weather; }
 
+void AircraftModel::hand_over() { systems_->aircraft.hand_over(); }
+
 void AircraftModel::place_on_runway() { systems_->aircraft.place_on_runway(); }
 
 bool AircraftModel::place_in_flight(const simulation::InFlight& where) {

@@ -51,7 +51,7 @@ TEST(Calls, FollowTheFlapLeverAndTheNoseGear) {
   for (const Row& row :
        {Row{9000, 0, {gearu_sound_request}}, Row{9000, 16383, {geard_sound_request}},
         Row{9000, 0.9, {gearu_sound_request}}, Row{0, 16382.9, {}}, Row{0, 16384, {}}}) {
-    expect_calls("Gear", token::nose_gear, row.from, row.to, row.sounds);
+    expect_calls("Gear", token::nose_gear_position, row.from, row.to, row.sounds);
   }
 }
 
@@ -82,8 +82,9 @@ TEST(Gear, TheLeverSendsWhatItHasNotSentYetAndShowsTheAircraftsOwn) {
 TEST(Gear, EachLegHasItsOwnLights) {
   rig::Host host;
   rig::Gauge panel("Gearind");
-  const std::map<std::string, u32> legs{
-      {"left", token::left_gear}, {"nose", token::nose_gear}, {"right", token::right_gear}};
+  const std::map<std::string, u32> legs{{"left", token::left_gear_position},
+                                        {"nose", token::nose_gear_position},
+                                        {"right", token::right_gear_position}};
   for (const auto& [moved, token] : legs) {
     for (const f64 reading : {0.0, 99.0, 99.9, 100.0, 9000.0, 16000.0, 16000.5, 16383.0}) {
       host.tokens.clear();

@@ -53,7 +53,8 @@ TEST(Controls, EachMovesThePartItIsNamedAfter) {
                                                    "Pushback automatic_push_right",
                                                    "Pushback manual_push_back",
                                                    "Pushback manual_push_left",
-                                                   "Pushback manual_push_right"};
+                                                   "Pushback manual_push_right",
+                                                   "Stewcall crew_call_button"};
   const std::set<std::string> answered_by_the_host{"Hsi course_knob_down", "Hsi course_knob_up",
                                                    "Airspeed selected_speed_knob_down",
                                                    "Airspeed selected_speed_knob_up"};
@@ -131,7 +132,10 @@ TEST(Controls, EachClickIsHeardOnce) {
       {"Engstart start_selector_off", {"toggle"}},      // a lever
       {"Engstart start_selector_engine_1", {"toggle"}},
       {"Engstart start_selector_engine_2", {"toggle"}},
-      {"Apu start_button", {"", " other"}},  // soft: the APU itself is heard
+      {"Apu start_button", {"", " other"}},       // soft: the APU itself is heard
+      {"Stewcall crew_call_button", {" other"}},  // chimes of their own
+      {"Stewcall left_sign_switch", {" other"}},
+      {"Stewcall right_sign_switch", {" other"}},
       {"Fuelc quantity_test_switch", {""}},
       {"Fuelreq fuel_request_lever", {"push"}},
       {"Gear set_gear_down", {""}},  // heavy: what it moves is heard

@@ -37,9 +37,9 @@ void push_tail(Aircraft& aircraft, std::uint32_t) {
 constexpr TokenRow tokens[] = {
     {{331, "gear_lever", "0 up, 16383 down"},
      [](const Aircraft& a) { return a.controls.gear_down ? gear_full : 0.0; }},
-    {{332, "nose_gear", "0 up, 16383 locked"}, gear_leg<0>},
-    {{333, "left_gear", "0 up, 16383 locked"}, gear_leg<1>},
-    {{334, "right_gear", "0 up, 16383 locked"}, gear_leg<2>},
+    {{332, "nose_gear_position", "0..16383"}, gear_leg<0>},
+    {{333, "left_gear_position", "0..16383"}, gear_leg<1>},
+    {{334, "right_gear_position", "0..16383"}, gear_leg<2>},
     {{784, "aileron_trim", "10 degrees, left positive"}, aileron_trim},
     {{787, "rudder_trim", "100 degrees, right positive"}, rudder_trim},
 };
