@@ -1,4 +1,4 @@
-/// Push-button timer (main panel) that stops by itself after 4,450 frames at the normal rate.
+/// Push-button timer (main panel) that stops by itself after a second at 18 frames a second.
 #include "gauges/instruments/frame_timer.h"
 
 namespace tarnvale {

@@ -18,7 +18,7 @@ struct FrameTimer {
   char window[3] = "";
 };
 
-/// One frame: counts at twice the rate of the simulation.
+/// One frame: counts at twice the rate of the simulation, which is 256 in real time.
 template <auto timer>
 f64 count_frame(Element* readout) {
   FrameTimer& t = *timer;

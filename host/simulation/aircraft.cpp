@@ -77,21 +77,42 @@ FlightControls Aircraft::governed_controls() {
   return governed;
 }
 
-void Aircraft::fly(double dt_s) {
-  const auto gear_was = airframe.surfaces.gear;
-  airframe.surfaces.update(dt_s, governed_controls(), autopilot.servos.deflections);
-  if (failures[System::gear]) airframe.surfaces.gear = gear_was;
-  update_brakes(dt_s);
+TugInputs Aircraft::tug_inputs() const {
+  constexpr double at_rest_mps = 0.1, idle = 0.02, pressed = 0.05;
+  const auto& [left, right] = controls.brake;
+  const bool pedals = left > pressed || right > pressed;
+  return {
+      .standing = flight.on_ground && length(flight.velocity_mps) < at_rest_mps,
+      .brakes_on = controls.parking_brake_set || pedals,
+      .no_more_needed =
+          controls.parking_brake_set || controls.throttle[0] > idle || controls.throttle[1] > idle,
+  };
+}
+
+/// Held by the tug, by the chocks, or free.
+void Aircraft::stand_or_roll(double dt_s) {
+  tug.update(dt_s, tug_inputs());
+  const MassProperties mass = mass_properties(fuel.load());
+  if (tug.coupled) {
+    chocks_in = false;
+    return airframe.roll(dt_s, -tug.speed_mps, tug.yaw_rad_per_s(), mass);
+  }
   if (chocks_in && controls.parking_brake_set) {
     chocks_in = false;
-    airframe.stand_at(airframe.position_m, airframe.attitude.angles().heading_rad,
-                      mass_properties(fuel.load()));
+    airframe.stand_at(airframe.position_m, airframe.attitude.angles().heading_rad, mass);
   }
-  if (!chocks_in) {
-    turbulence.update(dt_s, flight.on_ground ? 0.0 : air.weather.wind.gust_mps,
-                      flight.true_airspeed_mps);
-    airframe.update(dt_s, surroundings());
-  }
+  if (chocks_in) return;
+  turbulence.update(dt_s, flight.on_ground ? 0.0 : air.weather.wind.gust_mps, flight.true_airspeed_mps);
+  airframe.update(dt_s, surroundings());
+}
+
+void Aircraft::fly(double dt_s) {
+  trim_drives.update(dt_s, controls);
+  const auto gear_was = airframe.surfaces.gear;
+  airframe.surfaces.update(dt_s, governed_controls(), autopilot.servos.deflections, flight.on_ground);
+  if (failures[System::gear]) airframe.surfaces.gear = gear_was;
+  update_brakes(dt_s);
+  stand_or_roll(dt_s);
   airframe.report(flight);
 }
 
@@ -292,6 +313,7 @@ void Aircraft::hand_over() {
 
 void Aircraft::place_on_runway() {
   chocks_in = false;
+  tug = {};
   controls = controls.limited();
   controls.parking_brake_set = true;
   controls.gear_down = true;
@@ -306,6 +328,8 @@ void Aircraft::place_on_runway() {
 
 void Aircraft::put_in_the_air(const InFlight& where) {
   chocks_in = false;
+  tug = {};
+  trim_drives = {};
   turbulence = {};
   controls = {};
   controls.flap_detent = where.flap_detent;

@@ -29,6 +29,8 @@
 #include "host/simulation/systems/hydraulics.h"
 #include "host/simulation/systems/lights.h"
 #include "host/simulation/systems/stall_warning.h"
+#include "host/simulation/systems/trim_drives.h"
+#include "host/simulation/systems/tug.h"
 
 namespace host::simulation {
 
@@ -38,8 +40,11 @@ struct Aircraft {
   FlightState flight;
   Airframe airframe;
   Turbulence turbulence;
-  /// Under the wheels until the crew first sets the parking brake; they hold the aircraft altogether.
+  TrimDrives trim_drives;
+  /// Under the wheels until the crew first sets the parking brake or the tug comes; they hold the aircraft
+  /// altogether.
   bool chocks_in = true;
+  Tug tug;
   /// By the ground crew, and its engines have not turned since: an automatic start finds them at idle, and
   /// with the battery all power goes.
   bool handed_over = false;
@@ -111,6 +116,8 @@ struct Aircraft {
   void fly(double dt_s);
   FlightControls governed_controls();
   bool has_avionics() const;
+  void stand_or_roll(double dt_s);
+  TugInputs tug_inputs() const;
   AirframeInputs surroundings() const;
   EngineInputs engine_inputs(std::size_t engine) const;
   void put_in_the_air(const InFlight& where);

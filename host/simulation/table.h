@@ -39,6 +39,7 @@ extern const SystemRows electrics_rows;
 extern const SystemRows engine_rows;
 extern const SystemRows engine_start_rows;
 extern const SystemRows flight_rows;
+extern const SystemRows flight_controls_rows;
 extern const SystemRows flight_director_rows;
 extern const SystemRows fuel_rows;
 extern const SystemRows lights_rows;

@@ -75,7 +75,7 @@ struct Printer {
     const Lettering lettering{.size = row.size, .colour = ink};
     for (const Figure& figure : row.figures) {
       const double at = angle(figure.value) + figure.aside;
-      const std::string text = text_of(figure.value);
+      const std::string text(figure.text.empty() ? text_of(figure.value) : figure.text);
       const TextExtent room = text_extent(canvas, text, lettering);
       const double out = distance_within(rim - row.inside, room.width / 2, room.height / 2 + 0.3, at);
       print(canvas, polar(centre(), out, at), text, lettering);

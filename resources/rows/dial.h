@@ -39,11 +39,13 @@ struct Arc {
   double from, to, width;
 };
 
-/// A figure beside its mark: the value itself, without its sign.
+/// A figure beside its mark: the value itself, without its sign, or what stands for it.
 struct Figure {
-  constexpr Figure(double at = 0, double off = 0) : value(at), aside(off) {}
+  constexpr Figure(double at = 0, double off = 0, std::string_view printed = {})
+      : value(at), aside(off), text(printed) {}
   double value;
   double aside;  ///< degrees clockwise from its mark, to stand clear of a needle at rest
+  std::string_view text;
 };
 
 /// Figures inside the circle `inside` the rim, none nearer to it than its own reach.

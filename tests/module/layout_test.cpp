@@ -141,6 +141,7 @@ TEST(Boxes, LieOnTheirControls) {
     for (const NamedArea& area : gauge.areas()) {
       const NamedPart* own = walk::part_of(gauge, area.name);
       if (own == nullptr || own->element->kind != ELEMENT_ICON) continue;
+      if (own->name == "gear_handle") continue;  // its picture is the whole gate
       SCOPED_TRACE(std::string(gauge.header().name) + ' ' + area.name);
       const PanelPoint at = own->element->position;
       i32 alone = near;

@@ -101,15 +101,16 @@ TEST(Flight, Each_control_moves_its_own_axis_its_own_way) {
     const char* what;
     double FlightControls::*control;
     double Vector::*axis;
+    double part = 0.3;
   };
   for (const Case& c : {Case{"aileron", &FlightControls::aileron, &Vector::x},
-                        Case{"aileron trim", &FlightControls::aileron_trim, &Vector::x},
+                        Case{"aileron trim", &FlightControls::aileron_trim, &Vector::x, 1.0},
                         Case{"elevator", &FlightControls::elevator, &Vector::y},
                         Case{"rudder", &FlightControls::rudder, &Vector::z},
-                        Case{"rudder trim", &FlightControls::rudder_trim, &Vector::z}}) {
+                        Case{"rudder trim", &FlightControls::rudder_trim, &Vector::z, 1.0}}) {
     for (double sign : {-1.0, 1.0}) {
       Aircraft aircraft = flying({});
-      aircraft.controls.*c.control = 0.3 * sign;
+      aircraft.controls.*c.control = c.part * sign;
       run(aircraft, 0.5);
       const Vector& rate = aircraft.flight.rate_rad_per_s;
       EXPECT_GT(rate.*c.axis * sign, 0.02) << c.what;

@@ -66,6 +66,24 @@ TEST(Ground, Tiller_pedals_and_a_single_brake_each_turn_it_their_own_way) {
   }
 }
 
+TEST(Ground, The_gear_stays_locked_on_its_wheels_and_comes_up_in_the_air) {
+  Aircraft aircraft = on_the_runway();
+  aircraft.controls.gear_down = false;
+  run(aircraft, 20.0);
+  EXPECT_EQ(aircraft.airframe.surfaces.gear, (std::array{1.0, 1.0, 1.0}));
+  Aircraft high = flying({.airspeed_kt = 160, .gear_down = true});
+  high.controls.gear_down = false;
+  run(high, 4.0);
+  high.controls.gear_down = true;
+  run(high, 3.9);
+  EXPECT_LT(high.airframe.surfaces.gear[0], 1.0);
+  run(high, 0.2);
+  EXPECT_EQ(high.airframe.surfaces.gear[0], 1.0) << "in transit it turns back";
+  high.controls.gear_down = false;
+  run(high, 9.6);
+  EXPECT_EQ(high.airframe.surfaces.gear, (std::array{0.0, 0.0, 0.0}));
+}
+
 struct TakeOff {
   double roll_m, lift_off_kt, climb_fpm;
 };

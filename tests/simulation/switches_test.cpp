@@ -40,6 +40,37 @@ TEST(Switches, A_parked_aircraft_stands_still_on_the_field) {
   }
 }
 
+TEST(Trims, Move_at_their_own_rates_to_their_own_ends) {
+  AircraftModel aircraft;
+  const double stabiliser = reading(aircraft, "stabiliser");
+  for (int notch = 0; notch < 20; ++notch) send(aircraft, "pitch_trim_nose_up");
+  aircraft.advance(2.0);
+  EXPECT_NEAR(reading(aircraft, "stabiliser"), stabiliser + 0.1, 1e-9) << "a degree";
+  for (int notch = 0; notch < 500; ++notch) send(aircraft, "pitch_trim_nose_down");
+  aircraft.advance(20.0);
+  EXPECT_EQ(reading(aircraft, "stabiliser"), -0.3);
+
+  struct Motor {
+    const char *token, *left, *right;
+    double degree, end;
+  };
+  for (const Motor& motor :
+       {Motor{"rudder_trim", "rudder_trim_left", "rudder_trim_right", 0.01, 0.07},
+        Motor{"aileron_trim", "aileron_trim_left", "aileron_trim_right", -0.1, -0.5}}) {
+    send(aircraft, motor.right);
+    aircraft.advance(1.0);
+    EXPECT_NEAR(reading(aircraft, motor.token), motor.degree / 2.0, 1e-9) << motor.token;
+    aircraft.advance(5.0);
+    EXPECT_NEAR(reading(aircraft, motor.token), motor.degree, 1e-9) << motor.token;
+    for (int press = 0; press < 3; ++press) send(aircraft, motor.left);
+    aircraft.advance(6.0);
+    EXPECT_NEAR(reading(aircraft, motor.token), -2.0 * motor.degree, 1e-9) << motor.token;
+    for (int press = 0; press < 30; ++press) send(aircraft, motor.right);
+    aircraft.advance(60.0);
+    EXPECT_NEAR(reading(aircraft, motor.token), motor.end, 1e-9) << motor.token;
+  }
+}
+
 TEST(HeldTokens, Show_any_value_until_let_go_and_leave_the_aircraft_alone) {
   AircraftModel aircraft;
   send(aircraft, "battery_toggle");

@@ -87,6 +87,20 @@ void Airframe::stand_at(const Vector& place_m, double heading_rad, const MassPro
   main_wheel_down = true;
 }
 
+void Airframe::roll(double dt_s, double speed_mps, double yaw_rad_per_s, const MassProperties& mass) {
+  const double ahead_m = main_wheels_behind_m + mass.centre_m.x;  // of the main wheels
+  const auto forward = [](double heading_rad) {
+    return Vector{std::cos(heading_rad), std::sin(heading_rad), 0.0};
+  };
+  const double from_rad = attitude.angles().heading_rad, to_rad = from_rad + yaw_rad_per_s * dt_s;
+  const Vector way = forward((from_rad + to_rad) / 2.0);
+  stand_at(position_m + way * (speed_mps * dt_s) + (forward(to_rad) - forward(from_rad)) * ahead_m,
+           to_rad, mass);
+  rate_rad_per_s = {0.0, 0.0, yaw_rad_per_s};
+  const Vector across{-std::sin(to_rad), std::cos(to_rad), 0.0};
+  velocity_mps = forward(to_rad) * speed_mps + across * (yaw_rad_per_s * ahead_m);
+}
+
 void Airframe::put_at_altitude(const Vector& place_m, double altitude_ft) {
   position_m = {place_m.x, place_m.y, -altitude_ft * metres_per_foot - datum_height_m()};
 }

@@ -57,6 +57,10 @@ struct Airframe {
   /// Puts it at rest on its wheels at that place of the field.
   void stand_at(const Vector& place_m, double heading_rad, const MassProperties& mass);
 
+  /// Rolls it on its wheels as a tug moves it, without slip: ahead (back if negative) at the main wheels,
+  /// about which it turns.
+  void roll(double dt_s, double speed_mps, double yaw_rad_per_s, const MassProperties& mass);
+
   /// Moves it to an altitude above that place.
   void put_at_altitude(const Vector& place_m, double altitude_ft);
 

@@ -15,8 +15,8 @@ struct FlightControls {
   double aileron = 0.0;              ///< -1 left .. 1 right
   double rudder = 0.0;               ///< -1 left pedal .. 1 right pedal
   double pitch_trim = 0.0;           ///< -1 nose down .. 1 nose up
-  double aileron_trim = 0.0;         ///< -1 left .. 1 right
-  double rudder_trim = 0.0;          ///< -1 left .. 1 right
+  double aileron_trim = 0.0;         ///< -1 left .. 1 right, of the trim's own travel
+  double rudder_trim = 0.0;          ///< -1 left .. 1 right, likewise
   std::array<double, 2> throttle{};  ///< engines 1 and 2: 0 idle .. 1 take-off
   std::size_t flap_detent = 0;       ///< index in flap_detents_deg
   bool gear_down = true;

@@ -16,9 +16,10 @@ struct Leg {
   double cornering_per_m;  // sideways stiffness as a part of the load
 };
 
-constexpr std::array<Leg, 3> legs{{{{10.5, 0.0, wheel_depth_m}, 155e3, 25e3, 0.40, 0.0, -1, 3.0},
-                                   {{-1.2, -2.5, wheel_depth_m}, 650e3, 100e3, 0.45, 75e3, 0, 6.0},
-                                   {{-1.2, 2.5, wheel_depth_m}, 650e3, 100e3, 0.45, 75e3, 1, 6.0}}};
+constexpr std::array<Leg, 3> legs{
+    {{{nose_wheel_ahead_m, 0.0, wheel_depth_m}, 155e3, 25e3, 0.40, 0.0, -1, 3.0},
+     {{-main_wheels_behind_m, -2.5, wheel_depth_m}, 650e3, 100e3, 0.45, 75e3, 0, 6.0},
+     {{-main_wheels_behind_m, 2.5, wheel_depth_m}, 650e3, 100e3, 0.45, 75e3, 1, 6.0}}};
 
 // Belly, nose, tail and wing tips.
 constexpr std::array<Vector, 5> bare_points{

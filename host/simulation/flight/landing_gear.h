@@ -59,7 +59,8 @@ struct Stance {
 };
 Stance standing(double mass_kg, const Vector& centre_m);
 
-/// Where a main wheel's tyre ends with its leg extended, below 25 % of the mean chord.
+/// Where the wheels stand, from 25 % of the mean chord; their tyres end with the legs extended.
 inline constexpr double wheel_depth_m = 2.6;
+inline constexpr double nose_wheel_ahead_m = 10.5, main_wheels_behind_m = 1.2;
 
 }  // namespace host::simulation

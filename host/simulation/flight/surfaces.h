@@ -22,20 +22,24 @@ struct ServoDeflections {
 struct Surfaces {
   double elevator_rad = 0.0;                  ///< 25 degrees pulled, 15 pushed
   double stabiliser_rad = 0.0;                ///< nose-up trim positive: -3.5 .. 10.5 degrees
-  double aileron_rad = 0.0;                   ///< 20 degrees either way
-  double rudder_rad = 0.0;                    ///< 25 degrees either way
+  double aileron_rad = 0.0;                   ///< 20 degrees either way, of which trim 5
+  double rudder_rad = 0.0;                    ///< 25 degrees either way, of which trim 7
   double flap_deg = 0.0;                      ///< 2.5 degrees a second: full flap in 17 s
   std::array<double, 3> gear{1.0, 1.0, 1.0};  ///< nose, left, right: 0 up .. 1 locked; 8, 9, 9.5 s
   double speed_brake = 0.0;                   ///< 0..1 in 3 s
   double lift_dumpers = 0.0;                  ///< 0..1 in 0.8 s
   double steering_rad = 0.0;  ///< nose wheel, right positive: tiller 60 degrees, pedals 6
 
-  /// The controls stand within their limits.
-  void update(double dt_s, const FlightControls& controls, const ServoDeflections& servos);
+  /// The controls stand within their limits. While the wheels carry weight, a leg that is locked down
+  /// stays so whatever the lever says.
+  void update(double dt_s, const FlightControls& controls, const ServoDeflections& servos,
+              bool weight_on_wheels = false);
 
   /// Everything at once where the controls ask for it.
   void settle(const FlightControls& controls);
 };
+
+inline constexpr double full_aileron_trim_deg = 5.0, full_rudder_trim_deg = 7.0;
 
 double stabiliser_for_trim_rad(double pitch_trim);
 double trim_for_stabiliser(double stabiliser_rad);

@@ -17,7 +17,7 @@ constexpr TokenRow tokens[] = {
      [](const Aircraft& a) { return panel_clock(a, 3600.0, 24.0); }},
     {{4, "local_minutes", "minutes"}, [](const Aircraft& a) { return panel_clock(a, 60.0, 60.0); }},
     {{5, "local_seconds", "seconds"}, [](const Aircraft& a) { return panel_clock(a, 1.0, 60.0); }},
-    {{336, "simulation_rate", "ratio to real time"}, [](const Aircraft&) { return 1.0; }},
+    {{336, "simulation_rate", "1/256 of real time"}, [](const Aircraft&) { return 256.0; }},
     {{746, "months_past", "months since the year began, 0..11"},
      [](const Aircraft& a) { return static_cast<double>(a.clock.date().months_past); }},
     {{747, "day_of_month", "1..31"},

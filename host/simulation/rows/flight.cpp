@@ -8,7 +8,6 @@ namespace host::simulation {
 namespace {
 
 constexpr double control_full = 16384.0;
-constexpr double gear_down = 16383.0;
 
 /// 256 to a metre a second, so that 1 ft/min is 1.30048.
 constexpr double climb_units_per_fpm = 256.0 / feet_per_minute_per_mps;
@@ -56,8 +55,6 @@ constexpr TokenRow tokens[] = {
      [](const Aircraft& a) { return a.standby_compass.reading_deg; }},
     {{328, "flap_position", "0..16384"},
      [](const Aircraft& a) { return flap_lever(a.controls.flap_detent); }},
-    {{332, "nose_gear_position", "0..16383"},
-     [](const Aircraft& a) { return gear_down * a.airframe.surfaces.gear[0]; }},
     {{783, "stabiliser", "10 degrees, nose up positive"}, stabiliser},
     {{614, "radio_altitude", "metres"},
      [](const Aircraft& a) { return a.flight.height_ft * metres_per_foot; }},
