@@ -188,13 +188,13 @@ class Transponder : public testing::Test {
 TEST_F(Transponder, ItsModeSwitchesTheDisplayAndStopsAtItsEnds) {
   host.tokens[token::transponder_code] = 0x2071;
   aircraft.avionics_master_on = 1;
-  panel.click("mode_selector_down");
+  panel.click("transponder_selector_down");
   EXPECT_EQ(code(), "0000");
   EXPECT_EQ(panel.value("display"), 0);
   for (const f64 mode : {1, 2, 3, 3}) {
-    panel.click("mode_selector_up");
+    panel.click("transponder_selector_up");
     EXPECT_EQ(code(), "2071");
-    EXPECT_EQ(panel.value("mode_selector"), mode);
+    EXPECT_EQ(panel.value("transponder_selector"), mode);
     EXPECT_EQ(panel.value("display"), 1);
   }
   aircraft.avionics_master_on = 0;

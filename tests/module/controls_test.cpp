@@ -121,7 +121,7 @@ TEST(Controls, EachLeavesTheOtherControlsOfItsGaugeAlone) {
     const std::string text = control.text();
     return (text == "Apu master_switch" && part == "start_button") ||
            (text == "Apset autothrottle_button" && part == "airspeed_hold_button") ||
-           (text.starts_with("Transponder mode_selector") && part == "ident_button") ||
+           (text.starts_with("Transponder transponder_selector") && part == "ident_button") ||
            (text.starts_with("Micsel") && part.ends_with("microphone_button")) ||
            (text.starts_with("Micsel") && part.ends_with("microphones_button")) ||
            (text == "Ldmain lift_dump_arm_switch" && part == "lift_dump_deployment_switch") ||

@@ -26,7 +26,7 @@ void draw_head(const Board& board) {
 }
 
 constexpr Legend mode(Point off, std::string_view text, Anchor anchor) {
-  return {at("mode_selector", off.x, off.y), text, 6.5, anchor};
+  return {at("transponder_selector", off.x, off.y), text, 6.5, anchor};
 }
 
 constexpr Item items[] = {
@@ -63,7 +63,7 @@ constexpr Art art[] = {
     drawn_art("first_code_knob", {27, 27}, draw_code_knob),
     drawn_art("ident_light", {41, 8}, draw_ident_light),
     drawn_art("ident_button", {18, 10}, draw_ident_button),
-    knob_art("mode_selector", {19, 21}, {-120, -40, 40, 120},
+    knob_art("transponder_selector", {19, 21}, {-120, -40, 40, 120},
              {.radius = 8.4, .seat = 1.2, .grip = Grip::pointer, .ticks = {2, 3.8}}),
     drawn_art("display_power", {45, 28}, radios::draw_shaded_glass),
 };
