@@ -88,18 +88,24 @@ void add_taxi_lamps(std::vector<Lamp>& all) {
 
 // The eye sees a lamp no smaller than it can; what is missing of its size goes from its brightness, but less
 // than it should: lamps at night are seen from far away.
+struct Strength {
+  double power;
+  double by_day = 0.0;  ///< how bright it looks at least
+  double least_px = 0.8;
+};
+
 void paint(Picture picture, const Camera& camera, const Air& air, const Vector& at_m, const Rgb& colour,
-           double power) {
-  constexpr double lamp_radius_m = 0.22, least_px = 0.85, most_px = 5.0;
+           const Strength& strength) {
+  constexpr double lamp_radius_m = 0.13, most_px = 3.5;
   const Vector at = camera.in_camera(at_m);
   if (at.x < 1.0) return;
   const double distance_m = length(at);
-  const double true_px = lamp_radius_m * std::sqrt(power) * camera.focal_px() / distance_m;
-  const double radius_px = std::clamp(true_px, least_px, most_px);
-  const double small = std::min(1.0, true_px / least_px);
-  const double brightness = air.daylight().lamps * air.haze(distance_m).kept * std::pow(small, 0.62);
+  const double true_px = lamp_radius_m * std::sqrt(strength.power) * camera.focal_px() / distance_m;
+  const double radius_px = std::clamp(true_px, strength.least_px, most_px);
+  const double small = std::min(1.0, true_px / strength.least_px);
+  const double brightness = std::max(air.daylight().lamps, strength.by_day) * air.haze(distance_m).kept * std::pow(small, 0.66);
   if (brightness < 0.012) return;
-  add_light(picture, camera.project(at), radius_px, colour, 1.25 * brightness);
+  add_light(picture, camera.project(at), radius_px, colour, 1.5 * brightness);
 }
 
 // Most of a directed lamp's light goes within some 60 degrees of where it points.
@@ -132,20 +138,19 @@ void paint_lamps(Picture picture, const Camera& camera, const Air& air, const st
                  double time_s) {
   for (const Lamp& lamp : lamps) {
     const double share = share_toward(lamp, camera.eye_m());
-    if (share > 0.0 && lit(lamp, time_s)) paint(picture, camera, air, lamp.at_m, lamp.colour, lamp.power * share);
+    if (share > 0.0 && lit(lamp, time_s)) paint(picture, camera, air, lamp.at_m, lamp.colour, {lamp.power * share});
   }
 }
 
 void paint_papi(Picture picture, const Camera& camera, const Air& air) {
+  constexpr Strength strength{40.0, 0.8, 1.3};  // made to be seen by day from five miles
   for (const PapiUnit& unit : papi_units) {
     const Lamp lamp{papi_place_m(unit), {}, 1.0, on_runway_axes(-1.0, 0.0)};
     Lamp level = lamp;
     level.toward.z = 0.0;
     if (share_toward(level, camera.eye_m()) <= 0.0) continue;
     const Rgb colour = mixed(red, {255, 250, 240}, papi_white(unit, camera.eye_m()));
-    // Made to be seen by day from five miles.
-    const double power = 9.0 / std::max(air.daylight().lamps, 0.25);
-    paint(picture, camera, air, lamp.at_m, colour, power);
+    paint(picture, camera, air, lamp.at_m, colour, strength);
   }
 }
 
@@ -162,7 +167,7 @@ void paint_village_lamps(Picture picture, const Camera& camera, const Air& air, 
         if (std::hypot(at.x - eye.x, at.y - eye.y) > farthest_m) continue;
         const auto axes = simulation::runway_axes(at);
         if (std::abs(axes.along_m) < 2600.0 && std::abs(axes.right_m) < 650.0) continue;  // the airfield's own
-        paint(picture, camera, air, at, sodium, 0.5);
+        paint(picture, camera, air, at, sodium, {0.5});
       }
 }
 

@@ -18,6 +18,13 @@ std::uint32_t fixed(double texels) {
   return static_cast<std::uint32_t>(static_cast<std::int64_t>(texels * 65536.0));
 }
 
+// A pixel's print on the ground is as much longer than wide as the distance exceeds the height. Texels
+// somewhat longer than the mean of both keep what is near sharp and what is far from crawling.
+double print_shape(double length_to_width) {
+  const double mean = std::sqrt(length_to_width);
+  return mean * std::sqrt(std::sqrt(mean));
+}
+
 // The level of a texture whose texels are about as large as the pixel's print on the ground.
 unsigned level_for(const TextureLevels& texture, double texel_m, double print_m) {
   const int level = std::ilogb(std::max(print_m / texel_m * 1.41, 1.0));
@@ -105,7 +112,7 @@ Ground::Node Ground::node(double x, double y) const {
   const Rgb times = air_.light_on(to) * haze.kept;
   return {camera_.eye_m().x + to.x,
           camera_.eye_m().y + to.y,
-          away * std::sqrt(std::max(distance_m / height_m_, 1.0)),
+          away * print_shape(std::max(distance_m / height_m_, 1.0)),
           {times.r, times.g, times.b},
           {haze.added.r, haze.added.g, haze.added.b}};
 }

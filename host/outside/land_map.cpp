@@ -17,7 +17,7 @@ constexpr double texel_m = 8.0;
 constexpr std::array<std::uint32_t, 12> crops{0x5E7A3C, 0x6B8745, 0x547038, 0x7A9150, 0x4E6B36, 0x66803F,
                                               0x87945A, 0xA89A6A, 0x8A7454, 0x71603F, 0xB5AE4E, 0x5A7A4A};
 constexpr std::uint32_t road = 0x9A968C, hedge = 0x3C5230, wood = 0x2F4A2A, water = 0x4A6274;
-constexpr std::uint32_t roof = 0x94624E, wall = 0xA9A39A, garden = 0x587244;
+constexpr std::uint32_t roof = 0x866252, street = 0x8C8A84, garden = 0x566E44;
 
 enum Mark : std::uint16_t { on_road, on_hedge, first_field };
 
@@ -73,7 +73,7 @@ struct Village {
 std::vector<Village> villages() {
   std::vector<Village> all;
   for (std::uint32_t i = 0; i < 34; ++i)
-    all.push_back({scattered(i, 1, 5) * side, scattered(i, 2, 5) * side, 16.0 + 26.0 * scattered(i, 3, 5)});
+    all.push_back({scattered(i, 1, 5) * side, scattered(i, 2, 5) * side, 14.0 + 22.0 * scattered(i, 3, 5)});
   return all;
 }
 
@@ -124,7 +124,8 @@ class Land {
         if (distance > 0.65 + 0.35 * scattered(x / 4, y / 4, 7)) continue;
         std::uint32_t& texel = texels[y * side + x];
         if (texel == road || texel == water) continue;
-        texel = shaded(chance < 0.30 ? roof : chance < 0.45 ? wall : garden, 0.85 + 0.3 * scattered(y, x, 6));
+        const bool along_street = x % 11 == 0 || (y + x / 5) % 13 == 0;
+        texel = along_street ? street : shaded(chance < 0.34 ? roof : garden, 0.9 + 0.2 * scattered(y, x, 6));
       }
   }
 

@@ -7,7 +7,7 @@ namespace {
 
 using simulation::runway_length_m;
 
-constexpr std::uint32_t paint = 0xE4E4DE, asphalt = 0x585A5C, seam = 0x4C4E50, rubber = 0x3C3E40;
+constexpr std::uint32_t paint = 0xE4E4DE, asphalt = 0x585A5C, seam = 0x4C4E50;
 
 /// One end of the runway: metres from its threshold on, and to the right of its middle line, as a pilot
 /// sees them who lands there.
@@ -90,7 +90,8 @@ void wear(End& end) {
     double from_m, to_m, inner_m, outer_m;
     std::uint32_t colour;
   };
-  constexpr Trace traces[] = {{180, 1000, 0.8, 6.2, 0x515355}, {260, 820, 1.3, 5.2, 0x484A4C}, {330, 640, 1.8, 4.2, rubber}};
+  constexpr Trace traces[] = {{150, 1150, 0.3, 7.5, 0x545658}, {190, 1000, 0.6, 6.6, 0x505254}, {230, 880, 1.0, 5.8, 0x4C4E50},
+                              {280, 760, 1.4, 5.0, 0x484A4C}, {330, 640, 1.8, 4.2, 0x444648}};
   for (const Trace& trace : traces)
     for (const double side : {-1.0, 1.0})
       end.mark(trace.from_m, trace.to_m, side * trace.inner_m, side * trace.outer_m, trace.colour);

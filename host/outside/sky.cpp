@@ -49,13 +49,13 @@ void paint_cell(std::uint32_t* out, int count, const Fine& left, const Fine& rig
 
 void paint_stars(Picture picture, const Camera& camera, const Daylight& light) {
   if (light.stars <= 0.0) return;
-  for (std::uint32_t i = 0; i < 1400; ++i) {
+  for (std::uint32_t i = 0; i < 2200; ++i) {
     const double up = scattered(i, 1, 91), turn = 6.283185307 * scattered(i, 2, 91);
     const double level = std::sqrt(1.0 - up * up);
     const Vector at = camera.turned({level * std::cos(turn), level * std::sin(turn), -up});
     if (at.x < 0.1) continue;
     const double rare = scattered(i, 3, 91);
-    const double bright = light.stars * (0.12 + 0.75 * std::pow(rare, 6.0)) * std::min(1.0, up * 8.0);
+    const double bright = light.stars * (0.16 + 0.84 * std::pow(rare, 5.0)) * std::min(1.0, up * 8.0);
     add_light(picture, camera.project(at), 0.8 + 0.35 * rare * rare, {235, 240, 255}, bright);
   }
 }

@@ -48,8 +48,12 @@ void paint_ridge(const Ridge& ridge, SurfacePainter& painter, const Camera& came
   for (int i = 1; i <= directions; ++i) {
     const Edge right = edge(i);
     if (std::max(left.slope, right.slope) > 0.0) {
+      // Each piece reaches under the next one: no sky shows between them.
+      const Edge beyond{right.north + 0.1 * (right.north - left.north),
+                        right.east + 0.1 * (right.east - left.east),
+                        right.slope + 0.1 * (right.slope - left.slope)};
       const std::array<Vector, 4> corners{place(left, -0.002), place(left, std::max(left.slope, 0.0)),
-                                          place(right, std::max(right.slope, 0.0)), place(right, -0.002)};
+                                          place(beyond, std::max(beyond.slope, 0.0)), place(beyond, -0.002)};
       painter.paint(corners, colour);
     }
     left = right;
