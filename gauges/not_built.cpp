@@ -4,22 +4,6 @@
 
 namespace tarnvale {
 
-// ---- Sound
-constinit Gauge stewcall{{.name = "Stewcall", .width_mm = 82, .background = 1030}};
-constinit Gauge hvsnd{{.name = "Hvsnd", .width_mm = 20, .background = 10}};
-
-// ---- Instruments
-
-// ---- Panel
-constinit Gauge ovhtoggle{{.name = "Ovhtoggle", .width_mm = 196, .background = 2050}};
-constinit Gauge checktg{{.name = "Checktg", .width_mm = 114, .background = 4340}};
-constinit Gauge caradar{{.name = "Caradar", .width_mm = 162, .background = 14110}};
-constinit Gauge pselect{{.name = "Pselect", .width_mm = 96, .background = 14220}};
-constinit Gauge fopselect{{.name = "Fopselect", .width_mm = 96, .background = 20240}};
-constinit Gauge pedtg{{.name = "Pedtg", .width_mm = 229, .background = 14220}};
-constinit Gauge thrtg{{.name = "Thrtg", .width_mm = 148, .background = 23220}};
-constinit Gauge intro{{.name = "Intro", .width_mm = 1280, .background = 24230}};
-
 // ---- Radios
 constinit Gauge vhf1nav{{.name = "Vhf1nav", .width_mm = 215, .background = 2230}};
 constinit Gauge vhf2nav{{.name = "Vhf2nav", .width_mm = 215, .background = 2290}};
@@ -69,7 +53,5 @@ constinit Gauge apalt{{.name = "Apalt", .width_mm = 116, .background = 14060}};
 constinit Gauge apmode{{.name = "Apmode", .width_mm = 203, .background = 14140}};
 constinit Gauge cat2apsys{{.name = "Cat2apsys", .width_mm = 104, .background = 14240}};
 constinit Gauge apset{{.name = "Apset", .width_mm = 120, .background = 14350}};
-
-// ---- Engines
 
 }  // namespace tarnvale

@@ -12,6 +12,8 @@ namespace tarnvale {
 struct Aircraft {
   // ---- Sound
   u32 sound_requests[sound_request_count]{};  ///< in sound order; above 0 asks for one playing
+  u32 cabin_sign_left_on = 0;
+  u32 cabin_sign_right_on = 0;
 
   // ---- Electrical power and lighting
   u32 dc_power_on = 0;         ///< mirrors the host's battery
@@ -99,6 +101,7 @@ struct Aircraft {
   u32 ap_mode_selector = 0;  ///< 0..5
   u32 ap_sel2_hold_on = 0;
   u32 apcourse_switch_on = 0;
+  u32 apcon_switch_c_on = 0;
   u32 cat2_speed_test_active = 0;
 
   // ---- Radios and cabin call
@@ -107,6 +110,8 @@ struct Aircraft {
   u32 nav_aux_switch = 0;       ///< one switch state on all three navigation heads
   u32 nav_test_switch = 0;      ///< 0 centre, 1 upper, 2 lower; shared likewise
   u32 fo_callouts_enabled = 0;
+  u32 cabin_announcements_on = 0;
+  u32 transponder_mode = 0;  ///< 0..3
   u32 ground_power_connected = 0;
 
   // ---- Engines, fuel and fire
@@ -126,6 +131,16 @@ struct Aircraft {
   u32 dh_light_on = 0;
   f64 dh_setting_ft = 0.0;    ///< 0..500 in steps of 10
   u32 dh_setting_ft_int = 0;  ///< kept in step with dh_setting_ft
+  u32 stall_warning_switch_on = 0;
+  u32 gpws_switch_on = 0;
+  u32 flight_recorder_button_on = 0;
+
+  // ---- Flight controls and ground handling
+  u32 brake_control_switch_on = 0;
+  u32 ttc_switch_on = 0;
+  u32 stabind_vertical_on = 0;
+  u32 stabind_horizontal_on = 0;
+  u32 stabind_needle_on = 0;
 };
 
 extern constinit Aircraft aircraft;

@@ -110,6 +110,6 @@ Body(const Gauge&, const Rows<parts>&) -> Body<parts, 0>;
 template <std::size_t parts>
 Body(const Gauge&, const DayOnly<parts>&) -> Body<parts, 0, 1>;
 template <std::size_t clicks>
-Body(const Gauge&, const Area (&)[clicks]) -> Body<0, clicks>;
+Body(const Gauge&, const Area (&)[clicks]) -> Body<0, clicks, 1>;
 
 }  // namespace tarnvale

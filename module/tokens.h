@@ -29,6 +29,14 @@ inline constexpr u32 captain_day = 20;
 inline constexpr u32 first_officer_day = 21;
 inline constexpr u32 captain_night = 27;
 inline constexpr u32 first_officer_night = 28;
+inline constexpr u32 captain = 500;
+inline constexpr u32 first_officer = 501;
+inline constexpr u32 overhead = 502;
+inline constexpr u32 pedestal = 503;
+inline constexpr u32 throttle = 504;
+inline constexpr u32 pushback = 505;
+inline constexpr u32 utility = 506;
+inline constexpr u32 gps = 507;
 }  // namespace window
 
 }  // namespace tarnvale

@@ -15,6 +15,7 @@
 #include "host/simulation/program_windows.h"
 #include "host/simulation/systems/air_controls.h"
 #include "host/simulation/systems/apu.h"
+#include "host/simulation/systems/cabin.h"
 #include "host/simulation/systems/electrics.h"
 #include "host/simulation/systems/engine.h"
 #include "host/simulation/systems/engine_start.h"
@@ -44,6 +45,7 @@ struct Aircraft {
   int marker = 0;  ///< as marker_overhead()
   Selections selections;
   FlightDirector flight_director;
+  Cabin cabin;
   ProgramWindows windows;
 
   /// Parked, everything off. From 10 to 120 steps a second; 60 is what the cockpit runs with.

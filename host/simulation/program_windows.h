@@ -4,7 +4,9 @@
 namespace host::simulation {
 
 struct ProgramWindows {
+  bool atc_shown = false;
   bool kneeboard_shown = false;
+  bool map_shown = false;
 };
 
 }  // namespace host::simulation

@@ -19,7 +19,7 @@ TEST_F(Lighting, BothKnobsTurnOneLevelThatEveryOverlayShows) {
   EXPECT_EQ(aircraft.instrument_light_level, 1u);
   first_officer.click("instrument_lights_knob_up");
   for (rig::Gauge& gauge : rig::built_gauges()) {
-    if (gauge.parts().front().name != "instrument_lighting") continue;
+    if (gauge.parts().empty() || gauge.parts().front().name != "instrument_lighting") continue;
     for (const u32 level : {2u, 0u, 1u, 3u, 0xFFFFFFFFu}) {
       if (level != 2) aircraft.instrument_light_level = level;
       gauge.frame();

@@ -44,7 +44,8 @@ TEST(Controls, EachMovesThePartItIsNamedAfter) {
                                                    "Ffsys fuel_computer_power_button",
                                                    "Ffsys fuel_used_mode_button",
                                                    "Ffsys weight_mode_button",
-                                                   "Ffsys reset_button"};
+                                                   "Ffsys reset_button",
+                                                   "Stewcall crew_call_button"};
   const std::set<std::string> answered_by_the_host{"Hsi course_knob_down", "Hsi course_knob_up",
                                                    "Airspeed selected_speed_knob_down",
                                                    "Airspeed selected_speed_knob_up"};
@@ -116,6 +117,9 @@ TEST(Controls, EachClickIsHeardOnce) {
       {"Engstart start_selector_engine_1", {"toggle"}},
       {"Engstart start_selector_engine_2", {"toggle"}},
       {"Apu start_button", {"", " other"}},  // soft: the APU itself is heard
+      {"Stewcall crew_call_button", {" other"}},  // chimes of their own
+      {"Stewcall left_sign_switch", {" other"}},
+      {"Stewcall right_sign_switch", {" other"}},
       {"Fuelc quantity_test_switch", {""}},
       {"Fuelreq fuel_request_lever", {"push"}},
       {"Radalt test_button", {" other"}},

@@ -64,11 +64,26 @@ class Walk {
     for (int round = 0; round < rounds; ++round) {
       for (std::size_t g = 0; g < result_.gauges.size(); ++g) visit(g);
     }
+    press_the_rest();
     result_.tokens = host_.looked_up;
     return std::move(result_);
   }
 
  private:
+  /// In a dead cockpit with the cabin crew on duty: the start page, the windows, the announcements.
+  void press_the_rest() {
+    for (auto& [token, value] : host_.tokens) value = 0;
+    aircraft.cabin_announcements_on = 1;
+    host_.events.clear();
+    for (rig::Gauge& gauge : result_.gauges) {
+      gauge.frame();
+      for (const rig::NamedArea& area : gauge.areas()) {
+        if (!is_control(gauge, area)) gauge.click(area.name);
+      }
+    }
+    for (const auto& [event, value] : host_.events) result_.events.insert(event);
+  }
+
   std::size_t random(std::size_t below) { return static_cast<std::size_t>(bits_() % below); }
 
   /// Stays with a gauge long enough for its guards to be opened and its selectors to be turned far.
@@ -90,10 +105,16 @@ class Walk {
     host_.tokens[token.number] = values[random(token.on_off ? 2 : std::size(values))];
   }
 
+  /// The start page and the buttons for windows are no part of the aircraft.
+  static bool is_control(const rig::Gauge& gauge, const rig::NamedArea& area) {
+    return !gauge.parts().empty() && !area.name.starts_with("open_");
+  }
+
   void list_stimuli() {
     for (std::size_t g = 0; g < result_.gauges.size(); ++g) {
       rig::Gauge& gauge = result_.gauges[g];
       for (const rig::NamedArea& area : gauge.areas()) {
+        if (!is_control(gauge, area)) continue;
         result_.stimuli.push_back({.gauge = g, .area = area, .name = area.name});
       }
       host_.looked_up.clear();

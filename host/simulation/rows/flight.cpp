@@ -9,6 +9,7 @@ namespace {
 
 constexpr double parking_brake_full = 32767.0;
 constexpr double control_full = 16384.0;
+constexpr double gear_down = 16383.0;
 
 /// 256 to a metre a second, so that 1 ft/min is 1.30048.
 constexpr double climb_units_per_fpm = 256.0 / feet_per_minute_per_mps;
@@ -47,6 +48,8 @@ constexpr TokenRow tokens[] = {
      [](const Aircraft& a) { return a.controls.parking_brake_set ? parking_brake_full : 0.0; }},
     {{328, "flap_position", "0..16384"},
      [](const Aircraft& a) { return control_full * a.airframe.surfaces.flap_deg / full_flap_deg; }},
+    {{332, "nose_gear_position", "0..16383"},
+     [](const Aircraft& a) { return gear_down * a.airframe.surfaces.gear[0]; }},
     {{614, "radio_altitude", "metres"},
      [](const Aircraft& a) { return a.flight.height_ft * metres_per_foot; }},
 };

@@ -4,9 +4,15 @@
 namespace host::simulation {
 namespace {
 
+template <bool ProgramWindows::*shown>
+void toggle(Aircraft& aircraft, std::uint32_t) {
+  aircraft.windows.*shown = !(aircraft.windows.*shown);
+}
+
 constexpr EventRow events[] = {
-    {{0x10154, "kneeboard_toggle", ""},
-     [](Aircraft& a, std::uint32_t) { a.windows.kneeboard_shown = !a.windows.kneeboard_shown; }},
+    {{0x1001C, "atc_window_toggle", ""}, toggle<&ProgramWindows::atc_shown>},
+    {{0x10154, "kneeboard_toggle", ""}, toggle<&ProgramWindows::kneeboard_shown>},
+    {{0x10380, "map_window_toggle", ""}, toggle<&ProgramWindows::map_shown>},
 };
 
 }  // namespace

@@ -1,0 +1,217 @@
+/// Start page, window buttons, cabin signs and announcements.
+#include <gtest/gtest.h>
+
+#include "module/tokens.h"
+#include "tests/rig/rig.h"
+
+namespace {
+
+using namespace tarnvale;
+
+class Windows : public testing::Test {
+ protected:
+  rig::Host host;
+};
+
+TEST_F(Windows, EachButtonOpensAndClosesItsOwn) {
+  struct Row {
+    const char *gauge, *button;
+    rig::WindowCalls windows;
+    rig::Events events;
+  };
+  const Row rows[] = {
+      {"Ovhtoggle", "close_overhead_panel", {{'c', 502}}, {}},
+      {"Pedtg", "close_pedestal_panel", {{'c', 503}}, {}},
+      {"Thrtg", "close_throttle_panel", {{'c', 504}}, {}},
+      {"Checktg", "open_close_kneeboard", {}, {{0x10154, 0}}},
+      {"Fopselect", "open_captains_panel", {{'o', 500}, {'c', 501}}, {}},
+      {"Pselect", "open_overhead_panel", {{'o', 502}}, {}},
+      {"Pselect", "open_pedestal_panel", {{'o', 503}}, {}},
+      {"Pselect", "open_throttle_panel", {{'o', 504}}, {}},
+      {"Pselect", "open_close_pushback_panel", {{'o', 505}}, {}},
+      {"Pselect", "open_close_pushback_panel", {{'c', 505}}, {}},
+      {"Pselect", "open_close_utility_panel", {{'o', 506}}, {}},
+      {"Pselect", "open_close_utility_panel", {{'c', 506}}, {}},
+      {"Pselect", "open_first_officer_panel", {{'o', 501}, {'c', 500}}, {}},
+      {"Pselect", "open_close_kneeboard_panel", {}, {{0x10154, 0}}},
+      {"Pselect", "open_close_gps_panel", {{'t', 507}}, {}},
+      {"Caradar", "open_close_atc_window", {}, {{0x1001C, 0}}},
+      {"Caradar", "open_close_flightmap_window", {}, {{0x10380, 0}}},
+  };
+  for (const Row& row : rows) {
+    host.windows.clear();
+    host.events.clear();
+    rig::Gauge(row.gauge).click(row.button);
+    EXPECT_EQ(host.windows, row.windows) << row.gauge << ' ' << row.button;
+    EXPECT_EQ(host.events, row.events) << row.gauge << ' ' << row.button;
+  }
+  EXPECT_EQ(rig::sounds_requested(), 0) << "window buttons are silent";
+}
+
+TEST_F(Windows, TheSelectorShinesWithPanelsOrInstruments) {
+  rig::Gauge strip("Pselect"), radar("Caradar");
+  for (const auto& [panels, instruments, lit] : {std::tuple{0u, 0u, 0}, {1u, 0u, 1}, {0u, 2u, 1}}) {
+    aircraft.panel_lights_on = panels;
+    aircraft.instrument_light_level = instruments;
+    strip.frame();
+    radar.frame();
+    EXPECT_EQ(strip.value("selector_lighting"), lit);
+    EXPECT_EQ(radar.value("screen_lighting"), panels);
+  }
+}
+
+class StartPage : public Windows {
+ protected:
+  rig::Gauge page{"Intro"};
+  rig::Events sent_by(const char* button) {
+    host.events.clear();
+    page.click(button);
+    return host.events;
+  }
+};
+
+TEST_F(StartPage, EveryStateOpensThePanelOfItsColumn) {
+  for (const char* state : {"cold_and_dark", "ready_to_start", "running"}) {
+    page.click(std::string("captain_") + state);
+    page.click(std::string("first_officer_") + state);
+  }
+  EXPECT_EQ(host.windows,
+            (rig::WindowCalls{{'o', 500}, {'o', 501}, {'o', 500}, {'o', 501}, {'o', 500}, {'o', 501}}));
+}
+
+TEST_F(StartPage, ColdAndDarkTogglesWhateverThereIsAndLeavesTheSwitches) {
+  aircraft.gen1_switch = 2;
+  EXPECT_EQ(sent_by("captain_cold_and_dark"),
+            (rig::Events{{0x10346, 0}, {0x102F5, 0}, {0x103BE, 0}, {0x103BF, 0}}));
+  EXPECT_EQ(aircraft.gen1_switch, 2u);
+  EXPECT_EQ(aircraft.cabin_sign_left_on, 0u);
+}
+
+TEST_F(StartPage, ReadyToStartPowersAColdAircraftAndClosesItsFuelLevers) {
+  EXPECT_EQ(sent_by("captain_ready_to_start"),
+            (rig::Events{{0x102BF, 0}, {0x100D8, 0}, {0x102C1, 0}, {0x10346, 0}, {0x102F5, 0}}));
+  EXPECT_EQ(aircraft.dc_power_on, 1u);
+  EXPECT_EQ(aircraft.avionics_master_on, 1u);
+  EXPECT_EQ(aircraft.start_master_switch, 1u);
+  EXPECT_EQ(aircraft.apu_gen_switch, 1u);
+  EXPECT_EQ(aircraft.windshield_switch, 1u) << "left as it was";
+  host.tokens = {{364, 1}, {740, 1}, {895, 1}, {896, 1}};
+  aircraft.dc_power_on = 0;
+  EXPECT_EQ(sent_by("first_officer_ready_to_start"),
+            (rig::Events{{0x102BF, 0}, {0x100D8, 0}, {0x103BE, 0}, {0x103BF, 0}}));
+  EXPECT_EQ(aircraft.dc_power_on, 0u) << "only written with the events";
+}
+
+TEST_F(StartPage, RunningStartsTheEnginesOnlyWhereNeitherTurns) {
+  host.tokens = {{364, 1}, {740, 1}, {895, 1}};
+  const rig::Events lights{{0x102C0, 0}, {0x102BF, 0}, {0x10018, 0}, {0x100D8, 0}};
+  rig::Events expected = lights;
+  expected.insert(expected.end(), {{0x103BF, 0}, {0x102B0, 0}});
+  EXPECT_EQ(sent_by("captain_running"), expected);
+  EXPECT_EQ(aircraft.eng1_start_switch, 2u);
+  EXPECT_EQ(aircraft.engine_antiice_right, 3u);
+  EXPECT_EQ(aircraft.windshield_switch + aircraft.windshield_left_selector, 0u);
+  EXPECT_EQ(aircraft.stabind_needle_on, 1u);
+  EXPECT_EQ(aircraft.apu_gen_switch, 0u);
+  host.tokens[896] = 1;
+  for (const auto& [core_1, core_2] : {std::pair{25.0, 5.0}, {5.0, 20.0}}) {
+    host.tokens[625] = core_1;
+    host.tokens[644] = core_2;
+    EXPECT_EQ(sent_by("captain_running"), lights) << core_1 << ' ' << core_2;
+  }
+}
+
+TEST_F(Windows, TheCrewCallShinesForTwoSecondsAfterTheLastPress) {
+  rig::Gauge panel("Stewcall");
+  host.tokens[604] = 100;
+  for (const auto& [second, press, lit] :
+       {std::tuple{100, true, 1}, {101, true, 1}, {103, false, 1}, {104, false, 0}}) {
+    host.tokens[604] = second;
+    if (press) panel.click("crew_call_button");
+    EXPECT_EQ(rig::heard(stewcall_sound_request), press);
+    panel.frame();
+    EXPECT_EQ(panel.value("crew_call_light"), lit) << second;
+  }
+}
+
+TEST_F(Windows, ASignChimesAndTellsTheHost) {
+  rig::Gauge panel("Stewcall");
+  panel.click("right_sign_switch");
+  EXPECT_TRUE(rig::heard(signs_sound_request));
+  EXPECT_EQ(rig::sounds_requested(), 0) << "no click beside the chime";
+  panel.click("left_sign_switch");
+  EXPECT_EQ(host.events, (rig::Events{{0x1049F, 0}, {0x1049E, 0}}));
+  panel.frame();
+  EXPECT_EQ(panel.value("right_sign_switch") + panel.value("left_sign_switch"), 2);
+}
+
+class Announcements : public Windows {
+ protected:
+  Announcements() {
+    aircraft.cabin_announcements_on = 1;
+    rig::Gauge("Hvsnd").frame();  // nothing holds, and what restarts a counter does
+  }
+  /// The frame after which the announcement is first asked for; 0 when not within `most`.
+  int frames_to(SoundRequest sound, int most = 1000) {
+    rig::Gauge gauge("Hvsnd");
+    for (int frame = 1; frame <= most; ++frame) {
+      gauge.frame();
+      if (rig::heard(sound)) return frame;
+    }
+    return 0;
+  }
+};
+
+TEST_F(Announcements, EachIsMadeAfterItsFramesAndOnceACount) {
+  struct Row {
+    SoundRequest sound;
+    u32 door, sign;
+    std::map<u32, f64> tokens;
+    int frames;
+  };
+  const Row rows[] = {
+      {ccwelcome_sound_request, 1, 1, {{60, 1}}, 401},
+      {ccsafety_sound_request, 0, 0, {{60, 1}, {328, 4100}}, 201},
+      {ccsafety_sound_request, 0, 0, {{60, 1}, {328, 4200}}, 0},
+      {ccclimb_sound_request, 0, 0, {{74, 5301}, {65, 301}}, 301},
+      {ccclimb_sound_request, 0, 0, {{74, 5300}, {65, 301}}, 0},
+      {ccdescent_sound_request, 0, 1, {{74, 7500}, {65, -301}}, 251},
+      {ccdescent_sound_request, 0, 0, {{74, 7500}, {65, -301}}, 0},
+      {ccfinal_sound_request, 0, 0, {{65, -201}, {332, 16383}}, 101},
+      {ccrollout_sound_request, 0, 0, {{60, 1}, {328, 13001}}, 601},
+  };
+  for (const Row& row : rows) {
+    for (const u32 door : {1u - row.door, row.door}) {  // the other way first restarts the counters
+      host.tokens = {};
+      aircraft.apcon_switch_c_on = door;
+      rig::Gauge("Hvsnd").frame();
+    }
+    host.tokens = row.tokens;
+    aircraft.cabin_sign_right_on = row.sign;
+    EXPECT_EQ(frames_to(row.sound), row.frames) << row.sound;
+    if (row.frames == 0) continue;
+    EXPECT_EQ(frames_to(row.sound, 50), 0) << row.sound << " goes on counting";
+  }
+}
+
+TEST_F(Announcements, OffTheyWaitAndOnTheyGoOnFromThere) {
+  host.tokens = {{74, 6000}, {65, 400}};
+  rig::Gauge("Hvsnd").frame(250);
+  aircraft.cabin_announcements_on = 0;
+  EXPECT_EQ(frames_to(ccclimb_sound_request, 400), 0);
+  aircraft.cabin_announcements_on = 1;
+  EXPECT_EQ(frames_to(ccclimb_sound_request), 51);
+}
+
+TEST_F(Announcements, ACounterThatStopsAtItsTargetAsksEveryFrame) {
+  host.tokens = {{74, 6000}, {65, 400}};
+  rig::Gauge gauge("Hvsnd");
+  gauge.frame(300);
+  host.tokens[65] = 100;  // neither climbing enough nor level
+  for (int frame = 0; frame < 3; ++frame) {
+    gauge.frame();
+    EXPECT_TRUE(rig::heard(ccclimb_sound_request)) << frame;
+  }
+}
+
+}  // namespace
