@@ -1,6 +1,7 @@
 #include "host/app/commands.h"
 #include "host/app/installation.h"
 #include "host/app/lookup.h"
+#include "host/app/start.h"
 #include "host/app/start_notes.h"
 #include "host/window/flight_deck.h"
 
@@ -19,7 +20,9 @@ int fly(const FlyOptions& options) {
       throw std::runtime_error("--open: there is no window " + std::to_string(ident));
     cockpit.panels().open(ident);
   }
-  FlightDeck deck(cockpit, options.deck);
+  DeckOptions deck_options = options.deck;
+  deck_options.begun_with = begin(cockpit.aircraft(), options.start);
+  FlightDeck deck(cockpit, deck_options);
   deck.fly();
   return exit_fine;
 }

@@ -21,7 +21,8 @@ class LampRow {
   LampRow(std::vector<Lamp>& all, bool far) : all_(all), sign_(far ? -1.0 : 1.0) {}
 
   /// Shines against the approach, or with it where `departing`.
-  Lamp& add(double from_threshold_m, double right_m, const Rgb& colour, double power, bool departing = false) {
+  Lamp& add(double from_threshold_m, double right_m, const Rgb& colour, double power,
+            bool departing = false) {
     Vector at = on_runway_axes(sign_ * (from_threshold_m - half_m), sign_ * right_m);
     at.z -= 0.4;
     const Vector axis = on_runway_axes(departing ? sign_ : -sign_, 0.0);
@@ -103,7 +104,8 @@ void paint(Picture picture, const Camera& camera, const Air& air, const Vector& 
   const double true_px = lamp_radius_m * std::sqrt(strength.power) * camera.focal_px() / distance_m;
   const double radius_px = std::clamp(true_px, strength.least_px, most_px);
   const double small = std::min(1.0, true_px / strength.least_px);
-  const double brightness = std::max(air.daylight().lamps, strength.by_day) * air.haze(distance_m).kept * std::pow(small, 0.66);
+  const double brightness = std::max(air.daylight().lamps, strength.by_day) *
+                            air.haze(distance_m).kept * std::pow(small, 0.66);
   if (brightness < 0.012) return;
   add_light(picture, camera.project(at), radius_px, colour, 1.5 * brightness);
 }
@@ -138,7 +140,8 @@ void paint_lamps(Picture picture, const Camera& camera, const Air& air, const st
                  double time_s) {
   for (const Lamp& lamp : lamps) {
     const double share = share_toward(lamp, camera.eye_m());
-    if (share > 0.0 && lit(lamp, time_s)) paint(picture, camera, air, lamp.at_m, lamp.colour, {lamp.power * share});
+    if (share > 0.0 && lit(lamp, time_s))
+      paint(picture, camera, air, lamp.at_m, lamp.colour, {lamp.power * share});
   }
 }
 
@@ -163,10 +166,12 @@ void paint_village_lamps(Picture picture, const Camera& camera, const Air& air, 
   for (const double row : {north - 1, north, north + 1})
     for (const double column : {east - 1, east, east + 1})
       for (const VillageLamp& lamp : map.lamps) {
-        const Vector at{row * map.side_m + lamp.north_m, column * map.side_m + lamp.east_m, -elevation_m - 5.0};
+        const Vector at{row * map.side_m + lamp.north_m, column * map.side_m + lamp.east_m,
+                        -elevation_m - 5.0};
         if (std::hypot(at.x - eye.x, at.y - eye.y) > farthest_m) continue;
         const auto axes = simulation::runway_axes(at);
-        if (std::abs(axes.along_m) < 2600.0 && std::abs(axes.right_m) < 650.0) continue;  // the airfield's own
+        if (std::abs(axes.along_m) < 2600.0 && std::abs(axes.right_m) < 650.0)
+          continue;  // the airfield's own
         paint(picture, camera, air, at, sodium, {0.5});
       }
 }

@@ -9,9 +9,9 @@ namespace host::outside {
 struct Lamp {
   Vector at_m;  ///< north, east, down
   Rgb colour;
-  double power;                ///< 1: a runway edge light
-  Vector toward{};             ///< the direction that it shines in; none: all round
-  double flash_phase = -1.0;   ///< 0 to 1 of half a second, for those that flash
+  double power;               ///< 1: a runway edge light
+  Vector toward{};            ///< the direction that it shines in; none: all round
+  double flash_phase = -1.0;  ///< 0 to 1 of half a second, for those that flash
 };
 
 /// Edge, threshold, end, middle line, touchdown zone and approach lights, taxiways and apron.

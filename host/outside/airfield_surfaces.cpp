@@ -8,7 +8,8 @@ constexpr std::uint32_t yellow = 0xD6AE32;
 
 }  // namespace
 
-Surface strip(double along_m, double to_along_m, double right_m, double to_right_m, std::uint32_t colour) {
+Surface strip(double along_m, double to_along_m, double right_m, double to_right_m,
+              std::uint32_t colour) {
   return {{{along_m, right_m}, {to_along_m, right_m}, {to_along_m, to_right_m}, {along_m, to_right_m}},
           colour};
 }
@@ -16,7 +17,14 @@ Surface strip(double along_m, double to_along_m, double right_m, double to_right
 std::vector<Surface> airfield_ground() {
   constexpr double line = 0.15, taxi = taxiway_right_m, half = taxiway_half_width_m;
   std::vector<Surface> all{
-      {{{-2100, -160}, {-1900, -330}, {1900, -330}, {2100, -160}, {2100, 260}, {1800, 620}, {-1800, 620}, {-2100, 260}},
+      {{{-2100, -160},
+        {-1900, -330},
+        {1900, -330},
+        {2100, -160},
+        {2100, 260},
+        {1800, 620},
+        {-1800, 620},
+        {-2100, 260}},
        grass},
       // The strip beside the runway is mown.
       strip(-1620, 1620, -140, 120, mown),
@@ -39,7 +47,8 @@ std::vector<Surface> airfield_ground() {
     for (const double right : {89.0, 90.0, 91.2, 92.2})
       all.push_back(strip(along - 15, along + 15, right, right + (right > 91 ? 0.4 : 0.5), yellow));
   }
-  for (const double along : {0.0, 470.0}) all.push_back(strip(along - line, along + line, taxi, 300, yellow));
+  for (const double along : {0.0, 470.0})
+    all.push_back(strip(along - line, along + line, taxi, 300, yellow));
   all.push_back(strip(apron_from_m + 30, apron_to_m - 30, 300 - line, 300 + line, yellow));
   for (double along = 20; along < 600; along += 60)
     all.push_back(strip(along - line, along + line, 300, 385, yellow));

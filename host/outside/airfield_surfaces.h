@@ -15,7 +15,8 @@ struct Surface {
 };
 
 /// A rectangle along the runway's axes.
-Surface strip(double along_m, double to_along_m, double right_m, double to_right_m, std::uint32_t colour);
+Surface strip(double along_m, double to_along_m, double right_m, double to_right_m,
+              std::uint32_t colour);
 
 /// Grass, taxiways and apron with their lines.
 std::vector<Surface> airfield_ground();

@@ -17,10 +17,10 @@ constexpr Rgb glass{96, 116, 130}, plaster{196, 190, 178}, steel{150, 158, 164},
 constexpr Rgb brick{150, 110, 88};
 
 constexpr std::array<Block, 12> blocks{{
-    {-60, 250, 455, 495, 0, 5, plaster, tar},       // terminal
+    {-60, 250, 455, 495, 0, 5, plaster, tar},  // terminal
     {-60, 250, 452, 490, 5, 10, glass, tar},
     {-70, 260, 450, 495, 10, 11.5, plaster, tar},
-    {284, 296, 462, 474, 0, 27, plaster, tar},      // tower
+    {284, 296, 462, 474, 0, 27, plaster, tar},  // tower
     {281, 299, 459, 477, 27, 31.5, glass, tar},
     {280, 300, 458, 478, 31.5, 33, plaster, tar},
     {330, 420, 455, 525, 0, 19, steel, {176, 178, 176}},  // hangars
@@ -61,7 +61,8 @@ void paint_block(const Block& block, SurfacePainter& painter, const Camera& came
     const Vector out = corners[0] - camera.eye_m();
     if (roof) normal = {0.0, 0.0, -1.0};
     if (dot(out, normal) >= 0.0) continue;
-    const double sunny = std::max(0.0, dot(normal, air.daylight().sun)) * (air.daylight().sun_up_deg > 0.0);
+    const double sunny =
+        std::max(0.0, dot(normal, air.daylight().sun)) * (air.daylight().sun_up_deg > 0.0);
     const Rgb colour = (roof ? block.roof : block.wall) * (0.62 + 0.42 * sunny);
     painter.paint(corners, packed(air.seen(colour, out)));
   }

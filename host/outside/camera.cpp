@@ -8,10 +8,10 @@ namespace {
 
 using simulation::radians_per_degree;
 
-constexpr double usual_height_deg = 18.0, greatest_width_deg = 85.0;
+constexpr double usual_height_deg = 20.0, greatest_width_deg = 85.0;
 
 // The nose lies below the captain's line of sight: more is seen below the line of flight than above.
-constexpr double centre_height = 0.40;
+constexpr double centre_height = 0.31;
 
 double focal_length(int width, int height) {
   const auto length = [](int pixels, double degrees) {

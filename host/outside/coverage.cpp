@@ -29,7 +29,8 @@ void Coverage::add_edge(PicturePoint a, PicturePoint b) {
   const double sign = a.y < b.y ? 1.0 : -1.0;
   if (sign < 0.0) std::swap(a, b);
   const double slope = (b.x - a.x) / (b.y - a.y);
-  const int first = static_cast<int>(a.y), last = std::min(static_cast<int>(std::ceil(b.y)), height_) - 1;
+  const int first = static_cast<int>(a.y),
+            last = std::min(static_cast<int>(std::ceil(b.y)), height_) - 1;
   top_ = std::min(top_, first);
   bottom_ = std::max(bottom_, last);
   for (int y = first; y <= last; ++y) {
@@ -44,7 +45,8 @@ void Coverage::add_edge(PicturePoint a, PicturePoint b) {
 // side, as a difference from the pixel before.
 void Coverage::add_to_row(int y, double height, double left, double right) {
   float* row = &sums_[static_cast<std::size_t>(y) * static_cast<std::size_t>(width_ + 2)];
-  const int first = static_cast<int>(left), end = std::max(first + 1, static_cast<int>(std::ceil(right)));
+  const int first = static_cast<int>(left),
+            end = std::max(first + 1, static_cast<int>(std::ceil(right)));
   Zone& zone = (height > 0.0 ? falling_ : rising_)[static_cast<std::size_t>(y)];
   zone = {std::min(zone.first, first), std::max(zone.last, end)};
   if (end == first + 1) {
@@ -59,8 +61,9 @@ void Coverage::add_to_row(int y, double height, double left, double right) {
     const double crossed = std::clamp(x + 1.0 - left, 0.0, right - left);
     const double before = std::clamp(x - left, 0.0, right - left);
     // Full height behind the edge; inside its reach the mean over the pixel.
-    const double mean = x >= end ? height : per_pixel * (0.5 * (crossed + before) * (crossed - before) +
-                                                          crossed * (x + 1.0 - left - crossed));
+    const double mean = x >= end ? height
+                                 : per_pixel * (0.5 * (crossed + before) * (crossed - before) +
+                                                crossed * (x + 1.0 - left - crossed));
     row[x] += static_cast<float>(mean - reached);
     reached = mean;
   }
@@ -94,7 +97,8 @@ Coverage::Row Coverage::take_row(int y) {
   row.left = take_sums(y, left.first, left.last, sum);
   if (std::abs(sum) < all) {  // at the polygon's upper and lower ends
     take_sums(y, left.last + 1, right.last, sum);
-    row.left = {row.left.data(), static_cast<std::size_t>(std::min(right.last, width_ - 1) - left.first + 1)};
+    row.left = {row.left.data(),
+                static_cast<std::size_t>(std::min(right.last, width_ - 1) - left.first + 1)};
     return row;
   }
   row.inside_x = left.last + 1;

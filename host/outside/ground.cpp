@@ -52,7 +52,8 @@ Rgb Air::light_on(const Vector& from_eye_m) const {
   const double distance_m = length(from_eye_m);
   const double ahead = dot(from_eye_m, nose_) / std::max(distance_m, 1.0);
   const double beam = std::exp(-std::max(0.0, 1.0 - ahead) / 0.012);
-  const double strength = beam * 0.75 * std::min(1.0, 2500.0 / std::max(distance_m * distance_m, 1.0) * 4.0);
+  const double strength =
+      beam * 0.75 * std::min(1.0, 2500.0 / std::max(distance_m * distance_m, 1.0) * 4.0);
   return light_.land + Rgb{1.0, 0.96, 0.86} * strength;
 }
 
@@ -105,7 +106,8 @@ Ground::Ground(const Camera& camera, const Air& air, double elevation_m)
 
 Ground::Node Ground::node(double x, double y) const {
   const Vector direction = camera_.direction(x, y);
-  const double away = std::min(height_m_ / std::max(direction.z, 1e-9), farthest_m / camera_.focal_px());
+  const double away =
+      std::min(height_m_ / std::max(direction.z, 1e-9), farthest_m / camera_.focal_px());
   const Vector to = direction * away;
   const double distance_m = length(to);
   const Haze haze = air_.haze(distance_m);
@@ -142,7 +144,8 @@ void Ground::paint_row(std::uint32_t* row, std::uint32_t* cover, int y, Columns 
 void Ground::shade(const Frame& frame, const std::uint32_t* cover, SpanPixels& out) const {
   std::uint32_t all = 0xFF000000u;
   for (int i = 0; i < span_pixels; ++i) all &= cover[i];
-  const Walk coarse = frame.walk(map_.grain, coarse_grain_m), fine = frame.walk(map_.grain, fine_grain_m);
+  const Walk coarse = frame.walk(map_.grain, coarse_grain_m),
+             fine = frame.walk(map_.grain, fine_grain_m);
   if (all == 0xFF000000u)
     shade_covered(coarse, fine, cover, frame.shade, out);
   else

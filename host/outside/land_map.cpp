@@ -14,8 +14,9 @@ constexpr unsigned bits = 11, side = 1u << bits, mask = side - 1;
 constexpr double texel_m = 8.0;
 
 // What grows early in May, most of it green.
-constexpr std::array<std::uint32_t, 12> crops{0x5E7A3C, 0x6B8745, 0x547038, 0x7A9150, 0x4E6B36, 0x66803F,
-                                              0x87945A, 0xA89A6A, 0x8A7454, 0x71603F, 0xB5AE4E, 0x5A7A4A};
+constexpr std::array<std::uint32_t, 12> crops{0x5E7A3C, 0x6B8745, 0x547038, 0x7A9150,
+                                              0x4E6B36, 0x66803F, 0x87945A, 0xA89A6A,
+                                              0x8A7454, 0x71603F, 0xB5AE4E, 0x5A7A4A};
 constexpr std::uint32_t road = 0x9A968C, hedge = 0x3C5230, wood = 0x2F4A2A, water = 0x4A6274;
 constexpr std::uint32_t roof = 0x866252, street = 0x8C8A84, garden = 0x566E44;
 
@@ -58,8 +59,7 @@ class Fields {
 
   void plant(unsigned x, unsigned y, unsigned width, unsigned height) {
     const auto field = static_cast<std::uint16_t>(first_field + ++fields_ % 60000);
-    for (unsigned row = y; row < y + height; ++row)
-      std::fill_n(&marks_[row * side + x], width, field);
+    for (unsigned row = y; row < y + height; ++row) std::fill_n(&marks_[row * side + x], width, field);
   }
 
   std::vector<std::uint16_t> marks_;
@@ -73,7 +73,8 @@ struct Village {
 std::vector<Village> villages() {
   std::vector<Village> all;
   for (std::uint32_t i = 0; i < 34; ++i)
-    all.push_back({scattered(i, 1, 5) * side, scattered(i, 2, 5) * side, 14.0 + 22.0 * scattered(i, 3, 5)});
+    all.push_back(
+        {scattered(i, 1, 5) * side, scattered(i, 2, 5) * side, 14.0 + 22.0 * scattered(i, 3, 5)});
   return all;
 }
 
@@ -100,7 +101,8 @@ class Land {
     if (river < 0.0035 || low_.between(x / 4.0, y / 4.0) < 0.205) return water;
     const double trees = trees_.between(x / 4.0, y / 4.0) + 0.05 * (scattered(x, y, 8) - 0.5);
     if (trees > 0.60 || river < 0.0065) return shaded(wood, 0.84 + 0.36 * scattered(x / 2, y / 2, 9));
-    const std::uint16_t mark = fields_.at(x + slow_bend_[y] + fast_bend_[x], y + slow_bend_[x] + fast_bend_[y]);
+    const std::uint16_t mark =
+        fields_.at(x + slow_bend_[y] + fast_bend_[x], y + slow_bend_[x] + fast_bend_[y]);
     if (mark == on_road) return road;
     return mark == on_hedge ? hedge : field_colour(mark, x, y, soil_);
   }
@@ -125,7 +127,8 @@ class Land {
         std::uint32_t& texel = texels[y * side + x];
         if (texel == road || texel == water) continue;
         const bool along_street = x % 11 == 0 || (y + x / 5) % 13 == 0;
-        texel = along_street ? street : shaded(chance < 0.34 ? roof : garden, 0.9 + 0.2 * scattered(y, x, 6));
+        texel = along_street ? street
+                             : shaded(chance < 0.34 ? roof : garden, 0.9 + 0.2 * scattered(y, x, 6));
       }
   }
 
@@ -138,7 +141,8 @@ class Land {
 std::uint32_t mean_colour(std::uint32_t a, std::uint32_t b, std::uint32_t c, std::uint32_t d) {
   std::uint32_t mean = 0;
   for (const unsigned shift : {0u, 8u, 16u})
-    mean |= ((a >> shift & 255) + (b >> shift & 255) + (c >> shift & 255) + (d >> shift & 255) + 2) / 4 << shift;
+    mean |= ((a >> shift & 255) + (b >> shift & 255) + (c >> shift & 255) + (d >> shift & 255) + 2) / 4
+            << shift;
   return mean;
 }
 
@@ -161,8 +165,8 @@ TextureLevels made_grain() {
   std::vector<std::uint32_t> texels;
   for (unsigned y = 0; y < grain_side; ++y)
     for (unsigned x = 0; x < grain_side; ++x)
-      texels.push_back(static_cast<std::uint32_t>(
-          std::clamp(128.0 + 190.0 * (noise.at(x, y) - 0.5) + 16.0 * (scattered(x, y, 62) - 0.5), 60.0, 196.0)));
+      texels.push_back(static_cast<std::uint32_t>(std::clamp(
+          128.0 + 190.0 * (noise.at(x, y) - 0.5) + 16.0 * (scattered(x, y, 62) - 0.5), 60.0, 196.0)));
   TextureLevels grain(grain_bits, 1.0, std::move(texels), mean_colour);
   grain.each_level(add_neighbours);
   return grain;

@@ -50,7 +50,8 @@ OutsideView::~OutsideView() = default;
 
 void OutsideView::draw(Canvas& canvas, const Rect& place, const Sight& sight) {
   if (is_empty(place)) return;
-  const Picture picture{surface_of(canvas).at(place.x, place.y), canvas.width, place.width, place.height};
+  const Picture picture{surface_of(canvas).at(place.x, place.y), canvas.width, place.width,
+                        place.height};
   const Camera camera(sight, place.width, place.height);
   const Daylight light = daylight_at(sight.time_of_day_s);
   const Air air(sight, camera, light);
@@ -59,7 +60,8 @@ void OutsideView::draw(Canvas& canvas, const Rect& place, const Sight& sight) {
   scene_->fit(place.width, place.height);
   Canvas& cover = scene_->cover;
   SurfacePainter on_picture(picture, camera, *scene_->coverage);
-  SurfacePainter on_land({cover.pixels.data(), cover.width, cover.width, cover.height}, camera, *scene_->coverage);
+  SurfacePainter on_land({cover.pixels.data(), cover.width, cover.width, cover.height}, camera,
+                         *scene_->coverage);
 
   paint_sky(picture, camera, light);
   paint_skyline(on_picture, camera, air);

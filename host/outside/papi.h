@@ -11,7 +11,7 @@ namespace host::outside {
 inline constexpr double slope_deg = 3.0;
 
 struct PapiUnit {
-  double left_m;    ///< of the runway's middle line
+  double left_m;     ///< of the runway's middle line
   double angle_deg;  ///< above the ground, where red turns to white
 };
 

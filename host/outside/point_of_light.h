@@ -17,6 +17,7 @@ struct Picture {
 };
 
 /// A disc with soft edges of that radius in pixels, at least 0.8; what reaches beyond 255 is white glare.
-void add_light(Picture picture, PicturePoint at, double radius_px, const Rgb& colour, double brightness);
+void add_light(Picture picture, PicturePoint at, double radius_px, const Rgb& colour,
+               double brightness);
 
 }  // namespace host::outside

@@ -15,7 +15,8 @@ class End {
  public:
   End(std::vector<Surface>& all, bool far) : all_(all), sign_(far ? -1.0 : 1.0) {}
 
-  void mark(double from_m, double to_m, double right_m, double to_right_m, std::uint32_t colour = paint) {
+  void mark(double from_m, double to_m, double right_m, double to_right_m,
+            std::uint32_t colour = paint) {
     const double start = -0.5 * runway_length_m;
     all_.push_back(strip(sign_ * (start + from_m), sign_ * (start + to_m), sign_ * right_m,
                          sign_ * to_right_m, colour));
@@ -47,7 +48,8 @@ struct Stroke {
 constexpr double pen = 0.75;
 
 std::vector<Stroke> strokes(char digit) {
-  constexpr Stroke top{0, 3, 5 - pen, 5}, middle{0, 3, 2.5 - pen / 2, 2.5 + pen / 2}, bottom{0, 3, 0, pen};
+  constexpr Stroke top{0, 3, 5 - pen, 5}, middle{0, 3, 2.5 - pen / 2, 2.5 + pen / 2},
+      bottom{0, 3, 0, pen};
   constexpr Stroke left{0, pen, 0, 5}, right{3 - pen, 3, 0, 5};
   constexpr Stroke upper_left{0, pen, 2.5, 5}, lower_left{0, pen, 0, 2.5};
   constexpr Stroke upper_right{3 - pen, 3, 2.5, 5}, lower_right{3 - pen, 3, 0, 2.5};
@@ -66,8 +68,8 @@ void number(End& end, std::string_view digits) {
   double left_m = -across_m * 3.5;
   for (const char digit : digits) {
     for (const Stroke& stroke : strokes(digit))
-      end.mark(foot_m + unit_m * stroke.bottom, foot_m + unit_m * stroke.top, left_m + across_m * stroke.left,
-               left_m + across_m * stroke.right);
+      end.mark(foot_m + unit_m * stroke.bottom, foot_m + unit_m * stroke.top,
+               left_m + across_m * stroke.left, left_m + across_m * stroke.right);
     left_m += across_m * 4.0;
   }
 }
@@ -90,8 +92,11 @@ void wear(End& end) {
     double from_m, to_m, inner_m, outer_m;
     std::uint32_t colour;
   };
-  constexpr Trace traces[] = {{150, 1150, 0.3, 7.5, 0x545658}, {190, 1000, 0.6, 6.6, 0x505254}, {230, 880, 1.0, 5.8, 0x4C4E50},
-                              {280, 760, 1.4, 5.0, 0x484A4C}, {330, 640, 1.8, 4.2, 0x444648}};
+  constexpr Trace traces[] = {{150, 1150, 0.3, 7.5, 0x545658},
+                              {190, 1000, 0.6, 6.6, 0x505254},
+                              {230, 880, 1.0, 5.8, 0x4C4E50},
+                              {280, 760, 1.4, 5.0, 0x484A4C},
+                              {330, 640, 1.8, 4.2, 0x444648}};
   for (const Trace& trace : traces)
     for (const double side : {-1.0, 1.0})
       end.mark(trace.from_m, trace.to_m, side * trace.inner_m, side * trace.outer_m, trace.colour);
@@ -100,7 +105,8 @@ void wear(End& end) {
 void middle_line(std::vector<Surface>& all) {
   constexpr double stripe_m = 30.0, gap_m = 20.0, from_m = 80.0;
   for (double at = from_m; at + stripe_m <= runway_length_m - from_m; at += stripe_m + gap_m)
-    all.push_back(strip(at - 0.5 * runway_length_m, at + stripe_m - 0.5 * runway_length_m, -0.45, 0.45, paint));
+    all.push_back(
+        strip(at - 0.5 * runway_length_m, at + stripe_m - 0.5 * runway_length_m, -0.45, 0.45, paint));
 }
 
 }  // namespace

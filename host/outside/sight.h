@@ -1,7 +1,7 @@
 /// Where the captain's eye is and where it looks: all that the view out of the window needs to know.
 #pragma once
 
-#include "host/simulation/flight/flight_state.h"
+#include "host/simulation/aircraft_model.h"
 
 namespace host::outside {
 
@@ -20,7 +20,7 @@ struct Sight {
 };
 
 /// The captain's sight from an aircraft that flies on for `ahead_s` as it moves now.
-Sight captains_sight(const simulation::FlightState& flight, double time_of_day_s, double ahead_s = 0.0);
+Sight captains_sight(const AircraftModel& aircraft, double ahead_s = 0.0);
 
 /// How far the captain's eye is above the wheels' path on a three-degree slope, and ahead of them, with
 /// the nose at the three degrees that the aircraft has there.

@@ -22,7 +22,9 @@ struct Fine {
 };
 
 Fine fine(const Rgb& colour) {
-  const auto channel = [](double value) { return static_cast<int>(std::clamp(value, 0.0, 254.0) * 256.0); };
+  const auto channel = [](double value) {
+    return static_cast<int>(std::clamp(value, 0.0, 254.0) * 256.0);
+  };
   return {channel(colour.r), channel(colour.g), channel(colour.b)};
 }
 
@@ -40,7 +42,9 @@ void paint_cell(std::uint32_t* out, int count, const Fine& left, const Fine& rig
   const auto& round = rounding[static_cast<std::size_t>(y & 3)];
   for (int i = 0; i < count; ++i) {
     const auto between = [&](int a, int b) {
-      return static_cast<std::uint32_t>(a + (b - a) * i / cell + round[static_cast<std::size_t>(i & 3)]) >> 8;
+      return static_cast<std::uint32_t>(a + (b - a) * i / cell +
+                                        round[static_cast<std::size_t>(i & 3)]) >>
+             8;
     };
     out[i] = 0xFF000000u | between(left.r, right.r) << 16 | between(left.g, right.g) << 8 |
              between(left.b, right.b);
@@ -63,9 +67,11 @@ void paint_stars(Picture picture, const Camera& camera, const Daylight& light) {
 void paint_sun(Picture picture, const Camera& camera, const Daylight& light) {
   const Vector at = camera.turned(light.sun);
   if (at.x < 0.1 || light.sun_up_deg < -1.0) return;
-  const double radius_px = 0.0070 * camera.focal_px() / at.x;  // half again the true disc, as glare makes it
+  const double radius_px =
+      0.0070 * camera.focal_px() / at.x;  // half again the true disc, as glare makes it
   const double low = std::clamp(light.sun_up_deg / 12.0, 0.0, 1.0);
-  add_light(picture, camera.project(at), 1.6 * radius_px, mixed({255, 190, 110}, {255, 252, 240}, low), 2.4);
+  add_light(picture, camera.project(at), 1.6 * radius_px, mixed({255, 190, 110}, {255, 252, 240}, low),
+            2.4);
 }
 
 }  // namespace
@@ -73,14 +79,17 @@ void paint_sun(Picture picture, const Camera& camera, const Daylight& light) {
 Rgb sky_colour(const Vector& direction, const Daylight& light) {
   const double up = std::max(0.0, -direction.z);
   const double level = std::hypot(direction.x, direction.y) * std::hypot(light.sun.x, light.sun.y);
-  const double along = level > 1e-9 ? (direction.x * light.sun.x + direction.y * light.sun.y) / level : 0.0;
+  const double along =
+      level > 1e-9 ? (direction.x * light.sun.x + direction.y * light.sun.y) / level : 0.0;
   const double toward_sun = (0.5 + 0.5 * along) * (0.5 + 0.5 * along);
   const Rgb low = mixed(light.horizon, light.sunward, toward_sun);
   const Rgb sky = mixed(low, light.zenith, 1.0 - std::exp(-up * 4.2));
   if (light.sun_up_deg < -2.0) return sky;
   const double off = 1.0 - std::min(1.0, dot(direction, light.sun));
   const double glow = 70.0 * std::exp(-off * 60.0) + 90.0 * std::exp(-off * 900.0);
-  return sky + mixed({1.0, 0.72, 0.42}, {1.0, 0.98, 0.92}, std::clamp(light.sun_up_deg / 20.0, 0.0, 1.0)) * glow;
+  return sky +
+         mixed({1.0, 0.72, 0.42}, {1.0, 0.98, 0.92}, std::clamp(light.sun_up_deg / 20.0, 0.0, 1.0)) *
+             glow;
 }
 
 void paint_sky(Picture picture, const Camera& camera, const Daylight& light) {
@@ -96,8 +105,8 @@ void paint_sky(Picture picture, const Camera& camera, const Daylight& light) {
                   between(above[column].b, below[column].b)};
     };
     for (int x = sky.first / cell * cell; x < sky.end; x += cell)
-      paint_cell(picture.pixels + y * picture.stride + x, std::min(cell, camera.width() - x), at(x / cell),
-                 at(x / cell + 1), y);
+      paint_cell(picture.pixels + y * picture.stride + x, std::min(cell, camera.width() - x),
+                 at(x / cell), at(x / cell + 1), y);
   }
   paint_stars(picture, camera, light);
   paint_sun(picture, camera, light);

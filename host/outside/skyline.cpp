@@ -15,7 +15,8 @@ struct Ridge {
   double from_m, to_m, step_m;
 };
 
-constexpr std::array<Ridge, 3> ridges{{{24000, 44000, 2500}, {14000, 24000, 1600}, {6000, 14000, 1000}}};
+constexpr std::array<Ridge, 3> ridges{
+    {{24000, 44000, 2500}, {14000, 24000, 1600}, {6000, 14000, 1000}}};
 constexpr Rgb forest{74, 96, 76};
 constexpr int directions = 240;
 
@@ -53,7 +54,8 @@ void paint_ridge(const Ridge& ridge, SurfacePainter& painter, const Camera& came
                         right.east + 0.1 * (right.east - left.east),
                         right.slope + 0.1 * (right.slope - left.slope)};
       const std::array<Vector, 4> corners{place(left, -0.002), place(left, std::max(left.slope, 0.0)),
-                                          place(beyond, std::max(beyond.slope, 0.0)), place(beyond, -0.002)};
+                                          place(beyond, std::max(beyond.slope, 0.0)),
+                                          place(beyond, -0.002)};
       painter.paint(corners, colour);
     }
     left = right;

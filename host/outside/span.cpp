@@ -16,9 +16,7 @@ using Lane = std::uint32_t;
 using Lanes = std::array<Lane, span_pixels>;
 
 // Between two pixels, two channels at a time; `t` is 0 to 255.
-inline Lane mixed_pair(Lane a, Lane b, Lane t) {
-  return (a * (256 - t) + b * t) >> 8 & 0xFF00FF;
-}
+inline Lane mixed_pair(Lane a, Lane b, Lane t) { return (a * (256 - t) + b * t) >> 8 & 0xFF00FF; }
 
 inline Lane grain_at(const Walk& walk, Lane u, Lane v) {
   const Lane mask = (1u << walk.texture.bits) - 1;
@@ -61,7 +59,9 @@ inline void lay_cover(Cover cover, Lanes& red_blue, Lanes& green, Lanes& grain) 
     const Lane alpha = cover[i] >> 24, rest = 256 - alpha - (alpha >> 7);
     red_blue[i] = (red_blue[i] * rest >> 8 & 0xFF00FF) + (cover[i] & 0xFF00FF);
     green[i] = (green[i] * rest >> 8) + (cover[i] >> 8 & 0xFF);
-    grain[i] = 256 + ((static_cast<std::int32_t>(grain[i]) - 256) * static_cast<std::int32_t>(512 - alpha) >> 9);
+    grain[i] =
+        256 +
+        ((static_cast<std::int32_t>(grain[i]) - 256) * static_cast<std::int32_t>(512 - alpha) >> 9);
   }
 }
 
@@ -96,7 +96,8 @@ void shade_land(const Walk& land, const Walk& coarse, const Walk& fine, Cover co
 }
 
 FOR_WIDE_REGISTERS
-void shade_covered(const Walk& coarse, const Walk& fine, Cover cover, const Shade& shade, SpanPixels& out) {
+void shade_covered(const Walk& coarse, const Walk& fine, Cover cover, const Shade& shade,
+                   SpanPixels& out) {
   Lanes red_blue{}, green{}, grain{};
   lay_grain(coarse, grain);
   lay_grain(fine, grain);

@@ -39,6 +39,7 @@ void shade_land(const Walk& land, const Walk& coarse, const Walk& fine, Cover co
                 SpanPixels& out);
 
 /// The same where nothing of the land is seen.
-void shade_covered(const Walk& coarse, const Walk& fine, Cover cover, const Shade& shade, SpanPixels& out);
+void shade_covered(const Walk& coarse, const Walk& fine, Cover cover, const Shade& shade,
+                   SpanPixels& out);
 
 }  // namespace host::outside

@@ -39,8 +39,8 @@ double SoftNoise::between(double x, double y) const {
   const auto top = static_cast<unsigned>(static_cast<long>(row));
   const double tx = x - column, ty = y - row;
   const auto mix = [](double a, double b, double t) { return a + (b - a) * t; };
-  return mix(mix(at(left, top), at(left + 1, top), tx), mix(at(left, top + 1), at(left + 1, top + 1), tx),
-             ty);
+  return mix(mix(at(left, top), at(left + 1, top), tx),
+             mix(at(left, top + 1), at(left + 1, top + 1), tx), ty);
 }
 
 }  // namespace host::outside

@@ -8,6 +8,7 @@
 
 #include "host/simulation/flight/air_data.h"
 #include "host/simulation/flight/flight_controls.h"
+#include "host/simulation/flight/flight_state.h"
 #include "host/simulation/placement.h"
 #include "host/simulation/table_row.h"
 
@@ -38,6 +39,16 @@ class AircraftModel {
 
   /// The day's weather: pressure, temperature, wind and gusts.
   simulation::Weather& weather();
+
+  /// Where it is and how it moves.
+  const simulation::FlightState& flight() const;
+
+  /// Local time in seconds since midnight. Setting it takes 0 to 86400.
+  double time_of_day_s() const;
+  void set_time_of_day(double seconds);
+
+  /// Both engines at a warm idle, battery and avionics on.
+  void make_ready();
 
   /// Lines it up for take-off as it is, at rest, the parking brake set.
   void place_on_runway();

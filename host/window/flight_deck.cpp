@@ -18,11 +18,13 @@ FlightDeck::FlightDeck(Cockpit& cockpit, const DeckOptions& options)
     : cockpit_(cockpit),
       options_(options),
       scale_(options.scale.value_or(Desktop::scale())),
-      views_(cockpit, scale_, options.zoom ? std::optional(*options.zoom * scale_) : std::nullopt),
+      views_(cockpit, scale_, options.zoom ? std::optional(*options.zoom * scale_) : std::nullopt,
+             options.outside),
       notices_(views_.main()),
       journal_(options.record.empty() ? Journal(1.0 / cockpit.rate())
                                       : Journal(options.record, 1.0 / cockpit.rate())),
       hand_(cockpit, views_, journal_, scale_) {
+  for (const std::string& call : options.begun_with) journal_.call(call, cockpit.seconds());
   platform_on_message(take_message, this);
 }
 
@@ -70,8 +72,14 @@ void FlightDeck::refresh() {
   const bool moving = views_.moving() && !paused_;
   if (moving && time < picture_due_) return;
   const double blend = moving ? std::clamp((time - last_frame_) * cockpit_.rate(), 0.0, 1.0) : 1.0;
-  views_.each([&](View& view) { view.refresh(blend); });
+  const auto sight = paused_ ? std::nullopt : std::optional(sight_at(time));
+  views_.each([&](View& view) { view.refresh(blend, sight); });
   picture_due_ = std::max(picture_due_ + picture_time, time);
+}
+
+outside::Sight FlightDeck::sight_at(double time) const {
+  return outside::captains_sight(cockpit_.aircraft(),
+                                 std::clamp(time - last_frame_, 0.0, 1.0 / cockpit_.rate()));
 }
 
 double FlightDeck::next_deadline() const {

@@ -39,6 +39,8 @@ class FlightDeck {
   bool take_panel_key(SDL_Keycode key);
   void run_frames();
   void refresh();
+  /// What the captain sees now: the aircraft of the last frame, flown on to this moment.
+  outside::Sight sight_at(double time) const;
 
   void toggle_window(std::uint32_t ident);
   void toggle_torn();
@@ -46,6 +48,7 @@ class FlightDeck {
   void send(std::uint32_t event);
   void toggle_panel_lights();
   void move_fuel_lever(std::size_t engine);  ///< 1 or 2
+  void toggle_outside();
   void toggle_pause();
   void change_zoom(double factor);
   void save_picture();

@@ -29,6 +29,7 @@ void FlightDeck::take_key(const SDL_Keysym& key) {
     case SDLK_KP_MINUS: change_zoom(1 / 1.125); break;
     case SDLK_0:
     case SDLK_KP_0: views_.main().set_zoom(std::nullopt); break;
+    case SDLK_v: toggle_outside(); break;
     case SDLK_d: toggle_panel_lights(); break;
     case SDLK_F5: move_fuel_lever(1); break;
     case SDLK_F6: move_fuel_lever(2); break;
@@ -88,6 +89,14 @@ void FlightDeck::toggle_panel_lights() {
     cockpit_.panels().open(face);
     journal_.call("open_window(" + std::to_string(face) + ")", cockpit_.seconds());
   }
+}
+
+void FlightDeck::toggle_outside() {
+  View& view = views_.main();
+  view.want_outside(!view.wants_outside());
+  if (!view.wants_outside()) return;
+  if (!cockpit_.panels().shows(500))
+    notices_.add("The view stands above the captain's panel: key 1", now());
 }
 
 void FlightDeck::toggle_pause() {

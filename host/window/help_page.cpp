@@ -27,6 +27,7 @@ constexpr std::array rows{
     HelpRow{"Wheel", "Turn a knob; elsewhere scroll"},
     HelpRow{"Drag", "Move a lever; elsewhere move the view"},
     HelpRow{"Flight", ""},
+    HelpRow{"V", "View out of the window, above the captain's panel"},
     HelpRow{"D", "Panel lights: day and night"},
     HelpRow{"F5  F6", "Fuel levers of engines 1 and 2"},
     HelpRow{"P", "Pause"},
