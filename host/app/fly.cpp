@@ -20,6 +20,11 @@ int fly(const FlyOptions& options) {
       throw std::runtime_error("--open: there is no window " + std::to_string(ident));
     cockpit.panels().open(ident);
   }
+  if (options.start.at != "stand") {
+    cockpit.panels().open(captains_panel);
+  } else if (options.open.empty()) {
+    cockpit.begin_with_start_page();
+  }
   DeckOptions deck_options = options.deck;
   deck_options.begun_with = begin(cockpit.aircraft(), options.start);
   FlightDeck deck(cockpit, deck_options);

@@ -16,6 +16,10 @@ Cockpit::Cockpit(GaugeModule& module, PanelConfig config, double rate)
   module_.connect(panel_services());
 }
 
+void Cockpit::begin_with_start_page() {
+  if (panels_.begin_with_start_page()) aircraft_.hand_over();
+}
+
 Cockpit::~Cockpit() {
   for (const auto& gauge : gauges_)
     if (gauge->started) gauge->run.end();

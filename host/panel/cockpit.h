@@ -67,6 +67,10 @@ class Cockpit : private ServiceTarget {
   Cockpit(const Cockpit&) = delete;
   Cockpit& operator=(const Cockpit&) = delete;
 
+  /// The aircraft as the ground crew hands it over, and the start page alone before the person. Does nothing
+  /// where the panel has no start page.
+  void begin_with_start_page();
+
   /// Moves the aircraft on by one frame's time, then runs every gauge of the open windows once.
   void frame();
 

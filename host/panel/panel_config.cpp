@@ -32,6 +32,8 @@ const std::map<std::string_view, EntryReader> window_entries = {
        w.height = size[1];
      }},
     {"position", [](WindowConfig& w, std::string_view v) { w.position = whole_number(v, 0, 8); }},
+    {"start_page",
+     [](WindowConfig& w, std::string_view v) { w.start_page = whole_number(v, 0, 1) == 1; }},
     {"visible", [](WindowConfig& w, std::string_view v) { w.visible = whole_number(v, 0, 1) == 1; }},
     {"drawn", [](WindowConfig& w, std::string_view v) { w.drawn = whole_number(v, 0, 1) == 1; }},
     {"background", [](WindowConfig& w, std::string_view v) { w.background = read_picture(v); }},

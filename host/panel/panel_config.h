@@ -13,7 +13,8 @@
 /// Further entries of a window: `ident_day` and `ident_night`, two numbers that show its day or its
 /// night face; `background` and `background_night`, PNG files beside the configuration;
 /// `background_color=r,g,b` for the plate without one; `drawn=0` for a window whose gauges run all
-/// the time and are never seen.
+/// the time and are never seen; `start_page=1` for the page that a session may begin with, which gives
+/// way to the first window that is opened after it.
 #pragma once
 
 #include <cstdint>
@@ -54,6 +55,7 @@ struct WindowConfig {
   int position = 4;  ///< 0 upper left ... 8 lower right
   bool visible = false;
   bool drawn = true;
+  bool start_page = false;
   std::string background;        ///< empty: a plate in `color`
   std::string night_background;  ///< empty: as by day
   std::uint32_t color = 0xFF2B2E33u;

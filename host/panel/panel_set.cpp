@@ -8,15 +8,24 @@ PanelSet::PanelSet(const PanelConfig& config) {
   for (std::size_t i = 0; i < config.windows.size(); ++i) {
     const WindowConfig& window = config.windows[i];
     states_.push_back({window.visible, Face::day});
+    if (window.start_page) start_page_ = i;
     if (window.ident) entries_.push_back({window.ident, i, std::nullopt});
     if (window.day_ident) entries_.push_back({window.day_ident, i, Face::day});
     if (window.night_ident) entries_.push_back({window.night_ident, i, Face::night});
   }
 }
 
+bool PanelSet::begin_with_start_page() {
+  if (!start_page_) return false;
+  for (const Entry& each : entries_) set(each.window, {each.window == start_page_, Face::day});
+  return true;
+}
+
 void PanelSet::open(std::uint32_t ident) {
-  if (const Entry* found = entry(ident))
-    set(found->window, {true, found->face.value_or(states_[found->window].face)});
+  const Entry* found = entry(ident);
+  if (!found) return;
+  set(found->window, {true, found->face.value_or(states_[found->window].face)});
+  if (start_page_ && found->window != start_page_) set(*start_page_, {});
 }
 
 void PanelSet::close(std::uint32_t ident) {

@@ -12,6 +12,9 @@ namespace host {
 /// The main panels have a face for day and one for night; the other windows stay on `day`.
 enum class Face { day, night };
 
+/// The ident of the panel above which the view out of the window stands.
+inline constexpr std::uint32_t captains_panel = 500;
+
 /// The windows of one panel by their idents. An ident that no window has does nothing.
 ///
 /// A day or night ident stands for its window on that face: opening it shows the window with the
@@ -21,6 +24,10 @@ class PanelSet {
  public:
   explicit PanelSet(const PanelConfig& config);
 
+  /// Shows the start page and no other window that can be opened. False where the panel has none.
+  bool begin_with_start_page();
+
+  /// The start page gives way to any other window.
   void open(std::uint32_t ident);
   void close(std::uint32_t ident);
   void toggle(std::uint32_t ident);
@@ -52,6 +59,7 @@ class PanelSet {
   void set(std::size_t window, State state);
 
   std::vector<Entry> entries_;
+  std::optional<std::size_t> start_page_;
   std::vector<State> states_;
   unsigned changes_ = 0;
 };

@@ -121,6 +121,7 @@ void bind_readings(LuaRunner& runner, FlowSession& session) {
     for (const std::string& message : session.messages) call.append(message);
   });
   runner.bind("sound_level", [&](LuaCall& call) { give_sound_level(call, session); });
+  runner.bind("start_page", [&](LuaCall&) { session.cockpit().begin_with_start_page(); });
   runner.bind("open_window", [&](LuaCall& call) { panels.open(call.key(1, "ident")); });
   runner.bind("close_window", [&](LuaCall& call) { panels.close(call.key(1, "ident")); });
   runner.bind("window_open", [&](LuaCall& call) { call.give(panels.shows(call.key(1, "ident"))); });

@@ -57,8 +57,15 @@ void Aircraft::fly(double dt_s) {
   airframe.report(flight);
 }
 
+void Aircraft::follow_handing_over() {
+  if (!electrics.battery_on) apu = {};
+  const bool turning = engines[0].core_speed_percent > 1.0 || engines[1].core_speed_percent > 1.0;
+  handed_over = electrics.battery_on && !turning;
+}
+
 void Aircraft::update_systems(double dt_s) {
   air.update(flight);
+  if (handed_over) follow_handing_over();
   if (!electrics.has_dc()) apu.stop();
   apu.update(dt_s);
   update_engine_start(dt_s);
@@ -139,6 +146,21 @@ void Aircraft::make_ready() {
   electrics.avionics_on = true;
   start_both_engines();
   for (int i = 0; i < warm_up_s * clock.steps_per_second; ++i) update_systems(clock.step_s());
+}
+
+void Aircraft::start_automatically() { handed_over ? make_ready() : start_both_engines(); }
+
+void Aircraft::connect_ground_power() {
+  electrics.external_power = true;
+  apu = {.running = true, .speed_percent = 100.0};
+}
+
+void Aircraft::hand_over() {
+  electrics.battery_on = electrics.avionics_on = true;
+  fuel.lever_open = {true, true};
+  apu = {.running = true, .speed_percent = 100.0};
+  handed_over = true;
+  update_systems(0.0);
 }
 
 void Aircraft::place_on_runway() {

@@ -32,6 +32,9 @@ struct Aircraft {
   Turbulence turbulence;
   /// Under the wheels until the crew first sets the parking brake; they hold the aircraft altogether.
   bool chocks_in = true;
+  /// By the ground crew, and its engines have not turned since: an automatic start finds them at idle, and
+  /// with the battery all power goes.
+  bool handed_over = false;
   AirData air;
   AirControls air_controls;
   Lights lights;
@@ -61,6 +64,15 @@ struct Aircraft {
   /// minutes ago.
   void make_ready();
 
+  /// What the automatic start leads to: at once where the aircraft has just been handed over.
+  void start_automatically();
+
+  /// The ground crew's part: a ground unit feeds the aircraft, and the auxiliary power unit is at speed.
+  void connect_ground_power();
+
+  /// As the start page finds it: battery, avionics and auxiliary power unit on, fuel levers open.
+  void hand_over();
+
   /// Lines it up on the runway as it is, at rest, without chocks, the parking brake set.
   void place_on_runway();
 
@@ -76,6 +88,7 @@ struct Aircraft {
   Trim trim_for(const InFlight& where);
   void start_engines_at_once(double thrust_n);
   void update_systems(double dt_s);
+  void follow_handing_over();
   void update_engine_start(double dt_s);
   void update_engines(double dt_s);
   void update_fuel(double dt_s);

@@ -63,6 +63,8 @@ void AircraftModel::set_time_of_day(double seconds) {
 
 void AircraftModel::make_ready() { systems_->aircraft.make_ready(); }
 
+void AircraftModel::hand_over() { systems_->aircraft.hand_over(); }
+
 void AircraftModel::place_on_runway() { systems_->aircraft.place_on_runway(); }
 
 bool AircraftModel::place_in_flight(const simulation::InFlight& where) {

@@ -50,6 +50,10 @@ class AircraftModel {
   /// Both engines at a warm idle, battery and avionics on.
   void make_ready();
 
+  /// As the ground crew hands it over, for the start page: battery, avionics and auxiliary power unit on,
+  /// fuel levers open, both engines standing and ready to idle at once.
+  void hand_over();
+
   /// Lines it up for take-off as it is, at rest, the parking brake set.
   void place_on_runway();
 

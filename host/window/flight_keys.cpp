@@ -95,7 +95,7 @@ void FlightDeck::toggle_outside() {
   View& view = views_.main();
   view.want_outside(!view.wants_outside());
   if (!view.wants_outside()) return;
-  if (!cockpit_.panels().shows(500))
+  if (!cockpit_.panels().shows(captains_panel))
     notices_.add("The view stands above the captain's panel: key 1", now());
 }
 

@@ -11,8 +11,6 @@
 namespace host {
 namespace {
 
-constexpr std::uint32_t captains_panel = 500;
-
 std::string key_hint(const WindowConfig& window) {
   if (window.ident >= 500 && window.ident <= 508) return std::to_string(window.ident - 499);
   return {};

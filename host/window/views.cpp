@@ -37,7 +37,7 @@ Views::Views(Cockpit& cockpit, double scale, std::optional<double> zoom, bool ou
       scale_(scale),
       main_(std::make_unique<View>(
           cockpit, View::Kind::main, "Tarnvale",
-          first_size(cockpit, scale, zoom, outside && cockpit.panels().shows(500)), scale)),
+          first_size(cockpit, scale, zoom, outside && cockpit.panels().find(captains_panel)), scale)),
       changes_(cockpit.panels().changes()) {
   main_->set_zoom(zoom);
   main_->want_outside(outside);

@@ -37,6 +37,22 @@ TEST(PanelSet, IgnoresIdentsOfOtherCockpits) {
   EXPECT_EQ(panels.changes(), 0u);
 }
 
+TEST(PanelSet, TheStartPageGivesWayToTheFirstWindowThatIsOpened) {
+  EXPECT_FALSE(two_windows().begin_with_start_page()) << "not every panel has one";
+  PanelSet panels(
+      parse_panel_config("[Window00]\nident=500\nsize_mm=9,9\nvisible=1\n"
+                         "[Window08]\nident=508\nsize_mm=9,9\nstart_page=1\n"
+                         "[Window10]\nsize_mm=9,9\ndrawn=0\nvisible=1\n",
+                         "panel.cfg"));
+  EXPECT_FALSE(panels.shows(508)) << "a flow begins without it";
+  EXPECT_TRUE(panels.begin_with_start_page());
+  EXPECT_TRUE(panels.shows(508));
+  EXPECT_FALSE(panels.shows(500));
+  EXPECT_TRUE(panels.is_open(2)) << "what is never seen runs on";
+  panels.open(500);
+  EXPECT_FALSE(panels.shows(508));
+}
+
 // The panel-light switches open one face and close the other, in either order.
 TEST(PanelSet, SwapsTheFacesOfAMainPanel) {
   PanelSet panels = two_windows();

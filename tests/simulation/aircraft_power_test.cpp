@@ -143,6 +143,39 @@ TEST_P(EachGenerator, Has_a_control_line_of_its_own_and_one_with_all) {
 
 INSTANTIATE_TEST_SUITE_P(Sides, EachGenerator, testing::Values(1, 2));
 
+/// What the start page's three states send to an aircraft that has just been handed over.
+TEST(Power, The_start_page_leaves_it_dead_ready_or_running_at_once) {
+  struct Row {
+    const char* state;
+    std::vector<const char*> events;
+    double battery, auxiliary_at_least, core_speed;
+  };
+  const Row rows[] = {
+      {"cold and dark",
+       {"battery_toggle", "avionics_toggle", "fuel_lever_1_toggle", "fuel_lever_2_toggle"},
+       0,
+       0,
+       0},
+      {"ready to start",
+       {"parking_brake_toggle", "fuel_lever_1_toggle", "fuel_lever_2_toggle"},
+       1,
+       5,
+       0},
+      {"running", {"parking_brake_toggle", "automatic_start"}, 1, 0, 52},
+  };
+  for (const Row& row : rows) {
+    AircraftModel aircraft;
+    aircraft.hand_over();
+    aircraft.advance(20.0);  // a person looks at the page
+    for (const char* event : row.events) send(aircraft, event);
+    aircraft.advance(0.2);
+    EXPECT_EQ(reading(aircraft, "battery"), row.battery) << row.state;
+    EXPECT_GE(reading(aircraft, "auxiliary_load"), row.auxiliary_at_least) << row.state;
+    EXPECT_NEAR(reading(aircraft, "engine_2_core_speed"), row.core_speed, 1.0) << row.state;
+    if (row.battery == 0) expect_ac(aircraft, "ac_bus_1_voltmeter", false);
+  }
+}
+
 // Between 60 and 72 the DC voltmeter's selector would show a battery as a main bus or stick.
 TEST(Power, Dc_voltmeter_jumps_over_its_dead_range) {
   AircraftModel aircraft;

@@ -37,7 +37,7 @@ constexpr EventRow events[] = {
     {{0x102F5, "avionics_toggle", ""},
      [](Aircraft& a, std::uint32_t) { a.electrics.avionics_on = !a.electrics.avionics_on; }},
     {{0x102C1, "external_power_connect", ""},
-     [](Aircraft& a, std::uint32_t) { a.electrics.external_power = true; }},
+     [](Aircraft& a, std::uint32_t) { a.connect_ground_power(); }},
     {{0x102C2, "alternators_with_battery", ""},
      [](Aircraft& a, std::uint32_t) { a.electrics.align_alternators(); }},
     {{0x1033B, "alternator_1_with_battery", ""},

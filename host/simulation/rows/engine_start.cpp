@@ -14,7 +14,7 @@ constexpr EventRow events[] = {
      [](Aircraft& a, std::uint32_t) { a.engine_start.ignition_armed = true; }},
     {{0x102FC, "starter_1_engage", ""}, engage_starter<0>},
     {{0x102FD, "starter_2_engage", ""}, engage_starter<1>},
-    {{0x102B0, "automatic_start", ""}, [](Aircraft& a, std::uint32_t) { a.start_both_engines(); }},
+    {{0x102B0, "automatic_start", ""}, [](Aircraft& a, std::uint32_t) { a.start_automatically(); }},
 };
 
 }  // namespace
