@@ -87,6 +87,8 @@ class CommandLine {
     add_start(sub, fly_.start);
     sub->add_flag("!--no-view", fly_.deck.outside, "Without the view out of the window (key V)");
     sub->add_option("--open", fly_.open, "Windows to open at once, by their idents");
+    sub->add_option("--controls", fly_.deck.controls,
+                    "What keys and joysticks do; else controls.cfg beside this program");
     sub->add_option("--pictures", fly_.deck.pictures, "Folder for screenshots")->capture_default_str();
     sub->add_option("--record", fly_.deck.record,
                     "Write your inputs to this file, as a flow that can be run again");

@@ -26,6 +26,7 @@ int fly(const FlyOptions& options) {
     cockpit.begin_with_start_page();
   }
   DeckOptions deck_options = options.deck;
+  if (deck_options.controls.empty()) deck_options.controls = program_folder() / "controls.cfg";
   deck_options.begun_with = begin(cockpit.aircraft(), options.start);
   FlightDeck deck(cockpit, deck_options);
   deck.fly();

@@ -28,7 +28,7 @@ struct StartOptions {
 struct FlyOptions {
   CockpitOptions cockpit;
   StartOptions start;
-  DeckOptions deck;
+  DeckOptions deck;  ///< its controls empty: those beside this program
   std::vector<std::uint32_t> open;  ///< idents to open besides those that are open from the start
   bool mute = false;
 };

@@ -102,7 +102,7 @@ void FlightDeck::toggle_outside() {
 void FlightDeck::toggle_pause() {
   paused_ = !paused_;
   frame_due_ = now();
-  notices_.set_badge(paused_ ? "PAUSED" : "");
+  show_badge();
 }
 
 void FlightDeck::change_zoom(double factor) {
@@ -123,7 +123,9 @@ void FlightDeck::save_picture() {
 }
 
 void FlightDeck::leave_or_close_help() {
-  if (notices_.help_shown())
+  if (controls_shown_)
+    controls_shown_ = false, show_controls_page();
+  else if (notices_.help_shown())
     notices_.toggle_help();
   else
     leaving_ = true;

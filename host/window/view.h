@@ -15,7 +15,7 @@
 namespace host {
 
 /// What the program lays over the panels, from the lowest to the topmost.
-enum class Layer { badge, note, tooltip, help };
+enum class Layer { badge, note, tooltip, controls, help };
 
 /// What lies under a pixel of a view.
 struct ViewHit {
@@ -107,7 +107,7 @@ class View {
   Canvas outside_picture_;
   outside::Sight sight_;
   outside::OutsideView outside_view_;
-  std::array<std::optional<Overlay>, 4> layers_;
+  std::array<std::optional<Overlay>, 5> layers_;
   std::vector<Rect> changed_;
   bool layout_old_ = true;
   bool all_changed_ = true;
