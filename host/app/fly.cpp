@@ -7,6 +7,17 @@
 
 namespace host {
 
+namespace {
+
+// In the air one looks out of the window, not up.
+void open_for_flying(Cockpit& cockpit) {
+  for (const WindowConfig& window : cockpit.config().windows)
+    if (window.drawn && window.ident != 0) cockpit.panels().close(window.ident);
+  cockpit.panels().open(captains_panel);
+}
+
+}  // namespace
+
 int fly(const FlyOptions& options) {
   const CockpitOptions cockpit_options = located(options.cockpit);
   GaugeModule module(cockpit_options.module);
@@ -20,8 +31,8 @@ int fly(const FlyOptions& options) {
       throw std::runtime_error("--open: there is no window " + std::to_string(ident));
     cockpit.panels().open(ident);
   }
-  if (options.start.at != "stand") {
-    cockpit.panels().open(captains_panel);
+  if (options.start.at != "stand" && options.open.empty()) {
+    open_for_flying(cockpit);
   } else if (options.open.empty()) {
     cockpit.begin_with_start_page();
   }

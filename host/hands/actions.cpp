@@ -13,7 +13,7 @@ constexpr ActionRow actions[] = {
     {"stick_back", "Stick back", spring, 1, {elevator}},
     {"stick_left", "Stick left", spring, -1, {aileron}},
     {"stick_right", "Stick right", spring, 1, {aileron}},
-    {"stick_centre", "Stick and pedals to the middle", set, 0, {}},
+    {"stick_centre", "Stick to the middle", set, 0, {}},
     {"rudder_left", "Left pedal", spring, -1, {rudder}},
     {"rudder_right", "Right pedal", spring, 1, {rudder}},
     {"tiller_left", "Tiller left", spring, -1, {tiller}},
