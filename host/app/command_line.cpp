@@ -5,6 +5,7 @@
 #include <string>
 
 #include "host/app/commands.h"
+#include "host/simulation/places.h"
 
 namespace host {
 namespace {
@@ -63,6 +64,17 @@ class CommandLine {
         ->capture_default_str();
   }
 
+  static void add_start(CLI::App* sub, StartOptions& options) {
+    std::vector<std::string> names;
+    for (const StartPlace& place : start_places()) names.emplace_back(place.name);
+    sub->add_option("--at", options.at, "Where the flight begins")
+        ->check(CLI::IsMember(names))
+        ->capture_default_str();
+    sub->add_option("--time", options.hours,
+                    "Local time in hours, 19.5 is half past seven in the evening")
+        ->check(CLI::Range(0.0, 24.0));
+  }
+
   void add_fly() {
     CLI::App* sub = add("fly", "Sit in the cockpit: opens a window", fly_, fly);
     add_cockpit(sub, fly_.cockpit);
@@ -72,7 +84,11 @@ class CommandLine {
     sub->add_option("--zoom", fly_.deck.zoom,
                     "Size of the panels, 1 is their own; else what fits the screen")
         ->check(CLI::Range(0.1, 8.0));
+    add_start(sub, fly_.start);
+    sub->add_flag("!--no-view", fly_.deck.outside, "Without the view out of the window (key V)");
     sub->add_option("--open", fly_.open, "Windows to open at once, by their idents");
+    sub->add_option("--controls", fly_.deck.controls,
+                    "What keys and joysticks do; else controls.cfg beside this program");
     sub->add_option("--pictures", fly_.deck.pictures, "Folder for screenshots")->capture_default_str();
     sub->add_option("--record", fly_.deck.record,
                     "Write your inputs to this file, as a flow that can be run again");
@@ -94,10 +110,12 @@ class CommandLine {
   void add_show() {
     CLI::App* sub = add("show", "Draw gauges, in a window or into a file", show_, show);
     add_cockpit(sub, show_.cockpit);
-    sub->add_option("gauges", show_.gauges, "Names of gauges, or a window's ident")->required();
+    sub->add_option("gauges", show_.gauges, "Names of gauges, a window's ident, or outside")
+        ->required();
     sub->add_option("--zoom", show_.deck.zoom, "Size, 1 is the gauges' own")
         ->check(CLI::Range(0.1, 8.0));
     sub->add_option("--scale", show_.deck.scale, "Scale of the desktop")->check(CLI::Range(0.5, 8.0));
+    add_start(sub, show_.start);
     sub->add_flag("--areas", show_.areas, "Outline the click areas");
     sub->add_flag("--night", show_.night, "With the panel lights on");
     sub->add_option("--set", show_.readings, "token=value, by name or number: hold a token variable");

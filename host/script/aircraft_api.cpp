@@ -2,6 +2,7 @@
 
 #include "host/script/flow_api.h"
 #include "host/script/nearest.h"
+#include "host/simulation/places.h"
 
 namespace host {
 namespace {
@@ -24,6 +25,13 @@ std::uint32_t number_of(const LuaCall& call, int index, const char* what,
   if (const TableRow* row = find_row(rows, name)) return row->number;
   throw std::invalid_argument("the aircraft has no " + std::string(what) + " '" + name + "'" +
                               suggestion(rows, name));
+}
+
+void start_at_place(AircraftModel& aircraft, const std::string& name) {
+  if (start_at(aircraft, name)) return;
+  std::vector<std::string_view> names;
+  for (const StartPlace& place : start_places()) names.push_back(place.name);
+  throw std::invalid_argument("no flight begins at '" + name + "'" + did_you_mean(name, names));
 }
 
 }  // namespace
@@ -72,6 +80,12 @@ void bind_aircraft(LuaRunner& runner, FlowSession& session) {
   runner.bind("event", [&](LuaCall& call) {
     const std::uint32_t event = event_argument(call, 1);
     aircraft.key_event(event, call.has(2) ? call.key(2, "value") : 0);
+  });
+  runner.bind("start_at", [&](LuaCall& call) { start_at_place(aircraft, call.text(1, "place")); });
+  runner.bind("set_time_of_day", [&](LuaCall& call) {
+    const double hours = call.number(1, "hours");
+    if (!(hours >= 0 && hours <= 24)) throw std::invalid_argument("argument 1 (hours) must be 0 to 24");
+    aircraft.set_time_of_day(hours * 3600);
   });
   runner.bind("fail", [&](LuaCall& call) { aircraft.set_failed(failure_argument(call, 1), true); });
   runner.bind("repair", [&](LuaCall& call) { aircraft.set_failed(failure_argument(call, 1), false); });

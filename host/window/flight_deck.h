@@ -4,8 +4,11 @@
 #include <chrono>
 #include <filesystem>
 #include <functional>
+#include <map>
+#include <optional>
 #include <string>
 
+#include "host/hands/sticks.h"
 #include "host/window/deck_options.h"
 #include "host/window/journal.h"
 #include "host/window/mouse_hand.h"
@@ -45,12 +48,28 @@ class FlightDeck {
   bool take_panel_key(SDL_Keycode key);
   void run_frames();
   void refresh();
+  /// What the captain sees now: the aircraft of the last frame, flown on to this moment.
+  outside::Sight sight_at(double time) const;
+
+  // ---- Flying by hand (flight_hands.cpp) --------------------------------------------------------
+  /// Every change of the controls by the person goes through here, between two frames.
+  void apply(const FlightInputs& inputs);
+  void apply_hands();
+  bool take_flying_key(const SDL_KeyboardEvent& key);
+  bool take_yoke(const SDL_Event& event);
+  void toggle_yoke();
+  void let_go_of_keys();
+  void take_window_actions();
+  void turn_head(double seconds);
+  void show_controls_page();
+  void show_badge();
 
   void toggle_window(std::uint32_t ident);
   void toggle_torn();
   /// Sends a key event of the aircraft past the panel, as a keyboard command does.
   void send(std::uint32_t event);
   void toggle_panel_lights();
+  void toggle_outside();
   void toggle_pause();
   void change_zoom(double factor);
   void save_picture();
@@ -66,6 +85,14 @@ class FlightDeck {
   Notices notices_;
   Journal journal_;
   MouseHand hand_;
+  ControlMap controls_;
+  Hands hands_;
+  std::optional<Sticks> sticks_;
+  std::map<SDL_Keycode, std::size_t> held_keys_;  ///< and what each one does
+  outside::Look look_;
+  double looked_ = 0;  ///< when the head was last turned
+  bool yoke_ = false;
+  bool controls_shown_ = false;
   double frame_due_ = 0;
   double last_frame_ = 0;
   double picture_due_ = 0;

@@ -29,6 +29,7 @@ void FlightDeck::take_key(const SDL_Keysym& key) {
     case SDLK_KP_MINUS: change_zoom(1 / 1.125); break;
     case SDLK_0:
     case SDLK_KP_0: views_.main().set_zoom(std::nullopt); break;
+    case SDLK_v: toggle_outside(); break;
     case SDLK_d: toggle_panel_lights(); break;
     case SDLK_p: toggle_pause(); break;
     case SDLK_s:
@@ -82,11 +83,19 @@ void FlightDeck::toggle_panel_lights() {
   }
 }
 
+void FlightDeck::toggle_outside() {
+  View& view = views_.main();
+  view.want_outside(!view.wants_outside());
+  if (!view.wants_outside()) return;
+  if (!cockpit_.panels().shows(captains_panel))
+    notices_.add("The view stands above the captain's panel: key 1", now());
+}
+
 void FlightDeck::toggle_pause() {
   paused_ = !paused_;
   frame_due_ = now();
   if (paused_ && on_pause) on_pause();
-  notices_.set_badge(paused_ ? "PAUSED" : "");
+  show_badge();
 }
 
 void FlightDeck::change_zoom(double factor) {
@@ -107,7 +116,9 @@ void FlightDeck::save_picture() {
 }
 
 void FlightDeck::leave_or_close_help() {
-  if (notices_.help_shown())
+  if (controls_shown_)
+    controls_shown_ = false, show_controls_page();
+  else if (notices_.help_shown())
     notices_.toggle_help();
   else
     leaving_ = true;

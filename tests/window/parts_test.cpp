@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "host/window/compose.h"
+#include "host/window/height_above.h"
 #include "host/window/journal.h"
 #include "host/window/ui_pictures.h"
 #include "host/window/x11_desktop.h"
@@ -73,6 +74,31 @@ TEST(Journal, WritesAFlow) {
             "click(\"Thleft\", 110, 200)\n"
             "wheel(\"Acdcsw\", 40, 35, -2)\n"
             "wait(0.899)\nopen_window(502)\n");
+}
+
+TEST(HeightAbove, LeavesThePanelsLegible) {
+  const PanelSize captain{898, 762}, overhead{1263, 694};
+  const struct {
+    const char* what;
+    std::vector<PanelSize> panels;
+    int width, height;
+    std::optional<double> zoom;
+    double scale;
+    int least, most;
+  } cases[] = {
+      {"a large screen", {captain}, 1920, 1080, {}, 1, 370, 420},
+      {"two panels that leave height", {captain, overhead}, 1920, 1080, {}, 1, 370, 500},
+      {"a laptop's screen", {captain}, 1280, 720, {}, 1, 100, 200},
+      {"a small window", {captain}, 800, 600, {}, 1, 0, 0},
+      {"a dense screen", {captain}, 3840, 2160, {}, 2, 740, 840},
+      {"a zoom that leaves room", {captain}, 1920, 1200, 1.0, 1, 350, 420},
+      {"a zoom that leaves none", {captain}, 1920, 1080, 1.3, 1, 0, 0},
+  };
+  for (const auto& [what, panels, width, height, zoom, scale, least, most] : cases) {
+    const int above = height_above(panels, {width, height, 6, 22}, zoom, scale);
+    EXPECT_GE(above, least) << what;
+    EXPECT_LE(above, most) << what;
+  }
 }
 
 TEST(Journal, NamesAFileThatCannotBeWritten) {
