@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "resources/kit/records.h"
-#include "resources/plain_plates.h"
 #include "resources/rows/draw.h"
 
 namespace artwork {
@@ -50,16 +49,6 @@ class Table {
     add(unit, art, run_of(element, art.picture), size_of(element, art));
   }
 
-  void add(const PlainPlate& plate) {
-    const GaugeHeader& of = gauge(plate.gauge);
-    all_.push_back({of.element_list[0]->resource_id,
-                    0,
-                    {static_cast<int>(of.width_mm), plate.height},
-                    nullptr,
-                    nullptr,
-                    true});
-  }
-
   std::vector<Bitmap> ascending() {
     std::sort(all_.begin(), all_.end(), [](const Bitmap& a, const Bitmap& b) { return a.id < b.id; });
     for (std::size_t i = 1; i < all_.size(); ++i) {
@@ -99,7 +88,6 @@ std::vector<Bitmap> made_table() {
   for (const NamedUnit& named : units()) {
     for (const Art& art : named.unit.art) table.add(named.unit, art);
   }
-  for (const PlainPlate& plate : plain_plates()) table.add(plate);
   return table.ascending();
 }
 

@@ -77,7 +77,7 @@ constexpr Rows<9> brake_rows() {
   return {
       lighting_overlay(4240),
       icon("Brake control switch", bitmap::toggle_switch, {208, 115}, brake_control_image<panel>),
-      lamp("Brake test light", 3420, {234, 52}, brake_test_light<panel>),
+      lamp("Brake test light", bitmap::test_lamp, {234, 52}, brake_test_light<panel>),
       needle("Lower accumulator pressure", accumulator_needle, {156, 111}, accumulator_pivot,
              brake_scale::lower_accumulator, accumulator_pressure),
       // The scales of right brakes run counterclockwise.

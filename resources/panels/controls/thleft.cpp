@@ -100,7 +100,8 @@ constexpr Item items[] = {
     brake_dial("lower_left_brake_pressure", "lower_right_brake_pressure", 20.5, 6),
     thousands_dial("lower_accumulator_pressure", "ACCU"),
     heading({226, 24}, "BRAKES"),
-    Legend{at("brake_test_light", -1, -18), "TEST"},
+    Legend{at("brake_test_light", 0, -18), "TEST"},
+    FixedButton{at("brake_test_light"), 9.5, palette::mould_light},
     Legend{at(brake_control, 0, -29), "CONTROL", 7},
     left_of(brake_control),
     Legend{at(parking_brake, 0, 41), "PARK", 7.5},
@@ -119,8 +120,6 @@ constexpr Item items[] = {
 
 constexpr Art art[] = {
     plate(292, items),
-    round_light_art("brake_test_light", {26, 26},
-                    {.colour = lens::amber, .radius = 9.6, .centre = 12.5}),
     needle_art("upper_left_brake_pressure", {.length = 19.5, .half_width = 1.3}),
     drawn_art("throttle_1_lever", {142, 164}, draw_throttle),
     drawn_art("speed_brake_switch", {26, 144}, draw_speed_brake),
