@@ -45,13 +45,4 @@ constinit Gauge vcthleft{{.name = "Vcthleft", .width_mm = 264, .background = 401
 constinit Gauge vcthright{{.name = "Vcthright", .width_mm = 251, .background = 4480}};
 constinit Gauge vcbrake{{.name = "Vcbrake", .width_mm = 264, .background = 4010}};
 
-// ---- Autopilot
-constinit Gauge apcon{{.name = "Apcon", .width_mm = 206, .background = 3340}};
-constinit Gauge aplight{{.name = "Aplight", .width_mm = 26, .background = 12460}};
-constinit Gauge apcourse{{.name = "Apcourse", .width_mm = 171, .background = 13450}};
-constinit Gauge apalt{{.name = "Apalt", .width_mm = 116, .background = 14060}};
-constinit Gauge apmode{{.name = "Apmode", .width_mm = 203, .background = 14140}};
-constinit Gauge cat2apsys{{.name = "Cat2apsys", .width_mm = 104, .background = 14240}};
-constinit Gauge apset{{.name = "Apset", .width_mm = 120, .background = 14350}};
-
 }  // namespace tarnvale

@@ -97,11 +97,17 @@ struct Aircraft {
   u32 radalt_test_active = 0;
 
   // ---- Autopilot and flight director
-  u32 ap_master_on = 0;      ///< mirrors the host's autopilot master
-  u32 ap_mode_selector = 0;  ///< 0..5
-  u32 ap_sel2_hold_on = 0;
-  u32 apcourse_switch_on = 0;
-  u32 apcon_switch_c_on = 0;
+  u32 ap_master_on = 0;        ///< mirrors the host's autopilot master
+  u32 ap_mode_selector = 0;    ///< 0..5 manual, turbulence, heading, localizer, slope, navigation
+  u32 ap_sel2_hold_on = 0;     ///< mirrors the host's heading hold
+  u32 ap_sel3_arm_on = 0;      ///< the approach is armed
+  u32 ap_mode_button_on = 0;   ///< mirrors the host's altitude hold
+  u32 apset_button_a_on = 0;   ///< autothrottle armed
+  u32 apset_button_b_on = 0;   ///< airspeed hold; only while the autothrottle is armed
+  u32 apcon_switch_a_on = 0;   ///< Mach trim
+  u32 apcon_switch_b_on = 0;   ///< stabiliser trim
+  u32 apcon_switch_c_on = 0;   ///< cabin door open
+  u32 apcourse_switch_on = 0;  ///< area navigation drives the horizontal situation indicator
   u32 cat2_speed_test_active = 0;
 
   // ---- Radios and cabin call

@@ -20,6 +20,7 @@ inline constexpr Bitmaps pump_switch{3280, 2};          ///< off, on
 inline constexpr Bitmaps light_lever{4260, 2};          ///< off, on
 inline constexpr Bitmaps landing_light_lever{4310, 2};  ///< off, on
 inline constexpr Bitmaps light_button{13230, 2};        ///< dark, lit
+inline constexpr Bitmaps selector_figures{13470, 1};    ///< of what the autopilot is told to fly
 inline constexpr Bitmaps instrument_lights_knob{13290, 3};  ///< off, dim, bright
 inline constexpr Bitmaps panel_lights_button{13310, 2};     ///< dark, lit
 

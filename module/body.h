@@ -33,6 +33,14 @@ constexpr auto rows(const Parts&... parts) {
   return all;
 }
 
+/// Rows of an instrument that fails as a whole.
+template <std::size_t count>
+constexpr Rows<count> all_failing_with(const failure::System& system, const Row (&list)[count]) {
+  Rows<count> all{};
+  for (std::size_t i = 0; i < count; ++i) all[i] = list[i].fails_with(system);
+  return all;
+}
+
 /// Rows of a gauge that has no lit copy.
 template <std::size_t count>
 struct DayOnly {

@@ -64,6 +64,12 @@ struct Row {
     return row;
   }
 
+  /// What makes it fail besides the loss of power. A part that works by hand goes on.
+  constexpr Row fails_with(const failure::System& system) const {
+    if (day.failures == failure::never) return *this;
+    return failing(day.failures == failure::at_rest ? system.at_rest : system.dark);
+  }
+
   /// Image flags by day; the lit copy shines beside them.
   constexpr Row flags(u32 day_flags) const {
     Row row = *this;

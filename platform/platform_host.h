@@ -33,6 +33,10 @@ void platform_choose_audio(enum PlatformAudio audio);
 /// plays. Only with PLATFORM_AUDIO_RENDERED.
 void platform_render_audio(int16_t* samples, size_t frames);
 
+/// Told the samples of each sound that starts, as the module wrote them. A null routine ends it.
+typedef void (*PlatformSoundRoutine)(const void* samples, size_t bytes, void* context);
+void platform_on_sound(PlatformSoundRoutine routine, void* context);
+
 /// Marks every playing or idle sound buffer as lost, as a device that goes away does.
 void platform_lose_audio(void);
 

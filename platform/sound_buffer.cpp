@@ -4,9 +4,22 @@
 #include <new>
 #include <utility>
 
+#include "platform/export.h"
+#include "platform/platform_host.h"
 #include "platform/sound_device.h"
 
 namespace platform {
+namespace {
+
+struct Listener {
+  PlatformSoundRoutine routine = nullptr;
+  void* context = nullptr;
+};
+
+constinit Listener listener;
+
+}  // namespace
+
 SoundBuffer::SoundBuffer(std::shared_ptr<Pcm> pcm) : pcm_(std::move(pcm)) {}
 
 SoundBuffer::~SoundBuffer() = default;
@@ -76,8 +89,9 @@ HRESULT SoundBuffer::Play(DWORD reserved, DWORD priority, DWORD flags) {
   if (reserved != 0 || priority != 0 || (flags & ~DSBPLAY_LOOPING) != 0) return DSERR_INVALIDPARAM;
   if (lost()) return DSERR_BUFFERLOST;
   const bool looping = (flags & DSBPLAY_LOOPING) != 0;
-  if (voice_.playing() && looping == looping_) return DS_OK;
-  if (voice_.playing()) frame_ = voice_.frame();
+  const bool goes_on = voice_.playing();
+  if (goes_on && looping == looping_) return DS_OK;
+  if (goes_on) frame_ = voice_.frame();
   if (!load()) return DSERR_OUTOFMEMORY;
   looping_ = looping;
   if (!voice_.play(frame_, looping)) {
@@ -85,6 +99,9 @@ HRESULT SoundBuffer::Play(DWORD reserved, DWORD priority, DWORD flags) {
     return DSERR_BUFFERLOST;
   }
   frame_ = 0;  // where the next playing starts once this one has come to its end
+  if (!goes_on && listener.routine != nullptr) {
+    listener.routine(pcm_->bytes.data(), pcm_->bytes.size(), listener.context);
+  }
   return DS_OK;
 }
 
@@ -114,3 +131,7 @@ HRESULT SoundBuffer::Restore() {
 }
 
 }  // namespace platform
+
+PLATFORM_EXPORT void platform_on_sound(PlatformSoundRoutine routine, void* context) {
+  platform::listener = {routine, context};
+}

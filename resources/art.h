@@ -66,6 +66,11 @@ constexpr Art button_art(Of of, Size size, Colours colours, std::string_view tex
                          double text_size = legend_size) {
   return {of, size, Lamp{colours, text, text_size, Setting::button}};
 }
+/// A push button that is a lens from edge to edge, for words in two lines.
+constexpr Art cap_art(Of of, Size size, Colours colours, std::string_view text,
+                      double text_size = legend_size) {
+  return {of, size, Lamp{colours, text, text_size, Setting::cap}};
+}
 constexpr Art flush_lamp_art(Of of, Size size, Colours colours, std::string_view text,
                              double text_size = legend_size) {
   return {of, size, Lamp{colours, text, text_size, Setting::flush}};

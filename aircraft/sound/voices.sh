@@ -65,6 +65,16 @@ first_officer() {
   finish voice
 }
 
+# The same on the take-off run: asked for as long as the speed is within some knots, four for the first call,
+# and heard once all the same, at two knots a second and more. So silence follows the words.
+readonly TAKE_OFF_CALL_SECONDS=2.4
+take_off_call() {
+  spoken voice "$OFFICER_VOICE" HEADSET_SOUND "$1"
+  finish voice
+  sox_steady finished.wav padded.wav pad 0 "$TAKE_OFF_CALL_SECONDS" trim 0 "$TAKE_OFF_CALL_SECONDS"
+  mv padded.wav finished.wav
+}
+
 # The ground engineer, plugged in below the nose.
 ground_crew() {
   spoken voice "$GROUND_VOICE" INTERCOM_SOUND "$1"

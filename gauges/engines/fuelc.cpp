@@ -25,7 +25,8 @@ constinit Body body{
     {
         lighting_overlay(12390),
         needle("Centre tank quantity", 12350, {34, 33}, {3, 2}, scale, quantity)
-            .from(token::centre_tank_quantity),
+            .from(token::centre_tank_quantity)
+            .fails_with(failure::fuel_quantity),
         icon("Quantity test switch", 12380, {92, 4}, held_lit<&test_clock, &testing, dial_test>),
     },
     {

@@ -15,9 +15,11 @@ constinit Body body{
     {
         lighting_overlay(12360),
         needle("Left tank quantity", 12350, {33, 34}, pivot, left_scale, shows_within<0, full_tank>)
-            .from(token::left_tank_quantity),
+            .from(token::left_tank_quantity)
+            .fails_with(failure::fuel_quantity),
         needle("Right tank quantity", 12350, {112, 34}, pivot, right_scale, shows_within<0, full_tank>)
-            .from(token::right_tank_quantity),
+            .from(token::right_tank_quantity)
+            .fails_with(failure::fuel_quantity),
     },
 };
 

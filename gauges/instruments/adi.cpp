@@ -81,33 +81,36 @@ constexpr u32 starts_hidden = image_flag::transparent | IMAGE_HIDE_PICTURE;
 
 constinit Body body{
     adi,
-    {
-        lighting_overlay(12170),
-        lamp("Attitude flag", 12160, {68, 7}, attitude_flag),
-        sprite("Horizon", 12020, {0, 0}, {93, 120}, horizon_motion(2)),
-        slider("Flight director pitch bar", 12150, {66, 119},
-               {.x = {}, .y = {token::flight_director_pitch, pitch_bar, -2}})
-            .flags(starts_hidden),
-        slider("Flight director bank bar", 12140, {92, 83},
-               {.x = {token::flight_director_bank, bank_bar, 1.4}, .y = {}})
-            .flags(starts_hidden),
-        slider("Glide slope pointer", 12060, {160, 117},
-               {.x = {}, .y = {token::glide_slope_deviation, glide_slope_pointer, 0.22}}),
-        slider("Runway symbol", 12050, {87, 165}, {.x = {0, runway_sideways, -0.2}, .y = {}}),
-        slider("Rising runway", 12030, {81, 158}, {.x = {}, .y = {0, runway_rising, -0.921}})
-            .flags(starts_hidden),
-        icon("Glide slope flag", {12070, 1}, {159, 92}, glide_slope_flag),
-        needle("Bank pointer", 12080, {93, 120}, {3, 57})
-            .from(token::bank_pointer)
-            .flags(image_flag::transparent),
-        slider("Speed deviation pointer", 12090, {18, 118}, {.x = {}, .y = {0, speed_deviation, 1.2}})
-            .flags(starts_hidden),
-        lamp("Decision height light", {12040, 1}, {158, 50}, decision_height_light)
-            .from(token::marker_beacon),
-        slider("Slip ball", 12130, {88, 200}, {.x = {token::slip_ball, ball, 1}, .y = {}}),
-        icon("Slip ball lighting", 12120, {67, 197}, lit_at<&Aircraft::panel_lights_on>),
-        icon("Slip ball tube", {12110, 1}, {67, 197}).lit_flags(image_flag::transparent),
-    },
+    rows(lighting_overlay(12170),
+         all_failing_with(
+             failure::attitude,
+             {
+                 lamp("Attitude flag", 12160, {68, 7}, attitude_flag),
+                 sprite("Horizon", 12020, {0, 0}, {93, 120}, horizon_motion(2)),
+                 slider("Flight director pitch bar", 12150, {66, 119},
+                        {.x = {}, .y = {token::flight_director_pitch, pitch_bar, -2}})
+                     .flags(starts_hidden),
+                 slider("Flight director bank bar", 12140, {92, 83},
+                        {.x = {token::flight_director_bank, bank_bar, 1.4}, .y = {}})
+                     .flags(starts_hidden),
+                 slider("Glide slope pointer", 12060, {160, 117},
+                        {.x = {}, .y = {token::glide_slope_deviation, glide_slope_pointer, 0.22}}),
+                 slider("Runway symbol", 12050, {87, 165}, {.x = {0, runway_sideways, -0.2}, .y = {}}),
+                 slider("Rising runway", 12030, {81, 158}, {.x = {}, .y = {0, runway_rising, -0.921}})
+                     .flags(starts_hidden),
+                 icon("Glide slope flag", {12070, 1}, {159, 92}, glide_slope_flag),
+                 needle("Bank pointer", 12080, {93, 120}, {3, 57})
+                     .from(token::bank_pointer)
+                     .flags(image_flag::transparent),
+                 slider("Speed deviation pointer", 12090, {18, 118},
+                        {.x = {}, .y = {0, speed_deviation, 1.2}})
+                     .flags(starts_hidden),
+                 lamp("Decision height light", {12040, 1}, {158, 50}, decision_height_light)
+                     .from(token::marker_beacon),
+                 slider("Slip ball", 12130, {88, 200}, {.x = {token::slip_ball, ball, 1}, .y = {}}),
+                 icon("Slip ball lighting", 12120, {67, 197}, lit_at<&Aircraft::panel_lights_on>),
+                 icon("Slip ball tube", {12110, 1}, {67, 197}).lit_flags(image_flag::transparent),
+             })),
     {
         click("Attitude flag button", {67, 6, 50, 16}, does<press_flag_test>),
     },

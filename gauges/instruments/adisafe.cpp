@@ -7,12 +7,13 @@ namespace {
 
 constinit Body body{
     adisafe,
-    {
-        sprite("Horizon", 13010, {0, 0}, {53, 52}, horizon_motion(1)),
-        needle("Bank pointer", 12490, {51, 54}, {2, 37})
-            .from(token::bank_pointer)
-            .flags(image_flag::transparent),
-    },
+    rows(all_failing_with(failure::attitude,
+                          {
+                              sprite("Horizon", 13010, {0, 0}, {53, 52}, horizon_motion(1)),
+                              needle("Bank pointer", 12490, {51, 54}, {2, 37})
+                                  .from(token::bank_pointer)
+                                  .flags(image_flag::transparent),
+                          })),
 };
 
 }  // namespace

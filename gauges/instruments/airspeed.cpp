@@ -116,21 +116,23 @@ constexpr u32 selected_speed_help = 0x3071;
 
 constinit Body body{
     airspeed,
-    {
-        lighting_overlay(12330),
-        sprite("Mach disc", 12320, {0, 0}, middle,
-               {.x = {}, .y = {}, .rotation = {token::mach, mach_thousandths, 0.2}}),
-        needle("Selected speed", 12310, middle, bug_pivot, scale, selected_speed)
-            .from(token::selected_airspeed)
-            .rate(1),
-        bug_row("Speed bug 1", show_bug<&bug1>),
-        bug_row("Speed bug 2", show_bug<&bug2>),
-        bug_row("Speed bug 3", show_bug<&bug3>),
-        bug_row("Speed bug 4", show_bug<&bug4>),
-        needle("Maximum speed", 12280, middle, needle_pivot, scale, limit_speed),
-        needle("Airspeed", 12270, middle, needle_pivot, scale, airspeed_and_calls)
-            .from(token::indicated_airspeed),
-    },
+    rows(lighting_overlay(12330),
+         all_failing_with(
+             failure::airspeed,
+             {
+                 sprite("Mach disc", 12320, {0, 0}, middle,
+                        {.x = {}, .y = {}, .rotation = {token::mach, mach_thousandths, 0.2}}),
+                 needle("Selected speed", 12310, middle, bug_pivot, scale, selected_speed)
+                     .from(token::selected_airspeed)
+                     .rate(1),
+                 bug_row("Speed bug 1", show_bug<&bug1>),
+                 bug_row("Speed bug 2", show_bug<&bug2>),
+                 bug_row("Speed bug 3", show_bug<&bug3>),
+                 bug_row("Speed bug 4", show_bug<&bug4>),
+                 needle("Maximum speed", 12280, middle, needle_pivot, scale, limit_speed),
+                 needle("Airspeed", 12270, middle, needle_pivot, scale, airspeed_and_calls)
+                     .from(token::indicated_airspeed),
+             })),
     {
         bug_knob<&bug1>("Set Airspeed Bug 1", {17, 123, 14, 14}),
         bug_knob<&bug2>("Set Airspeed Bug 2", {3, 108, 14, 14}),

@@ -132,36 +132,38 @@ constexpr u32 pressure_help = 0x3053;
 
 constinit Body body{
     altimeter,
-    {
-        lighting_overlay(11490),
-        icon("Altitude alert", {11480, 1}, alert_place, sound_alert)
-            .flags(no_transparency)
-            .lit_flags(no_transparency | (image_flag::luminous & ~image_flag::transparent)),
-        icon("Alert lamp below", alert, alert_place, alert_lamp<below_selected>),
-        icon("Alert lamp above", alert, alert_place, alert_lamp<above_selected>),
-        icon("Alert lamp frame", alert, alert_place, always_dark),
-        icon("Inches of the pressure setting", {11470, 6}, {59, 99}, inches),
-        drum("Hundredths of the inches", 11460, {73, 99}, {0, 99}, hundredths_of_inches)
-            .from(token::pressure_setting_inches),
-        icon("Thousands of the hectopascals", 11450, {28, 99}, four_figures),
-        drum("Tens of the hectopascals", 11440, {42, 99}, {0, 99}, hectopascals<100>)
-            .from(token::pressure_setting),
-        drum("Units of the hectopascals", 11430, {49, 99}, {0, 9.9}, hectopascals<10>)
-            .from(token::pressure_setting)
-            .lit_at({49, 97}),
-        needle("Altitude bug", 11360, middle, {10, 2}, bug_scale, show_bug).shorter_way(),
-        drum("Ten thousands of feet", 11420, {35, 59}, {0, 9.9}, digit<10000>)
-            .from(token::indicated_altitude),
-        drum("Thousands of feet", 11410, {45, 59}, {0, 9.9}, digit<1000>)
-            .from(token::indicated_altitude),
-        drum("Hundreds of feet", 11410, {55, 59}, {0, 999}, rolling<1000>)
-            .from(token::indicated_altitude),
-        drum("Feet", 11390, {66, 59}, {0, 99}, rolling<100>).from(token::indicated_altitude),
-        icon("Below sea level flag", 11380, {35, 59}, below_sea_level),
-        icon("Power flag", 11370, {35, 59}, powered),
-        needle("Pointer", 11350, middle, {10, 3}, pointer_scale, hundreds)
-            .from(token::indicated_altitude),
-    },
+    rows(lighting_overlay(11490),
+         all_failing_with(
+             failure::altimeter,
+             {
+                 icon("Altitude alert", {11480, 1}, alert_place, sound_alert)
+                     .flags(no_transparency)
+                     .lit_flags(no_transparency | (image_flag::luminous & ~image_flag::transparent)),
+                 icon("Alert lamp below", alert, alert_place, alert_lamp<below_selected>),
+                 icon("Alert lamp above", alert, alert_place, alert_lamp<above_selected>),
+                 icon("Alert lamp frame", alert, alert_place, always_dark),
+                 icon("Inches of the pressure setting", {11470, 6}, {59, 99}, inches),
+                 drum("Hundredths of the inches", 11460, {73, 99}, {0, 99}, hundredths_of_inches)
+                     .from(token::pressure_setting_inches),
+                 icon("Thousands of the hectopascals", 11450, {28, 99}, four_figures),
+                 drum("Tens of the hectopascals", 11440, {42, 99}, {0, 99}, hectopascals<100>)
+                     .from(token::pressure_setting),
+                 drum("Units of the hectopascals", 11430, {49, 99}, {0, 9.9}, hectopascals<10>)
+                     .from(token::pressure_setting)
+                     .lit_at({49, 97}),
+                 needle("Altitude bug", 11360, middle, {10, 2}, bug_scale, show_bug).shorter_way(),
+                 drum("Ten thousands of feet", 11420, {35, 59}, {0, 9.9}, digit<10000>)
+                     .from(token::indicated_altitude),
+                 drum("Thousands of feet", 11410, {45, 59}, {0, 9.9}, digit<1000>)
+                     .from(token::indicated_altitude),
+                 drum("Hundreds of feet", 11410, {55, 59}, {0, 999}, rolling<1000>)
+                     .from(token::indicated_altitude),
+                 drum("Feet", 11390, {66, 59}, {0, 99}, rolling<100>).from(token::indicated_altitude),
+                 icon("Below sea level flag", 11380, {35, 59}, below_sea_level),
+                 icon("Power flag", 11370, {35, 59}, powered),
+                 needle("Pointer", 11350, middle, {10, 3}, pointer_scale, hundreds)
+                     .from(token::indicated_altitude),
+             })),
     {
         labelled(pressure_help,
                  decrease("Pressure setting knob down", {2, 118, 14, 20},

@@ -3,14 +3,9 @@
 
 #include "module/aircraft.h"
 #include "module/elements.h"
-#include "module/host.h"
-#include "module/numbers.h"
+#include "module/receivers.h"
 
 namespace tarnvale {
-
-/// What the first navigation receiver receives.
-inline bool receives(u32 bit) { return (whole_u32(read(token::nav1_flags)) & bit) != 0; }
-inline constexpr u32 receives_glide_slope = 0x40, receives_localizer = 0x80;
 
 /// Without a glide slope the pointer stands hidden in the middle.
 inline f64 glide_slope_pointer(Element* pointer) {
@@ -24,7 +19,7 @@ inline f64 glide_slope_flag(Element*) {
   constexpr f64 in_view = 0, withdrawn = -1;
   if (aircraft.nav_test_switch > 0) return in_view;
   if (!receives(receives_glide_slope)) return withdrawn;
-  return read(token::glide_slope_signal) == 1.0 ? withdrawn : in_view;
+  return full_glide_slope_signal() ? withdrawn : in_view;
 }
 
 }  // namespace tarnvale

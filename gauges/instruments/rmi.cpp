@@ -76,30 +76,35 @@ constexpr PanelPoint needle_pivot{43, 6};
 
 constinit Body body{
     rmi,
-    {
-        lighting_overlay(11110),
-        sprite("Compass card", 11020, face, upper_middle,
-               {.x = {}, .y = {}, .rotation = {token::heading, card_heading, 1}})
-            .lit_centre(lower_middle),
-        icon("Right bearing selector", 11090, {110, 131}, shows<&right_selector>),
-        icon("Left bearing selector", 11090, {11, 131}, shows<&Aircraft::rmi_left_selector>),
-        icon("Right signal flag", 11080, {98, 53}, right_flag),
-        icon("Left signal flag", 11070, {19, 53}, left_flag),
-        needle("Right bearing", 11060, lower_middle, needle_pivot, right_bearing)
-            .rate(1)
-            .lit_at(upper_middle),
-        needle("Left bearing", 11050, lower_middle, needle_pivot, left_bearing)
-            .rate(1)
-            .lit_at(upper_middle),
-        drum("Right distance hundreds", 11030, {79, 26}, blank_and_figures, right_drum<0>),
-        drum("Right distance tens", 11030, {91, 26}, blank_and_figures, right_drum<1>),
-        drum("Right distance units", 11030, {103, 26}, blank_and_figures, right_drum<2>),
-        drum("Right distance tenths", 11040, {115, 26}, blank_and_figures, right_drum<3>),
-        drum("Left distance hundreds", 11030, {17, 26}, blank_and_figures, left_drum<0>),
-        drum("Left distance tens", 11030, {29, 26}, blank_and_figures, left_drum<1>),
-        drum("Left distance units", 11030, {41, 26}, blank_and_figures, left_drum<2>),
-        drum("Left distance tenths", 11040, {53, 26}, blank_and_figures, left_drum<3>),
-    },
+    rows(lighting_overlay(11110),
+         all_failing_with(failure::compass,
+                          {
+                              sprite("Compass card", 11020, face, upper_middle,
+                                     {.x = {}, .y = {}, .rotation = {token::heading, card_heading, 1}})
+                                  .lit_centre(lower_middle),
+                          }),
+         icon("Right bearing selector", 11090, {110, 131}, shows<&right_selector>),
+         icon("Left bearing selector", 11090, {11, 131}, shows<&Aircraft::rmi_left_selector>),
+         all_failing_with(
+             failure::compass,
+             {
+                 icon("Right signal flag", 11080, {98, 53}, right_flag),
+                 icon("Left signal flag", 11070, {19, 53}, left_flag),
+                 needle("Right bearing", 11060, lower_middle, needle_pivot, right_bearing)
+                     .rate(1)
+                     .lit_at(upper_middle),
+                 needle("Left bearing", 11050, lower_middle, needle_pivot, left_bearing)
+                     .rate(1)
+                     .lit_at(upper_middle),
+                 drum("Right distance hundreds", 11030, {79, 26}, blank_and_figures, right_drum<0>),
+                 drum("Right distance tens", 11030, {91, 26}, blank_and_figures, right_drum<1>),
+                 drum("Right distance units", 11030, {103, 26}, blank_and_figures, right_drum<2>),
+                 drum("Right distance tenths", 11040, {115, 26}, blank_and_figures, right_drum<3>),
+                 drum("Left distance hundreds", 11030, {17, 26}, blank_and_figures, left_drum<0>),
+                 drum("Left distance tens", 11030, {29, 26}, blank_and_figures, left_drum<1>),
+                 drum("Left distance units", 11030, {41, 26}, blank_and_figures, left_drum<2>),
+                 drum("Left distance tenths", 11040, {53, 26}, blank_and_figures, left_drum<3>),
+             })),
     {
         click("Left bearing selector", {11, 131, 22, 22}, pushes<&Aircraft::rmi_left_selector>),
         click("Right bearing selector", {110, 131, 22, 22}, pushes<&right_selector>),

@@ -28,6 +28,7 @@ constinit Body body{
         lighting_overlay(14470),
         needle("Vertical speed", 14460, {55, 51}, {2, 2}, scale, feet_a_minute)
             .from(token::vertical_speed)
+            .fails_with(failure::vertical_speed)
             .rate(1),
         icon("Power flag", 14450, {55, 34}).from(token::battery),
     },

@@ -70,6 +70,13 @@ void list_rows(std::span<const TableRow> rows) {
   print(columns);
 }
 
+void list_failures() {
+  Columns columns({"key", "name", "system"});
+  for (const FailureRow& row : AircraftModel::failures())
+    columns.add({std::to_string(row.key), std::string(row.name), std::string(row.words)});
+  print(columns);
+}
+
 void list_sounds(const CockpitOptions& options) {
   const fs::path folder = options.module.parent_path() / "Sound";
   if (!fs::is_directory(folder))
@@ -100,6 +107,7 @@ int list(const ListOptions& options) {
   if (options.what == "windows") list_windows(cockpit);
   if (options.what == "tokens") list_rows(AircraftModel::tokens());
   if (options.what == "events") list_rows(AircraftModel::events());
+  if (options.what == "failures") list_failures();
   if (options.what == "sounds") list_sounds(cockpit);
   return exit_fine;
 }

@@ -11,6 +11,7 @@
 #include "host/app/progress.h"
 #include "host/app/start_notes.h"
 #include "host/script/flow_api.h"
+#include "host/sound/sound_book.h"
 #include "host/sound/wav_recorder.h"
 
 namespace host {
@@ -50,9 +51,13 @@ class FlowRun {
     if (!options.sound.empty()) sound_ = std::make_unique<WavRecorder>(options.sound.string());
     prepare_platform(cockpit_options_, PLATFORM_AUDIO_RENDERED);
     platform_on_message(take_message, this);
+    platform_on_sound(take_sound, this);
   }
 
-  ~FlowRun() { platform_on_message(nullptr, nullptr); }
+  ~FlowRun() {
+    platform_on_message(nullptr, nullptr);
+    platform_on_sound(nullptr, nullptr);
+  }
 
   void fly() {
     say_notes(cockpit_.names());
@@ -88,12 +93,19 @@ class FlowRun {
     run->progress_.note(std::string(caption) + ": " + text);
   }
 
+  static void take_sound(const void* samples, std::size_t bytes, void* context) {
+    auto* run = static_cast<FlowRun*>(context);
+    const std::string name = run->sound_book_.name_of({static_cast<const std::byte*>(samples), bytes});
+    run->session_.sounds.push_back({name, run->cockpit_.seconds()});
+  }
+
   RunOptions options_;
   CockpitOptions cockpit_options_;
   std::filesystem::path flow_;
   Progress progress_;
   Pacer pacer_;
   std::unique_ptr<WavRecorder> sound_ = std::make_unique<WavRecorder>();
+  SoundBook sound_book_{cockpit_options_.module.parent_path() / "Sound"};
   GaugeModule module_;
   Cockpit cockpit_;
   FlowSession session_;

@@ -44,6 +44,23 @@ std::uint32_t token_argument(const LuaCall& call, int index) {
   return number_of(call, index, "token", AircraftModel::tokens());
 }
 
+/// By its key or its name.
+static std::uint32_t failure_argument(const LuaCall& call, int index) {
+  const std::span<const FailureRow> table = AircraftModel::failures();
+  if (call.is_number(index)) {
+    const std::uint32_t key = call.key(index, "failure");
+    if (std::ranges::count(table, key, &FailureRow::key) != 0) return key;
+    throw std::invalid_argument("the aircraft has no failure key " + std::to_string(key));
+  }
+  const std::string_view name = call.text(index, "failure");
+  const auto found = std::ranges::find(table, name, &FailureRow::name);
+  if (found != table.end()) return found->key;
+  std::vector<std::string_view> names;
+  for (const FailureRow& row : table) names.push_back(row.name);
+  throw std::invalid_argument("the aircraft has no failure '" + std::string(name) + "'" +
+                              did_you_mean(name, names));
+}
+
 std::string event_name(std::uint32_t number) {
   if (const TableRow* row = find_row(AircraftModel::events(), number)) return std::string(row->name);
   char text[16];
@@ -70,8 +87,13 @@ void bind_aircraft(LuaRunner& runner, FlowSession& session) {
     if (!(hours >= 0 && hours <= 24)) throw std::invalid_argument("argument 1 (hours) must be 0 to 24");
     aircraft.set_time_of_day(hours * 3600);
   });
-  runner.bind("fail", [&](LuaCall& call) { aircraft.set_failed(call.key(1, "failure key"), true); });
-  runner.bind("repair", [&](LuaCall& call) { aircraft.set_failed(call.key(1, "failure key"), false); });
+  runner.bind("fail", [&](LuaCall& call) { aircraft.set_failed(failure_argument(call, 1), true); });
+  runner.bind("repair", [&](LuaCall& call) { aircraft.set_failed(failure_argument(call, 1), false); });
+  runner.bind("failures_per_hour", [&](LuaCall& call) {
+    const double rate = call.number(1, "failures per hour");
+    if (!(rate >= 0 && rate <= 3600)) throw std::invalid_argument("failures per hour are 0 to 3600");
+    aircraft.set_failure_rate(rate);
+  });
 }
 
 }  // namespace host

@@ -75,6 +75,7 @@ void bind_flow_api(LuaRunner& runner, FlowSession& session) {
   bind_gestures(runner, session);
   bind_time(runner, session);
   bind_aircraft(runner, session);
+  bind_flying(runner, session);
   bind_readings(runner, session);
   bind_expectations(runner, session);
 }

@@ -21,6 +21,12 @@ struct Spot {
   const HotArea* area = nullptr;  ///< with a name: the one that the gesture is meant for
 };
 
+/// A sound that has started.
+struct HeardSound {
+  std::string name;
+  double seconds;  ///< simulated time
+};
+
 /// What surrounds the flow.
 struct FlowSurroundings {
   std::filesystem::path pictures;             ///< folder for pictures; empty: none are made
@@ -58,6 +64,9 @@ class FlowSession {
 
   /// The messages that the module has shown since the start.
   std::vector<std::string> messages;
+
+  /// The sounds that have started since then.
+  std::vector<HeardSound> sounds;
 
   /// A gauge that an open window shows.
   CockpitGauge& shown_gauge(const std::string& name);

@@ -16,6 +16,44 @@ namespace {
                               wanted);
 }
 
+// The numbers of the list on top; another element ends it as it has no place in a list of numbers.
+std::vector<double> list_on_top(lua_State* state) {
+  constexpr lua_Integer longest = 100;
+  std::vector<double> numbers;
+  for (lua_Integer i = 1; i <= longest; ++i) {
+    const bool more = lua_rawgeti(state, -1, i) == LUA_TNUMBER;
+    if (more) numbers.push_back(lua_tonumber(state, -1));
+    lua_pop(state, 1);
+    if (!more) break;
+  }
+  return numbers;
+}
+
+LuaField::Value value_on_top(lua_State* state) {
+  switch (lua_type(state, -1)) {
+    case LUA_TBOOLEAN: return static_cast<bool>(lua_toboolean(state, -1));
+    case LUA_TNUMBER: return lua_tonumber(state, -1);
+    case LUA_TSTRING: return std::string(lua_tostring(state, -1));
+    case LUA_TTABLE: return list_on_top(state);
+    default: return {};
+  }
+}
+
+void push(lua_State* state, std::monostate) { lua_pushnil(state); }
+void push(lua_State* state, bool value) { lua_pushboolean(state, value); }
+void push(lua_State* state, double value) { lua_pushnumber(state, value); }
+void push(lua_State* state, const std::string& text) {
+  lua_pushlstring(state, text.data(), text.size());
+}
+void push(lua_State* state, const std::vector<double>& numbers) {
+  lua_newtable(state);
+  lua_Integer place = 0;
+  for (const double number : numbers) {
+    lua_pushnumber(state, number);
+    lua_rawseti(state, -2, ++place);
+  }
+}
+
 }  // namespace
 
 LuaCall::LuaCall(lua_State* state) : state_(state), count_(lua_gettop(state)) {}
@@ -77,6 +115,21 @@ std::string LuaCall::shown(int index) const {
   return result;
 }
 
+std::vector<LuaField> LuaCall::fields(int index) const {
+  std::vector<LuaField> fields;
+  if (!has(index)) return fields;
+  if (!is_table(index)) wrong(index, "fields", "a table");
+  luaL_checkstack(state_, 4, nullptr);
+  lua_pushnil(state_);
+  while (lua_next(state_, index) != 0) {
+    if (lua_type(state_, -2) != LUA_TSTRING) wrong(index, "fields", "a table of named fields");
+    fields.push_back({lua_tostring(state_, -2), value_on_top(state_)});
+    lua_pop(state_, 1);
+  }
+  std::ranges::sort(fields, {}, &LuaField::name);  // the same flow gets the same message every time
+  return fields;
+}
+
 void LuaCall::unpack(int index, int most) {
   const int size = static_cast<int>(std::min<lua_Unsigned>(lua_rawlen(state_, index), most));
   luaL_checkstack(state_, size, nullptr);
@@ -117,6 +170,8 @@ void LuaCall::give_nothing() {
   ++given_;
 }
 
+void LuaCall::give_top() { ++given_; }
+
 void LuaCall::begin_list() {
   lua_newtable(state_);
   ++given_;
@@ -132,6 +187,11 @@ void LuaCall::field(const char* name, double value) {
 void LuaCall::field(const char* name, std::string_view value) {
   lua_pushlstring(state_, value.data(), value.size());
   lua_setfield(state_, -2, name);
+}
+
+void LuaCall::field(const LuaField& field) {
+  std::visit([this](const auto& value) { push(state_, value); }, field.value);
+  lua_setfield(state_, -2, field.name.c_str());
 }
 
 void LuaCall::end_entry() { lua_rawseti(state_, -2, ++entries_); }

@@ -5,6 +5,9 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
+
+#include "host/script/lua_field.h"
 
 struct lua_State;
 
@@ -32,6 +35,9 @@ class LuaCall {
   bool truth(int index) const;         ///< false for nil, false and nothing
   std::string shown(int index) const;  ///< any value as a person reads it
 
+  /// The fields of the table at `index`, in the order of their names; none without an argument there.
+  std::vector<LuaField> fields(int index) const;
+
   /// Replaces the table at `index` by its fields, at most `most`, so that control = {"Name", x, y} can
   /// stand for its parts.
   void unpack(int index, int most);
@@ -43,12 +49,14 @@ class LuaCall {
   void give(bool value);
   void give(std::string_view value);
   void give_nothing();
+  void give_top();  ///< what already lies on top of Lua's stack
 
   /// Gives a list of tables: begin_list, then per entry begin_entry, field..., end_entry.
   void begin_list();
   void begin_entry();
   void field(const char* name, double value);
   void field(const char* name, std::string_view value);
+  void field(const LuaField& field);
   void end_entry();
   void append(std::string_view value);
 

@@ -3,9 +3,11 @@
 #include <lua.hpp>
 
 #include <algorithm>
+#include <cctype>
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
+#include <sstream>
 
 namespace host {
 namespace {
@@ -14,9 +16,11 @@ constexpr std::size_t memory_limit = 256u << 20;
 constexpr int steps_per_count = 100'000;
 constexpr int most_counts = 1'000;  // a second or two of pure computing
 
-// Lua knows the script by this short name, since it cuts long ones; messages carry the real one.
-constexpr const char* chunk = "=flow";
-constexpr std::string_view chunk_prefix = "flow:";
+// Lua knows a file by this and its number, since it cuts long names; messages carry the real one.
+constexpr std::string_view chunk = "flow";
+
+// What required files have returned, by their names; `false` while they run.
+constexpr const char* modules = "flow_modules";
 
 constexpr luaL_Reg open_libraries[] = {
     {LUA_GNAME, luaopen_base},
@@ -28,22 +32,32 @@ constexpr luaL_Reg open_libraries[] = {
 // What reaches the disk or the loader, and what could swallow a failed expectation.
 constexpr const char* closed[] = {"dofile", "loadfile", "load", "pcall", "xpcall", "collectgarbage"};
 
-// The line of a message of Lua's own, "flow:12: text"; the text is left in `message`.
-std::optional<int> take_line(std::string& message) {
-  if (!message.starts_with(chunk_prefix)) return std::nullopt;
+// A line of a file.
+struct Place {
+  std::size_t source;
+  int line;
+  bool operator==(const Place&) const = default;
+};
+
+// The place of a message of Lua's own, "flow0:12: text"; the text is left in `message`.
+std::optional<Place> take_place(std::string& message, std::size_t sources) {
+  if (!message.starts_with(chunk)) return std::nullopt;
   char* end = nullptr;
-  const long line = std::strtol(message.c_str() + chunk_prefix.size(), &end, 10);
+  const std::size_t source = std::strtoul(message.c_str() + chunk.size(), &end, 10);
+  if (*end != ':' || source >= sources) return std::nullopt;
+  const long line = std::strtol(end + 1, &end, 10);
   if (std::string_view(end).substr(0, 2) != ": ") return std::nullopt;
   message.erase(0, static_cast<std::size_t>(end + 2 - message.c_str()));
-  return static_cast<int>(line);
+  return Place{source, static_cast<int>(line)};
 }
 
-// The line that a level of the stack is at; 0 for none and for functions of the host.
-int line_of(lua_State* state, int level) {
+// Where a level of the stack is; nothing for none and for functions of the host.
+std::optional<Place> place_of(lua_State* state, int level) {
   lua_Debug debug{};
-  if (level < 0 || !lua_getstack(state, level, &debug)) return 0;
-  lua_getinfo(state, "l", &debug);
-  return std::max(debug.currentline, 0);
+  if (level < 0 || !lua_getstack(state, level, &debug)) return std::nullopt;
+  lua_getinfo(state, "Sl", &debug);
+  if (debug.currentline <= 0) return std::nullopt;
+  return Place{std::strtoul(debug.short_src + chunk.size(), nullptr, 10), debug.currentline};
 }
 
 // The flow itself, under whatever it has called. Lua walks the stack to reach a level, so a stack that
@@ -60,10 +74,28 @@ int deepest_level(lua_State* state) {
 }
 
 // Of the functions of the flow the one that runs, or waits for the host.
-std::optional<int> nearest_line(lua_State* state) {
+std::optional<Place> nearest_place(lua_State* state) {
   for (int level = 0; level < 8; ++level)
-    if (const int line = line_of(state, level)) return line;
+    if (const auto place = place_of(state, level)) return place;
   return std::nullopt;
+}
+
+// "lib.pilot" is lib/pilot.lua: words that cannot lead out of the folder.
+std::optional<std::filesystem::path> module_file(const std::string& module) {
+  std::filesystem::path file;
+  std::istringstream words(module + ".");
+  for (std::string word; std::getline(words, word, '.');) {
+    const auto plain = [](char c) { return std::isalnum(static_cast<unsigned char>(c)) || c == '_'; };
+    if (word.empty() || !std::ranges::all_of(word, plain)) return std::nullopt;
+    file /= word;
+  }
+  return file += ".lua";
+}
+
+std::optional<std::string> text_of(const std::filesystem::path& file) {
+  std::ifstream stream(file, std::ios::binary);
+  if (!stream || std::filesystem::is_directory(file)) return std::nullopt;
+  return std::string(std::istreambuf_iterator<char>(stream), {});
 }
 
 }  // namespace
@@ -79,6 +111,7 @@ LuaRunner::LuaRunner() : state_(lua_newstate(allocate, this)) {
     lua_pushnil(state_);
     lua_setglobal(state_, name);
   }
+  bind("require", [this](LuaCall& call) { require(call); });
   luaL_dostring(state_, "math.randomseed(1)");  // the same flow flies the same every time
   lua_sethook(state_, count_steps, LUA_MASKCOUNT, steps_per_count);
 }
@@ -93,21 +126,65 @@ void LuaRunner::bind(const char* name, FlowFunction function) {
 }
 
 void LuaRunner::run(const std::filesystem::path& file) {
-  std::ifstream stream(file, std::ios::binary);
-  if (!stream || std::filesystem::is_directory(file))
-    throw FlowError(file.string() + ": the flow cannot be read");
-  run(std::string(std::istreambuf_iterator<char>(stream), {}), file.string());
+  const auto text = text_of(file);
+  if (!text) throw FlowError(file.string() + ": the flow cannot be read");
+  start(std::filesystem::absolute(file).parent_path());
+  load(*text, file.string());
+  call(0, 0);
 }
 
 void LuaRunner::run(const std::string& text, const std::string& name) {
-  name_ = name;
+  start({});
+  load(text, name);
+  call(0, 0);
+}
+
+void LuaRunner::start(const std::filesystem::path& folder) {
+  folder_ = folder;
+  sources_.clear();
   failure_.reset();
   steps_ = 0;
-  if (luaL_loadbufferx(state_, text.data(), text.size(), chunk, "t") != LUA_OK) {
-    failure_ = describe(state_, lua_tostring(state_, -1));
-    fail();
+  lua_newtable(state_);
+  lua_setfield(state_, LUA_REGISTRYINDEX, modules);
+}
+
+// Leaves the file's function on the stack.
+void LuaRunner::load(const std::string& text, const std::string& name) {
+  const std::string chunk_name = "=" + std::string(chunk) + std::to_string(sources_.size());
+  sources_.push_back(name);
+  if (luaL_loadbufferx(state_, text.data(), text.size(), chunk_name.c_str(), "t") == LUA_OK) return;
+  failure_ = describe(state_, lua_tostring(state_, -1));
+  fail();
+}
+
+void LuaRunner::require(LuaCall& call) {
+  const std::string module = call.text(1, "module");
+  luaL_checkstack(state_, 8, nullptr);
+  lua_getfield(state_, LUA_REGISTRYINDEX, modules);
+  if (lua_getfield(state_, -1, module.c_str()) == LUA_TNIL) {
+    lua_pop(state_, 1);
+    require_file(module);
+  } else if (lua_isboolean(state_, -1) && !lua_toboolean(state_, -1)) {
+    throw std::runtime_error("'" + module + "' requires itself");
   }
-  call(0, 0);
+  call.give_top();
+}
+
+// Below the value that it leaves on the stack lies the table of modules.
+void LuaRunner::require_file(const std::string& module) {
+  const auto file = module_file(module);
+  const auto text = file && !folder_.empty() ? text_of(folder_ / *file) : std::nullopt;
+  if (!text) throw std::runtime_error("there is no file for '" + module + "' beside the flow");
+  lua_pushboolean(state_, false);
+  lua_setfield(state_, -2, module.c_str());
+  load(*text, (std::filesystem::path(sources_.front()).parent_path() / *file).string());
+  this->call(0, 1);
+  if (lua_isnil(state_, -1)) {
+    lua_pop(state_, 1);
+    lua_pushboolean(state_, true);
+  }
+  lua_pushvalue(state_, -1);
+  lua_setfield(state_, -3, module.c_str());
 }
 
 void LuaRunner::call(int arguments, int results) {
@@ -126,15 +203,19 @@ void LuaRunner::fail() {
   throw FlowError(*failure_);
 }
 
-// The place where it went wrong; for a helper function of the flow also the line that called it.
+// The place where it went wrong; for a helper function also the line of the flow that called it.
 std::string LuaRunner::describe(lua_State* state, std::string message) const {
-  std::optional<int> line = take_line(message);
-  if (!line) line = nearest_line(state);
-  const int outermost = line_of(state, deepest_level(state));
-  std::string text = name_ + ":" + (line ? std::to_string(*line) + ": " : " ") + message;
-  if (outermost > 0 && outermost != line)
-    text += " (called from line " + std::to_string(outermost) + ")";
-  return text;
+  std::optional<Place> place = take_place(message, sources_.size());
+  if (!place) place = nearest_place(state);
+  const auto in_file = [&](const Place& where) {
+    return sources_[where.source] + ":" + std::to_string(where.line);
+  };
+  const auto outermost = place_of(state, deepest_level(state));
+  std::string text = (place ? in_file(*place) + ": " : sources_.front() + ": ") + message;
+  if (!outermost || outermost == place) return text;
+  const bool same_file = place && place->source == outermost->source;
+  return text + " (called from " +
+         (same_file ? "line " + std::to_string(outermost->line) : in_file(*outermost)) + ")";
 }
 
 int LuaRunner::remember_failure(lua_State* state) {

@@ -8,6 +8,7 @@
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 #include "host/script/lua_call.h"
 
@@ -36,10 +37,11 @@ class LuaRunner {
 
   void bind(const char* name, FlowFunction function);
 
-  /// Runs a flow file to its end. Throws FlowError.
+  /// Runs a flow file to its end. Throws FlowError. The flow may require() files beside it and in folders
+  /// below, by names like "lib.pilot"; each runs once.
   void run(const std::filesystem::path& file);
 
-  /// Runs a flow from memory; `name` stands for the file in messages.
+  /// Runs a flow from memory; `name` stands for the file in messages. No files lie beside it.
   void run(const std::string& text, const std::string& name);
 
   /// Tells that time has moved on: a flow that never lets it is stopped as an endless loop.
@@ -54,6 +56,10 @@ class LuaRunner {
 
   friend class LuaCall;
   void call(int arguments, int results);
+  void start(const std::filesystem::path& folder);
+  void load(const std::string& text, const std::string& name);
+  void require(LuaCall& call);
+  void require_file(const std::string& module);
   std::string describe(lua_State* state, std::string message) const;
   [[noreturn]] void fail();
 
@@ -63,7 +69,9 @@ class LuaRunner {
   };
 
   std::deque<Bound> functions_;
-  std::string name_;
+  std::filesystem::path folder_;  ///< where required files lie; empty: nowhere
+  std::vector<std::string>
+      sources_;  ///< the names of the files by their number; the flow's is the first
   std::optional<std::string> failure_;
   std::size_t memory_ = 0;
   int steps_ = 0;  ///< in units of the hook's count

@@ -47,14 +47,24 @@ ElementArgument element_argument(LuaCall& call, FlowSession& session) {
   return {named_part(session, gauge, part), part + " of " + gauge, 3};
 }
 
+// Hidden, or switched to no picture.
+bool in_view(const ElementState& state) {
+  const bool no_picture = state.element->kind == ELEMENT_ICON && !(state.values[0] > -1);
+  return state.drawn && !no_picture;
+}
+
+void give_shown(LuaCall& call, FlowSession& session) {
+  const ElementState* state = element_argument(call, session).state;
+  call.give(state != nullptr && in_view(*state));
+}
+
 void give_image(LuaCall& call, FlowSession& session) {
   const auto [state, what, next] = element_argument(call, session);
   if (!state) return call.give_nothing();
   if (state->element->kind != ELEMENT_ICON) throw std::runtime_error(what + " is not an icon");
-  const double value = state->values[0];
-  if (!state->drawn || std::isnan(value) || value <= -1) return call.give_nothing();
+  if (!in_view(*state)) return call.give_nothing();
   const double last = std::max(1.0, static_cast<double>(state->element->icon.image_count)) - 1;
-  call.give(std::min(std::trunc(value) + 0.0, last));
+  call.give(std::min(std::trunc(state->values[0]) + 0.0, last));
 }
 
 void give_value(LuaCall& call, FlowSession& session) {
@@ -100,6 +110,16 @@ void give_events(LuaCall& call, const FlowSession& session) {
   }
 }
 
+void give_sounds(LuaCall& call, const FlowSession& session) {
+  call.begin_list();
+  for (const HeardSound& sound : session.sounds) {
+    call.begin_entry();
+    call.field("name", std::string_view(sound.name));
+    call.field("seconds", sound.seconds);
+    call.end_entry();
+  }
+}
+
 void give_sound_level(LuaCall& call, const FlowSession& session) {
   const double seconds = call.number(1, "seconds");
   if (seconds <= 0 || seconds > 10) throw std::invalid_argument("argument 1 (seconds) must be 0 to 10");
@@ -112,6 +132,7 @@ void give_sound_level(LuaCall& call, const FlowSession& session) {
 
 void bind_readings(LuaRunner& runner, FlowSession& session) {
   PanelSet& panels = session.cockpit().panels();
+  runner.bind("shown", [&](LuaCall& call) { give_shown(call, session); });
   runner.bind("image", [&](LuaCall& call) { give_image(call, session); });
   runner.bind("value", [&](LuaCall& call) { give_value(call, session); });
   runner.bind("text", [&](LuaCall& call) { give_text(call, session); });
@@ -120,6 +141,7 @@ void bind_readings(LuaRunner& runner, FlowSession& session) {
     call.begin_list();
     for (const std::string& message : session.messages) call.append(message);
   });
+  runner.bind("sounds", [&](LuaCall& call) { give_sounds(call, session); });
   runner.bind("sound_level", [&](LuaCall& call) { give_sound_level(call, session); });
   runner.bind("start_page", [&](LuaCall&) { session.cockpit().begin_with_start_page(); });
   runner.bind("open_window", [&](LuaCall& call) { panels.open(call.key(1, "ident")); });

@@ -23,6 +23,7 @@ Aircraft::Aircraft(int steps_per_second) {
 
 void Aircraft::step() {
   ++clock.steps;
+  failures.update(clock.step_s());
   controls = controls.limited();
   fly(clock.step_s());
   update_systems(clock.step_s());
@@ -43,7 +44,9 @@ AirframeInputs Aircraft::surroundings() const {
 }
 
 void Aircraft::fly(double dt_s) {
+  const auto gear_was = airframe.surfaces.gear;
   airframe.surfaces.update(dt_s, controls);
+  if (failures[System::gear]) airframe.surfaces.gear = gear_was;
   if (chocks_in && controls.parking_brake_set) {
     chocks_in = false;
     airframe.stand_at(airframe.position_m, airframe.attitude.angles().heading_rad,
@@ -64,9 +67,10 @@ void Aircraft::follow_handing_over() {
 }
 
 void Aircraft::update_systems(double dt_s) {
-  air.update(flight);
+  air.update(flight, {.pitot_blocked = failures[System::airspeed],
+                      .static_blocked = failures[System::altimeter]});
   if (handed_over) follow_handing_over();
-  if (!electrics.has_dc()) apu.stop();
+  if (!electrics.has_dc() || failures[System::apu]) apu.stop();
   apu.update(dt_s);
   update_engine_start(dt_s);
   update_engines(dt_s);
@@ -88,7 +92,7 @@ EngineInputs Aircraft::engine_inputs(std::size_t engine) const {
       .fuel_lever_open = fuel.lever_open[engine],
       .ignition = engine_start.ignition(engine) && electrics.has_dc(),
       .crank_speed_percent = engine_start.crank_speed_percent[engine],
-      .fuel_available = fuel.at_engine[engine],
+      .fuel_available = fuel.at_engine[engine] && !failures.of(System::engine_1, engine),
       .throttle_ratio = controls.throttle[engine],
       .antiice_bleed = air_controls.engine_antiice_on,
       .air_temperature_celsius = air.temperature_celsius,
@@ -104,6 +108,7 @@ void Aircraft::update_engines(double dt_s) {
 }
 
 void Aircraft::update_fuel(double dt_s) {
+  fuel.boost_pump_failed = {failures[System::boost_pump_1], failures[System::boost_pump_2]};
   fuel.update(dt_s, {
                         .flow_kg_per_h = {engines[0].fuel_flow_kg_per_h, engines[1].fuel_flow_kg_per_h},
                         .altitude_ft = flight.altitude_ft,
@@ -121,13 +126,18 @@ void Aircraft::update_electrics(double dt_s) {
                 .on_ground = flight.on_ground,
                 .engine_antiice = air_controls.engine_antiice_on,
                 .lights_on = lights.count_on(),
+                .generator_failed = {failures[System::generator_1], failures[System::generator_2]},
+                .all_failed = failures[System::electrical],
             });
 }
 
 void Aircraft::update_navigation(double dt_s) {
-  const bool powered = electrics.avionics_on && electrics.has_dc();
-  for (NavReceiver& receiver : nav) receiver.update(flight, powered);
-  adf.update(flight, powered);
+  const bool powered = electrics.avionics_on && electrics.has_dc() && !failures[System::avionics];
+  for (std::size_t i = 0; i < nav.size(); ++i) {
+    nav[i].update(flight, powered && !failures.of(System::receiver_1, i));
+    if (failures[System::distance]) nav[i].distance_nm = -1.0;
+  }
+  adf.update(flight, powered && !failures[System::direction_finder]);
   marker = powered ? marker_overhead(flight) : 0;
   if (powered) flight_director.update(dt_s, flight, air.indicated_altitude_ft, nav[0], selections);
 }

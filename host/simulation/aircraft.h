@@ -3,6 +3,8 @@
 
 #include <array>
 
+#include "host/simulation/autopilot/modes.h"
+#include "host/simulation/autopilot/selections.h"
 #include "host/simulation/base/clock.h"
 #include "host/simulation/flight/air_data.h"
 #include "host/simulation/flight/airframe.h"
@@ -19,6 +21,7 @@
 #include "host/simulation/systems/electrics.h"
 #include "host/simulation/systems/engine.h"
 #include "host/simulation/systems/engine_start.h"
+#include "host/simulation/systems/failures.h"
 #include "host/simulation/systems/fuel.h"
 #include "host/simulation/systems/lights.h"
 
@@ -45,11 +48,15 @@ struct Aircraft {
   Electrics electrics;
   std::array<NavReceiver, 2> nav;
   AdfReceiver adf;
-  int marker = 0;  ///< as marker_overhead()
+  int marker = 0;                       ///< as marker_overhead()
+  bool hsi_on_area_navigation = false;  ///< instead of receiver 1
   Selections selections;
+  AutopilotModes autopilot;
   FlightDirector flight_director;
+  bool cabin_door_open = false;
   Cabin cabin;
   ProgramWindows windows;
+  Failures failures;
 
   /// Parked, everything off. From 10 to 120 steps a second; 60 is what the cockpit runs with.
   explicit Aircraft(int steps_per_second = usual_steps_per_second);

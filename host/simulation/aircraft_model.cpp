@@ -2,7 +2,6 @@
 
 #include <cmath>
 #include <map>
-#include <set>
 #include <vector>
 
 #include "host/simulation/aircraft.h"
@@ -25,7 +24,6 @@ struct AircraftModel::Systems {
   simulation::Aircraft aircraft;
   double pending_steps = 0.0;
   std::map<std::uint32_t, double> held;
-  std::set<std::uint32_t> failed;
 };
 
 AircraftModel::AircraftModel() : systems_(std::make_unique<Systems>()) {}
@@ -85,15 +83,15 @@ double AircraftModel::token(std::uint32_t number) const {
   return row != nullptr ? row->read(systems_->aircraft) : 0.0;
 }
 
-void AircraftModel::set_failed(std::uint32_t key, bool failed) {
-  if (failed) {
-    systems_->failed.insert(key);
-  } else {
-    systems_->failed.erase(key);
-  }
+bool AircraftModel::set_failed(std::uint32_t key, bool failed) {
+  return systems_->aircraft.failures.set(key, failed);
 }
 
-bool AircraftModel::failed(std::uint32_t key) const { return systems_->failed.contains(key); }
+bool AircraftModel::failed(std::uint32_t key) const { return systems_->aircraft.failures.failed(key); }
+
+void AircraftModel::set_failure_rate(double per_hour) {
+  systems_->aircraft.failures.per_hour = per_hour;
+}
 
 void AircraftModel::hold_token(std::uint32_t number, std::optional<double> value) {
   if (value) {
@@ -107,6 +105,8 @@ std::span<const TableRow> AircraftModel::tokens() {
   static const std::vector<TableRow> rows = names_of(simulation::token_table());
   return rows;
 }
+
+std::span<const FailureRow> AircraftModel::failures() { return simulation::failure_table(); }
 
 std::span<const TableRow> AircraftModel::events() {
   static const std::vector<TableRow> rows = names_of(simulation::event_table());

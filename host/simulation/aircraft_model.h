@@ -6,6 +6,7 @@
 #include <optional>
 #include <span>
 
+#include "host/simulation/failure_row.h"
 #include "host/simulation/flight/air_data.h"
 #include "host/simulation/flight/flight_controls.h"
 #include "host/simulation/flight/flight_state.h"
@@ -47,7 +48,7 @@ class AircraftModel {
   double time_of_day_s() const;
   void set_time_of_day(double seconds);
 
-  /// Both engines at a warm idle, battery and avionics on.
+  /// Puts both engines at a warm idle with battery and avionics on, as after a start some minutes ago.
   void make_ready();
 
   /// As the ground crew hands it over, for the start page: battery, avionics and auxiliary power unit on,
@@ -67,9 +68,12 @@ class AircraftModel {
   /// What a host token variable reads; 0 for a number that the aircraft does not know.
   double token(std::uint32_t number) const;
 
-  /// Fails or repairs the system behind a failure key.
-  void set_failed(std::uint32_t key, bool failed);
+  /// Fails or repairs the system behind a failure key. Returns false for a key that no system has.
+  bool set_failed(std::uint32_t key, bool failed);
   bool failed(std::uint32_t key) const;
+
+  /// How many systems fail by chance in an hour; 0, as at the start: none.
+  void set_failure_rate(double per_hour);
 
   /// Puts a token to a value by its name or number, for scripts and tests: a held reading that
   /// the models no longer change. An empty value lets it go again.
@@ -77,6 +81,7 @@ class AircraftModel {
 
   static std::span<const TableRow> tokens();
   static std::span<const TableRow> events();
+  static std::span<const FailureRow> failures();
 
  private:
   struct Systems;

@@ -7,10 +7,9 @@ namespace host::simulation {
 namespace {
 
 constexpr const SystemRows* systems[] = {
-    &air_controls_rows, &air_data_rows,        &apu_rows,    &cabin_rows,
-    &clock_rows,        &electrics_rows,       &engine_rows, &engine_start_rows,
-    &flight_rows,       &flight_director_rows, &fuel_rows,   &navigation_rows,
-    &lights_rows,       &program_windows_rows,
+    &air_controls_rows,    &air_data_rows,  &apu_rows,        &autopilot_rows,    &cabin_rows,
+    &clock_rows,           &electrics_rows, &engine_rows,     &engine_start_rows, &flight_rows,
+    &flight_director_rows, &fuel_rows,      &navigation_rows, &lights_rows,       &program_windows_rows,
 };
 
 /// Gathers the rows that `member` names from all systems, ascending by number.

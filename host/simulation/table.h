@@ -32,6 +32,7 @@ struct SystemRows {
 extern const SystemRows air_controls_rows;
 extern const SystemRows air_data_rows;
 extern const SystemRows apu_rows;
+extern const SystemRows autopilot_rows;
 extern const SystemRows cabin_rows;
 extern const SystemRows clock_rows;
 extern const SystemRows electrics_rows;

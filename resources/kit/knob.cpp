@@ -108,6 +108,35 @@ void plain_knob(const Canvas& canvas, Point c, double radius) {
   cap(canvas, c, radius * 0.8);
 }
 
+void thumb_wheel(const Canvas& canvas, Box slot) {
+  const Box frame = slot.grown(2);
+  set_linear(canvas, {frame.x, frame.y}, {frame.right(), frame.bottom()},
+             {{0, palette::mould_dark}, {0.5, palette::mould}, {1, palette::steel}});
+  fill(canvas, rounded(frame, 3));
+  fill(canvas, rounded(slot, 1.6), palette::black);
+  const Saved saved(canvas);
+  rounded(slot.grown(-0.8), 1.6)(canvas.cr());
+  cairo_clip(canvas.cr());
+  constexpr int ribs = 26;  // about half the rim, of which the outer ones are foreshortened
+  const double radius = slot.height / 2 - 0.8, y = slot.centre().y;
+  for (int i = 0; i < ribs; ++i) {
+    const double from = 180.0 * i / ribs - 90, to = from + 110.0 / ribs;
+    const double top = y + radius * std::sin(radians(from)),
+                 bottom = y + radius * std::sin(radians(to));
+    const double facing = std::cos(radians(from + 28));  // the light comes from above
+    const Colour rib =
+        mixed(palette::mould_dark, palette::steel_light, 0.05 + 0.8 * facing * facing * facing);
+    fill(canvas, rounded({slot.x, top, slot.width, bottom - top}, 0), rib);
+  }
+  set_linear(canvas, {slot.x, 0}, {slot.right(), 0},
+             {{0, faded(palette::black, 0.75)},
+              {0.25, faded(palette::black, 0)},
+              {0.4, faded(palette::white, 0.12)},
+              {0.7, faded(palette::black, 0.05)},
+              {1, faded(palette::black, 0.8)}});
+  fill(canvas, rounded(slot, 1.6));
+}
+
 void flow_switch(const Canvas& canvas, Point c, double radius, bool on) {
   plain_knob(canvas, c, radius);
   const double reach = radius * 0.56, way = on ? 0 : 90;

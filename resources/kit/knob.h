@@ -19,6 +19,9 @@ void plain_knob(const Canvas& canvas, Point centre, double radius);
 /// A plain knob that is a push switch, whose flow bar lies in line with the flow, and shines, when on.
 void flow_switch(const Canvas& canvas, Point centre, double radius, bool on);
 
+/// A ribbed wheel that turns up and down, its rim in a slot of the plate. `slot` is the opening.
+void thumb_wheel(const Canvas& canvas, Box slot);
+
 /// A knurled ring on the plate in which a knob stands.
 void knob_seat(const Canvas& canvas, Point centre, double radius);
 

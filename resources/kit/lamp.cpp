@@ -107,4 +107,17 @@ void push_button(const Canvas& canvas, Box picture, const Lens& lens, bool lit) 
   lamp_lens(canvas, face.grown(-1.6), lens, lit);
 }
 
+void lit_cap(const Canvas& canvas, Box picture, const Lens& lens, bool lit) {
+  const Box frame = picture.grown(-1), cap = frame.grown(-1.2);
+  if (lit) glow(canvas, rounded(frame, 2), lens.colour, 0.9);
+  lamp_housing(canvas, frame);
+  lamp_lens(canvas, cap, lens, lit);
+  set_linear(canvas, {cap.x, cap.y}, {cap.right(), cap.bottom()},
+             {{0, faded(palette::white, lit ? 0.75 : 0.42)},
+              {0.45, faded(palette::white, 0.06)},
+              {0.55, faded(palette::black, 0.1)},
+              {1, faded(palette::black, 0.6)}});
+  stroke(canvas, rounded(cap.grown(-0.5), 1.4), 1);
+}
+
 }  // namespace artwork

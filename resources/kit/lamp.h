@@ -27,4 +27,7 @@ void round_light(const Canvas& canvas, Point centre, double radius, Colour colou
 /// A square push button with a legend and, when lit, a bar of light.
 void push_button(const Canvas& canvas, Box picture, const Lens& lens, bool lit);
 
+/// A push button whose whole cap is the lens: it stands out of its frame, with bevelled edges.
+void lit_cap(const Canvas& canvas, Box picture, const Lens& lens, bool lit);
+
 }  // namespace artwork

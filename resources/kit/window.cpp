@@ -44,6 +44,26 @@ void drum_frame(const Canvas& canvas, Box box, Lighting lighting) {
   fill(canvas, rounded(box.grown(0.6), 0.6), palette::well);
 }
 
+void drum_shade(const Canvas& canvas, Box box) {
+  set_linear(canvas, {0, box.y}, {0, box.bottom()},
+             {{0, faded(palette::black, 0.75)},
+              {0.3, faded(palette::black, 0)},
+              {0.45, faded(palette::white, 0.08)},
+              {0.7, faded(palette::black, 0)},
+              {1, faded(palette::black, 0.75)}});
+  fill(canvas, rounded(box, 0));
+}
+
+void striped_flag(const Canvas& canvas, Box box, Colour colour) {
+  fill(canvas, rounded(box, 0), palette::mark);
+  const Saved saved(canvas);
+  rounded(box, 0)(canvas.cr());
+  cairo_clip(canvas.cr());
+  for (double x = box.x - box.height; x < box.right(); x += 7) {
+    line(canvas, {x, box.bottom() + 1}, {x + box.height + 2, box.y - 1}, 2.6, colour);
+  }
+}
+
 void fill_hard(const Canvas& canvas, const Path& path, Colour colour) {
   const Saved saved(canvas);
   cairo_set_antialias(canvas.cr(), CAIRO_ANTIALIAS_NONE);

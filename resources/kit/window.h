@@ -16,6 +16,12 @@ void opening(const Canvas& canvas, Point centre, Size size, double corner,
 /// A dark frame let into a face, in which drums stand edge to edge. `box` is the drums' room.
 void drum_frame(const Canvas& canvas, Box box, Lighting lighting);
 
+/// Drums are round: they darken toward the edges of their window.
+void drum_shade(const Canvas& canvas, Box box);
+
+/// A flag that stands before drums that cannot be trusted: stripes over white.
+void striped_flag(const Canvas& canvas, Box box, Colour stripes);
+
 /// What shows on a plate over an opening: such a plate has no half-clear pixels.
 void fill_hard(const Canvas& canvas, const Path& path, Colour colour);
 

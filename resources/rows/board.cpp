@@ -46,7 +46,8 @@ Point hub_of(const GaugeHeader& gauge, std::string_view name) {
     return turning_point(*element);
   }
   const Bitmap* bitmap = find_bitmap(element->resource_id);
-  if (bitmap == nullptr || bitmap->art == nullptr) return box_of(*element).centre();
+  const bool strip = element->kind == ELEMENT_MOVING_IMAGE;
+  if (strip || bitmap == nullptr || bitmap->art == nullptr) return box_of(*element).centre();
   return place(*element) + hub_in(bitmap->art->picture, bitmap->size);
 }
 

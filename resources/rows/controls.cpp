@@ -10,8 +10,6 @@
 namespace artwork {
 namespace {
 
-constexpr double nut = 6;
-
 bool is_nowhere(Point point) { return point.x == 0 && point.y == 0; }
 
 Point hub_or_middle(Point hub, Box box) {
@@ -21,7 +19,7 @@ Point hub_or_middle(Point hub, Box box) {
 void draw_lever(const Canvas& canvas, const Lever& lever, int image) {
   const Point hub = hub_or_middle(lever.hub, whole(canvas.size()));
   const Throw thrown = lever.throws[static_cast<std::size_t>(image)];
-  lever_nut(canvas, hub, nut);
+  lever_nut(canvas, hub, lever.nut);
   if (!lever.sideways) return lever_handle(canvas, hub, lever.reach, thrown, lever.ball);
   const Saved saved(canvas);
   cairo_translate(canvas.cr(), hub.x, hub.y);
@@ -48,6 +46,7 @@ void draw_lamp(const Canvas& canvas, const Lamp& row, int image) {
   switch (row.setting) {
     case Setting::frame: return lamp(canvas, picture, lens, lit);
     case Setting::button: return push_button(canvas, picture, lens, lit);
+    case Setting::cap: return lit_cap(canvas, picture, lens, lit);
     case Setting::flush: break;
   }
   const Box frame = picture.grown(-1);

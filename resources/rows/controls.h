@@ -15,6 +15,7 @@ struct Lever {
   bool sideways = false;  ///< down is left, up is right
   double polish = 17;     ///< how far fingers have polished the plate
   double mount = 8.6;     ///< radius of the washer
+  double nut = 6;
   List<Throw, 4> throws = {};
 };
 

@@ -25,7 +25,7 @@ inline constexpr Colour blue = palette::lamp_blue;
 }  // namespace lens
 
 /// How a rectangular lamp is set into its plate.
-enum class Setting { frame, button, flush };
+enum class Setting { frame, button, cap, flush };
 
 struct Lamp {
   Colours colours;

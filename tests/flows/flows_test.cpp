@@ -74,6 +74,19 @@ INSTANTIATE_TEST_SUITE_P(Flows, ShippedFlow,
                                                   "4-both-running"}}),
                          [](const auto& shipped) { return std::string(shipped.param.flow); });
 
+TEST(Circuit, IsFlownInCalmAirAndInLightWinds) {
+  const TempFolder folder;
+  const std::filesystem::path flows = cockpit_dir / "flows";
+  folder.write("lib/pilot.lua", file_text(flows / "lib/pilot.lua"));
+  for (const char* day : {"", "wind_from = 340, wind_speed = 10, gusts = 1",
+                          "wind_from = 130, wind_speed = 15, pressure = 995, warmer_by = 15"}) {
+    const std::string flow = folder.write(
+        "day.lua", std::string("weather{") + day + "}\n" + file_text(flows / "circuit.lua"));
+    const Outcome outcome = tarnvale("run " + flow);
+    EXPECT_EQ(outcome.exit_code, 0) << day << "\n" << outcome.output;
+  }
+}
+
 TEST(FlowSound, TheClickIsHeardOnceAtItsTime) {
   const TempFolder folder;
   const std::string flow = folder.write("click.lua", "wait(2)\nclick('Masterbat', 47, 99)\nwait(3)\n");

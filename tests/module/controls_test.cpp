@@ -41,6 +41,16 @@ TEST(Controls, EachMovesThePartItIsNamedAfter) {
                                                    "Clock setting_knob_down",
                                                    "Clock setting_knob_up",
                                                    "Radalt test_button",
+                                                   "Apmode selected_speed_knob_down",
+                                                   "Apmode selected_speed_knob_up",
+                                                   "Apalt selected_altitude_knob_down",
+                                                   "Apalt selected_altitude_knob_up",
+                                                   "Apcourse selected_heading_knob_down",
+                                                   "Apcourse selected_heading_knob_up",
+                                                   "Apcourse vertical_speed_thumb_wheel_down",
+                                                   "Apcourse vertical_speed_thumb_wheel_up",
+                                                   "Cat2apsys green_test_button",
+                                                   "Cat2apsys amber_test_button",
                                                    "Ffsys fuel_computer_power_button",
                                                    "Ffsys fuel_used_mode_button",
                                                    "Ffsys weight_mode_button",
@@ -70,9 +80,10 @@ bool is_guard_of(std::string guard, std::string_view control) {
 }
 
 TEST(Controls, EachLeavesTheOtherControlsOfItsGaugeAlone) {
-  // The APU's master ends its start.
+  // The APU's master ends its start, the autothrottle its speed hold.
   const auto goes_along = [](const Stimulus& control, const std::string& part) {
-    return control.text() == "Apu master_switch" && part == "start_button";
+    return (control.text() == "Apu master_switch" && part == "start_button") ||
+           (control.text() == "Apset autothrottle_button" && part == "airspeed_hold_button");
   };
   for (const Stimulus* control : controls()) {
     const rig::Gauge& gauge = gauge_of(*control);
@@ -116,13 +127,15 @@ TEST(Controls, EachClickIsHeardOnce) {
       {"Engstart start_selector_off", {"toggle"}},      // a lever
       {"Engstart start_selector_engine_1", {"toggle"}},
       {"Engstart start_selector_engine_2", {"toggle"}},
-      {"Apu start_button", {"", " other"}},  // soft: the APU itself is heard
+      {"Apu start_button", {"", " other"}},       // soft: the APU itself is heard
       {"Stewcall crew_call_button", {" other"}},  // chimes of their own
       {"Stewcall left_sign_switch", {" other"}},
       {"Stewcall right_sign_switch", {" other"}},
       {"Fuelc quantity_test_switch", {""}},
       {"Fuelreq fuel_request_lever", {"push"}},
       {"Radalt test_button", {" other"}},
+      {"Apcon test_switch_1", {"push"}},
+      {"Apcon test_switch_2", {"push"}},
       {"Coltsw left_selector_flow", {"toggle"}},  // levers with a pointer
       {"Coltsw left_selector_quantity", {"toggle"}},
       {"Coltsw left_selector_check", {"toggle"}},
@@ -210,8 +223,14 @@ TEST(Controls, EachHasTheMovesOfItsKind) {
                          walk::part_of(gauge_of(*control), guard)->name == guard;
     if (guarded) expected.emplace(0, 0);
     Moves seen = control->moves;
-    if ((control->area->area->mouse_flags & MOUSE_RIGHT) != 0) {  // the right button tests a light
+    // The right button tests a light; a button of this panel engages only where it can.
+    const bool may_stay = (control->area->area->mouse_flags & MOUSE_RIGHT) != 0 ||
+                          gauge_of(*control).header().name == std::string("Apset");
+    if (may_stay) {
       std::erase_if(seen, [](const auto& move) { return move.first == move.second; });
+    }
+    if (part->name == "mode_selector") {  // on a glide slope the knob goes on by itself
+      for (const auto& capture : {std::pair{2.0, 4.0}, {4.0, 2.0}, {4.0, 4.0}}) seen.erase(capture);
     }
     EXPECT_EQ(seen, expected) << control->text();
   }
@@ -234,9 +253,8 @@ TEST(Controls, ALightUnderTestShinesForTwoSecondsAndTestsProlongEachOther) {
     std::vector<std::pair<std::string, const rig::NamedPart*>> tests;
     for (const rig::NamedArea& area : gauge.areas()) {
       const rig::NamedPart* light = walk::part_of(gauge, area.name);
-      const bool of_its_own_time = area.name == "quantity_test_switch";
-      if (is_test(area.name) && light != nullptr && !of_its_own_time)
-        tests.emplace_back(area.name, light);
+      const bool no_light = area.name == "quantity_test_switch" || area.name.starts_with("test_switch");
+      if (is_test(area.name) && light != nullptr && !no_light) tests.emplace_back(area.name, light);
     }
     if (gauge.header().name == std::string("Acpwr")) darken_latched_lights(gauge);
     for (const auto& [button, light] : tests) {
@@ -262,7 +280,8 @@ TEST(Controls, ALightUnderTestShinesForTwoSecondsAndTestsProlongEachOther) {
 TEST(Controls, TheCursorSaysWhichWayAHalfTurns) {
   for (const Stimulus* control : controls()) {
     const rig::NamedPart* part = part_of(*control);
-    const bool lever = part != nullptr && ends_with_one_of(part->name, {"lever", "switch"});
+    const bool lever =
+        part != nullptr && ends_with_one_of(part->name, {"lever", "switch", "mode_selector"});
     const i32 expected = lever                             ? CURSOR_HAND
                          : control->name.ends_with("up")   ? CURSOR_INCREASE
                          : control->name.ends_with("down") ? CURSOR_DECREASE

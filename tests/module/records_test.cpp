@@ -93,8 +93,8 @@ TEST(Records, HeadersAndChainsBelongTogether) {
 }
 
 TEST(Records, LitCopiesShowTheSameAndFollowThePanelLights) {
-  const std::set<std::pair<std::string, std::string>> dark_by_night{{"Adi", "slip_ball_tube"},
-                                                                    {"Altimeter", "altitude_alert"}};
+  const std::set<std::pair<std::string, std::string>> dark_by_night{
+      {"Adi", "slip_ball_tube"}, {"Apalt", "power_flag"}, {"Altimeter", "altitude_alert"}};
   rig::Host host;
   for (rig::Gauge& gauge : rig::built_gauges()) {
     const std::string name = gauge.header().name;

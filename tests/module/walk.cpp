@@ -11,6 +11,11 @@ namespace {
 
 using namespace tarnvale;
 
+/// How the units of tokens begin that are 0 or 1, or lie between.
+constexpr bool is_one_of(std::string_view unit, std::initializer_list<std::string_view> beginnings) {
+  return std::ranges::any_of(beginnings, [&](auto each) { return unit.starts_with(each); });
+}
+
 struct Token {
   u32 number;
   const char* name;
@@ -19,9 +24,7 @@ struct Token {
 
 /// All but the clock.
 constexpr Token tokens[] = {
-#define TOKEN(number, name, unit) \
-  {number, #name,                 \
-   std::string_view(unit).starts_with("0/1") || std::string_view(unit).starts_with("0 closed")},
+#define TOKEN(number, name, unit) {number, #name, is_one_of(unit, {"0/1", "0 closed", "0..1"})},
 #define EVENT(number, name)
 #include "module/tokens.inc"
 #undef TOKEN
@@ -173,14 +176,20 @@ class Walk {
     const u32 buttons = stimulus.area->area->mouse_flags & (MOUSE_LEFT | MOUSE_RIGHT);
     const bool right = buttons == MOUSE_RIGHT || (buttons != MOUSE_LEFT && random(2) == 0);
     sounds_of_click();  // what the frames asked for
+    note_events();      // and sent
     const Aircraft was = aircraft;
-    host_.events.clear();
     result_.gauges[stimulus.gauge].click(stimulus.name, right ? MOUSE_RIGHT : MOUSE_LEFT);
     stimulus.sounds.insert(sounds_of_click());
-    for (const auto& [event, value] : host_.events) result_.events.insert(event);
+    stimulus.heeded |= !host_.events.empty();
+    note_events();
     Aircraft now = aircraft;
     std::ranges::copy(was.sound_requests, now.sound_requests);
-    stimulus.heeded |= !host_.events.empty() || std::memcmp(&was, &now, sizeof was) != 0;
+    stimulus.heeded |= std::memcmp(&was, &now, sizeof was) != 0;
+  }
+
+  void note_events() {
+    for (const auto& [event, value] : host_.events) result_.events.insert(event);
+    host_.events.clear();
   }
 
   void note_move(Stimulus& stimulus, const Picture& before) {

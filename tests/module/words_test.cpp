@@ -40,7 +40,10 @@ constexpr Kind lamp{0x7, FAILURE_HIDE}, by_hand{0x3, 0}, needle{0x83, FAILURE_ZE
 
 /// A lamp shines by itself and goes dark without power; what a hand moves does neither.
 TEST(Words, SayWhetherAPartShinesAndWhatItDoesWithoutPower) {
-  const std::set<std::string> shines_too{"Mancon manual_control_button", "Adi attitude_flag"};
+  const std::set<std::string> shines_too{
+      "Mancon manual_control_button", "Adi attitude_flag",     "Apset airspeed_hold_button",
+      "Apset heading_hold_button",    "Apset approach_button", "Apset autopilot_master_button",
+      "Apset autothrottle_button"};
   const std::set<std::string> unlit{"Hsi approach_light"};
   const std::set<std::string> coarse_needles{"Adi bank_pointer", "Adisafe bank_pointer",
                                              "Engtgt engine_1_gas_temperature",
@@ -57,6 +60,7 @@ TEST(Words, SayWhetherAPartShinesAndWhatItDoesWithoutPower) {
       if (e.kind == ELEMENT_ICON && part.name != "instrument_lighting") {
         expected = (shines && !unlit.contains(text)) || shines_too.contains(text) ? lamp : by_hand;
       }
+      if (text == "Apcon door_open_light") expected = electric_picture;
       if (text == "Altimeter altitude_alert") expected.first = 0x1;
       EXPECT_EQ(
           Kind(e.image_flags & ~IMAGE_HIDE_PICTURE, e.failures != nullptr ? e.failures->action : 0),

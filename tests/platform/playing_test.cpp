@@ -36,6 +36,29 @@ TEST_F(Playing, StartsAtTheVeryFrameAndEndsInSilence) {
   EXPECT_EQ(again, both(steps) + silence(3001)) << "a second playing starts over";
 }
 
+TEST_F(Playing, IsToldOnceForEachStart) {
+  std::vector<std::vector<std::int16_t>> told;
+  platform_on_sound(
+      [](const void* samples, std::size_t bytes, void* context) {
+        const auto* first = static_cast<const std::int16_t*>(samples);
+        static_cast<decltype(told)*>(context)->emplace_back(first, first + bytes / 2);
+      },
+      &told);
+  const Buffer one = mono_16({1, 2, 3}), other = mono_16({4, 5});
+  one->Play(0, 0, 0);
+  other->Play(0, 0, DSBPLAY_LOOPING);
+  one->Play(0, 0, 0);
+  other->Play(0, 0, 0);
+  EXPECT_EQ(told, (std::vector<std::vector<std::int16_t>>{{1, 2, 3}, {4, 5}})) << "what plays goes on";
+  render(1000);
+  one->Play(0, 0, 0);
+  EXPECT_EQ(told.size(), 3u);
+  platform_on_sound(nullptr, nullptr);
+  render(1000);
+  one->Play(0, 0, 0);
+  EXPECT_EQ(told.size(), 3u);
+}
+
 TEST_F(Playing, EveryFormatKeepsItsLevelAndSides) {
   const Buffer stereo_16 = buffer_of(extensible(pcm_format(2, 16, PLATFORM_AUDIO_RATE)),
                                      std::vector<std::int16_t>{100, -200, 300, -400});

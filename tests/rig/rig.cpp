@@ -26,28 +26,35 @@ void look_up(TokenVariable* variable) {
   variable->value = found == current->tokens.end() ? 0.0 : found->second;
 }
 
-/// The token that each "..._toggle" event is named after.
-const std::map<u32, u32>& followed() {
-  static const std::map<u32, u32> pairs = [] {
-    std::map<std::string, u32> tokens;
-    std::map<u32, u32> found;
-#define TOKEN(number, name, unit) tokens[#name "_toggle"] = number;
+/// What an event does to the token that it is named after: flips it, or sets it to 1 or 0.
+enum class Verb { toggle, on, off };
+using Effect = std::pair<u32, Verb>;
+
+const std::map<u32, Effect>& followed() {
+  static const std::map<u32, Effect> all = [] {
+    std::map<std::string, Effect> named;
+    std::map<u32, Effect> found;
+#define TOKEN(number, name, unit)                  \
+  named[#name "_toggle"] = {number, Verb::toggle}; \
+  named[#name "_on"] = {number, Verb::on};         \
+  named[#name "_off"] = {number, Verb::off};
 #define EVENT(number, name) \
-  if (tokens.contains(#name)) found[number] = tokens[#name];
+  if (named.contains(#name)) found[number] = named[#name];
 #include "module/tokens.inc"
 #undef TOKEN
 #undef EVENT
     return found;
   }();
-  return pairs;
+  return all;
 }
 
 void take_event(u32 event, u32 value) {
   current->events.emplace_back(event, value);
-  const auto token = followed().find(event);
-  if (!current->follows || token == followed().end()) return;
-  f64& state = current->tokens[token->second];
-  state = state == 0 ? 1 : 0;
+  const auto found = followed().find(event);
+  if (!current->follows || found == followed().end()) return;
+  const auto& [token, verb] = found->second;
+  f64& state = current->tokens[token];
+  state = verb == Verb::on || (verb == Verb::toggle && state == 0) ? 1 : 0;
 }
 
 void toggle(u32 ident) { current->windows.emplace_back('t', ident); }

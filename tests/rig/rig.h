@@ -38,7 +38,8 @@ class Host {
   /// The tokens that the module has looked up so far.
   std::set<u32> looked_up;
 
-  /// Whether each key event named after a token ("battery_toggle") flips it, as the aircraft does.
+  /// Whether each key event named after a token ("battery_toggle", "altitude_hold_on") flips or sets it,
+  /// as the aircraft does.
   bool follows = false;
 };
 

@@ -115,16 +115,68 @@ TEST_F(FlowApi, OpensAndClosesWindows) {
 }
 
 TEST_F(FlowApi, FailsAndRepairsASystem) {
-  EXPECT_EQ(fly("fail(20)\nwait(0.1)\nexpect(image('Masterbat', 40) == nil, 'a failed lamp shows')\n"
-                "repair(20)\nwait(0.1)\nexpect(image('Masterbat', 40) == 0)"),
+  EXPECT_EQ(fly("fail(20)\nwait(0.1)\nexpect(image('Masterbat', 40) == nil and not shown('Masterbat', "
+                "40), 'a failed lamp shows')\n"
+                "repair(20)\nwait(0.1)\nexpect(image('Masterbat', 40) == 0 and shown('Masterbat', "
+                "'battery_lamp'))"),
             "");
 }
 
 TEST_F(FlowApi, TellsMessagesAndSound) {
   session.messages = {"one", "two"};
-  EXPECT_EQ(fly("expect(#messages() == 2 and messages()[2] == 'two')\nexpect_near(sound_level(0.5), "
-                "0.25, 0)"),
+  session.sounds = {{"v1", 1.5}, {"rotate", 2}};
+  EXPECT_EQ(
+      fly("expect(#messages() == 2 and messages()[2] == 'two')\nexpect_near(sound_level(0.5), "
+          "0.25, 0)\nexpect(#sounds() == 2 and sounds()[2].name == 'rotate' and sounds()[1].seconds "
+          "== 1.5)"),
+      "");
+}
+
+TEST_F(FlowApi, MovesTheControlsThatItNames) {
+  simulation::FlightControls& controls = cockpit.aircraft().controls();
+  EXPECT_EQ(
+      fly("fly{elevator = 0.1, aileron = -0.2, rudder = 1, pitch_trim = -1, aileron_trim = 0.3,\n"
+          "    rudder_trim = -0.4, throttle = {0.5, 0.6}, flaps = 18, gear = 'up', speed_brake = 0.7,\n"
+          "    lift_dumpers = true, brakes = 0.8, tiller = -0.9, parking_brake = true}\n"
+          "fly{}\nfly{flaps = 0, rudder = 0.5}"),
+      "");
+  EXPECT_EQ(std::tie(controls.elevator, controls.aileron, controls.rudder, controls.pitch_trim),
+            std::tuple(0.1, -0.2, 0.5, -1.0));
+  EXPECT_EQ(
+      std::tie(controls.aileron_trim, controls.rudder_trim, controls.speed_brake, controls.tiller),
+      std::tuple(0.3, -0.4, 0.7, -0.9));
+  EXPECT_EQ(controls.throttle, (std::array{0.5, 0.6}));
+  EXPECT_EQ(controls.brake, (std::array{0.8, 0.8}));
+  EXPECT_EQ(std::tie(controls.flap_detent, controls.gear_down, controls.lift_dumpers_out,
+                     controls.parking_brake_set),
+            std::tuple(0u, false, true, true));
+  EXPECT_EQ(
+      fly("local c = controls()\n"
+          "expect(c.elevator == 0.1 and c.flaps == 0 and c.gear == 'up' and c.parking_brake == true)\n"
+          "expect(#c.throttle == 2 and c.throttle[2] == 0.6)\nfly(c)"),
+      "");
+  EXPECT_NE(fly("fly{elevator = 0.9, flaps = 7}"), "");
+  EXPECT_EQ(controls.elevator, 0.1) << "all or nothing";
+}
+
+TEST_F(FlowApi, MakesWeatherAndPutsTheAircraftIntoIt) {
+  EXPECT_EQ(fly("weather{pressure = 1000, warmer_by = -5}\n"
+                "weather{wind_from = 338, wind_speed = 10, gusts = 1}\n"
+                "make_ready()\nplace_on_runway()\nwait(0.1)\n"
+                "expect_near(token('engine_1_core_speed'), 52, 1, 'N2')\n"
+                "expect_near(token('heading'), 70, 0.1, 'the runway')\n"
+                "place_in_flight{altitude = 4000, airspeed = 150, heading = 250, along = -9000, right "
+                "= 100,\n"
+                "                flaps = 18, gear = 'down'}\nwait(0.1)\n"
+                "expect_near(token('indicated_airspeed'), 150, 2, 'the airspeed')\n"
+                "expect_near(token('heading'), 250, 0.5, 'the heading')\n"
+                "expect(controls().flaps == 18 and controls().gear == 'down')"),
             "");
+  const simulation::Weather& weather = cockpit.aircraft().weather();
+  EXPECT_EQ(std::tie(weather.sea_level_pressure_hpa, weather.warmer_by_celsius, weather.wind.speed_kt,
+                     weather.wind.gust_mps),
+            std::tuple(1000.0, -5.0, 10.0, 1.0));
+  EXPECT_EQ(weather.wind.from_true_deg, 340) << "the compass shows two degrees less";
 }
 
 struct Failure {
@@ -176,6 +228,22 @@ TEST_F(FlowApi, SaysWhyAFlowFails) {
       {"event(-1)", "argument 1 (event) must be a whole number from 0 to 4294967295"},
       {"wait(-1)", "a flow waits 0 to 86400 seconds at once"},
       {"hold('Masterbat', 47, 99, 1e9)", "a gesture lasts 0 to 3600 seconds"},
+      {"fly{elevater = 1}", "fly knows no 'elevater'; did you mean elevator?"},
+      {"fly{elevator = 'up'}", "elevator must be a number from -1 to 1"},
+      {"fly{elevator = 1.01}", "elevator must be a number from -1 to 1"},
+      {"fly{elevator = 0 / 0}", "elevator must be a number from -1 to 1"},
+      {"fly{throttle = {1}}", "throttle must be a number from 0 to 1, or two of them"},
+      {"fly{throttle = {1, -1}}", "throttle must be a number from 0 to 1, or two of them"},
+      {"fly{brakes = true}", "brakes must be a number from 0 to 1, or two of them"},
+      {"fly{flaps = 10}", "flaps must be 0, 6, 11, 18, 25 or 42"},
+      {"fly{gear = true}", "gear must be \"up\" or \"down\""},
+      {"fly{parking_brake = 1}", "parking_brake must be true or false"},
+      {"fly{1, 2}", "argument 1 (fields) must be a table of named fields"},
+      {"fly(1)", "argument 1 (fields) must be a table"},
+      {"weather{winds = 3}", "weather knows no 'winds'"},
+      {"place_in_flight{gear = 'down', speed = 3}", "place_in_flight knows no 'speed'"},
+      {"place_in_flight{altitude = 5000, airspeed = 60}",
+       "the aircraft cannot fly level there and like that"},
       {"sound_level(0)", "argument 1 (seconds) must be 0 to 10"},
       {"picture('../escape')", "argument 1 (name) must be letters, digits, - and _"},
       {"picture('big', nil, 100)", "argument 3 (zoom) must be 0.1 to 4"},

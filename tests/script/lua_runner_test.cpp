@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/rig/temp_folder.h"
+
 namespace {
 
 using namespace host;
@@ -81,8 +83,8 @@ TEST_F(Flow, DeepRecursionIsAnErrorLikeAnyOther) {
 }
 
 TEST_F(Flow, HasNoWayOutOfItsRoom) {
-  for (const char* name : {"os", "io", "require", "package", "debug", "dofile", "loadfile", "load",
-                           "pcall", "xpcall", "coroutine", "collectgarbage"})
+  for (const char* name : {"os", "io", "package", "debug", "dofile", "loadfile", "load", "pcall",
+                           "xpcall", "coroutine", "collectgarbage"})
     EXPECT_EQ(outcome(runner, std::string("if ") + name + " then error('open') end"), "") << name;
 }
 
@@ -130,6 +132,58 @@ TEST_F(Flow, FlysTheSameEveryTime) {
     EXPECT_EQ(outcome(fresh, "keep(math.random())"), "");
   }
   EXPECT_EQ(first, second);
+}
+
+struct Required {
+  const char* flow;
+  const char* message;  // %s stands for the folder
+};
+
+TEST(FlowFile, UsesFilesBesideItAndNoOthers) {
+  const TempFolder folder;
+  folder.write("secret.lua", "return 1");
+  folder.write("flows/twice.lua",
+               "count = (count or 0) + 1\nreturn {double = function(n) return 2 * n end}");
+  folder.write("flows/lib/nothing.lua", "return nil");
+  folder.write("flows/lib/broken.lua", "local x =\n= 2");
+  folder.write("flows/lib/strict.lua", "return function(n)\n  return n + 1\nend");
+  folder.write("flows/a.lua", "return require('b')");
+  folder.write("flows/b.lua", "return require('a')");
+  const Required cases[] = {
+      {"local a, b = require('twice'), require('twice')\n"
+       "if a ~= b or count ~= 1 or a.double(4) ~= 8 then error('!') end",
+       ""},
+      {"if require('lib.nothing') ~= true then error('!') end", ""},
+      {"require('no')", "%s/flow.lua:1: there is no file for 'no' beside the flow"},
+      {"require('../secret')", "%s/flow.lua:1: there is no file for '../secret' beside the flow"},
+      {"require('..secret')", "%s/flow.lua:1: there is no file for '..secret' beside the flow"},
+      {"require('lib')", "%s/flow.lua:1: there is no file for 'lib' beside the flow"},
+      {"require()", "%s/flow.lua:1: argument 1 (module) must be a text"},
+      {"\nrequire('lib.broken')",
+       "%s/lib/broken.lua:2: unexpected symbol near '=' (called from %s/flow.lua:2)"},
+      {"\n\nrequire('lib.strict')('x' == 'y')",
+       "%s/lib/strict.lua:2: attempt to perform arithmetic on a boolean value (local 'n') (called from "
+       "%s/flow.lua:3)"},
+      {"require('a')", "%s/b.lua:1: 'a' requires itself (called from %s/flow.lua:1)"},
+      {"error('flow9:1: far', 0)", "%s/flow.lua:1: flow9:1: far"},
+  };
+  for (const auto& [flow, expected] : cases) {
+    std::string message = expected;
+    for (std::size_t at; (at = message.find("%s")) != std::string::npos;)
+      message.replace(at, 2, folder / "flows");
+    std::string got;
+    try {
+      LuaRunner().run(std::filesystem::path(folder.write("flows/flow.lua", flow)));
+    } catch (const FlowError& error) {
+      got = error.what();
+    }
+    EXPECT_EQ(got, message) << flow;
+  }
+}
+
+TEST_F(Flow, FromMemoryHasNoFilesBesideIt) {
+  EXPECT_EQ(outcome(runner, "require('test')"),
+            "flows/test.lua:1: there is no file for 'test' beside the flow");
 }
 
 TEST(FlowFile, ThatCannotBeReadIsNamed) {

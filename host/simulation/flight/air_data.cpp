@@ -33,18 +33,19 @@ double speed_of_sound_mps(double temperature_celsius) {
   return std::sqrt(heat_ratio * gas_constant * (temperature_celsius + kelvin_at_0_celsius));
 }
 
-void AirData::update(const FlightState& flight) {
+void AirData::update(const FlightState& flight, Blockages blockages) {
   // QNH is by definition the setting with which an altimeter reads the true altitude.
   const double pressure_altitude =
       flight.altitude_ft + pressure_altitude_ft(weather.sea_level_pressure_hpa);
   pressure_hpa = standard_pressure_at(pressure_altitude);
   temperature_celsius = standard_temperature_at(flight.altitude_ft) + weather.warmer_by_celsius;
-  indicated_altitude_ft = pressure_altitude - pressure_altitude_ft(pressure_setting_hpa);
+  if (!blockages.static_blocked) static_altitude_ft = pressure_altitude;
+  indicated_altitude_ft = static_altitude_ft - pressure_altitude_ft(pressure_setting_hpa);
   density_kg_per_m3 =
       pressure_hpa * pascals_per_hpa / (gas_constant * (temperature_celsius + kelvin_at_0_celsius));
   sound_mps = speed_of_sound_mps(temperature_celsius);
   mach = flight.true_airspeed_mps / sound_mps;
-  indicated_airspeed_kt = calibrated_airspeed_kt(mach, pressure_hpa);
+  if (!blockages.pitot_blocked) indicated_airspeed_kt = calibrated_airspeed_kt(mach, pressure_hpa);
   maximum_airspeed_kt =
       std::min(greatest_airspeed_kt, calibrated_airspeed_kt(greatest_mach, pressure_hpa));
 }

@@ -22,11 +22,18 @@ struct Weather {
 inline constexpr double greatest_airspeed_kt = 330.0;
 inline constexpr double greatest_mach = 0.80;
 
+/// Ice or insects: what is blocked keeps its last pressure, and its instruments their last reading.
+struct Blockages {
+  bool pitot_blocked = false;
+  bool static_blocked = false;
+};
+
 struct AirData {
   Weather weather;
   double pressure_setting_hpa = standard_pressure_hpa;  ///< both altimeters
   double temperature_celsius = standard_temperature_at(airfield_elevation_ft);
   double pressure_hpa = standard_pressure_at(airfield_elevation_ft);
+  double static_altitude_ft = airfield_elevation_ft;  ///< what the static ports make of the pressure
   double indicated_altitude_ft = airfield_elevation_ft;
   double density_kg_per_m3 = 1.225;
   double sound_mps = 340.294;
@@ -34,7 +41,7 @@ struct AirData {
   double indicated_airspeed_kt = 0.0;                 ///< calibrated: the system has no position error
   double maximum_airspeed_kt = greatest_airspeed_kt;  ///< the lower of 330 kt and Mach 0.80
 
-  void update(const FlightState& flight);
+  void update(const FlightState& flight, Blockages blockages = {});
 
   /// Sets the altimeters to the field's QNH, as if copied from the tower's report.
   void set_altimeters_to_qnh() { pressure_setting_hpa = weather.sea_level_pressure_hpa; }

@@ -39,10 +39,6 @@ double wanted_path_rad(const FlightState& flight, double indicated_altitude_ft, 
 
 }  // namespace
 
-void Selections::turn_airspeed(double by_kt) {
-  airspeed_kt = std::clamp(airspeed_kt + by_kt, 80.0, 400.0);
-}
-
 void FlightDirector::update(double dt_s, const FlightState& flight, double indicated_altitude_ft,
                             const NavReceiver& nav, const Selections& selections) {
   const double turn_deg =

@@ -10,18 +10,10 @@
 ///   pitch = pitch now + (wanted path - path now), at most 10 down and 15 up, smoothed over 1 s
 #pragma once
 
+#include "host/simulation/autopilot/selections.h"
 #include "host/simulation/navigation/receivers.h"
 
 namespace host::simulation {
-
-/// The crew's targets, for the flight director and for an autopilot.
-struct Selections {
-  double heading_bug_deg = 70.0;  ///< magnetic
-  double altitude_ft = 3000.0;
-  double airspeed_kt = 150.0;
-
-  void turn_airspeed(double by_kt);
-};
 
 struct FlightDirector {
   bool on = false;

@@ -7,10 +7,6 @@ namespace {
 // The bars show wanted less present attitude, so the wanted one has the attitude's own signs: with a wish
 // to climb the pitch bar stands above the aircraft symbol, with one to turn right the bank bar to its right.
 constexpr TokenRow tokens[] = {
-    {{107, "heading_bug", "degrees magnetic"},
-     [](const Aircraft& a) { return a.selections.heading_bug_deg; }},
-    {{109, "selected_altitude", "feet"}, [](const Aircraft& a) { return a.selections.altitude_ft; }},
-    {{116, "selected_airspeed", "knots"}, [](const Aircraft& a) { return a.selections.airspeed_kt; }},
     {{792, "flight_director", "0/1"}, [](const Aircraft& a) { return on_off(a.flight_director.on); }},
     {{793, "flight_director_pitch", "degrees, down positive"},
      [](const Aircraft& a) { return 0.0 - a.flight_director.pitch_deg; }},
@@ -19,10 +15,6 @@ constexpr TokenRow tokens[] = {
 };
 
 constexpr EventRow events[] = {
-    {{0x10168, "selected_speed_up", ""},
-     [](Aircraft& a, std::uint32_t) { a.selections.turn_airspeed(1.0); }},
-    {{0x10169, "selected_speed_down", ""},
-     [](Aircraft& a, std::uint32_t) { a.selections.turn_airspeed(-1.0); }},
     {{0x102F0, "flight_director_toggle", ""},
      [](Aircraft& a, std::uint32_t) { a.flight_director.on = !a.flight_director.on; }},
 };

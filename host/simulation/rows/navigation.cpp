@@ -80,7 +80,8 @@ constexpr TokenRow tokens[] = {
      [](const Aircraft& a) { return static_cast<double>(a.marker); }},
     {{550, "nav1_bearing", "degrees, on the instrument"}, bearing<0>},
     {{835, "hsi_distance", "metres"}, hsi_distance_m},
-    {{848, "hsi_source", "0 receiver 1"}, [](const Aircraft&) { return 0.0; }},
+    {{848, "hsi_source", "0 receiver 1, 1 area navigation"},
+     [](const Aircraft& a) { return on_off(a.hsi_on_area_navigation); }},
     {{849, "hsi_deviation", "full scales, left positive"},
      [](const Aircraft& a) { return -a.nav[0].course_deviation; }},
     {{853, "to_from", "-1 off, 0 to, 1 from"}, to_from},
@@ -93,6 +94,8 @@ constexpr TokenRow tokens[] = {
 constexpr EventRow events[] = {
     {{0x1007E, "course_down", ""}, [](Aircraft& a, std::uint32_t) { turn_course(a, -1.0); }},
     {{0x1007F, "course_up", ""}, [](Aircraft& a, std::uint32_t) { turn_course(a, 1.0); }},
+    {{0x10347, "hsi_source_toggle", ""},
+     [](Aircraft& a, std::uint32_t) { a.hsi_on_area_navigation = !a.hsi_on_area_navigation; }},
 };
 
 }  // namespace

@@ -30,16 +30,17 @@ double bus_load_percent(const Electrics& electrics, const ElectricsInputs& input
 }  // namespace
 
 bool Electrics::main_bus_powered() const {
+  if (failed) return false;
   return generator_on_line[0] || generator_on_line[1] || apu_generator_on_line || external_power;
 }
 
 bool Electrics::has_dc() const {
-  return main_bus_powered() || (battery_on && battery.charge_ratio > flat_battery_ratio);
+  return main_bus_powered() || (battery_on && !failed && battery.charge_ratio > flat_battery_ratio);
 }
 
 void Electrics::connect_sources(const ElectricsInputs& inputs) {
   for (std::size_t i = 0; i < 2; ++i) {
-    generator_on_line[i] = alternators_on && alternator_on[i] &&
+    generator_on_line[i] = alternators_on && alternator_on[i] && !inputs.generator_failed[i] &&
                            drive_up(generator_on_line[i], inputs.core_speed_percent[i]);
   }
   apu_generator_on_line = alternators_on && alternator_on[2] && inputs.apu_at_speed;
@@ -68,6 +69,7 @@ double Electrics::battery_drain_amperes(const ElectricsInputs& inputs) const {
 }
 
 void Electrics::update(double dt_s, const ElectricsInputs& inputs) {
+  failed = inputs.all_failed;
   connect_sources(inputs);
   share_loads(inputs);
 
@@ -79,7 +81,7 @@ void Electrics::update(double dt_s, const ElectricsInputs& inputs) {
 
   const double amperes = main ? battery.charging_amperes() : -battery_drain_amperes(inputs);
   battery.update(dt_s, battery_on ? amperes : 0.0);
-  dc_volts = !battery_on ? 0.0 : main ? rectified_volts : battery.volts();
+  dc_volts = !battery_on || failed ? 0.0 : main ? rectified_volts : battery.volts();
 }
 
 }  // namespace host::simulation

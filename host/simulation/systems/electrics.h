@@ -18,6 +18,8 @@ struct ElectricsInputs {
   bool on_ground = true;
   bool engine_antiice = false;
   int lights_on = 0;
+  std::array<bool, 2> generator_failed{};
+  bool all_failed = false;  ///< a short circuit: no bus holds its voltage
 };
 
 struct Electrics {
@@ -29,6 +31,7 @@ struct Electrics {
   Battery battery;
 
   // Outputs.
+  bool failed = false;
   std::array<bool, 2> generator_on_line{};
   bool apu_generator_on_line = false;
   std::array<double, 2> bus_volts{};               ///< AC

@@ -16,7 +16,7 @@ std::size_t FuelControls::tank_of(std::size_t engine) const {
   if (!crossfeed_open) return engine;
   if (feed == FuelFeed::tank_1_both) return 0;
   if (feed == FuelFeed::tank_2_both) return 1;
-  const auto gives = [this](std::size_t tank) { return boost_pump_on[tank] && wing_kg[tank] > 0.0; };
+  const auto gives = [this](std::size_t tank) { return pumps(tank) && wing_kg[tank] > 0.0; };
   if (gives(0) == gives(1)) return wing_kg[engine] > 0.0 ? engine : 1 - engine;
   return gives(0) ? 0 : 1;
 }
@@ -30,7 +30,7 @@ void FuelControls::burn(double dt_s, const FuelInputs& inputs) {
 
 void FuelControls::transfer(double dt_s, const FuelInputs& inputs) {
   for (std::size_t tank = 0; tank < 2; ++tank) {
-    if (!boost_pump_on[tank] || !inputs.has_dc) continue;
+    if (!pumps(tank) || !inputs.has_dc) continue;
     const double moved_kg = std::min(
         {transfer_kg_per_s * dt_s, centre_kg, std::max(0.0, wing_capacity_kg - wing_kg[tank])});
     wing_kg[tank] += moved_kg;
@@ -50,7 +50,7 @@ void FuelControls::update(double dt_s, const FuelInputs& inputs) {
   refuel(dt_s, inputs);
   for (std::size_t engine = 0; engine < 2; ++engine) {
     const std::size_t tank = tank_of(engine);
-    const bool pumped = boost_pump_on[tank] && inputs.has_dc;
+    const bool pumped = pumps(tank) && inputs.has_dc;
     at_engine[engine] = wing_kg[tank] > 0.0 && (pumped || inputs.altitude_ft < suction_ceiling_ft);
   }
 }

@@ -29,8 +29,9 @@ struct FuelInputs {
 };
 
 struct FuelControls {
-  std::array<bool, 2> lever_open{};  ///< fuel levers: shut-off valves of engines 1 and 2
-  std::array<bool, 2> boost_pump_on{};
+  std::array<bool, 2> lever_open{};     ///< fuel levers: shut-off valves of engines 1 and 2
+  std::array<bool, 2> boost_pump_on{};  ///< the switches
+  std::array<bool, 2> boost_pump_failed{};
   bool crossfeed_open = false;
   FuelFeed feed = FuelFeed::each_its_own;
 
@@ -49,6 +50,8 @@ struct FuelControls {
   void toggle_refuelling() { refuelling = !refuelling; }
 
   void update(double dt_s, const FuelInputs& inputs);
+
+  bool pumps(std::size_t tank) const { return boost_pump_on[tank] && !boost_pump_failed[tank]; }
 
   /// The tank that feeds an engine.
   std::size_t tank_of(std::size_t engine) const;

@@ -78,37 +78,16 @@ void draw_pointer(const Canvas& canvas, int) {
         palette::mark);
 }
 
-/// Drums are round: they darken toward the edges of their window.
-void shade(const Canvas& canvas, Box box) {
-  set_linear(canvas, {0, box.y}, {0, box.bottom()},
-             {{0, faded(palette::black, 0.75)},
-              {0.3, faded(palette::black, 0)},
-              {0.45, faded(palette::white, 0.08)},
-              {0.7, faded(palette::black, 0)},
-              {1, faded(palette::black, 0.75)}});
-  fill(canvas, rounded(box, 0));
-}
-
-void striped(const Canvas& canvas, Box box, Colour colour) {
-  fill(canvas, rounded(box, 0), palette::mark);
-  const Saved saved(canvas);
-  rounded(box, 0)(canvas.cr());
-  cairo_clip(canvas.cr());
-  for (double x = box.x - box.height; x < box.right(); x += 7) {
-    line(canvas, {x, box.bottom() + 1}, {x + box.height + 2, box.y - 1}, 2.6, colour);
-  }
-}
-
 void draw_power_flag(const Canvas& canvas, int image) {
   const Box box = whole(canvas.size());
-  if (image == 1) return shade(canvas, box);
-  striped(canvas, box, palette::flag_red);
+  if (image == 1) return drum_shade(canvas, box);
+  striped_flag(canvas, box, palette::flag_red);
 }
 
 void draw_below_sea_flag(const Canvas& canvas, int image) {
   const Box box = whole(canvas.size());
   if (image == 0) return line(canvas, {box.right(), 0}, {box.right(), box.bottom()}, 1, rgb(0x101213));
-  striped(canvas, box, palette::legend_amber);
+  striped_flag(canvas, box, palette::legend_amber);
 }
 
 constexpr Drum feet{.figure_size = 13};

@@ -1,0 +1,38 @@
+#include "host/sound/sound_book.h"
+
+#include <fstream>
+#include <iterator>
+#include <string_view>
+
+namespace host {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string name_of_file(const fs::path& file) {
+  const std::string stem = file.stem().string();
+  return stem.substr(stem.find('_') + 1);
+}
+
+std::string content_of(const fs::path& file) {
+  std::ifstream stream(file, std::ios::binary);
+  return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+}  // namespace
+
+SoundBook::SoundBook(const fs::path& folder) {
+  std::error_code error;
+  for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder, error))
+    if (entry.path().extension() == ".wav")
+      pages_.push_back({name_of_file(entry.path()), content_of(entry.path())});
+}
+
+std::string SoundBook::name_of(std::span<const std::byte> samples) const {
+  const std::string_view wanted(reinterpret_cast<const char*>(samples.data()), samples.size());
+  for (const Page& page : pages_)
+    if (page.bytes.find(wanted) != std::string::npos) return page.name;
+  return "?";
+}
+
+}  // namespace host

@@ -1,0 +1,16 @@
+/// What the first navigation receiver receives.
+#pragma once
+
+#include "module/host.h"
+#include "module/numbers.h"
+
+namespace tarnvale {
+
+inline constexpr u32 receives_glide_slope = 0x40, receives_localizer = 0x80;
+
+inline bool receives(u32 bit) { return (whole_u32(read(token::nav1_flags)) & bit) != 0; }
+
+/// Anything less is not to be flown by.
+inline bool full_glide_slope_signal() { return read(token::glide_slope_signal) == 1.0; }
+
+}  // namespace tarnvale

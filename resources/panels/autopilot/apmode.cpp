@@ -1,0 +1,37 @@
+/// Autopilot modes: selected speed on the left, the mode selector, altitude hold on the right.
+#include "resources/art.h"
+
+namespace artwork::panels::apmode {
+
+constexpr std::string_view speed = "selected_speed_tens", mode = "mode_selector",
+                           altitude = "altitude_hold_switch";
+
+constexpr Spot speed_knob = between("selected_speed_knob_down", "selected_speed_knob_up");
+
+constexpr Item items[] = {
+    CornerScrews{},
+    DrumFrame{"selected_speed_hundreds", "selected_speed_units"},
+    Legend{at(speed, 0, -16), "SPEED"},
+    FixedKnob{speed_knob, 12.6, 14, 30},
+    ending(at(mode, -21, 19), "MAN", 7.5),
+    ending(at(mode, -26, -7), "TURB", 7.5),
+    Legend{at(mode, -13, -29), "HDG", 7.5},
+    Legend{at(mode, 13, -29), "LOC", 7.5},
+    beginning(at(mode, 26, -7), "GS", 7.5),
+    beginning(at(mode, 21, 19), "NAV", 7.5),
+    Line{at(mode, -36, 34), at(mode, 36)},
+    heading(at(mode, 0, 44), "AUTOPILOT"),
+    left_of(altitude, {}),
+    below(altitude, "ALT HOLD"),
+};
+
+constexpr Art art[] = {
+    plate(98, items),
+    drum_art("selected_speed_hundreds", {9, 16}, {.figure_size = 11.5}),
+    knob_art("mode_selector", {40, 43}, {-125, -75, -25, 25, 75, 125},
+             {.radius = 16, .seat = 1.5, .ticks = {2.6, 5.4}}),
+};
+
+constinit Unit unit{"Apmode", art};
+
+}  // namespace artwork::panels::apmode
