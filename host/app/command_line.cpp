@@ -130,7 +130,8 @@ class CommandLine {
     add_cockpit(sub, list_.cockpit);
     sub->add_option("what", list_.what, "gauges, names, windows, tokens, events or sounds")
         ->required()
-        ->check(CLI::IsMember({"gauges", "names", "windows", "tokens", "events", "failures", "sounds"}));
+        ->check(
+            CLI::IsMember({"gauges", "names", "windows", "tokens", "events", "failures", "sounds"}));
     sub->add_option("gauge", list_.gauge, "The gauge whose names to list; else all");
   }
 

@@ -9,7 +9,7 @@ namespace {
 // A look to the side goes as far as the runway on a base leg, and comes back when the key is let go.
 constexpr double most_right_deg = 95.0, most_up_deg = 30.0, turn_deg_per_s = 150.0;
 
-constexpr double yoke_reach = 0.3;         // of the window's width and height, from its middle
+constexpr double yoke_reach = 0.3;           // of the window's width and height, from its middle
 constexpr double wheel_throttle = 1.0 / 32;  // of the levers' way, a notch
 
 double toward(double from, double to, double by) { return from + std::clamp(to - from, -by, by); }
@@ -92,8 +92,8 @@ void FlightDeck::show_controls_page() {
   if (!controls_shown_) return view.set_layer(Layer::controls, std::nullopt);
   const PanelSize size = view.screen().size();
   const auto sticks = sticks_ ? sticks_->states() : std::vector<StickState>{};
-  Overlay page = draw_controls_page({controls_, hands_, sticks, cockpit_.aircraft().controls()}, size.width,
-                                    size.height, view.scale());
+  Overlay page = draw_controls_page({controls_, hands_, sticks, cockpit_.aircraft().controls()},
+                                    size.width, size.height, view.scale());
   page.x = (size.width - page.width) / 2;
   page.y = (size.height - page.height) / 2;
   view.set_layer(Layer::controls, std::move(page));
