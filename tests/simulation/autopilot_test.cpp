@@ -275,7 +275,7 @@ TEST(Autopilot, One_mode_ends_another) {
   };
   using enum LateralMode;
   for (const Case& c : {Case{{"heading_hold_on"}, heading, false, false},
-                        Case{{"heading_hold_on", "navigation_hold_off"}, heading, false, false},
+                        Case{{"heading_hold_on", "navigation_hold_off"}, level, false, false},
                         Case{{"heading_hold_on", "heading_hold_off"}, level, false, false},
                         Case{{"navigation_hold_on", "approach_arm_on"}, navigation, true, true},
                         Case{{"approach_hold_on"}, navigation, true, true},

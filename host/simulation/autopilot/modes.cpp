@@ -2,21 +2,17 @@
 
 namespace host::simulation {
 
-void AutopilotModes::hold(LateralMode mode, bool on) {
+void AutopilotModes::hold_heading(bool on) {
   if (on) {
-    lateral = mode;
-  } else if (lateral == mode) {
+    lateral = LateralMode::heading;
+    arm_approach(false);
+  } else if (lateral == LateralMode::heading) {
     lateral = LateralMode::level;
   }
 }
 
-void AutopilotModes::hold_heading(bool on) {
-  hold(LateralMode::heading, on);
-  if (on) arm_approach(false);
-}
-
 void AutopilotModes::hold_navigation(bool on) {
-  hold(LateralMode::navigation, on);
+  lateral = on ? LateralMode::navigation : LateralMode::level;
   if (!on) arm_approach(false);
 }
 

@@ -16,8 +16,10 @@ struct AutopilotModes {
   bool autothrottle_armed = false;
   bool airspeed_hold = false;  ///< the armed autothrottle moves the levers
 
-  /// A heading ends the approach, and so does the end of the navigation that it stands on.
+  /// A heading ends the approach.
   void hold_heading(bool on);
+
+  /// Off comes from the selector at manual, where nothing is followed any more: it ends a heading too.
   void hold_navigation(bool on);
 
   /// Armed, it flies the course and waits for the glide slope; disarmed, it ends the approach.
@@ -34,9 +36,6 @@ struct AutopilotModes {
 
   /// What the computers lose with their power. Switches stay as they stand.
   void forget();
-
- private:
-  void hold(LateralMode mode, bool on);
 };
 
 }  // namespace host::simulation
