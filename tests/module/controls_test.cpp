@@ -87,7 +87,8 @@ bool is_guard_of(std::string guard, std::string_view control) {
 }
 
 TEST(Controls, EachLeavesTheOtherControlsOfItsGaugeAlone) {
-  // The APU's master ends its start, the autothrottle its speed hold; armed dumpers are deployed at once.
+  // The APU's master ends its start, the autothrottle its speed hold; armed dumpers are deployed at
+  // once.
   const auto goes_along = [](const Stimulus& control, const std::string& part) {
     return (control.text() == "Apu master_switch" && part == "start_button") ||
            (control.text() == "Apset autothrottle_button" && part == "airspeed_hold_button") ||

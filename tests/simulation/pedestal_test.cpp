@@ -1,5 +1,5 @@
-// What the levers of the pedestal do: throttles, flaps, speed brake, lift dumpers, brakes; and the hydraulics behind
-// them.
+// What the levers of the pedestal do: throttles, flaps, speed brake, lift dumpers, brakes; and the
+// hydraulics behind them.
 
 #include "host/simulation/table.h"
 #include "tests/simulation/flown.h"
