@@ -1,5 +1,5 @@
--- The throttle pedestal with the engines running: brakes, flaps, throttles, speed brake and lift dumpers, each
--- worked on the panel and seen in the aircraft.
+-- The throttle pedestal with the engines running: brakes, flaps, throttles, speed brake and lift
+-- dumpers, each worked on the panel and seen in the aircraft.
 
 local function brakes() return value("Thleft", "upper_left_brake_pressure") end
 local function lever(engine)

@@ -1,5 +1,5 @@
-/// The brake section of the left throttle pedestal: the brake-control switch with its test, and two pairs of
-/// dials for brake and accumulator pressures.
+/// The brake section of the left throttle pedestal: the brake-control switch with its test, and two
+/// pairs of dials for brake and accumulator pressures.
 #pragma once
 
 #include "module/catalogue.h"
@@ -43,7 +43,8 @@ f64 brake_test_light(Element*) {
   return hold_goes_on(panel->clock, panel->test_active);
 }
 
-/// A brake's pressure as its sensor reports it, in steps: released, applied, hard; the test shows its own.
+/// A brake's pressure as its sensor reports it, in steps: released, applied, hard; the test shows its
+/// own.
 template <auto panel, u32 brake, u32 released>
 f64 brake_pressure(Element*) {
   constexpr f64 applied_from = 10000, hard_from = 30000;

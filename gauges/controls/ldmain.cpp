@@ -1,5 +1,5 @@
-/// Lift-dump control panel (throttle pedestal): arming, deployment, and a three-position switch that is connected
-/// to nothing else.
+/// Lift-dump control panel (throttle pedestal): arming, deployment, and a three-position switch that is
+/// connected to nothing else.
 #include "module/catalogue.h"
 #include "module/controls.h"
 
@@ -8,7 +8,8 @@ namespace {
 
 constinit u32 selector = 0;
 
-/// Armed with the dumpers selected out they run out at once; otherwise they stay in until something deploys them.
+/// Armed with the dumpers selected out they run out at once; otherwise they stay in until something
+/// deploys them.
 void arm() {
   aircraft.lift_dump_armed = 1;
   send(event::lift_dumpers_arm);

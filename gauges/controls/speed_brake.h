@@ -22,7 +22,8 @@ inline void shut_speed_brake(f64 throttle) {
   if (aircraft.speedbrake_armed == 1 && throttle > take_off_throttle) send(event::speed_brake_toggle);
 }
 
-/// The flag falls while the lever passes the first notch of take-off thrust; a lever thrown past it skips that.
+/// The flag falls while the lever passes the first notch of take-off thrust; a lever thrown past it
+/// skips that.
 inline void disarm_speed_brake(f64 throttle) {
   constexpr f64 notch_ends = 16000;
   if (throttle > take_off_throttle && throttle < notch_ends) aircraft.speedbrake_armed = 0;

@@ -1,5 +1,5 @@
-/// Left half of the throttle pedestal: throttle 1, speed brake, parking brake, and the brakes' pressures with
-/// their test.
+/// Left half of the throttle pedestal: throttle 1, speed brake, parking brake, and the brakes'
+/// pressures with their test.
 #include "gauges/controls/brake_section.h"
 #include "gauges/controls/speed_brake.h"
 #include "gauges/controls/throttle_lever.h"

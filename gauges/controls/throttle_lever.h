@@ -23,8 +23,8 @@ constexpr u32 throttle_lever_image(f64 throttle) {
   return throttle < end_of_travel ? steps_passed(steps, throttle) : 0;
 }
 
-/// The lever follows the hand: 74 of the throttle's travel for each pixel, 170 pixels below the top of its area it
-/// is closed, and below that it pulls against its stop.
+/// The lever follows the hand: 74 of the throttle's travel for each pixel, 170 pixels below the top of
+/// its area it is closed, and below that it pulls against its stop.
 template <u32 throttle_set>
 i32 drags_throttle(PanelPoint hand, u32) {
   constexpr u32 closed_at = 170, travel_a_pixel = 74;

@@ -1,4 +1,5 @@
-/// Parking-brake light and the top temperature control's switch (throttle pedestal); nothing else reads the switch.
+/// Parking-brake light and the top temperature control's switch (throttle pedestal); nothing else reads
+/// the switch.
 #include "module/catalogue.h"
 #include "module/controls.h"
 

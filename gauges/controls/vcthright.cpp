@@ -1,5 +1,5 @@
-/// Virtual-cockpit copy of the right throttle pedestal: its two three-position switches, one of which is
-/// not connected to the other panel's.
+/// Virtual-cockpit copy of the right throttle pedestal: its two three-position switches, one of which
+/// is not connected to the other panel's.
 #include "gauges/controls/pedestal_switches.h"
 
 namespace tarnvale {

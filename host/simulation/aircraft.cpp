@@ -66,8 +66,8 @@ AirframeInputs Aircraft::surroundings() const {
   return inputs;
 }
 
-/// Armed, the dumpers run out as soon as wheels carry the aircraft and both throttles are closed. In the air a
-/// lock keeps them in.
+/// Armed, the dumpers run out as soon as wheels carry the aircraft and both throttles are closed. In
+/// the air a lock keeps them in.
 FlightControls Aircraft::governed_controls() {
   constexpr double closed_ratio = 0.01;
   const bool closed = controls.throttle[0] < closed_ratio && controls.throttle[1] < closed_ratio;

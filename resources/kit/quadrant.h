@@ -1,5 +1,5 @@
-/// The levers of the throttle pedestal as a pilot behind them sees them: each rises from its slot toward the
-/// eye, so that its grip stands above its foot, the higher the further it is pushed.
+/// The levers of the throttle pedestal as a pilot behind them sees them: each rises from its slot
+/// toward the eye, so that its grip stands above its foot, the higher the further it is pushed.
 #pragma once
 
 #include <string_view>
@@ -34,7 +34,8 @@ void lever_arm(const Canvas& canvas, Point foot, Point grip, double at_foot, dou
 void throttle_lever(const Canvas& canvas, const LeverTravel& travel, double at,
                     std::string_view number);
 
-/// What of a throttle stays on the plate: a sunk field, the slot, and the scale that the index points at.
+/// What of a throttle stays on the plate: a sunk field, the slot, and the scale that the index points
+/// at.
 void throttle_quadrant(const Canvas& canvas, const LeverTravel& travel);
 
 /// A sunk field about a slot, so far to its left and right.

@@ -81,7 +81,8 @@ struct Dial {
   List<Word, 4> words = {};
   double boss = 4.6;  ///< under the needle; 0 where the needle has a cap of its own
   double bezel = 3.4;
-  /// Where the dial's middle lies from that pivot: two needles beside each other each have their own boss.
+  /// Where the dial's middle lies from that pivot: two needles beside each other each have their own
+  /// boss.
   Point off = {};
 };
 

@@ -285,65 +285,35 @@ TEST_F(Pedestal, LiftDumperLightsTakeTheFirstCaseThatHolds) {
   constexpr int dark = 0, off = 1, armed = 2, out = 3;
   struct Row {
     const char* when;
-    u32 armed, deployed;
-    f64 ground, throttle_1, throttle_2, dumper;
-    int light;
+    u32 is_armed, deployed;
+    f64 ground, throttle_1, throttle_2, left, right;
+    int left_light, right_light;
     u32 deployed_then;
   };
-  constexpr Row rows[] = {
-      {"disarmed, whatever they do", 0, 0, 1, 0, 0, 16384, off, 0},
-      {"armed in the air", 1, 0, 0, 0, 0, 0, armed, 0},
-      {"armed on the ground, both throttles open", 1, 0, 1, 101, 101, 0, armed, 0},
-      {"armed on the ground, both closed", 1, 0, 1, 99, 99, 0, out, 1},
-      {"one open, one closed", 1, 0, 1, 101, 99, 0, dark, 0},
-      {"one open, one closed, running out", 1, 0, 1, 99, 101, 5601, out, 1},
-      {"deployed and out, disarmed", 0, 1, 0, 0, 0, 5601, out, 1},
-      {"deployed and still in", 1, 1, 1, 0, 0, 5600, dark, 1},
-      {"neither on the ground nor off it", 1, 0, 0.5, 0, 0, 0, dark, 0},
-  };
-  for (const auto& [own, number, other] :
-       {std::tuple{"left_lift_dumper_light", 326u, 327u}, {"right_lift_dumper_light", 327u, 326u}}) {
-    for (const Row& row : rows) {
-      rig::Gauge lights("Liftdump");
-      aircraft.lift_dump_armed = row.armed, aircraft.lift_dump_deployed = row.deployed;
-      host.tokens = {{60, row.ground},
-                     {128, row.throttle_1},
-                     {163, row.throttle_2},
-                     {number, row.dumper},
-                     {other, row.dumper}};
-      lights.frame();
-      // The right light comes first; once it has latched, the left one goes by its own dumper.
-      const bool second = number == 326u && row.deployed == 0 && row.deployed_then == 1;
-      EXPECT_EQ(lights.value(own), second && row.dumper <= 5600 ? dark : row.light)
-          << own << ' ' << row.when;
-      EXPECT_EQ(aircraft.lift_dump_deployed, row.deployed_then) << row.when;
-      host.tokens[other] = 0;
-      if (row.deployed_then == 1 && row.dumper > 5600) {
-        lights.frame();
-        EXPECT_EQ(lights.value(own), out) << own << " goes by its own dumper " << row.when;
-      }
-    }
-  }
-}
-
-TEST_F(Pedestal, HydraulicNeedlesKeepToTheirDials) {
-  struct Row {
-    const char *gauge, *part;
-    u32 token;
-    f64 full_scale;
-  };
-  for (const Row& row : {Row{"Fouti", "hydraulic_pressure", 185, 14500000},
-                         {"Fouti", "hydraulic_quantity", 186, 20000},
-                         {"Foflt", "hydraulic_pressure", 150, 14500000},
-                         {"Foflt", "hydraulic_quantity", 151, 20000}}) {
-    rig::Gauge dials(row.gauge);
-    for (const auto& [reading, shown] : {std::pair{-1.0, 0.0},
-                                         {0.4 * row.full_scale, 0.4 * row.full_scale},
-                                         {1.25 * row.full_scale, row.full_scale}}) {
-      host.tokens = {{row.token, reading}};
-      dials.frame();
-      EXPECT_EQ(dials.value(row.part), shown) << row.gauge << ' ' << row.part;
-    }
+  for (const Row& row : {
+           Row{"disarmed, whatever they do", 0, 0, 1, 0, 0, 16384, 16384, off, off, 0},
+           {"armed in the air", 1, 0, 0, 0, 0, 0, 0, armed, armed, 0},
+           {"armed, both throttles open", 1, 0, 1, 101, 101, 0, 0, armed, armed, 0},
+           // The right light latches first; then each goes by its own dumper.
+           {"armed, both throttles closed", 1, 0, 1, 99, 99, 0, 0, dark, out, 1},
+           {"armed, both closed, running out", 1, 0, 1, 99, 99, 5601, 0, out, out, 1},
+           {"one throttle open", 1, 0, 1, 101, 99, 0, 0, dark, dark, 0},
+           {"the other one open, running out", 1, 0, 1, 99, 101, 5601, 5601, out, out, 1},
+           {"deployed, disarmed, left one out", 0, 1, 0, 0, 0, 5601, 5600, out, dark, 1},
+           {"deployed, armed, right one out", 1, 1, 1, 0, 0, 5600, 5601, dark, out, 1},
+           {"neither on the ground nor off it", 1, 0, 0.5, 0, 0, 0, 0, dark, dark, 0},
+       }) {
+    rig::Gauge lights("Liftdump");
+    aircraft.lift_dump_armed = row.is_armed, aircraft.lift_dump_deployed = row.deployed;
+    host.tokens = {{60, row.ground},
+                   {128, row.throttle_1},
+                   {163, row.throttle_2},
+                   {326, row.left},
+                   {327, row.right}};
+    lights.frame();
+    EXPECT_EQ(lights.value("left_lift_dumper_light"), row.left_light) << row.when;
+    EXPECT_EQ(lights.value("right_lift_dumper_light"), row.right_light) << row.when;
+    EXPECT_EQ(aircraft.lift_dump_deployed, row.deployed_then) << row.when;
   }
 }
 

@@ -29,6 +29,10 @@ TEST(EngineDials, ShowTheirOwnEngineWithinTheDial) {
       {"Fuelrl", "left_tank_quantity", 304, 0, 1280},
       {"Fuelrl", "right_tank_quantity", 303, 0, 1280},
       {"Fuelc", "centre_tank_quantity", 305, 0, 830},
+      {"Fouti", "hydraulic_pressure", 185, 0, 14500000},
+      {"Fouti", "hydraulic_quantity", 186, 0, 20000},
+      {"Foflt", "hydraulic_pressure", 150, 0, 14500000},
+      {"Foflt", "hydraulic_quantity", 151, 0, 20000},
   };
   for (const Row& row : rows) {
     rig::Host host;

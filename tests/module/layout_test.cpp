@@ -102,7 +102,8 @@ bool apart(const NamedArea& a, const NamedArea& b) {
          a.corner.y + a.area->height <= b.corner.y || b.corner.y + b.area->height <= a.corner.y;
 }
 
-/// The flap lever's lower box reaches a little over the switch beside it, which is the smaller and so answers.
+/// The flap lever's lower box reaches a little over the switch beside it, which is the smaller and so
+/// answers.
 bool meets_its_neighbour(const NamedArea& a, const NamedArea& b) {
   return a.name == "flap_lever_down" && b.name.starts_with("auxiliary_switch");
 }
@@ -130,8 +131,8 @@ i32 outside(const NamedArea& area, PanelPoint at) {
   return std::max(across, down);
 }
 
-/// A picture begins in its control's box or close by; a lever under its guard or between its halves
-/// may begin a little farther off, and one that swings through a long slot far off, but no other control
+/// A picture begins in its control's box or close by; a lever under its guard or between its halves may
+/// begin a little farther off, and one that swings through a long slot far off, but no other control
 /// begins in the box.
 TEST(Boxes, LieOnTheirControls) {
   constexpr i32 near = 8, near_its_halves = 40, near_its_slot = 120;

@@ -56,7 +56,7 @@ std::string sounds_of_click() {
 }
 
 class Walk {
-  static constexpr int rounds = 60, steps_a_stimulus = 6;
+  static constexpr int rounds = 75, steps_a_stimulus = 6;
 
  public:
   Result run() {

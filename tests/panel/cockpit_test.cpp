@@ -153,7 +153,7 @@ TEST_F(OwnPanel, GaugesStandInsideTheirWindowsAndApart) {
 TEST_F(OwnPanel, HasEveryGaugeAndEveryNamedControlIsReachedAndEveryNamedPartShows) {
   EXPECT_EQ(cockpit.names().notes, std::vector<std::string>());
   EXPECT_EQ(cockpit.names().missing, "");
-  for (std::uint32_t ident = 500; ident < 509; ++ident) cockpit.panels().open(ident);
+  for (std::uint32_t ident = 500; ident <= 509; ++ident) cockpit.panels().open(ident);
   cockpit.frame();
   for (const GaugeHeader* header : module.gauges()) {
     ASSERT_NE(cockpit.find(header->name), nullptr) << header->name << " stands in no window";

@@ -173,7 +173,7 @@ TEST(Autopilot, Captures_a_radial_from_its_heading_and_follows_it_over_the_stati
                                .heading_deg = 90,
                                .along_m = -20000,
                                .right_m = -9000});
-  aircraft.nav[0].frequency_mhz = vor_stations()[0].frequency_mhz;
+  aircraft.nav[0].tuning.active_khz = 113350;
   aircraft.nav[0].course_deg = 50.0;
   send(aircraft, {"navigation_hold_on"});
   run(aircraft, 60.0);

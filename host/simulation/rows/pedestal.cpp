@@ -9,8 +9,8 @@ namespace {
 constexpr double control_full = 16384.0;
 constexpr double brake_full = 32767.0;
 
-// The pointers of both hydraulic dials end at 14,500,000, which is 4,000 psi, and their quantities are full at
-// 16384.
+// The pointers of both hydraulic dials end at 14,500,000, which is 4,000 psi, and their quantities are
+// full at 16384.
 constexpr double hydraulic_units_per_psi = 14'500'000.0 / 4000.0;
 constexpr double reservoir_full = 16384.0;
 

@@ -1,9 +1,10 @@
 /// Wheel brakes: pressure at the wheels, antiskid, and the heat of stopping.
 ///
-/// A side's two wheels share a steel heat sink of 120 kg, 60 kJ/K. Standing it loses 30 W/K, in the slipstream
-/// 3 W/K more for each m/s, so that it cools by half in 23 minutes on the ground and in three with the gear
-/// hanging out on approach. Above 450 degrees Celsius the linings fade, to 60 % of their torque at 800. Check
-/// values: stops at 36 t leave 160 degrees from 60 kt and 470 from 110 kt (half of m V^2 / 2 for each side).
+/// A side's two wheels share a steel heat sink of 120 kg, 60 kJ/K. Standing it loses 30 W/K, in the
+/// slipstream 3 W/K more for each m/s, so that it cools by half in 23 minutes on the ground and in
+/// three with the gear hanging out on approach. Above 450 degrees Celsius the linings fade, to 60 % of
+/// their torque at 800. Check values: stops at 36 t leave 160 degrees from 60 kt and 470 from 110 kt
+/// (half of m V^2 / 2 for each side).
 #pragma once
 
 #include <array>

@@ -12,7 +12,8 @@ constexpr double accumulator_l_per_psi = 0.4 / 1000.0;
 constexpr double leak_l_per_s_psi = 0.002 / rated_psi;
 constexpr double reservoir_l = 10.0;
 
-// What a jack's piston sweeps on its whole way, and what its longer side holds more than its shorter one.
+// What a jack's piston sweeps on its whole way, and what its longer side holds more than its shorter
+// one.
 constexpr double gear_leg_swept_l = 1.0, gear_leg_held_l = 0.2;
 constexpr double flaps_swept_l = 1.5, flaps_held_l = 0.5;
 constexpr double speed_brake_swept_l = 0.6, speed_brake_held_l = 0.15;

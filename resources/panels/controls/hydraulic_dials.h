@@ -12,12 +12,9 @@ inline constexpr std::string_view hydraulic_pressure = "hydraulic_pressure",
 
 /// Percent of a full reservoir. A warm one reads a little more.
 inline constexpr Print quantity_percent[] = {
-    Band{0, 30, palette::range_amber},
-    Band{70, 100, palette::range_green},
-    Marks{0, 100, 25, 5.2, 1.5},
-    Marks{0, 100, 5, 2.6, 0.7},
-    Marks{100, 120, 10, 3.6, 0.9},
-    Figures{{{0, 20}, 50, 100}, 6.4, 7.5},
+    Band{0, 30, palette::range_amber}, Band{70, 100, palette::range_green},
+    Marks{0, 100, 25, 5.2, 1.5},       Marks{0, 100, 5, 2.6, 0.7},
+    Marks{100, 120, 10, 3.6, 0.9},     Figures{{{0, 20}, 50, 100}, 6.4, 7.5},
 };
 
 constexpr std::array<Item, 6> hydraulic_items(std::string_view system) {

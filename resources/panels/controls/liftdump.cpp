@@ -6,13 +6,13 @@ namespace artwork::panels::liftdump {
 
 constexpr Lens out{palette::lamp_amber, "OUT", 7};
 
-/// Dark, off, armed, out.
+/// Dark, off, armed, out. "Off" is printed on the lens and not lit: a dead cockpit has no lights.
 constexpr Lens lenses[] = {out, {palette::lamp_white, "OFF", 7}, {palette::lamp_green, "ARM", 7}, out};
 
 /// The records begin the right picture a pixel higher than the left one; their lamps stand level.
 void draw_light(const Canvas& canvas, int image) {
   const Point middle = whole(canvas.size()).centre();
-  lamp(canvas, {middle.x - 12.5, middle.y - 12.5, 25, 25}, lenses[image], image > 0);
+  lamp(canvas, {middle.x - 12.5, middle.y - 12.5, 25, 25}, lenses[image], image > 1);
 }
 
 constexpr Item items[] = {

@@ -76,17 +76,17 @@ void draw_parking_brake(const Canvas& canvas, int image) {
 
 /// The sensors' hundreds are thousands of psi divided by ten: 160 is 1,600 psi.
 constexpr Print brake_psi[] = {
-    Marks{0, 3, 1, 4.6, 1.4},
-    Marks{0, 3, 0.5, 3.4, 0.9},
+    Marks{0, 3, 1, 4.2, 1.4},
+    Marks{0, 3, 0.5, 3.2, 0.9},
     Marks{0, 3, 0.1, 2, 0.5},
-    Figures{{0, 1, 2, 3}, 5.4, 7},
+    Figures{{0, 1, 2, 3}, 5, 6},
 };
 
 constexpr Dial brake_dial(std::string_view left, std::string_view right, double rim, double off) {
   return {.radius = 32.5,
           .scales = {{.needle = left, .print = brake_psi, .per = 100, .rim = rim},
                      {.needle = right, .print = brake_psi, .per = 100, .rim = rim}},
-          .words = {{"L R", {0, -22}, 6.5}, {"BRAKE", {0, -13}, 5.5}, {"PSI\u00d71000", {0, 19}, 5}},
+          .words = {{"L", {-5, -19}, 6.5}, {"R", {5, -19}, 6.5}, {"PSI\u00d71000", {0, 19}, 5}},
           .boss = 2.8,
           .bezel = 3,
           .off = {off, 0}};
