@@ -17,6 +17,7 @@ class CommandLine {
     app_.failure_message(CLI::FailureMessage::help);
     add_fly();
     add_run();
+    add_replay();
     add_show();
     add_list();
     add_check();
@@ -54,10 +55,14 @@ class CommandLine {
     return sub;
   }
 
-  static void add_cockpit(CLI::App* sub, CockpitOptions& options) {
+  static void add_files(CLI::App* sub, CockpitOptions& options) {
     sub->add_option("--module", options.module, "The gauge module; else the one beside this program");
     sub->add_option("--panel", options.panel,
                     "The panel configuration; else the one beside this program");
+  }
+
+  static void add_cockpit(CLI::App* sub, CockpitOptions& options) {
+    add_files(sub, options);
     sub->add_option("--rate", options.rate, "Gauge frames a second")
         ->check(CLI::Range(1.0, 240.0))
         ->capture_default_str();
@@ -88,7 +93,24 @@ class CommandLine {
         ->capture_default_str();
     sub->add_option("--png", run_.pictures, "Folder for the flow's pictures");
     sub->add_option("--wav", run_.sound, "File for the flow's sound");
+    sub->add_option("--journal", run_.journal, "Keep a journal of the flight, for replay");
     sub->add_flag("--realtime", run_.realtime, "As slow as a clock, not as fast as possible");
+  }
+
+  void add_replay() {
+    CLI::App* sub = add("replay", "Fly the journal of a session again, without a window", replay_, replay);
+    add_files(sub, replay_.cockpit);
+    sub->add_option("journal", replay_.journal, "The journal")->required();
+    CLI::Option* pictures = sub->add_option("--png", replay_.pictures,
+                                            "Folder for pictures of what is open, now and then and at the end");
+    sub->add_option("--every", replay_.picture_every, "Seconds of flight between two pictures")
+        ->check(CLI::Range(0.01, 1e6))
+        ->capture_default_str()
+        ->needs(pictures);
+    sub->add_option("--wav", replay_.sound, "File for the flight's sound");
+    sub->add_option("--flow", replay_.flow, "Write the inputs to this file, as a flow");
+    sub->add_flag("--digest", replay_.digest,
+                  "Print a number that two flights share only if they are the same to the bit");
   }
 
   void add_show() {
@@ -129,6 +151,7 @@ class CommandLine {
   CLI::App app_{"The cockpit of a twin-jet airliner", "tarnvale"};
   FlyOptions fly_;
   RunOptions run_;
+  ReplayOptions replay_;
   ShowOptions show_;
   ListOptions list_;
   CockpitOptions check_;

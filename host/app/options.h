@@ -30,7 +30,18 @@ struct RunOptions {
   std::string flow = "engine_start";
   std::filesystem::path pictures;  ///< empty: none
   std::filesystem::path sound;     ///< empty: none
+  std::filesystem::path journal;   ///< empty: none
   bool realtime = false;
+};
+
+struct ReplayOptions {
+  CockpitOptions cockpit;  ///< its rate is the journal's
+  std::filesystem::path journal;
+  std::filesystem::path pictures;  ///< folder; empty: none
+  double picture_every = 60;       ///< seconds of flight
+  std::filesystem::path sound;     ///< empty: none
+  std::filesystem::path flow;      ///< empty: none
+  bool digest = false;
 };
 
 struct ShowOptions {
