@@ -76,11 +76,11 @@ void fly_wildly(Flight& flight) {
   inputs.take(Press{"Masterbat", {47, 99}, Button::left});
   flight.frame();
   inputs.take(Release{});
-  inputs.take(Wheel{"Acdcsw", {40, 35}, 1});
+  inputs.take(Wheel{"Acdcsw", {59, 35}, 1});
   inputs.take(PlaceInFlight{{{"altitude", 3500.0}, {"airspeed", 160.0}}});
   inputs.take(MakeWeather{{{"wind_from", 340.1}, {"wind_speed", 17.3}, {"gusts", 3.0}}});
   inputs.take(OpenWindow{502});
-  inputs.take(Press{"Acdcsw", {40, 35}, Button::left});  // held: the selector goes round and round
+  inputs.take(Press{"Acdcsw", {59, 35}, Button::left});  // held: the selector goes round and round
   flight.frames(40);
   inputs.take(Release{});
   inputs.take(Fail{AircraftModel::failures().front().key});
@@ -201,14 +201,14 @@ TEST_F(Replay, BecomesAFlow) {
   inputs.take(BeginWithStartPage{});
   flight.frames(18);
   hold({"Masterbat", {47, 99}, Button::left}, 2);
-  hold({"Acdcsw", {40, 35}, Button::left}, 18);
-  inputs.take(Wheel{"Acdcsw", {40, 35}, -1});
+  hold({"Acdcsw", {59, 35}, Button::left}, 18);
+  inputs.take(Wheel{"Acdcsw", {59, 35}, -1});
   inputs.take(Fly{{{"throttle", std::vector{0.5, 0.25}}, {"gear", "up"}}});
   inputs.take(KeyEvent{event::panel_lights_toggle, 0});
   const std::string text = bytes_of(folder / "flow.lua");
   EXPECT_EQ(text.substr(text.find('\n') + 1),
             "start_page()\nwait(0.943)\nclick(\"Masterbat\", 47, 99)\nwait(0.055)\n"
-            "hold(\"Acdcsw\", 40, 35, 0.999)\nwheel(\"Acdcsw\", 40, 35, -1)\n"
+            "hold(\"Acdcsw\", 59, 35, 0.999)\nwheel(\"Acdcsw\", 59, 35, -1)\n"
             "fly{throttle = {0.5, 0.25}, gear = \"up\"}\nevent(\"panel_lights_toggle\")\n");
 }
 
