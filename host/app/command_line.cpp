@@ -5,6 +5,7 @@
 #include <string>
 
 #include "host/app/commands.h"
+#include "host/simulation/places.h"
 
 namespace host {
 namespace {
@@ -68,6 +69,17 @@ class CommandLine {
         ->capture_default_str();
   }
 
+  static void add_start(CLI::App* sub, StartOptions& options) {
+    std::vector<std::string> names;
+    for (const StartPlace& place : start_places()) names.emplace_back(place.name);
+    sub->add_option("--at", options.at, "Where the flight begins")
+        ->check(CLI::IsMember(names))
+        ->capture_default_str();
+    sub->add_option("--time", options.hours,
+                    "Local time in hours, 19.5 is half past seven in the evening")
+        ->check(CLI::Range(0.0, 24.0));
+  }
+
   void add_fly() {
     CLI::App* sub = add("fly", "Sit in the cockpit: opens a window", fly_, fly);
     add_cockpit(sub, fly_.cockpit);
@@ -77,13 +89,32 @@ class CommandLine {
     sub->add_option("--zoom", fly_.deck.zoom,
                     "Size of the panels, 1 is their own; else what fits the screen")
         ->check(CLI::Range(0.1, 8.0));
+    add_start(sub, fly_.start);
+    sub->add_flag("!--no-view", fly_.deck.outside, "Without the view out of the window (key V)");
     sub->add_option("--open", fly_.open, "Windows to open at once, by their idents");
+    sub->add_option("--controls", fly_.deck.controls,
+                    "What keys and joysticks do; else controls.cfg beside this program");
     sub->add_option("--pictures", fly_.deck.pictures, "Folder for screenshots")->capture_default_str();
-    sub->add_option("--record", fly_.deck.record,
+    sub->add_option("--record", fly_.record,
                     "Write your inputs to this file, as a flow that can be run again");
     sub->add_option("--exit-after", fly_.deck.exit_after, "Leave after so many seconds")
         ->check(CLI::NonNegativeNumber);
     sub->add_flag("--mute", fly_.mute, "Fly without sound");
+    add_journal(sub);
+  }
+
+  // A session that is taken up has begun already.
+  void add_journal(CLI::App* sub) {
+    CLI::Option* resume = sub->add_flag("--resume", fly_.resume,
+                                        "Take up the last session where it was left, or --journal's");
+    for (const char* of_a_beginning : {"--rate", "--at", "--time", "--open"})
+      resume->excludes(sub->get_option(of_a_beginning));
+    CLI::Option* none =
+        sub->add_flag("!--no-journal", fly_.keep_journal, "Keep no journal of the session");
+    sub->add_option("--journal", fly_.journal,
+                    "The session's journal; else a new one among the last sessions")
+        ->excludes(none);
+    none->excludes(resume);
   }
 
   void add_run() {
@@ -98,11 +129,12 @@ class CommandLine {
   }
 
   void add_replay() {
-    CLI::App* sub = add("replay", "Fly the journal of a session again, without a window", replay_, replay);
+    CLI::App* sub =
+        add("replay", "Fly the journal of a session again, without a window", replay_, replay);
     add_files(sub, replay_.cockpit);
     sub->add_option("journal", replay_.journal, "The journal")->required();
-    CLI::Option* pictures = sub->add_option("--png", replay_.pictures,
-                                            "Folder for pictures of what is open, now and then and at the end");
+    CLI::Option* pictures = sub->add_option(
+        "--png", replay_.pictures, "Folder for pictures of what is open, now and then and at the end");
     sub->add_option("--every", replay_.picture_every, "Seconds of flight between two pictures")
         ->check(CLI::Range(0.01, 1e6))
         ->capture_default_str()
@@ -116,10 +148,12 @@ class CommandLine {
   void add_show() {
     CLI::App* sub = add("show", "Draw gauges, in a window or into a file", show_, show);
     add_cockpit(sub, show_.cockpit);
-    sub->add_option("gauges", show_.gauges, "Names of gauges, or a window's ident")->required();
+    sub->add_option("gauges", show_.gauges, "Names of gauges, a window's ident, or outside")
+        ->required();
     sub->add_option("--zoom", show_.deck.zoom, "Size, 1 is the gauges' own")
         ->check(CLI::Range(0.1, 8.0));
     sub->add_option("--scale", show_.deck.scale, "Scale of the desktop")->check(CLI::Range(0.5, 8.0));
+    add_start(sub, show_.start);
     sub->add_flag("--areas", show_.areas, "Outline the click areas");
     sub->add_flag("--night", show_.night, "With the panel lights on");
     sub->add_option("--set", show_.readings, "token=value, by name or number: hold a token variable");
@@ -134,7 +168,8 @@ class CommandLine {
     add_cockpit(sub, list_.cockpit);
     sub->add_option("what", list_.what, "gauges, names, windows, tokens, events or sounds")
         ->required()
-        ->check(CLI::IsMember({"gauges", "names", "windows", "tokens", "events", "failures", "sounds"}));
+        ->check(
+            CLI::IsMember({"gauges", "names", "windows", "tokens", "events", "failures", "sounds"}));
     sub->add_option("gauge", list_.gauge, "The gauge whose names to list; else all");
   }
 

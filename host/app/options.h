@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -18,11 +19,22 @@ struct CockpitOptions {
   double rate = Cockpit::default_rate;  ///< gauge frames a second
 };
 
+/// Where and when a flight begins.
+struct StartOptions {
+  std::string at = "stand";     ///< as start_places() names them
+  std::optional<double> hours;  ///< local time; else ten in the morning
+};
+
 struct FlyOptions {
   CockpitOptions cockpit;
-  DeckOptions deck;
+  StartOptions start;
+  DeckOptions deck;                 ///< its controls empty: those beside this program
   std::vector<std::uint32_t> open;  ///< idents to open besides those that are open from the start
   bool mute = false;
+  std::filesystem::path record;   ///< a flow to write the person's inputs to; empty: none
+  std::filesystem::path journal;  ///< empty: one in the folder of sessions
+  bool keep_journal = true;
+  bool resume = false;  ///< the journal's session, or the last one; the rate is the session's
 };
 
 struct RunOptions {
@@ -46,8 +58,9 @@ struct ReplayOptions {
 
 struct ShowOptions {
   CockpitOptions cockpit;
-  std::vector<std::string> gauges;  ///< or the ident of one window
+  std::vector<std::string> gauges;  ///< or the ident of one window, or "outside"
   DeckOptions deck;                 ///< its zoom also for the file
+  StartOptions start;               ///< for the view
   bool areas = false;
   bool labels = false;  ///< only in a picture
   bool night = false;

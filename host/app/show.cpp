@@ -6,8 +6,10 @@
 #include "host/app/installation.h"
 #include "host/app/labelled_picture.h"
 #include "host/app/lookup.h"
+#include "host/app/start.h"
 #include "host/app/start_notes.h"
 #include "host/panel/panel_picture.h"
+#include "host/panel/panel_scene.h"
 #include "host/window/flight_deck.h"
 
 namespace host {
@@ -93,9 +95,20 @@ void write_picture(Cockpit& cockpit, const ShowOptions& options) {
             options.picture.string());
 }
 
+int show_outside(const ShowOptions& options) {
+  if (options.picture.empty())
+    throw std::runtime_error("show outside: needs --png; tarnvale fly shows it in a window");
+  AircraftModel aircraft;
+  begin(aircraft, options.start);
+  for (const std::string& reading : options.readings) hold_reading(aircraft, reading);
+  write_png(picture_of_view(aircraft, options.deck.zoom.value_or(1.0)), options.picture.string());
+  return exit_fine;
+}
+
 }  // namespace
 
 int show(const ShowOptions& options) {
+  if (options.gauges == std::vector<std::string>{std::string(view_name)}) return show_outside(options);
   const CockpitOptions located_options = located(options.cockpit);
   GaugeModule module(located_options.module);
   say_artwork_notes(module);
@@ -108,7 +121,10 @@ int show(const ShowOptions& options) {
     write_picture(cockpit, options);
     return exit_fine;
   }
-  FlightDeck deck(cockpit, options.deck);
+  DeckOptions deck_options = options.deck;
+  deck_options.outside = false;
+  CockpitInputs inputs(cockpit);
+  FlightDeck deck(inputs, deck_options);
   deck.mark_areas(options.areas);
   deck.fly();
   return exit_fine;

@@ -1,5 +1,7 @@
 #include "host/inputs/cockpit_inputs.h"
 
+#include "host/simulation/places.h"
+
 namespace host {
 namespace {
 
@@ -88,6 +90,15 @@ Answer CockpitInputs::apply(const input::MakeReady&) {
 
 Answer CockpitInputs::apply(const input::BeginWithStartPage&) {
   cockpit_.begin_with_start_page();
+  return Answer::done;
+}
+
+Answer CockpitInputs::apply(const input::StartAt& start) {
+  return done_if(start_at(cockpit_.aircraft(), start.place));
+}
+
+Answer CockpitInputs::apply(const input::SetTimeOfDay& time) {
+  cockpit_.aircraft().set_time_of_day(time.hours * 3600);
   return Answer::done;
 }
 

@@ -67,6 +67,8 @@ class CockpitInputs {
   Answer apply(const input::PlaceOnRunway& place);
   Answer apply(const input::MakeReady& ready);
   Answer apply(const input::BeginWithStartPage& begin);
+  Answer apply(const input::StartAt& start);
+  Answer apply(const input::SetTimeOfDay& time);
   Answer apply(const input::Fail& fail);
   Answer apply(const input::Repair& repair);
   Answer apply(const input::FailByChance& chance);

@@ -99,6 +99,19 @@ struct BeginWithStartPage {
   static auto parts(auto&) { return std::tie(); }
 };
 
+/// One of start_places().
+struct StartAt {
+  std::string place;
+  static constexpr std::string_view word = "start_at";
+  static auto parts(auto& of) { return std::tie(of.place); }
+};
+
+struct SetTimeOfDay {
+  double hours;  ///< local, 0 to 24
+  static constexpr std::string_view word = "set_time_of_day";
+  static auto parts(auto& of) { return std::tie(of.hours); }
+};
+
 struct Fail {
   std::uint32_t key;
   static constexpr std::string_view word = "fail";
@@ -136,7 +149,7 @@ struct ReleaseToken {
 using Input = std::variant<input::Press, input::Move, input::Release, input::Wheel, input::OpenWindow,
                            input::CloseWindow, input::KeyEvent, input::Fly, input::MakeWeather,
                            input::PlaceInFlight, input::PlaceOnRunway, input::MakeReady,
-                           input::BeginWithStartPage, input::Fail, input::Repair, input::FailByChance,
-                           input::HoldToken, input::ReleaseToken>;
+                           input::BeginWithStartPage, input::StartAt, input::SetTimeOfDay, input::Fail,
+                           input::Repair, input::FailByChance, input::HoldToken, input::ReleaseToken>;
 
 }  // namespace host

@@ -45,7 +45,8 @@ struct LuaValue {
 // What stands between a call's name and the next line.
 std::string arguments() { return "()"; }
 std::string arguments(std::uint32_t key) { return "(" + std::to_string(key) + ")"; }
-std::string arguments(double rate) { return "(" + number(rate) + ")"; }
+std::string arguments(double value) { return "(" + number(value) + ")"; }
+std::string arguments(const std::string& name) { return "(\"" + name + "\")"; }
 std::string arguments(std::uint32_t token, double value) {
   return "(" + std::to_string(token) + ", " + number(value) + ")";
 }

@@ -79,6 +79,7 @@ class Cockpit : private ServiceTarget {
   double seconds() const { return static_cast<double>(frames_) / rate_; }
 
   AircraftModel& aircraft() { return aircraft_; }
+  const AircraftModel& aircraft() const { return aircraft_; }
   PanelSet& panels() { return panels_; }
   const PanelSet& panels() const { return panels_; }
   const PanelConfig& config() const { return config_; }

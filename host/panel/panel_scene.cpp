@@ -6,6 +6,7 @@
 #include <stdexcept>
 
 #include "host/drawing/pixels.h"
+#include "host/outside/outside_view.h"
 #include "host/panel/panel_picture.h"
 
 namespace host {
@@ -84,8 +85,16 @@ std::vector<PanelSize> window_sizes(const Cockpit& cockpit, const std::vector<st
   return sizes;
 }
 
+Canvas picture_of_view(const AircraftModel& aircraft, double zoom) {
+  const auto side = [&](int size) { return std::max(1, static_cast<int>(std::lround(size * zoom))); };
+  Canvas canvas(side(view_size.width), side(view_size.height));
+  outside::OutsideView().draw(canvas, whole_of(canvas), outside::captains_sight(aircraft));
+  return canvas;
+}
+
 Canvas picture_of(const Cockpit& cockpit, const std::string& what, double zoom) {
   if (what.empty()) return draw_open_windows(cockpit, zoom);
+  if (what == view_name) return picture_of_view(cockpit.aircraft(), zoom);
   std::uint32_t ident = 0;
   const auto [end, error] = std::from_chars(what.data(), what.data() + what.size(), ident);
   if (error != std::errc{} || end != what.data() + what.size()) return draw_gauge(cockpit, what, zoom);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "host/drawing/painter.h"
@@ -22,8 +23,16 @@ std::vector<std::size_t> open_windows(const Cockpit& cockpit);
 /// The sizes of windows in panel pixels.
 std::vector<PanelSize> window_sizes(const Cockpit& cockpit, const std::vector<std::size_t>& windows);
 
+/// What a picture of the captain's view is called, and its size at zoom 1.
+inline constexpr std::string_view view_name = "outside";
+inline constexpr PanelSize view_size{1280, 360};
+
+/// Draws the captain's view out of the window. `zoom` is for the picture's size.
+Canvas picture_of_view(const AircraftModel& aircraft, double zoom);
+
 /// Draws what the cockpit shows now: everything that is open where `what` is empty, the window with
-/// that ident where it is a number, else the gauge of that name. `zoom` is picture pixels per panel
+/// that ident where it is a number, the view out of the window where it is "outside", else the gauge of
+/// that name. `zoom` is picture pixels per panel
 /// pixel. Throws std::runtime_error when there is no such window or gauge.
 Canvas picture_of(const Cockpit& cockpit, const std::string& what, double zoom);
 

@@ -12,6 +12,9 @@ namespace host {
 /// The main panels have a face for day and one for night; the other windows stay on `day`.
 enum class Face { day, night };
 
+/// The ident of the panel above which the view out of the window stands.
+inline constexpr std::uint32_t captains_panel = 500;
+
 /// The windows of one panel by their idents. An ident that no window has does nothing.
 ///
 /// A day or night ident stands for its window on that face: opening it shows the window with the

@@ -2,6 +2,7 @@
 
 #include "host/inputs/nearest.h"
 #include "host/script/flow_api.h"
+#include "host/simulation/places.h"
 
 namespace host {
 namespace {
@@ -24,6 +25,13 @@ std::uint32_t number_of(const LuaCall& call, int index, const char* what,
   if (const TableRow* row = find_row(rows, name)) return row->number;
   throw std::invalid_argument("the aircraft has no " + std::string(what) + " '" + name + "'" +
                               suggestion(rows, name));
+}
+
+void start_at_place(CockpitInputs& inputs, const std::string& name) {
+  if (inputs.take(input::StartAt{name}) != Answer::nothing) return;
+  std::vector<std::string_view> names;
+  for (const StartPlace& place : start_places()) names.push_back(place.name);
+  throw std::invalid_argument("no flight begins at '" + name + "'" + did_you_mean(name, names));
 }
 
 }  // namespace
@@ -80,6 +88,12 @@ void bind_aircraft(LuaRunner& runner, FlowSession& session) {
     const double rate = call.number(1, "failures per hour");
     if (!(rate >= 0 && rate <= 3600)) throw std::invalid_argument("failures per hour are 0 to 3600");
     inputs.take(input::FailByChance{rate});
+  });
+  runner.bind("start_at", [&](LuaCall& call) { start_at_place(inputs, call.text(1, "place")); });
+  runner.bind("set_time_of_day", [&](LuaCall& call) {
+    const double hours = call.number(1, "hours");
+    if (!(hours >= 0 && hours <= 24)) throw std::invalid_argument("argument 1 (hours) must be 0 to 24");
+    inputs.take(input::SetTimeOfDay{hours});
   });
 }
 

@@ -51,6 +51,14 @@ simulation::FlightControls& AircraftModel::controls() { return systems_->aircraf
 
 simulation::Weather& AircraftModel::weather() { return systems_->aircraft.air.weather; }
 
+const simulation::FlightState& AircraftModel::flight() const { return systems_->aircraft.flight; }
+
+double AircraftModel::time_of_day_s() const { return systems_->aircraft.clock.time_of_day_s(); }
+
+void AircraftModel::set_time_of_day(double seconds) {
+  if (seconds >= 0.0 && seconds <= simulation::day_s) systems_->aircraft.clock.set_time_of_day(seconds);
+}
+
 void AircraftModel::make_ready() { systems_->aircraft.make_ready(); }
 
 void AircraftModel::hand_over() { systems_->aircraft.hand_over(); }

@@ -9,6 +9,7 @@
 #include "host/simulation/failure_row.h"
 #include "host/simulation/flight/air_data.h"
 #include "host/simulation/flight/flight_controls.h"
+#include "host/simulation/flight/flight_state.h"
 #include "host/simulation/placement.h"
 #include "host/simulation/table_row.h"
 
@@ -39,6 +40,13 @@ class AircraftModel {
 
   /// The day's weather: pressure, temperature, wind and gusts.
   simulation::Weather& weather();
+
+  /// Where it is and how it moves.
+  const simulation::FlightState& flight() const;
+
+  /// Local time in seconds since midnight. Setting it takes 0 to 86400.
+  double time_of_day_s() const;
+  void set_time_of_day(double seconds);
 
   /// Puts both engines at a warm idle with battery and avionics on, as after a start some minutes ago.
   void make_ready();

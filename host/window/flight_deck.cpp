@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <utility>
 
 #include "platform/platform_host.h"
 
@@ -14,15 +15,19 @@ constexpr int most_late_frames = 4;        // a machine that slept does not fly 
 
 }  // namespace
 
-FlightDeck::FlightDeck(Cockpit& cockpit, const DeckOptions& options)
-    : cockpit_(cockpit),
+FlightDeck::FlightDeck(CockpitInputs& inputs, const DeckOptions& options)
+    : inputs_(inputs),
+      cockpit_(inputs.cockpit()),
       options_(options),
       scale_(options.scale.value_or(Desktop::scale())),
-      views_(cockpit, scale_, options.zoom ? std::optional(*options.zoom * scale_) : std::nullopt),
+      views_(cockpit_, scale_, options.zoom ? std::optional(*options.zoom * scale_) : std::nullopt,
+             options.outside),
       notices_(views_.main()),
-      journal_(options.record.empty() ? Journal(1.0 / cockpit.rate())
-                                      : Journal(options.record, 1.0 / cockpit.rate())),
-      hand_(cockpit, views_, journal_, scale_) {
+      hand_(inputs_, views_, scale_) {
+  if (!options.controls.empty()) {
+    controls_ = read_control_map(options.controls);
+    sticks_.emplace(controls_, hands_);
+  }
   platform_on_message(take_message, this);
 }
 
@@ -46,6 +51,7 @@ void FlightDeck::fly() {
     run_frames();
     notices_.tick(now());
     hand_.tick(now());
+    take_window_actions();
     if (views_.follow_cockpit()) hand_.reset();
     refresh();
     wait_for_event();
@@ -58,7 +64,8 @@ void FlightDeck::run_frames() {
   if (paused_) return;
   if (now() - frame_due_ > most_late_frames * period) frame_due_ = now();
   for (; now() >= frame_due_; frame_due_ += period) {
-    cockpit_.frame();
+    apply_hands();
+    inputs_.frame();
     last_frame_ = frame_due_;
   }
 }
@@ -70,8 +77,17 @@ void FlightDeck::refresh() {
   const bool moving = views_.moving() && !paused_;
   if (moving && time < picture_due_) return;
   const double blend = moving ? std::clamp((time - last_frame_) * cockpit_.rate(), 0.0, 1.0) : 1.0;
-  views_.each([&](View& view) { view.refresh(blend); });
+  turn_head(time - std::exchange(looked_, time));
+  const auto sight = paused_ ? std::nullopt : std::optional(sight_at(time));
+  views_.each([&](View& view) { view.refresh(blend, sight); });
   picture_due_ = std::max(picture_due_ + picture_time, time);
+}
+
+outside::Sight FlightDeck::sight_at(double time) const {
+  outside::Sight sight = outside::captains_sight(
+      cockpit_.aircraft(), std::clamp(time - last_frame_, 0.0, 1.0 / cockpit_.rate()));
+  sight.look = look_;
+  return sight;
 }
 
 double FlightDeck::next_deadline() const {
@@ -91,10 +107,15 @@ void FlightDeck::wait_for_event() {
 }
 
 void FlightDeck::take(const SDL_Event& event) {
+  if (sticks_) sticks_->take(event);
+  if (take_yoke(event)) return;
   switch (event.type) {
     case SDL_QUIT: leaving_ = true; break;
     case SDL_WINDOWEVENT: take_window(event.window); break;
-    case SDL_KEYDOWN: take_key(event.key.keysym); break;
+    case SDL_KEYUP: take_flying_key(event.key); break;
+    case SDL_KEYDOWN:
+      if (!take_flying_key(event.key)) take_key(event.key.keysym);
+      break;
     default: hand_.take(event, now()); break;
   }
 }
@@ -102,6 +123,7 @@ void FlightDeck::take(const SDL_Event& event) {
 void FlightDeck::take_window(const SDL_WindowEvent& event) {
   View* view = views_.find(event.windowID);
   if (!view) return;
+  if (event.event == SDL_WINDOWEVENT_FOCUS_LOST) let_go_of_keys();
   if (event.event == SDL_WINDOWEVENT_SIZE_CHANGED) {
     view->take_size();
     if (view == &views_.main()) notices_.place();

@@ -3,10 +3,12 @@
 
 #include <chrono>
 #include <filesystem>
+#include <map>
+#include <optional>
 #include <string>
 
+#include "host/hands/sticks.h"
 #include "host/window/deck_options.h"
-#include "host/window/journal.h"
 #include "host/window/mouse_hand.h"
 #include "host/window/notices.h"
 #include "host/window/views.h"
@@ -15,9 +17,8 @@ namespace host {
 
 class FlightDeck {
  public:
-  /// Opens the windows. Throws std::runtime_error when there is no display or the record cannot be
-  /// written.
-  FlightDeck(Cockpit& cockpit, const DeckOptions& options);
+  /// Opens the windows. Throws std::runtime_error when there is no display. The inputs must outlive it.
+  FlightDeck(CockpitInputs& inputs, const DeckOptions& options);
   ~FlightDeck();
   FlightDeck(const FlightDeck&) = delete;
   FlightDeck& operator=(const FlightDeck&) = delete;
@@ -39,6 +40,21 @@ class FlightDeck {
   bool take_panel_key(SDL_Keycode key);
   void run_frames();
   void refresh();
+  /// What the captain sees now: the aircraft of the last frame, flown on to this moment.
+  outside::Sight sight_at(double time) const;
+
+  // ---- Flying by hand (flight_hands.cpp) --------------------------------------------------------
+  /// Every change of the controls by the person goes through here, between two frames.
+  void apply(const FlightInputs& inputs);
+  void apply_hands();
+  bool take_flying_key(const SDL_KeyboardEvent& key);
+  bool take_yoke(const SDL_Event& event);
+  void toggle_yoke();
+  void let_go_of_keys();
+  void take_window_actions();
+  void turn_head(double seconds);
+  void show_controls_page();
+  void show_badge();
 
   void toggle_window(std::uint32_t ident);
   void toggle_torn();
@@ -46,12 +62,14 @@ class FlightDeck {
   void send(std::uint32_t event);
   void toggle_panel_lights();
   void move_fuel_lever(std::size_t engine);  ///< 1 or 2
+  void toggle_outside();
   void toggle_pause();
   void change_zoom(double factor);
   void save_picture();
   void leave_or_close_help();
   static void take_message(const char* text, const char* caption, void* context);
 
+  CockpitInputs& inputs_;  ///< whatever the person does goes through here
   Cockpit& cockpit_;
   DeckOptions options_;
   Desktop desktop_;
@@ -59,8 +77,15 @@ class FlightDeck {
   Clock::time_point start_ = Clock::now();
   Views views_;
   Notices notices_;
-  Journal journal_;
   MouseHand hand_;
+  ControlMap controls_;
+  Hands hands_;
+  std::optional<Sticks> sticks_;
+  std::map<SDL_Keycode, std::size_t> held_keys_;  ///< and what each one does
+  outside::Look look_;
+  double looked_ = 0;  ///< when the head was last turned
+  bool yoke_ = false;
+  bool controls_shown_ = false;
   double frame_due_ = 0;
   double last_frame_ = 0;
   double picture_due_ = 0;

@@ -29,6 +29,7 @@ void FlightDeck::take_key(const SDL_Keysym& key) {
     case SDLK_KP_MINUS: change_zoom(1 / 1.125); break;
     case SDLK_0:
     case SDLK_KP_0: views_.main().set_zoom(std::nullopt); break;
+    case SDLK_v: toggle_outside(); break;
     case SDLK_d: toggle_panel_lights(); break;
     case SDLK_F5: move_fuel_lever(1); break;
     case SDLK_F6: move_fuel_lever(2); break;
@@ -52,11 +53,10 @@ bool FlightDeck::take_panel_key(SDL_Keycode key) {
 }
 
 void FlightDeck::toggle_window(std::uint32_t ident) {
-  PanelSet& panels = cockpit_.panels();
-  if (!panels.find(ident)) return;
-  panels.toggle(ident);
-  journal_.call((panels.shows(ident) ? "open_window(" : "close_window(") + std::to_string(ident) + ")",
-                cockpit_.seconds());
+  if (cockpit_.panels().shows(ident))
+    inputs_.take(input::CloseWindow{ident});
+  else
+    inputs_.take(input::OpenWindow{ident});
 }
 
 void FlightDeck::toggle_torn() {
@@ -66,11 +66,7 @@ void FlightDeck::toggle_torn() {
   views_.toggle_torn(*window);
 }
 
-void FlightDeck::send(std::uint32_t event) {
-  cockpit_.aircraft().key_event(event, 0);
-  const std::string name(find_row(AircraftModel::events(), event)->name);
-  journal_.call("event(\"" + name + "\")", cockpit_.seconds());
-}
+void FlightDeck::send(std::uint32_t event) { inputs_.take(input::KeyEvent{event, 0}); }
 
 void FlightDeck::move_fuel_lever(std::size_t engine) {
   send(event::fuel_lever_toggle[engine - 1]);
@@ -84,16 +80,22 @@ void FlightDeck::toggle_panel_lights() {
   const bool night = cockpit_.panel_lights_on();
   for (const WindowConfig& window : cockpit_.config().windows) {
     const std::uint32_t face = night ? window.night_ident : window.day_ident;
-    if (face == 0 || !cockpit_.panels().shows(window.ident)) continue;
-    cockpit_.panels().open(face);
-    journal_.call("open_window(" + std::to_string(face) + ")", cockpit_.seconds());
+    if (face != 0 && cockpit_.panels().shows(window.ident)) inputs_.take(input::OpenWindow{face});
   }
+}
+
+void FlightDeck::toggle_outside() {
+  View& view = views_.main();
+  view.want_outside(!view.wants_outside());
+  if (!view.wants_outside()) return;
+  if (!cockpit_.panels().shows(captains_panel))
+    notices_.add("The view stands above the captain's panel: key 1", now());
 }
 
 void FlightDeck::toggle_pause() {
   paused_ = !paused_;
   frame_due_ = now();
-  notices_.set_badge(paused_ ? "PAUSED" : "");
+  show_badge();
 }
 
 void FlightDeck::change_zoom(double factor) {
@@ -114,7 +116,9 @@ void FlightDeck::save_picture() {
 }
 
 void FlightDeck::leave_or_close_help() {
-  if (notices_.help_shown())
+  if (controls_shown_)
+    controls_shown_ = false, show_controls_page();
+  else if (notices_.help_shown())
     notices_.toggle_help();
   else
     leaving_ = true;

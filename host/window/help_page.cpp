@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <array>
+#include <span>
 #include <string_view>
 
 #include "host/window/palette.h"
@@ -13,7 +14,7 @@ struct HelpRow {
   std::string_view action;  ///< empty: a heading
 };
 
-constexpr std::array rows{
+constexpr std::array cockpit_rows{
     HelpRow{"Panels", ""},
     HelpRow{"1  2  3  4", "Captain, First officer, Overhead, Pedestal"},
     HelpRow{"5  6  7  8", "Throttle, Pushback, Utility, GPS"},
@@ -27,6 +28,7 @@ constexpr std::array rows{
     HelpRow{"Wheel", "Turn a knob; elsewhere scroll"},
     HelpRow{"Drag", "Move a lever; elsewhere move the view"},
     HelpRow{"Flight", ""},
+    HelpRow{"V", "View out of the window, above the captain's panel"},
     HelpRow{"D", "Panel lights: day and night"},
     HelpRow{"F5  F6", "Fuel levers of engines 1 and 2"},
     HelpRow{"P", "Pause"},
@@ -35,20 +37,36 @@ constexpr std::array rows{
     HelpRow{"Q  Esc", "Leave the cockpit"},
 };
 
+// As the file of controls beside the program has them.
+constexpr std::array flying_rows{
+    HelpRow{"Flying by hand", ""},
+    HelpRow{"Arrows  8 2 4 6", "Stick; keypad 5 or Backspace centres it"},
+    HelpRow{"M", "The mouse is the stick, its wheel the throttles"},
+    HelpRow{"Z  X  Pad 0 Enter", "Pedals"},
+    HelpRow{"Ins  Del  Ctrl ← →", "Tiller"},
+    HelpRow{"PgUp  PgDn  F3  F2", "Throttles; F4 full, Shift+F2 idle"},
+    HelpRow{"Home  End  7  1", "Trim nose down, nose up"},
+    HelpRow{"Space  .", "Brakes; with Ctrl the parking brake"},
+    HelpRow{"U  I  F7  F8", "Flaps a detent up, down"},
+    HelpRow{"G", "Gear"},
+    HelpRow{"B  Shift+B", "Speed brake, lift dumpers"},
+    HelpRow{"Shift+Arrows", "Look to the side, up and down"},
+    HelpRow{"J", "What joysticks and keys do, live"},
+};
+
 using namespace palette;
 
-// The page is drawn in units of its own: 560 wide, as high as its rows.
-constexpr double page_width = 560, row_height = 25, heading_gap = 12, top = 62, bottom = 22;
+// The page is drawn in units of its own: two columns, as high as the rows of the first.
+constexpr double column_width = 540, row_height = 25, heading_gap = 12, top = 62, bottom = 22;
 
 double page_height() {
   const auto headings =
-      std::ranges::count_if(rows, [](const HelpRow& row) { return row.action.empty(); });
-  return top + row_height * rows.size() + heading_gap * static_cast<double>(headings) + bottom;
+      std::ranges::count_if(cockpit_rows, [](const HelpRow& row) { return row.action.empty(); });
+  return top + row_height * cockpit_rows.size() + heading_gap * static_cast<double>(headings) + bottom;
 }
 
 // Keys stand apart by two blanks, each on its own cap.
-void draw_keys(Sketch& sketch, std::string_view keys, double y, double unit) {
-  double x = 28 * unit;
+void draw_keys(Sketch& sketch, std::string_view keys, double x, double y, double unit) {
   while (!keys.empty()) {
     const std::size_t end = std::min(keys.find("  "), keys.size());
     const std::string key(keys.substr(0, end));
@@ -63,28 +81,33 @@ void draw_keys(Sketch& sketch, std::string_view keys, double y, double unit) {
   }
 }
 
-}  // namespace
-
-Overlay draw_help(int width, int height, double scale) {
-  const double fitting = std::min(width * 0.96 / page_width, height * 0.96 / page_height());
-  const double unit = std::max(0.4, std::min(scale, fitting));
-  const double wide = page_width * unit, high = page_height() * unit;
-  Sketch sketch(static_cast<int>(wide), static_cast<int>(high));
-  sketch.rounded_box(0, 0, wide, high, 10 * unit, paper);
-  sketch.box_outline(0, 0, wide, high, 10 * unit, unit, edge);
-  sketch.text("Tarnvale", 28 * unit, 18 * unit, 30 * unit, true, ink);
+void draw_column(Sketch& sketch, std::span<const HelpRow> rows, double x, double width_of_keys, double unit) {
   double y = top * unit;
   for (const HelpRow& row : rows) {
     if (row.action.empty()) {
       y += heading_gap * unit;
-      sketch.text(std::string(row.keys), 28 * unit, y, 18 * unit, true, accent);
-      sketch.line(28 * unit, y + 22 * unit, wide - 28 * unit, y + 22 * unit, unit, edge);
+      sketch.text(std::string(row.keys), x, y, 18 * unit, true, accent);
+      sketch.line(x, y + 22 * unit, x + (column_width - 56) * unit, y + 22 * unit, unit, edge);
     } else {
-      draw_keys(sketch, row.keys, y, unit);
-      sketch.text(std::string(row.action), 170 * unit, y + 3 * unit, 18 * unit, false, ink);
+      draw_keys(sketch, row.keys, x, y, unit);
+      sketch.text(std::string(row.action), x + width_of_keys * unit, y + 3 * unit, 18 * unit, false, ink);
     }
     y += row_height * unit;
   }
+}
+
+}  // namespace
+
+Overlay draw_help(int width, int height, double scale) {
+  const double fitting = std::min(width * 0.96 / (2 * column_width), height * 0.96 / page_height());
+  const double unit = std::max(0.4, std::min(scale, fitting));
+  const double wide = 2 * column_width * unit, high = page_height() * unit;
+  Sketch sketch(static_cast<int>(wide), static_cast<int>(high));
+  sketch.rounded_box(0, 0, wide, high, 10 * unit, paper);
+  sketch.box_outline(0, 0, wide, high, 10 * unit, unit, edge);
+  sketch.text("Tarnvale", 28 * unit, 18 * unit, 30 * unit, true, ink);
+  draw_column(sketch, cockpit_rows, 28 * unit, 142, unit);
+  draw_column(sketch, flying_rows, (28 + column_width) * unit, 190, unit);
   return sketch.finish();
 }
 

@@ -49,6 +49,9 @@ Desktop::Desktop() {
   SDL_SetHint(SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1");  // a switch on another window works at once
   x11_forgive_late_events();
   if (SDL_Init(SDL_INIT_VIDEO) != 0) no_display(SDL_GetError());
+  // Without joysticks one still flies; they are heard while another window has the keyboard, too.
+  SDL_SetHint(SDL_HINT_JOYSTICK_ALLOW_BACKGROUND_EVENTS, "1");
+  SDL_InitSubSystem(SDL_INIT_GAMECONTROLLER);
   SDL_EnableScreenSaver();
   // Plain copies of changed rectangles: a picture in a texture would go to the screen as a whole.
   if (on_x11()) SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "host/hands/sticks.h"
 #include "host/window/sketch.h"
 
 namespace host {
@@ -29,6 +30,17 @@ Overlay draw_badge(const std::string& text, double scale);
 
 /// The page with all keys; smaller where `width` and `height` leave less room.
 Overlay draw_help(int width, int height, double scale);
+
+/// What the page of controls shows.
+struct ControlsState {
+  const ControlMap& map;
+  const Hands& hands;
+  const std::vector<StickState>& sticks;
+  const simulation::FlightControls& controls;
+};
+
+/// The page that shows live where the aircraft's controls stand, and what keys and joysticks do.
+Overlay draw_controls_page(const ControlsState& state, int width, int height, double scale);
 
 /// A pointer with a plus or a minus, for areas that turn a value up or down. Square.
 Overlay draw_turn_cursor(bool increase, double scale);

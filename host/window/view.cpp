@@ -6,6 +6,7 @@
 #include "host/drawing/pixels.h"
 #include "host/panel/panel_scene.h"
 #include "host/window/compose.h"
+#include "host/window/height_above.h"
 
 namespace host {
 namespace {
@@ -42,13 +43,32 @@ void View::mark_areas(bool marked) {
   for (Panel& panel : panels_) panel.picture.mark_areas(marked);
 }
 
+void View::want_outside(bool wanted) {
+  layout_old_ = layout_old_ || wanted != outside_wanted_;
+  outside_wanted_ = wanted;
+}
+
+// Takes the view's height off the area of the panels.
+void View::make_room_outside(const std::vector<PanelSize>& sizes, LayoutArea& area) {
+  const bool captain = std::ranges::any_of(windows_, [&](std::size_t window) {
+    return cockpit_.config().windows[window].ident == captains_panel;
+  });
+  const int height = outside_wanted_ && captain ? height_above(sizes, area, zoom_, scale()) : 0;
+  area.height -= height;
+  outside_ = {0, 0, area.width, height};
+}
+
 void View::relayout() {
   layout_old_ = false;
   const PanelSize size = screen_.size();
   const int caption = kind_ == Kind::main ? caption_height(scale()) : 0;
   const int gap = kind_ == Kind::main ? static_cast<int>(std::lround(6 * scale())) : 0;
-  layout_ =
-      arrange(window_sizes(cockpit_, windows_), {size.width, size.height, gap, caption}, zoom_, 8.0);
+  LayoutArea area{size.width, size.height, gap, caption};
+  const std::vector<PanelSize> sizes = window_sizes(cockpit_, windows_);
+  make_room_outside(sizes, area);
+  layout_ = arrange(sizes, area, zoom_, 8.0);
+  layout_.height += outside_.height;
+  for (Rect& place : layout_.places) place.y += outside_.height;
   panels_.clear();
   for (std::size_t i = 0; i < windows_.size(); ++i) {
     const WindowConfig& window = cockpit_.config().windows[windows_[i]];
@@ -108,9 +128,20 @@ void View::draw_panels(double blend) {
   }
 }
 
-bool View::refresh(double blend) {
+void View::draw_outside(const std::optional<outside::Sight>& sight) {
+  if (sight) sight_ = *sight;
+  const bool resized =
+      outside_picture_.width != outside_.width || outside_picture_.height != outside_.height;
+  if (!shows_outside() || (!sight && !resized)) return;
+  if (resized) outside_picture_ = Canvas(outside_.width, outside_.height);
+  outside_view_.draw(outside_picture_, whole_of(outside_picture_), sight_);
+  change(outside_);
+}
+
+bool View::refresh(double blend, const std::optional<outside::Sight>& sight) {
   if (layout_old_) relayout();
   draw_panels(blend);
+  draw_outside(sight);
   if (all_changed_) changed_ = {{0, 0, screen_.size().width, screen_.size().height}};
   all_changed_ = false;
   if (changed_.empty()) return false;
@@ -128,11 +159,13 @@ void View::compose(const Rect& rect) {
     copy_within(canvas, panel.picture.canvas(), place.x, place.y, rect);
     blend_within(canvas, panel.caption, panel.caption.x + scroll_.x, panel.caption.y + scroll_.y, rect);
   }
+  if (shows_outside()) copy_within(canvas, outside_picture_, outside_.x, outside_.y, rect);
   for (const auto& layer : layers_)
     if (layer) blend_within(canvas, *layer, layer->x, layer->y, rect);
 }
 
 std::optional<ViewHit> View::hit(int x, int y) const {
+  if (overlap(outside_, {x, y, 1, 1})) return std::nullopt;
   const Rect pixel{x - scroll_.x, y - scroll_.y, 1, 1};
   for (std::size_t i = 0; i < panels_.size(); ++i) {
     const Panel& panel = panels_[i];

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "host/outside/outside_view.h"
 #include "host/panel/layout.h"
 #include "host/panel/panel_picture.h"
 #include "host/window/screen_window.h"
@@ -14,7 +15,7 @@
 namespace host {
 
 /// What the program lays over the panels, from the lowest to the topmost.
-enum class Layer { badge, note, tooltip, help };
+enum class Layer { badge, note, tooltip, controls, help };
 
 /// What lies under a pixel of a view.
 struct ViewHit {
@@ -61,8 +62,15 @@ class View {
   /// Whether a gauge in it has moved in the last frame.
   bool moving() const;
 
-  /// Draws and presents what has changed. Returns whether anything had.
-  bool refresh(double blend);
+  /// Whether the view out of the window is wanted above the captain's panel, and whether it stands there:
+  /// it does where that panel is shown and there is room.
+  void want_outside(bool wanted);
+  bool wants_outside() const { return outside_wanted_; }
+  bool shows_outside() const { return outside_.height > 0; }
+
+  /// Draws and presents what has changed. `sight` is what the captain sees now; empty: as before. Returns
+  /// whether anything had changed.
+  bool refresh(double blend, const std::optional<outside::Sight>& sight);
 
   std::optional<ViewHit> hit(int x, int y) const;
 
@@ -77,6 +85,8 @@ class View {
   };
 
   void relayout();
+  void make_room_outside(const std::vector<PanelSize>& sizes, LayoutArea& area);
+  void draw_outside(const std::optional<outside::Sight>& sight);
   void limit_scroll();
   Rect on_screen(const Rect& rect) const;
   void draw_panels(double blend);
@@ -92,7 +102,12 @@ class View {
   Layout layout_;
   PanelPoint scroll_{};
   std::vector<Panel> panels_;
-  std::array<std::optional<Overlay>, 4> layers_;
+  bool outside_wanted_ = false;
+  Rect outside_;  ///< of the screen; empty where the view does not stand
+  Canvas outside_picture_;
+  outside::Sight sight_;
+  outside::OutsideView outside_view_;
+  std::array<std::optional<Overlay>, 5> layers_;
   std::vector<Rect> changed_;
   bool layout_old_ = true;
   bool all_changed_ = true;

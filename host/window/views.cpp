@@ -10,7 +10,7 @@ namespace {
 
 constexpr double screen_share = 0.96;  // leaves room for the desktop's own frames
 
-PanelSize first_size(const Cockpit& cockpit, double scale, std::optional<double> zoom) {
+PanelSize first_size(const Cockpit& cockpit, double scale, std::optional<double> zoom, bool with_view) {
   const PanelSize screen = Desktop::usable_size();
   const std::vector<PanelSize> sizes = window_sizes(cockpit, open_windows(cockpit));
   const int gap = static_cast<int>(std::lround(6 * scale));
@@ -18,6 +18,7 @@ PanelSize first_size(const Cockpit& cockpit, double scale, std::optional<double>
                         static_cast<int>(screen.height * screen_share), gap, caption_height(scale)};
   const Layout layout = arrange(sizes, area, zoom);
   if (sizes.empty()) return {1024, 640};
+  if (with_view) return {area.width, area.height};
   int left = layout.width, right = 0, top = layout.height, bottom = 0;
   for (const Rect& place : layout.places) {
     left = std::min(left, place.x);
@@ -31,13 +32,15 @@ PanelSize first_size(const Cockpit& cockpit, double scale, std::optional<double>
 
 }  // namespace
 
-Views::Views(Cockpit& cockpit, double scale, std::optional<double> zoom)
+Views::Views(Cockpit& cockpit, double scale, std::optional<double> zoom, bool outside)
     : cockpit_(cockpit),
       scale_(scale),
-      main_(std::make_unique<View>(cockpit, View::Kind::main, "Tarnvale",
-                                   first_size(cockpit, scale, zoom), scale)),
+      main_(std::make_unique<View>(
+          cockpit, View::Kind::main, "Tarnvale",
+          first_size(cockpit, scale, zoom, outside && cockpit.panels().find(captains_panel)), scale)),
       changes_(cockpit.panels().changes()) {
   main_->set_zoom(zoom);
+  main_->want_outside(outside);
   arrange_panels();
 }
 
@@ -74,7 +77,7 @@ void Views::toggle_torn(std::size_t window) {
 }
 
 bool Views::moving() const {
-  return main_->moving() ||
+  return main_->moving() || main_->shows_outside() ||
          std::ranges::any_of(torn_, [](const auto& entry) { return entry.second->moving(); });
 }
 

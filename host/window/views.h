@@ -14,8 +14,9 @@ namespace host {
 class Views {
  public:
   /// `scale` is the desktop's. The main view opens as large as the panels fit the screen, or at
-  /// `zoom` screen pixels per panel pixel.
-  Views(Cockpit& cockpit, double scale, std::optional<double> zoom);
+  /// `zoom` screen pixels per panel pixel; over all of the screen where the captain's
+  /// panel can have the view `outside` above it.
+  Views(Cockpit& cockpit, double scale, std::optional<double> zoom, bool outside);
 
   View& main() { return *main_; }
 

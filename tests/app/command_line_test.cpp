@@ -95,6 +95,8 @@ INSTANTIATE_TEST_SUITE_P(
         Case{"show_unknown_token", "show Ctr --set batery=1 --png @x.png", 1,
              "there is no token 'batery'"},
         Case{"show_unwritable", "show Ctr --png @gone/x.png", 1, "gone/x.png"},
+        Case{"show_outside_on_a_screen", "show outside", 1, "needs --png"},
+        Case{"show_outside_nowhere", "show outside --at nowhere --png @x.png", 2, "--at"},
         Case{"show_unknown_window", "show 777 --png @x.png", 1, "there is no window 777"},
         Case{"labels_on_a_screen", "show Ctr --labels", 2, "--labels requires --png"},
         Case{"names_of_unknown", "list names Masterbatt", 1, "Tarnvale.GAU has no gauge 'Masterbatt'"},

@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "host/window/compose.h"
-#include "host/window/journal.h"
+#include "host/window/height_above.h"
 #include "host/window/ui_pictures.h"
 #include "host/window/x11_desktop.h"
 #include "tests/app/program.h"
@@ -49,34 +49,29 @@ TEST(Caption, HasItsButtonsAtTheRightEnd) {
   EXPECT_EQ(caption_part(260, 300, 2.0), CaptionPart::close);
 }
 
-TEST(Journal, WritesAFlow) {
-  const TempFolder folder;
-  {
-    Journal journal(folder / "flight.lua", 0.05);
-    journal.press("Masterbat", {47, 99}, MOUSE_LEFT, false, 2.0);
-    journal.release(2.1);
-    journal.press("Clock", {65, 75}, MOUSE_RIGHT, false, 3.0);
-    journal.release(4.5);
-    journal.press("Thleft", {110, 200}, MOUSE_LEFT, true, 5.0);
-    journal.move({112, 240});
-    journal.release(6.0);
-    journal.press("Thleft", {110, 200}, MOUSE_LEFT, true, 6.0);
-    journal.release(6.0);
-    journal.wheel("Acdcsw", {40, 35}, -2, 6.05);
-    journal.call("open_window(502)", 7.05);
+TEST(HeightAbove, LeavesThePanelsLegible) {
+  const PanelSize captain{898, 762}, overhead{1263, 694};
+  const struct {
+    const char* what;
+    std::vector<PanelSize> panels;
+    int width, height;
+    std::optional<double> zoom;
+    double scale;
+    int least, most;
+  } cases[] = {
+      {"a large screen", {captain}, 1920, 1080, {}, 1, 370, 420},
+      {"two panels that leave height", {captain, overhead}, 1920, 1080, {}, 1, 370, 500},
+      {"a laptop's screen", {captain}, 1280, 720, {}, 1, 100, 200},
+      {"a small window", {captain}, 800, 600, {}, 1, 0, 0},
+      {"a dense screen", {captain}, 3840, 2160, {}, 2, 740, 840},
+      {"a zoom that leaves room", {captain}, 1920, 1200, 1.0, 1, 350, 420},
+      {"a zoom that leaves none", {captain}, 1920, 1080, 1.3, 1, 0, 0},
+  };
+  for (const auto& [what, panels, width, height, zoom, scale, least, most] : cases) {
+    const int above = height_above(panels, {width, height, 6, 22}, zoom, scale);
+    EXPECT_GE(above, least) << what;
+    EXPECT_LE(above, most) << what;
   }
-  EXPECT_EQ(file_text(folder / "flight.lua"),
-            "-- Recorded in the cockpit; fly it again with: tarnvale run FILE\n"
-            "wait(1.949)\nclick(\"Masterbat\", 47, 99)\n"
-            "wait(0.949)\nright_hold(\"Clock\", 65, 75, 1.499)\n"
-            "wait(0.499)\ndrag(\"Thleft\", 110, 200, 112, 240, 1.000)\n"
-            "click(\"Thleft\", 110, 200)\n"
-            "wheel(\"Acdcsw\", 40, 35, -2)\n"
-            "wait(0.899)\nopen_window(502)\n");
-}
-
-TEST(Journal, NamesAFileThatCannotBeWritten) {
-  EXPECT_THROW(Journal("/no/such/folder/flight.lua", 0.05), std::runtime_error);
 }
 
 }  // namespace

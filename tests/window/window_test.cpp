@@ -169,6 +169,32 @@ TEST_F(InAWindow, TheFuelLeversMoveWithTheirKeys) {
   EXPECT_EQ(leave(), 0);
 }
 
+// The captain's panel alone on a screen of a size on which the view has room.
+class CaptainInAWindow : public InAWindow {
+ protected:
+  CaptainInAWindow()
+      : InAWindow({.panel = "[Window00]\nident=500\nsize_mm=560,320\nvisible=1\n"
+                            "background_color=90,100,110\ngauge00=Tarnvale!Masterbat, 0,0\n",
+                   .module = ""}) {}
+
+  // The colour in the middle of the main window, `down` pixels below its upper edge.
+  unsigned look_out(int down) { return look(setting.size.width / 2, down - place.y); }
+  static bool is_sky(unsigned color) {
+    return (color & 255) > 150 && (color & 255) > (color >> 16) + 20;
+  }
+};
+
+TEST_F(CaptainInAWindow, TheViewStandsAboveThePanelAndGoesWithItsKey) {
+  EXPECT_TRUE(is_sky(look_out(20)));
+  screen->hands("key v");
+  EXPECT_TRUE(eventually([&] { return !is_sky(look_out(20)); })) << "the view stays";
+  screen->hands("key v");
+  EXPECT_TRUE(eventually([&] { return is_sky(look_out(20)); })) << "the view does not come back";
+  screen->hands("key 1");
+  EXPECT_TRUE(eventually([&] { return !is_sky(look_out(20)); })) << "the view stays without the panel";
+  EXPECT_EQ(leave(), 0);
+}
+
 TEST_F(InAWindow, PanelsOpenWithKeysAndTearOff) {
   screen->hands("key 6");
   EXPECT_TRUE(recorded("open_window(505)"));

@@ -17,7 +17,7 @@ void toggle(Aircraft& aircraft, std::uint32_t) {
 constexpr TokenRow tokens[] = {
     {{token::panel_lights, "panel_lights", "0/1"}, lit<&Lights::panel>},
     {{11, "strobe_lights", "0/1"}, lit<&Lights::strobe>},
-    {{14, "landing_lights", "0/1"}, lit<&Lights::landing>},
+    {{token::landing_lights, "landing_lights", "0/1"}, lit<&Lights::landing>},
     {{368, "beacon_lights", "0/1"}, lit<&Lights::beacon>},
     {{369, "navigation_lights", "0/1"}, lit<&Lights::navigation>},
     {{619, "taxi_lights", "0/1"}, lit<&Lights::taxi>},
