@@ -45,7 +45,8 @@ KeyBinding read_key(std::string_view text, std::size_t action) {
   std::string_view name = text;
   for (bool more = true; more;) {
     more = false;
-    for (auto [prefix, flag] : {std::pair{std::string_view("Ctrl+"), &binding.ctrl}, {"Shift+", &binding.shift}})
+    for (auto [prefix, flag] :
+         {std::pair{std::string_view("Ctrl+"), &binding.ctrl}, {"Shift+", &binding.shift}})
       if (name.starts_with(prefix) && name.size() > prefix.size()) {
         *flag = more = true;
         name.remove_prefix(prefix.size());
@@ -95,7 +96,8 @@ AxisBinding read_axis(std::string_view text, std::size_t row, bool controller) {
     } else if (words[next] == "dead" && next + 1 < words.size()) {
       binding.dead = whole_number(words[++next], 0, 90) / 100.0;
     } else {
-      throw LineError("behind an axis stand 'inverted' and 'dead' with per cent, not " + quoted(words[next]));
+      throw LineError("behind an axis stand 'inverted' and 'dead' with per cent, not " +
+                      quoted(words[next]));
     }
   }
   return binding;
@@ -123,7 +125,8 @@ class Reader {
     in_keys_ = title == "keys";
     in_device_ = kind == "joystick" || kind == "controller";
     if (!in_keys_ && !in_device_)
-      throw LineError("a section is [keys], [joystick] or [controller], not [" + std::string(title) + "]");
+      throw LineError("a section is [keys], [joystick] or [controller], not [" + std::string(title) +
+                      "]");
     if (in_device_) map_.devices.push_back({kind == "controller", std::string(name), {}, {}});
   }
 
@@ -132,10 +135,14 @@ class Reader {
     const auto action = place_of(action_table(), name);
     const auto axis = place_of(axis_table(), name);
     if (!action && !axis) throw LineError("there is no control " + quoted(name));
-    for (const std::string_view part : alternatives(value)) take_part(action, axis, part);
+    for (const std::string_view part : alternatives(value)) {
+      if (part.empty()) throw LineError("nothing stands behind " + quoted(name));
+      take_part(action, axis, part);
+    }
   }
 
-  void take_part(std::optional<std::size_t> action, std::optional<std::size_t> axis, std::string_view part) {
+  void take_part(std::optional<std::size_t> action, std::optional<std::size_t> axis,
+                 std::string_view part) {
     if (in_keys_) {
       if (!action) throw LineError("an axis moves that, not a key");
       return add_key(read_key(part, *action));
@@ -144,7 +151,8 @@ class Reader {
     // Brakes can be an axis or a button: what stands there decides.
     const bool is_axis =
         axis && (!action || part.starts_with("axis") ||
-                 (device.controller && SDL_GameControllerGetAxisFromString(std::string(words_in(part)[0]).c_str()) >= 0));
+                 (device.controller &&
+                  SDL_GameControllerGetAxisFromString(std::string(words_in(part)[0]).c_str()) >= 0));
     if (is_axis)
       device.axes.push_back(read_axis(part, *axis, device.controller));
     else

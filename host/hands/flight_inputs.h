@@ -45,7 +45,9 @@ const ControlRow& row_of(Control control);
 class FlightInputs {
  public:
   void set(Control control, double position);
-  std::optional<double> get(Control control) const { return positions_[static_cast<std::size_t>(control)]; }
+  std::optional<double> get(Control control) const {
+    return positions_[static_cast<std::size_t>(control)];
+  }
   bool empty() const;
   bool operator==(const FlightInputs&) const = default;
 

@@ -67,8 +67,8 @@ void Hands::follow_spring(Control control, double seconds, const simulation::Fli
   const bool outward = wish != 0.0;
   spring.held_s = outward ? spring.held_s + seconds : 0.0;
   const bool reversing = outward && spring.position * wish < 0.0;
-  spring.position =
-      toward(spring.position, wish, seconds * (outward && !reversing ? out_rate(spring.held_s) : back_rate));
+  spring.position = toward(spring.position, wish,
+                           seconds * (outward && !reversing ? out_rate(spring.held_s) : back_rate));
   spring.active = outward || spring.position != 0.0;
   inputs.set(control, spring.position);
 }
@@ -79,13 +79,16 @@ void Hands::follow_ramps(double seconds, const simulation::FlightControls& now, 
     if (row.motion != Motion::ramp || held_[i] == 0) continue;
     for (const auto& control : row.controls)
       if (control)
-        inputs.set(*control, inputs.get(*control).value_or(position_of(now, *control)) + row.amount * seconds);
+        inputs.set(*control,
+                   inputs.get(*control).value_or(position_of(now, *control)) + row.amount * seconds);
   }
 }
 
-void Hands::press_once(const ActionRow& row, const simulation::FlightControls& now, FlightInputs& inputs) {
+void Hands::press_once(const ActionRow& row, const simulation::FlightControls& now,
+                       FlightInputs& inputs) {
   if (row.motion == Motion::set && !row.controls[0])  // the stick's middle
-    for (const Control control : {Control::elevator, Control::aileron, Control::rudder, Control::tiller}) {
+    for (const Control control :
+         {Control::elevator, Control::aileron, Control::rudder, Control::tiller}) {
       springs_[static_cast<std::size_t>(control)] = {};
       inputs.set(control, 0.0);
     }
@@ -100,9 +103,11 @@ void Hands::press_once(const ActionRow& row, const simulation::FlightControls& n
 
 FlightInputs Hands::frame(double seconds, const simulation::FlightControls& now) {
   FlightInputs inputs = std::exchange(moved_, {});
-  for (std::size_t i = 0; i < control_count; ++i) follow_spring(static_cast<Control>(i), seconds, now, inputs);
+  for (std::size_t i = 0; i < control_count; ++i)
+    follow_spring(static_cast<Control>(i), seconds, now, inputs);
   follow_ramps(seconds, now, inputs);
-  for (const std::size_t action : std::exchange(pressed_, {})) press_once(action_table()[action], now, inputs);
+  for (const std::size_t action : std::exchange(pressed_, {}))
+    press_once(action_table()[action], now, inputs);
   return inputs;
 }
 

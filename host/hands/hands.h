@@ -56,10 +56,10 @@ class Hands {
                      FlightInputs& inputs);
   void follow_ramps(double seconds, const simulation::FlightControls& now, FlightInputs& inputs);
 
-  std::vector<int> held_;            ///< of each action: by how many keys
+  std::vector<int> held_;             ///< of each action: by how many keys
   std::vector<std::size_t> pressed_;  ///< since the last frame
   std::vector<WindowAction> for_window_;
-  FlightInputs moved_;               ///< by axes since the last frame
+  FlightInputs moved_;  ///< by axes since the last frame
   std::array<Spring, control_count> springs_;
 };
 

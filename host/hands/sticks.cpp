@@ -23,14 +23,16 @@ double position(const AxisBinding& binding, bool trigger, int value) {
 }
 
 bool is_trigger(bool controller, int axis) {
-  return controller && (axis == SDL_CONTROLLER_AXIS_TRIGGERLEFT || axis == SDL_CONTROLLER_AXIS_TRIGGERRIGHT);
+  return controller &&
+         (axis == SDL_CONTROLLER_AXIS_TRIGGERLEFT || axis == SDL_CONTROLLER_AXIS_TRIGGERRIGHT);
 }
 
 std::string axis_words(const DeviceMap* map, int axis) {
   std::string words;
   if (!map) return words;
   for (const AxisBinding& binding : map->axes)
-    if (binding.axis == axis) words += (words.empty() ? "" : ", ") + std::string(axis_table()[binding.row].words);
+    if (binding.axis == axis)
+      words += (words.empty() ? "" : ", ") + std::string(axis_table()[binding.row].words);
   return words;
 }
 
@@ -105,17 +107,21 @@ void Sticks::take(const SDL_Event& event) {
     case SDL_JOYAXISMOTION:
       take_axis(device(event.jaxis.which, false), event.jaxis.axis, event.jaxis.value);
       break;
-    case SDL_JOYHATMOTION: take_hat(device(event.jhat.which, false), event.jhat.hat, event.jhat.value); break;
+    case SDL_JOYHATMOTION:
+      take_hat(device(event.jhat.which, false), event.jhat.hat, event.jhat.value);
+      break;
     case SDL_JOYBUTTONDOWN:
     case SDL_JOYBUTTONUP:
-      take_button(device(event.jbutton.which, false), {event.jbutton.button, 0}, event.jbutton.state != 0);
+      take_button(device(event.jbutton.which, false), {event.jbutton.button, 0},
+                  event.jbutton.state != 0);
       break;
     case SDL_CONTROLLERAXISMOTION:
       take_axis(device(event.caxis.which, true), event.caxis.axis, event.caxis.value);
       break;
     case SDL_CONTROLLERBUTTONDOWN:
     case SDL_CONTROLLERBUTTONUP:
-      take_button(device(event.cbutton.which, true), {event.cbutton.button, 0}, event.cbutton.state != 0);
+      take_button(device(event.cbutton.which, true), {event.cbutton.button, 0},
+                  event.cbutton.state != 0);
       break;
     default: break;
   }
@@ -145,12 +151,15 @@ std::vector<StickState> Sticks::states() const {
     }
     SDL_Joystick* stick = device.stick.get();
     for (int i = 0; i < SDL_JoystickNumAxes(stick); ++i)
-      part("axis " + std::to_string(i), axis_words(device.map, i), ratio(SDL_JoystickGetAxis(stick, i)), true);
+      part("axis " + std::to_string(i), axis_words(device.map, i), ratio(SDL_JoystickGetAxis(stick, i)),
+           true);
     for (int i = 0; i < SDL_JoystickNumButtons(stick); ++i)
-      part("button " + std::to_string(i), button_words(device.map, {i, 0}), SDL_JoystickGetButton(stick, i), false);
+      part("button " + std::to_string(i), button_words(device.map, {i, 0}),
+           SDL_JoystickGetButton(stick, i), false);
     for (int i = 0; i < SDL_JoystickNumHats(stick); ++i)
       for (std::size_t d = 0; d < 4; ++d)
-        part("hat " + std::to_string(i) + " " + direction_names[d], button_words(device.map, {i, directions[d]}),
+        part("hat " + std::to_string(i) + " " + direction_names[d],
+             button_words(device.map, {i, directions[d]}),
              (SDL_JoystickGetHat(stick, i) & directions[d]) != 0, false);
   }
   return all;

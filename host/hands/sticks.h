@@ -15,9 +15,9 @@ namespace host {
 
 /// What a part of a device does now, for a person who sets it up.
 struct StickPart {
-  std::string name;   ///< as the file of controls calls it
-  std::string does;   ///< empty: nothing
-  double position;    ///< an axis: -1 to 1; a button: 0 or 1
+  std::string name;  ///< as the file of controls calls it
+  std::string does;  ///< empty: nothing
+  double position;   ///< an axis: -1 to 1; a button: 0 or 1
   bool is_axis;
 };
 

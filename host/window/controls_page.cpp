@@ -29,7 +29,8 @@ void add_controls(std::vector<Row>& rows, const simulation::FlightControls& cont
     const double zero = control.least < 0 ? 0.5 : 0.0;
     char number[16];
     std::snprintf(number, sizeof number, "%.2f", at);
-    rows.push_back({std::string(control.words), number, std::min(zero, ratio), std::max(zero, ratio), Row::bar});
+    rows.push_back(
+        {std::string(control.words), number, std::min(zero, ratio), std::max(zero, ratio), Row::bar});
   }
 }
 
@@ -54,7 +55,8 @@ void add_keys(std::vector<Row>& rows, const ControlMap& map, const Hands& hands)
   rows.push_back({"Keys", "", 0, 0, Row::heading});
   for (std::size_t i = 0; i < action_table().size(); ++i)
     if (const std::string keys = keys_of(map, i); !keys.empty())
-      rows.push_back({std::string(action_table()[i].words), keys, 0, hands.is_held(i) ? 1.0 : 0.0, Row::lamp});
+      rows.push_back(
+          {std::string(action_table()[i].words), keys, 0, hands.is_held(i) ? 1.0 : 0.0, Row::lamp});
 }
 
 void draw_row(Sketch& sketch, const Row& row, double x, double y, double unit) {
@@ -68,9 +70,11 @@ void draw_row(Sketch& sketch, const Row& row, double x, double y, double unit) {
   if (row.kind == Row::bar) {
     sketch.rounded_box(left, y + 5 * unit, width, 9 * unit, 2 * unit, key_face);
     const double filled = std::max((row.to - row.from) * width, 2 * unit);
-    sketch.rounded_box(left + row.from * (width - 2 * unit), y + 5 * unit, filled, 9 * unit, unit, accent);
+    sketch.rounded_box(left + row.from * (width - 2 * unit), y + 5 * unit, filled, 9 * unit, unit,
+                       accent);
   } else if (row.kind == Row::lamp) {
-    sketch.rounded_box(left, y + 4 * unit, 11 * unit, 11 * unit, 5.5 * unit, row.to > 0 ? accent : key_face);
+    sketch.rounded_box(left, y + 4 * unit, 11 * unit, 11 * unit, 5.5 * unit,
+                       row.to > 0 ? accent : key_face);
   }
   const double does = row.kind == Row::lamp ? left + 20 * unit : left + width + 10 * unit;
   sketch.text(row.does, row.kind == Row::text ? x : does, y + unit, 15 * unit, false, ink);
@@ -87,8 +91,10 @@ Overlay draw_controls_page(const ControlsState& state, int width, int height, do
   }
   for (const StickState& stick : state.sticks) add_stick(rows, stick);
   add_keys(rows, state.map, state.hands);
-  const std::size_t columns = std::max<std::size_t>(2, (rows.size() + rows_a_column - 1) / rows_a_column);
-  const std::size_t a_column = std::max<std::size_t>(control_count + 1, (rows.size() + columns - 1) / columns);
+  const std::size_t columns =
+      std::max<std::size_t>(2, (rows.size() + rows_a_column - 1) / rows_a_column);
+  const std::size_t a_column =
+      std::max<std::size_t>(control_count + 1, (rows.size() + columns - 1) / columns);
   const double page_width = 2 * side + column_width * static_cast<double>(columns);
   const double page_height = top + bottom + row_height * static_cast<double>(a_column);
   const double fitting = std::min(width * 0.96 / page_width, height * 0.96 / page_height);

@@ -81,7 +81,8 @@ void draw_keys(Sketch& sketch, std::string_view keys, double x, double y, double
   }
 }
 
-void draw_column(Sketch& sketch, std::span<const HelpRow> rows, double x, double width_of_keys, double unit) {
+void draw_column(Sketch& sketch, std::span<const HelpRow> rows, double x, double width_of_keys,
+                 double unit) {
   double y = top * unit;
   for (const HelpRow& row : rows) {
     if (row.action.empty()) {
@@ -90,7 +91,8 @@ void draw_column(Sketch& sketch, std::span<const HelpRow> rows, double x, double
       sketch.line(x, y + 22 * unit, x + (column_width - 56) * unit, y + 22 * unit, unit, edge);
     } else {
       draw_keys(sketch, row.keys, x, y, unit);
-      sketch.text(std::string(row.action), x + width_of_keys * unit, y + 3 * unit, 18 * unit, false, ink);
+      sketch.text(std::string(row.action), x + width_of_keys * unit, y + 3 * unit, 18 * unit, false,
+                  ink);
     }
     y += row_height * unit;
   }

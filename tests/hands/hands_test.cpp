@@ -142,7 +142,7 @@ TEST(Hands, TakeOffWithKeys) {
   EXPECT_LT(std::abs(simulation::runway_axes(flight.position_m).right_m), 5.0);
   hold({"stick_back"}, 1.2);
   hold({}, 1.0);
-  for (int i = 0; i < 20; ++i) {
+  for (int i = 0; i < 35; ++i) {
     if (flight.attitude.pitch_rad < 0.13) hold({"stick_back"}, 0.3);
     hold({}, 0.7);
     if (i == 3) hold({"gear"}, 0.1);

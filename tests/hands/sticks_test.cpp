@@ -63,7 +63,7 @@ TEST_F(VirtualStick, AxesMoveControlsBeyondTheirDeadZone) {
   const struct {
     int axis, value;
     double aileron, throttle;
-  } cases[] = {{0, 3000, 0, 0},       {0, 32767, 1, 0},       {0, -32768, -1, 0}, {0, 18022, 0.5, 0},
+  } cases[] = {{0, 3000, 0, 0},       {0, 32767, 1, 0},     {0, -32768, -1, 0}, {0, 18022, 0.5, 0},
                {1, -32768, 0.5, 1.0}, {1, 32767, 0.5, 0.0}, {1, 1, 0.5, 0.5}};
   for (const auto& [number, value, aileron, throttle] : cases) {
     axis(number, value);

@@ -29,6 +29,7 @@ struct Setting {
   PanelSize size{560, 320};  ///< of its one open window
   double zoom = 1;
   std::string module;  ///< empty: the real one
+  std::string start;   ///< where the flight begins: an option
 };
 
 class InAWindow : public testing::Test {
@@ -44,7 +45,7 @@ class InAWindow : public testing::Test {
     command << screen->environment() << cockpit_dir / "tarnvale"
             << " fly --mute --exit-after 120 --zoom " << setting.zoom << " --panel "
             << folder.write("panel.cfg", setting.panel) << " --record " << record << " --pictures "
-            << folder.path();
+            << folder.path() << setting.start;
     if (!setting.module.empty()) command << " --module " << setting.module;
     command << " 2> " << folder / "log";
     program = std::make_unique<Child>(command.str(), -1);
@@ -175,7 +176,8 @@ class CaptainInAWindow : public InAWindow {
   CaptainInAWindow()
       : InAWindow({.panel = "[Window00]\nident=500\nsize_mm=560,320\nvisible=1\n"
                             "background_color=90,100,110\ngauge00=Tarnvale!Masterbat, 0,0\n",
-                   .module = ""}) {}
+                   .module = "",
+                   .start = " --at final"}) {}
 
   // The colour in the middle of the main window, `down` pixels below its upper edge.
   unsigned look_out(int down) { return look(setting.size.width / 2, down - place.y); }
@@ -192,6 +194,17 @@ TEST_F(CaptainInAWindow, TheViewStandsAboveThePanelAndGoesWithItsKey) {
   EXPECT_TRUE(eventually([&] { return is_sky(look_out(20)); })) << "the view does not come back";
   screen->hands("key 1");
   EXPECT_TRUE(eventually([&] { return !is_sky(look_out(20)); })) << "the view stays without the panel";
+  EXPECT_EQ(leave(), 0);
+}
+
+// From the key to the ailerons to the horizon.
+TEST_F(CaptainInAWindow, AHeldArrowBanksTheAircraft) {
+  const auto sky_at = [&](int x) { return is_sky(look(x, 12 - place.y)); };
+  const int left = 30 - place.x, right = place.width + place.x - 30;
+  EXPECT_TRUE(sky_at(left) && sky_at(right)) << "level at first";
+  screen->hands("keydown Left");
+  EXPECT_TRUE(eventually([&] { return !sky_at(left) && sky_at(right); })) << "no bank to the left";
+  screen->hands("keyup Left");
   EXPECT_EQ(leave(), 0);
 }
 
@@ -219,7 +232,8 @@ class TallyInAWindow : public InAWindow {
                             "background_color=90,100,110\ngauge00=Tally!Tally, 100,120\n",
                    .size = {400, 300},
                    .zoom = 2,
-                   .module = TALLY_MODULE}) {}
+                   .module = TALLY_MODULE,
+                   .start = ""}) {}
 
   // A pixel of the gauge, `scrolled` screen pixels above where it stood at first.
   static PanelPoint spot(int x, int y, int scrolled = 0) {
