@@ -38,6 +38,12 @@ CockpitOptions cockpit_of(const FlyOptions& options, const std::optional<LeftSes
   return cockpit;
 }
 
+FlightIdentity identity_for(const std::optional<LeftSession>& left, const CockpitOptions& cockpit) {
+  FlightIdentity here = identity_of(cockpit.module, cockpit.panel, cockpit.rate);
+  if (left) check_identity(left->record, here);
+  return here;
+}
+
 DeckOptions deck_of(const FlyOptions& options) {
   DeckOptions deck = options.deck;
   if (deck.controls.empty()) deck.controls = program_folder() / "controls.cfg";
@@ -54,10 +60,9 @@ class Session {
       : options_(options),
         left_(left_session(options)),
         cockpit_options_(cockpit_of(options, left_)),
-        identity_(identity_of(cockpit_options_.module, cockpit_options_.panel, cockpit_options_.rate)),
+        identity_(identity_for(left_, cockpit_options_)),
         module_(cockpit_options_.module),
         cockpit_(module_, read_panel_config(cockpit_options_.panel), cockpit_options_.rate) {
-    if (left_) check_identity(left_->record, identity_);
     say_artwork_notes(module_);
     say_notes(cockpit_.names());
     if (options.record.empty()) return;
@@ -90,8 +95,7 @@ class Session {
   // Unseen and unheard, as fast as it goes.
   void take_up() {
     prepare_platform(cockpit_options_, PLATFORM_AUDIO_RENDERED);
-    Progress progress;
-    progress.say("taking up " + left_->record.file.string(), 0);
+    Progress progress("taking up " + left_->record.file.string());
     const std::string departed =
         fly_again(inputs_, left_->record, [&] { progress.tick(cockpit_.seconds()); });
     for (const std::string& note : {left_->record.damage, departed})

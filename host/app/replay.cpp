@@ -88,7 +88,7 @@ class FlownAgain {
   }
 
   ReplayOptions options_;
-  Progress progress_;
+  Progress progress_{"flying again"};
   FlightRecord record_;
   CockpitOptions cockpit_options_;
   std::unique_ptr<WavRecorder> sound_ = std::make_unique<WavRecorder>();

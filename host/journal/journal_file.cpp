@@ -12,7 +12,9 @@ namespace host {
 
 JournalFile::JournalFile(const std::filesystem::path& file, int flags)
     : path_(file), descriptor_(open(file.c_str(), O_RDWR | O_APPEND | O_CLOEXEC | flags, 0644)) {
-  if (descriptor_ < 0) fail("cannot write the journal");
+  if (descriptor_ < 0)
+    fail(errno == ENOENT && !(flags & O_CREAT) ? "there is no such journal"
+                                               : "cannot write the journal");
   // Two programs that write into one journal would spoil it for both.
   if (flock(descriptor_, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
     close(std::exchange(descriptor_, -1));

@@ -31,10 +31,9 @@ class CheckedLines {
 
 std::string text_of(const std::filesystem::path& file) {
   std::ifstream stream(file, std::ios::binary);
-  std::string text{std::istreambuf_iterator<char>(stream), {}};
-  if (!stream.is_open() || stream.bad() || std::filesystem::is_directory(file))
+  if (!stream || !std::filesystem::is_regular_file(file))
     throw std::runtime_error(file.string() + ": there is no such journal");
-  return text;
+  return {std::istreambuf_iterator<char>(stream), {}};
 }
 
 [[noreturn]] void refuse(const std::filesystem::path& file, int line, const std::string& why) {
