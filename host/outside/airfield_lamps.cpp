@@ -172,7 +172,7 @@ void paint_village_lamps(Picture picture, const Camera& camera, const Air& air, 
         const auto axes = simulation::runway_axes(at);
         if (std::abs(axes.along_m) < 2600.0 && std::abs(axes.right_m) < 650.0)
           continue;  // the airfield's own
-        paint(picture, camera, air, at, sodium, {0.5});
+        paint(picture, camera, air, at, sodium, {1.4});
       }
 }
 

@@ -14,17 +14,19 @@ struct Block {
 };
 
 constexpr Rgb glass{96, 116, 130}, plaster{196, 190, 178}, steel{150, 158, 164}, tar{104, 104, 102};
-constexpr Rgb brick{150, 110, 88};
+constexpr Rgb brick{150, 110, 88}, door{112, 124, 136};
 
-constexpr std::array<Block, 12> blocks{{
+constexpr std::array<Block, 14> blocks{{
     {-60, 250, 455, 495, 0, 5, plaster, tar},  // terminal
     {-60, 250, 452, 490, 5, 10, glass, tar},
     {-70, 260, 450, 495, 10, 11.5, plaster, tar},
     {284, 296, 462, 474, 0, 27, plaster, tar},  // tower
     {281, 299, 459, 477, 27, 31.5, glass, tar},
     {280, 300, 458, 478, 31.5, 33, plaster, tar},
-    {330, 420, 455, 525, 0, 19, steel, {176, 178, 176}},  // hangars
-    {440, 530, 455, 525, 0, 19, steel, {176, 178, 176}},
+    {330, 420, 455, 525, 0, 14, door, tar},  // hangars, all door below
+    {328, 422, 454, 527, 14, 19, steel, {176, 178, 176}},
+    {440, 530, 455, 525, 0, 14, door, tar},
+    {438, 532, 454, 527, 14, 19, steel, {176, 178, 176}},
     {-150, -95, 455, 480, 0, 7, brick, {120, 88, 72}},  // fire station
     {-310, -230, 470, 500, 0, 8, brick, {120, 88, 72}},
     {560, 600, 460, 500, 0, 10, steel, tar},

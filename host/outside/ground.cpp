@@ -47,14 +47,16 @@ Haze Air::haze(double distance_m) const {
   return {kept, light_.haze * (1.0 - kept)};
 }
 
+// Two lamps in the wings' roots: bright within some ten degrees of where they point, out to half a kilometre.
 Rgb Air::light_on(const Vector& from_eye_m) const {
+  constexpr double reach_m = 900.0, narrowness = 25.0, bright_to_m = 110.0;
   if (!landing_lights_) return light_.land;
   const double distance_m = length(from_eye_m);
-  const double ahead = dot(from_eye_m, nose_) / std::max(distance_m, 1.0);
-  const double beam = std::exp(-std::max(0.0, 1.0 - ahead) / 0.012);
-  const double strength =
-      beam * 0.75 * std::min(1.0, 2500.0 / std::max(distance_m * distance_m, 1.0) * 4.0);
-  return light_.land + Rgb{1.0, 0.96, 0.86} * strength;
+  const double off = 1.0 - dot(from_eye_m, nose_) / std::max(distance_m, 1.0);
+  if (distance_m > reach_m || off > 0.12) return light_.land;
+  const double beam = 1.0 / (1.0 + off * narrowness);
+  const double fall = bright_to_m / std::max(distance_m, bright_to_m);
+  return light_.land + Rgb{1.0, 0.96, 0.86} * (0.7 * beam * beam * fall * fall);
 }
 
 Rgb Air::seen(const Rgb& colour, const Vector& from_eye_m) const {

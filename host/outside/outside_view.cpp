@@ -1,5 +1,7 @@
 #include "host/outside/outside_view.h"
 
+#include <algorithm>
+#include <cmath>
 #include <optional>
 
 #include "host/drawing/pixels.h"
@@ -29,6 +31,15 @@ std::vector<Laid> laid(const std::vector<Surface>& surfaces) {
   return all;
 }
 
+/// Whether the eye is at a place of this world; a flight that went wrong may be anywhere.
+bool is_somewhere(const Sight& sight) {
+  constexpr double farthest_m = 1e7;
+  const auto& [x, y, z] = sight.eye_m;
+  const double turns = sight.attitude.bank_rad + sight.attitude.pitch_rad + sight.attitude.heading_rad;
+  return std::abs(x) < farthest_m && std::abs(y) < farthest_m && std::abs(z) < farthest_m &&
+         std::isfinite(turns + sight.time_of_day_s + sight.look.right_deg + sight.look.up_deg);
+}
+
 }  // namespace
 
 struct OutsideView::Scene {
@@ -50,6 +61,7 @@ OutsideView::~OutsideView() = default;
 
 void OutsideView::draw(Canvas& canvas, const Rect& place, const Sight& sight) {
   if (is_empty(place)) return;
+  if (!is_somewhere(sight)) return fill_pixels(surface_of(canvas), place, 0xFF000000u);
   const Picture picture{surface_of(canvas).at(place.x, place.y), canvas.width, place.width,
                         place.height};
   const Camera camera(sight, place.width, place.height);

@@ -17,7 +17,7 @@ class OutsideView {
   OutsideView(const OutsideView&) = delete;
   OutsideView& operator=(const OutsideView&) = delete;
 
-  /// Fills `place`, which lies on the canvas.
+  /// Fills `place`, which lies on the canvas; black where the eye is nowhere.
   void draw(Canvas& canvas, const Rect& place, const Sight& sight);
 
  private:

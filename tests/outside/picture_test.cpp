@@ -126,6 +126,13 @@ TEST(Outside, DrawsFromAnywhereAndInAnySize) {
           view.draw(canvas, whole_of(canvas),
                     sight_at(far_m, far_m, height_m, pitch, pitch * 3, pitch + 12));
       }
+  Canvas canvas(2, 2);
+  for (const double nowhere : {std::nan(""), 1e300, -HUGE_VAL}) {
+    canvas.pixels.assign(4, 0xFFFFFFFFu);
+    view.draw(canvas, whole_of(canvas), sight_at(nowhere, 0, 100));
+    EXPECT_EQ(canvas.pixels, std::vector<std::uint32_t>(4, 0xFF000000u));
+    view.draw(canvas, whole_of(canvas), sight_at(0, 0, 100, nowhere));
+  }
 }
 
 }  // namespace
