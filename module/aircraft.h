@@ -147,9 +147,9 @@ struct Aircraft {
   u32 speedbrake_armed = 0;
   u32 lift_dump_armed = 0;
   u32 lift_dump_deployed = 0;
-  u32 brake_control_switch_on = 0;
+  u32 brake_control_switch_on = 1;
   u32 pedestal_selector_switch = 0;  ///< 0 centre, 1 left, 2 right
-  u32 ttc_switch_on = 0;
+  u32 ttc_switch_on = 1;
   u32 stabind_vertical_on = 0;
   u32 stabind_horizontal_on = 0;
   u32 stabind_needle_on = 0;

@@ -25,6 +25,10 @@ enum PlatformAudio {
 };
 void platform_choose_audio(enum PlatformAudio audio);
 
+/// Chooses and takes the sound there at once: what plays falls silent, and every sound buffer is lost until
+/// it is restored, as when a device goes away.
+void platform_move_audio(enum PlatformAudio audio);
+
 /// The format of the rendered mix.
 #define PLATFORM_AUDIO_RATE     44100
 #define PLATFORM_AUDIO_CHANNELS 2

@@ -19,6 +19,11 @@ std::int16_t to_sample(float level) {
 
 void SoundDevice::choose(PlatformAudio audio) { chosen_ = audio; }
 
+void SoundDevice::move_to(PlatformAudio audio) {
+  close();
+  chosen_ = audio_ = audio;
+}
+
 bool SoundDevice::acquire() {
   if (users_ == 0) {
     audio_ = chosen_;
@@ -84,6 +89,10 @@ SoundDevice& sound_device() {
 
 PLATFORM_EXPORT void platform_choose_audio(enum PlatformAudio audio) {
   platform::sound_device().choose(audio);
+}
+
+PLATFORM_EXPORT void platform_move_audio(enum PlatformAudio audio) {
+  platform::sound_device().move_to(audio);
 }
 
 PLATFORM_EXPORT void platform_render_audio(int16_t* samples, size_t frames) {

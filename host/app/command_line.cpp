@@ -18,6 +18,7 @@ class CommandLine {
     app_.failure_message(CLI::FailureMessage::help);
     add_fly();
     add_run();
+    add_replay();
     add_show();
     add_list();
     add_check();
@@ -55,10 +56,14 @@ class CommandLine {
     return sub;
   }
 
-  static void add_cockpit(CLI::App* sub, CockpitOptions& options) {
+  static void add_files(CLI::App* sub, CockpitOptions& options) {
     sub->add_option("--module", options.module, "The gauge module; else the one beside this program");
     sub->add_option("--panel", options.panel,
                     "The panel configuration; else the one beside this program");
+  }
+
+  static void add_cockpit(CLI::App* sub, CockpitOptions& options) {
+    add_files(sub, options);
     sub->add_option("--rate", options.rate, "Gauge frames a second")
         ->check(CLI::Range(1.0, 240.0))
         ->capture_default_str();
@@ -90,11 +95,26 @@ class CommandLine {
     sub->add_option("--controls", fly_.deck.controls,
                     "What keys and joysticks do; else controls.cfg beside this program");
     sub->add_option("--pictures", fly_.deck.pictures, "Folder for screenshots")->capture_default_str();
-    sub->add_option("--record", fly_.deck.record,
+    sub->add_option("--record", fly_.record,
                     "Write your inputs to this file, as a flow that can be run again");
     sub->add_option("--exit-after", fly_.deck.exit_after, "Leave after so many seconds")
         ->check(CLI::NonNegativeNumber);
     sub->add_flag("--mute", fly_.mute, "Fly without sound");
+    add_journal(sub);
+  }
+
+  // A session that is taken up has begun already.
+  void add_journal(CLI::App* sub) {
+    CLI::Option* resume = sub->add_flag("--resume", fly_.resume,
+                                        "Take up the last session where it was left, or --journal's");
+    for (const char* of_a_beginning : {"--rate", "--at", "--time", "--open"})
+      resume->excludes(sub->get_option(of_a_beginning));
+    CLI::Option* none =
+        sub->add_flag("!--no-journal", fly_.keep_journal, "Keep no journal of the session");
+    sub->add_option("--journal", fly_.journal,
+                    "The session's journal; else a new one among the last sessions")
+        ->excludes(none);
+    none->excludes(resume);
   }
 
   void add_run() {
@@ -104,7 +124,25 @@ class CommandLine {
         ->capture_default_str();
     sub->add_option("--png", run_.pictures, "Folder for the flow's pictures");
     sub->add_option("--wav", run_.sound, "File for the flow's sound");
+    sub->add_option("--journal", run_.journal, "Keep a journal of the flight, for replay");
     sub->add_flag("--realtime", run_.realtime, "As slow as a clock, not as fast as possible");
+  }
+
+  void add_replay() {
+    CLI::App* sub =
+        add("replay", "Fly the journal of a session again, without a window", replay_, replay);
+    add_files(sub, replay_.cockpit);
+    sub->add_option("journal", replay_.journal, "The journal")->required();
+    CLI::Option* pictures = sub->add_option(
+        "--png", replay_.pictures, "Folder for pictures of what is open, now and then and at the end");
+    sub->add_option("--every", replay_.picture_every, "Seconds of flight between two pictures")
+        ->check(CLI::Range(0.01, 1e6))
+        ->capture_default_str()
+        ->needs(pictures);
+    sub->add_option("--wav", replay_.sound, "File for the flight's sound");
+    sub->add_option("--flow", replay_.flow, "Write the inputs to this file, as a flow");
+    sub->add_flag("--digest", replay_.digest,
+                  "Print a number that two flights share only if they are the same to the bit");
   }
 
   void add_show() {
@@ -148,6 +186,7 @@ class CommandLine {
   CLI::App app_{"The cockpit of a twin-jet airliner", "tarnvale"};
   FlyOptions fly_;
   RunOptions run_;
+  ReplayOptions replay_;
   ShowOptions show_;
   ListOptions list_;
   CockpitOptions check_;

@@ -12,6 +12,7 @@ inline constexpr int exit_usage = 2;
 
 int fly(const FlyOptions& options);
 int run_flow(const RunOptions& options);
+int replay(const ReplayOptions& options);
 int show(const ShowOptions& options);
 int list(const ListOptions& options);
 int check(const CockpitOptions& options);

@@ -1,52 +1,164 @@
+#include <windows.h>
+
+#include <optional>
+#include <stdexcept>
+
 #include "host/app/commands.h"
 #include "host/app/installation.h"
 #include "host/app/lookup.h"
+#include "host/app/progress.h"
 #include "host/app/start.h"
 #include "host/app/start_notes.h"
+#include "host/journal/flight_journal.h"
+#include "host/journal/flow_writer.h"
+#include "host/journal/replay.h"
+#include "host/journal/session_files.h"
 #include "host/sound/identifications.h"
 #include "host/window/flight_deck.h"
 
 namespace host {
-
 namespace {
 
-// In the air one looks out of the window, not up.
-void open_for_flying(Cockpit& cockpit) {
-  for (const WindowConfig& window : cockpit.config().windows)
-    if (window.drawn && window.ident != 0) cockpit.panels().close(window.ident);
-  cockpit.panels().open(captains_panel);
+// A session that is taken up again.
+struct LeftSession {
+  JournalFile file;
+  FlightRecord record;
+};
+
+std::optional<LeftSession> left_session(const FlyOptions& options) {
+  if (!options.resume) return std::nullopt;
+  JournalFile file =
+      JournalFile::reopen(options.journal.empty() ? last_session(session_folder()) : options.journal);
+  FlightRecord record = read_journal(file.path());
+  return LeftSession{std::move(file), std::move(record)};
 }
+
+CockpitOptions cockpit_of(const FlyOptions& options, const std::optional<LeftSession>& left) {
+  CockpitOptions cockpit = located(options.cockpit);
+  if (left) cockpit.rate = left->record.identity.rate;
+  return cockpit;
+}
+
+FlightIdentity identity_for(const std::optional<LeftSession>& left, const CockpitOptions& cockpit) {
+  FlightIdentity here = identity_of(cockpit.module, cockpit.panel, cockpit.rate);
+  if (left) check_identity(left->record, here);
+  return here;
+}
+
+DeckOptions deck_of(const FlyOptions& options) {
+  DeckOptions deck = options.deck;
+  if (deck.controls.empty()) deck.controls = program_folder() / "controls.cfg";
+  return deck;
+}
+
+// A note in the window, and on standard error.
+void tell(const std::string& text) { MessageBoxA(nullptr, text.c_str(), "Journal", MB_OK); }
+
+// A person's session in the cockpit: begun or taken up, flown, and kept.
+class Session {
+ public:
+  explicit Session(const FlyOptions& options)
+      : options_(options),
+        left_(left_session(options)),
+        cockpit_options_(cockpit_of(options, left_)),
+        identity_(identity_for(left_, cockpit_options_)),
+        module_(cockpit_options_.module),
+        cockpit_(module_, read_panel_config(cockpit_options_.panel), cockpit_options_.rate) {
+    say_artwork_notes(module_);
+    say_notes(cockpit_.names());
+    if (options.record.empty()) return;
+    flow_.emplace(options.record, cockpit_);
+    inputs_.tell(*flow_);
+  }
+
+  void fly() {
+    left_ ? take_up() : begin();
+    FlightDeck deck(inputs_, deck_of(options_));
+    Identifications identifications;
+    deck.after_frame = [&] {
+      identifications.update(cockpit_.aircraft().identifications_heard(), cockpit_.seconds());
+    };
+    deck.on_pause = [&] { identifications.silence(); };
+    for (const std::string& note : notes_) tell(note);
+    keep_journal();
+    if (inputs_.holding()) inputs_.take(input::Release{});  // nobody holds the button any more
+    deck.fly();
+    journal_.reset();
+  }
+
+ private:
+  // A muted cockpit plays into a mix that nobody takes, so that its sound engine finds all well.
+  PlatformAudio audio() const {
+    return options_.mute ? PLATFORM_AUDIO_RENDERED : PLATFORM_AUDIO_DEVICE;
+  }
+
+  void begin() {
+    prepare_platform(cockpit_options_, audio());
+    beginning_ = beginning(cockpit_, options_);
+    for (const Input& input : beginning_) inputs_.take(input);
+  }
+
+  // Unseen and unheard, as fast as it goes.
+  void take_up() {
+    prepare_platform(cockpit_options_, PLATFORM_AUDIO_RENDERED);
+    Progress progress("taking up " + left_->record.file.string());
+    const std::string departed =
+        fly_again(inputs_, left_->record, [&] { progress.tick(cockpit_.seconds()); });
+    for (const std::string& note : {left_->record.damage, departed})
+      if (!note.empty()) notes_.push_back(note);
+    platform_move_audio(audio());
+  }
+
+  void keep_journal() {
+    if (!options_.keep_journal) return;
+    if (left_) {
+      journal_.emplace(std::move(left_->file), cockpit_, left_->record.end);
+    } else if (!begin_journal()) {
+      return;
+    }
+    journal_->on_fault = tell;
+    inputs_.tell(*journal_);
+  }
+
+  // Who asked for no certain file flies without one rather than not at all.
+  bool begin_journal() {
+    try {
+      journal_.emplace(JournalFile::create(journal_file()), cockpit_, identity_);
+    } catch (const std::runtime_error& error) {
+      if (!options_.journal.empty()) throw;
+      tell(error.what() + std::string("; this session will not be kept"));
+      return false;
+    }
+    for (const Input& input : beginning_) journal_->taken(0, input);
+    return true;
+  }
+
+  std::filesystem::path journal_file() const {
+    if (options_.journal.empty()) return new_session(session_folder());
+    std::error_code error;
+    if (std::filesystem::file_size(options_.journal, error) > 0 && !error)
+      throw std::runtime_error(options_.journal.string() +
+                               ": is there already; --resume takes it up, another name begins anew");
+    return options_.journal;
+  }
+
+  FlyOptions options_;
+  std::optional<LeftSession> left_;
+  CockpitOptions cockpit_options_;
+  FlightIdentity identity_;
+  GaugeModule module_;
+  Cockpit cockpit_;
+  CockpitInputs inputs_{cockpit_};
+  std::optional<FlowWriter> flow_;
+  std::optional<FlightJournal> journal_;
+  std::vector<Input> beginning_;
+  std::vector<std::string> notes_;
+};
 
 }  // namespace
 
 int fly(const FlyOptions& options) {
-  const CockpitOptions cockpit_options = located(options.cockpit);
-  GaugeModule module(cockpit_options.module);
-  say_artwork_notes(module);
-  // A muted cockpit plays into a mix that nobody takes, so that its sound engine finds all well.
-  prepare_platform(cockpit_options, options.mute ? PLATFORM_AUDIO_RENDERED : PLATFORM_AUDIO_DEVICE);
-  Cockpit cockpit(module, read_panel_config(cockpit_options.panel), cockpit_options.rate);
-  say_notes(cockpit.names());
-  for (std::uint32_t ident : options.open) {
-    if (!cockpit.panels().find(ident))
-      throw std::runtime_error("--open: there is no window " + std::to_string(ident));
-    cockpit.panels().open(ident);
-  }
-  if (options.start.at != "stand" && options.open.empty()) {
-    open_for_flying(cockpit);
-  } else if (options.open.empty()) {
-    cockpit.begin_with_start_page();
-  }
-  DeckOptions deck_options = options.deck;
-  if (deck_options.controls.empty()) deck_options.controls = program_folder() / "controls.cfg";
-  deck_options.begun_with = begin(cockpit.aircraft(), options.start);
-  Identifications identifications;
-  FlightDeck deck(cockpit, deck_options);
-  deck.after_frame = [&] {
-    identifications.update(cockpit.aircraft().identifications_heard(), cockpit.seconds());
-  };
-  deck.on_pause = [&] { identifications.silence(); };
-  deck.fly();
+  Session(options).fly();
   return exit_fine;
 }
 

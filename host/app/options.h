@@ -28,9 +28,13 @@ struct StartOptions {
 struct FlyOptions {
   CockpitOptions cockpit;
   StartOptions start;
-  DeckOptions deck;  ///< its controls empty: those beside this program
+  DeckOptions deck;                 ///< its controls empty: those beside this program
   std::vector<std::uint32_t> open;  ///< idents to open besides those that are open from the start
   bool mute = false;
+  std::filesystem::path record;   ///< a flow to write the person's inputs to; empty: none
+  std::filesystem::path journal;  ///< empty: one in the folder of sessions
+  bool keep_journal = true;
+  bool resume = false;  ///< the journal's session, or the last one; the rate is the session's
 };
 
 struct RunOptions {
@@ -38,7 +42,18 @@ struct RunOptions {
   std::string flow = "engine_start";
   std::filesystem::path pictures;  ///< empty: none
   std::filesystem::path sound;     ///< empty: none
+  std::filesystem::path journal;   ///< empty: none
   bool realtime = false;
+};
+
+struct ReplayOptions {
+  CockpitOptions cockpit;  ///< its rate is the journal's
+  std::filesystem::path journal;
+  std::filesystem::path pictures;  ///< folder; empty: none
+  double picture_every = 60;       ///< seconds of flight
+  std::filesystem::path sound;     ///< empty: none
+  std::filesystem::path flow;      ///< empty: none
+  bool digest = false;
 };
 
 struct ShowOptions {

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <utility>
 
 namespace host {
 namespace {
@@ -13,7 +14,8 @@ constexpr auto refresh = std::chrono::milliseconds(100);
 
 }  // namespace
 
-Progress::Progress() : terminal_(isatty(STDERR_FILENO) == 1) {}
+Progress::Progress(std::string doing)
+    : terminal_(isatty(STDERR_FILENO) == 1), doing_(std::move(doing)) {}
 
 Progress::~Progress() {
   if (terminal_) std::fputs(clear_line, stderr);

@@ -9,7 +9,7 @@ namespace host {
 /// On a terminal one line that is written over, else one line for each note of the flow.
 class Progress {
  public:
-  Progress();
+  explicit Progress(std::string doing = "starting");
   /// Leaves the terminal's line.
   ~Progress();
 
@@ -33,7 +33,7 @@ class Progress {
   bool terminal_;
   Clock::time_point start_ = Clock::now();
   Clock::time_point shown_ = start_;
-  std::string doing_ = "starting";
+  std::string doing_;
 };
 
 }  // namespace host

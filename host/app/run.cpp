@@ -10,6 +10,7 @@
 #include "host/app/lookup.h"
 #include "host/app/progress.h"
 #include "host/app/start_notes.h"
+#include "host/journal/flight_journal.h"
 #include "host/script/flow_api.h"
 #include "host/sound/identifications.h"
 #include "host/sound/sound_book.h"
@@ -50,6 +51,7 @@ class FlowRun {
     say_artwork_notes(module_);
     if (!options.pictures.empty()) prepare_folder(options.pictures);
     if (!options.sound.empty()) sound_ = std::make_unique<WavRecorder>(options.sound.string());
+    if (!options.journal.empty()) keep_journal(options.journal);
     prepare_platform(cockpit_options_, PLATFORM_AUDIO_RENDERED);
     platform_on_message(take_message, this);
     platform_on_sound(take_sound, this);
@@ -75,6 +77,14 @@ class FlowRun {
   }
 
  private:
+  void keep_journal(const std::filesystem::path& file) {
+    journal_ = std::make_unique<FlightJournal>(
+        JournalFile::create(file), cockpit_,
+        identity_of(cockpit_options_.module, cockpit_options_.panel, cockpit_options_.rate));
+    journal_->on_fault = [this](const std::string& fault) { progress_.note(fault); };
+    session_.inputs().tell(*journal_);
+  }
+
   FlowSurroundings surroundings() {
     return {options_.pictures, [this](double seconds) { after_frame(seconds); },
             [this](double seconds) { return sound_->level(seconds); },
@@ -112,6 +122,7 @@ class FlowRun {
   GaugeModule module_;
   Cockpit cockpit_;
   FlowSession session_;
+  std::unique_ptr<FlightJournal> journal_;
 };
 
 }  // namespace

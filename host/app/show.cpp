@@ -123,7 +123,8 @@ int show(const ShowOptions& options) {
   }
   DeckOptions deck_options = options.deck;
   deck_options.outside = false;
-  FlightDeck deck(cockpit, deck_options);
+  CockpitInputs inputs(cockpit);
+  FlightDeck deck(inputs, deck_options);
   deck.mark_areas(options.areas);
   deck.fly();
   return exit_fine;

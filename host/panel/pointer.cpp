@@ -16,10 +16,12 @@ const HotArea* Pointer::press(const HotAreas& areas, PanelPoint point, std::uint
   return held_;
 }
 
-void Pointer::move(PanelPoint point) {
+bool Pointer::move(PanelPoint point) {
   const bool moved = point.x != point_.x || point.y != point_.y;
   point_ = point;
-  if (held_ && moved && (held_->flags & MOUSE_DRAG)) held_->fire(point, button_ | MOUSE_DRAG);
+  if (!held_ || !moved) return false;
+  if (held_->flags & MOUSE_DRAG) held_->fire(point, button_ | MOUSE_DRAG);
+  return true;
 }
 
 void Pointer::tick(double now) {

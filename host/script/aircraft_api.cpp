@@ -1,7 +1,7 @@
 #include <algorithm>
 
+#include "host/inputs/nearest.h"
 #include "host/script/flow_api.h"
-#include "host/script/nearest.h"
 #include "host/simulation/places.h"
 
 namespace host {
@@ -27,8 +27,8 @@ std::uint32_t number_of(const LuaCall& call, int index, const char* what,
                               suggestion(rows, name));
 }
 
-void start_at_place(AircraftModel& aircraft, const std::string& name) {
-  if (start_at(aircraft, name)) return;
+void start_at_place(CockpitInputs& inputs, const std::string& name) {
+  if (inputs.take(input::StartAt{name}) != Answer::nothing) return;
   std::vector<std::string_view> names;
   for (const StartPlace& place : start_places()) names.push_back(place.name);
   throw std::invalid_argument("no flight begins at '" + name + "'" + did_you_mean(name, names));
@@ -69,30 +69,31 @@ std::string event_name(std::uint32_t number) {
 }
 
 void bind_aircraft(LuaRunner& runner, FlowSession& session) {
-  AircraftModel& aircraft = session.cockpit().aircraft();
+  const AircraftModel& aircraft = session.cockpit().aircraft();
+  CockpitInputs& inputs = session.inputs();
   runner.bind("token", [&](LuaCall& call) { call.give(aircraft.token(token_argument(call, 1))); });
   runner.bind("set_token", [&](LuaCall& call) {
     const std::uint32_t token = token_argument(call, 1);
-    aircraft.hold_token(token, call.number(2, "value"));
+    inputs.take(input::HoldToken{token, call.number(2, "value")});
   });
   runner.bind("release_token",
-              [&](LuaCall& call) { aircraft.hold_token(token_argument(call, 1), std::nullopt); });
+              [&](LuaCall& call) { inputs.take(input::ReleaseToken{token_argument(call, 1)}); });
   runner.bind("event", [&](LuaCall& call) {
     const std::uint32_t event = event_argument(call, 1);
-    aircraft.key_event(event, call.has(2) ? call.key(2, "value") : 0);
+    inputs.take(input::KeyEvent{event, call.has(2) ? call.key(2, "value") : 0});
   });
-  runner.bind("start_at", [&](LuaCall& call) { start_at_place(aircraft, call.text(1, "place")); });
-  runner.bind("set_time_of_day", [&](LuaCall& call) {
-    const double hours = call.number(1, "hours");
-    if (!(hours >= 0 && hours <= 24)) throw std::invalid_argument("argument 1 (hours) must be 0 to 24");
-    aircraft.set_time_of_day(hours * 3600);
-  });
-  runner.bind("fail", [&](LuaCall& call) { aircraft.set_failed(failure_argument(call, 1), true); });
-  runner.bind("repair", [&](LuaCall& call) { aircraft.set_failed(failure_argument(call, 1), false); });
+  runner.bind("fail", [&](LuaCall& call) { inputs.take(input::Fail{failure_argument(call, 1)}); });
+  runner.bind("repair", [&](LuaCall& call) { inputs.take(input::Repair{failure_argument(call, 1)}); });
   runner.bind("failures_per_hour", [&](LuaCall& call) {
     const double rate = call.number(1, "failures per hour");
     if (!(rate >= 0 && rate <= 3600)) throw std::invalid_argument("failures per hour are 0 to 3600");
-    aircraft.set_failure_rate(rate);
+    inputs.take(input::FailByChance{rate});
+  });
+  runner.bind("start_at", [&](LuaCall& call) { start_at_place(inputs, call.text(1, "place")); });
+  runner.bind("set_time_of_day", [&](LuaCall& call) {
+    const double hours = call.number(1, "hours");
+    if (!(hours >= 0 && hours <= 24)) throw std::invalid_argument("argument 1 (hours) must be 0 to 24");
+    inputs.take(input::SetTimeOfDay{hours});
   });
 }
 

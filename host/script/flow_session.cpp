@@ -27,8 +27,7 @@ FlowSession::FlowSession(Cockpit& cockpit, FlowSurroundings surroundings)
 }
 
 void FlowSession::frame() {
-  pointer_.tick(seconds());
-  cockpit_.frame();
+  inputs_.frame();
   if (surroundings_.after_frame) surroundings_.after_frame(1.0 / cockpit_.rate());
   if (time_moved) time_moved();
 }
@@ -55,8 +54,9 @@ CockpitGauge& FlowSession::begin_gesture(const Spot& spot) {
   return gauge;
 }
 
-void FlowSession::press(CockpitGauge& gauge, const Spot& spot, std::uint32_t button) {
-  if (!is_reached(gauge, spot, button) || !pointer_.press(gauge.areas, spot.point, button, seconds()))
+void FlowSession::press(const CockpitGauge& gauge, const Spot& spot, std::uint32_t button) {
+  const input::Press press{gauge.header().name, spot.point, input::Button{button}};
+  if (!is_reached(gauge, spot, button) || inputs_.take(press) == Answer::nothing)
     throw std::runtime_error("nothing answers the " +
                              std::string(button == MOUSE_LEFT ? "left" : "right") + " button at " +
                              place_name(spot));
@@ -67,7 +67,7 @@ void FlowSession::click(const Spot& spot, std::uint32_t button) { hold(spot, but
 void FlowSession::hold(const Spot& spot, std::uint32_t button, double duration) {
   press(begin_gesture(spot), spot, button);
   wait(std::max(duration, 1.0 / cockpit_.rate()));
-  pointer_.release();
+  inputs_.take(input::Release{});
 }
 
 void FlowSession::drag(const Spot& spot, PanelPoint to, double duration) {
@@ -78,17 +78,17 @@ void FlowSession::drag(const Spot& spot, PanelPoint to, double duration) {
     const auto between = [&](int from, int end) {
       return from + static_cast<int>(std::lround((end - from) * part));
     };
-    pointer_.move({between(spot.point.x, to.x), between(spot.point.y, to.y)});
+    inputs_.take(input::Move{{between(spot.point.x, to.x), between(spot.point.y, to.y)}});
     wait(1.0 / cockpit_.rate());
   }
-  pointer_.release();
+  inputs_.take(input::Release{});
 }
 
 void FlowSession::wheel(const Spot& spot, int notches) {
   CockpitGauge& gauge = begin_gesture(spot);
   for (int i = 0; i < std::abs(notches); ++i) {
-    if (!is_reached(gauge, spot, MOUSE_LEFT) ||
-        !Pointer::wheel(gauge.areas, spot.point, notches > 0 ? 1 : -1))
+    const input::Wheel turn{gauge.header().name, spot.point, notches > 0 ? 1 : -1};
+    if (!is_reached(gauge, spot, MOUSE_LEFT) || inputs_.take(turn) == Answer::nothing)
       throw std::runtime_error("the wheel works nothing at " + place_name(spot));
     wait(1.0 / cockpit_.rate());
   }

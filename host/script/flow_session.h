@@ -8,8 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "host/panel/cockpit.h"
-#include "host/panel/pointer.h"
+#include "host/inputs/cockpit_inputs.h"
 
 namespace host {
 
@@ -42,6 +41,7 @@ class FlowSession {
   FlowSession(Cockpit& cockpit, FlowSurroundings surroundings);
 
   Cockpit& cockpit() { return cockpit_; }
+  CockpitInputs& inputs() { return inputs_; }
   const FlowSurroundings& surroundings() const { return surroundings_; }
 
   double seconds() const { return cockpit_.seconds(); }
@@ -77,11 +77,11 @@ class FlowSession {
 
  private:
   CockpitGauge& begin_gesture(const Spot& spot);
-  void press(CockpitGauge& gauge, const Spot& spot, std::uint32_t button);
+  void press(const CockpitGauge& gauge, const Spot& spot, std::uint32_t button);
 
   Cockpit& cockpit_;
+  CockpitInputs inputs_{cockpit_};
   FlowSurroundings surroundings_;
-  Pointer pointer_;
   std::vector<SentEvent> events_;
 };
 

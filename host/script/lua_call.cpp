@@ -29,7 +29,7 @@ std::vector<double> list_on_top(lua_State* state) {
   return numbers;
 }
 
-LuaField::Value value_on_top(lua_State* state) {
+NamedValue::Value value_on_top(lua_State* state) {
   switch (lua_type(state, -1)) {
     case LUA_TBOOLEAN: return static_cast<bool>(lua_toboolean(state, -1));
     case LUA_TNUMBER: return lua_tonumber(state, -1);
@@ -115,8 +115,8 @@ std::string LuaCall::shown(int index) const {
   return result;
 }
 
-std::vector<LuaField> LuaCall::fields(int index) const {
-  std::vector<LuaField> fields;
+std::vector<NamedValue> LuaCall::fields(int index) const {
+  std::vector<NamedValue> fields;
   if (!has(index)) return fields;
   if (!is_table(index)) wrong(index, "fields", "a table");
   luaL_checkstack(state_, 4, nullptr);
@@ -126,7 +126,7 @@ std::vector<LuaField> LuaCall::fields(int index) const {
     fields.push_back({lua_tostring(state_, -2), value_on_top(state_)});
     lua_pop(state_, 1);
   }
-  std::ranges::sort(fields, {}, &LuaField::name);  // the same flow gets the same message every time
+  std::ranges::sort(fields, {}, &NamedValue::name);  // the same flow gets the same message every time
   return fields;
 }
 
@@ -189,7 +189,7 @@ void LuaCall::field(const char* name, std::string_view value) {
   lua_setfield(state_, -2, name);
 }
 
-void LuaCall::field(const LuaField& field) {
+void LuaCall::field(const NamedValue& field) {
   std::visit([this](const auto& value) { push(state_, value); }, field.value);
   lua_setfield(state_, -2, field.name.c_str());
 }

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "host/script/lua_field.h"
+#include "host/inputs/named_value.h"
 
 struct lua_State;
 
@@ -36,7 +36,7 @@ class LuaCall {
   std::string shown(int index) const;  ///< any value as a person reads it
 
   /// The fields of the table at `index`, in the order of their names; none without an argument there.
-  std::vector<LuaField> fields(int index) const;
+  std::vector<NamedValue> fields(int index) const;
 
   /// Replaces the table at `index` by its fields, at most `most`, so that control = {"Name", x, y} can
   /// stand for its parts.
@@ -56,7 +56,7 @@ class LuaCall {
   void begin_entry();
   void field(const char* name, double value);
   void field(const char* name, std::string_view value);
-  void field(const LuaField& field);
+  void field(const NamedValue& field);
   void end_entry();
   void append(std::string_view value);
 

@@ -2,7 +2,7 @@
 
 #include <stdexcept>
 
-#include "host/script/nearest.h"
+#include "host/inputs/nearest.h"
 
 namespace host {
 namespace {

@@ -131,7 +131,8 @@ void give_sound_level(LuaCall& call, const FlowSession& session) {
 }  // namespace
 
 void bind_readings(LuaRunner& runner, FlowSession& session) {
-  PanelSet& panels = session.cockpit().panels();
+  const PanelSet& panels = session.cockpit().panels();
+  CockpitInputs& inputs = session.inputs();
   runner.bind("shown", [&](LuaCall& call) { give_shown(call, session); });
   runner.bind("image", [&](LuaCall& call) { give_image(call, session); });
   runner.bind("value", [&](LuaCall& call) { give_value(call, session); });
@@ -143,9 +144,11 @@ void bind_readings(LuaRunner& runner, FlowSession& session) {
   });
   runner.bind("sounds", [&](LuaCall& call) { give_sounds(call, session); });
   runner.bind("sound_level", [&](LuaCall& call) { give_sound_level(call, session); });
-  runner.bind("start_page", [&](LuaCall&) { session.cockpit().begin_with_start_page(); });
-  runner.bind("open_window", [&](LuaCall& call) { panels.open(call.key(1, "ident")); });
-  runner.bind("close_window", [&](LuaCall& call) { panels.close(call.key(1, "ident")); });
+  runner.bind("start_page", [&](LuaCall&) { inputs.take(input::BeginWithStartPage{}); });
+  runner.bind("open_window",
+              [&](LuaCall& call) { inputs.take(input::OpenWindow{call.key(1, "ident")}); });
+  runner.bind("close_window",
+              [&](LuaCall& call) { inputs.take(input::CloseWindow{call.key(1, "ident")}); });
   runner.bind("window_open", [&](LuaCall& call) { call.give(panels.shows(call.key(1, "ident"))); });
 }
 

@@ -3,8 +3,6 @@
 
 #include <filesystem>
 #include <optional>
-#include <string>
-#include <vector>
 
 namespace host {
 
@@ -14,8 +12,6 @@ struct DeckOptions {
   bool outside = true;                   ///< with the view out of the window
   std::filesystem::path controls;        ///< the file of keys and sticks; empty: hands off
   std::filesystem::path pictures = ".";  ///< where screenshots go
-  std::filesystem::path record;          ///< a flow to write the person's inputs to; empty: none
-  std::vector<std::string> begun_with;   ///< what the record begins with: calls of a flow
   std::optional<double> exit_after;      ///< seconds
 };
 

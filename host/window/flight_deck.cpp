@@ -15,21 +15,19 @@ constexpr int most_late_frames = 4;        // a machine that slept does not fly 
 
 }  // namespace
 
-FlightDeck::FlightDeck(Cockpit& cockpit, const DeckOptions& options)
-    : cockpit_(cockpit),
+FlightDeck::FlightDeck(CockpitInputs& inputs, const DeckOptions& options)
+    : inputs_(inputs),
+      cockpit_(inputs.cockpit()),
       options_(options),
       scale_(options.scale.value_or(Desktop::scale())),
-      views_(cockpit, scale_, options.zoom ? std::optional(*options.zoom * scale_) : std::nullopt,
+      views_(cockpit_, scale_, options.zoom ? std::optional(*options.zoom * scale_) : std::nullopt,
              options.outside),
       notices_(views_.main()),
-      journal_(options.record.empty() ? Journal(1.0 / cockpit.rate())
-                                      : Journal(options.record, 1.0 / cockpit.rate())),
-      hand_(cockpit, views_, journal_, scale_) {
+      hand_(inputs_, views_, scale_) {
   if (!options.controls.empty()) {
     controls_ = read_control_map(options.controls);
     sticks_.emplace(controls_, hands_);
   }
-  for (const std::string& call : options.begun_with) journal_.call(call, cockpit.seconds());
   platform_on_message(take_message, this);
 }
 
@@ -67,7 +65,7 @@ void FlightDeck::run_frames() {
   if (now() - frame_due_ > most_late_frames * period) frame_due_ = now();
   for (; now() >= frame_due_; frame_due_ += period) {
     apply_hands();
-    cockpit_.frame();
+    inputs_.frame();
     if (after_frame) after_frame();
     last_frame_ = frame_due_;
   }

@@ -10,7 +10,6 @@
 
 #include "host/hands/sticks.h"
 #include "host/window/deck_options.h"
-#include "host/window/journal.h"
 #include "host/window/mouse_hand.h"
 #include "host/window/notices.h"
 #include "host/window/views.h"
@@ -19,9 +18,8 @@ namespace host {
 
 class FlightDeck {
  public:
-  /// Opens the windows. Throws std::runtime_error when there is no display or the record cannot be
-  /// written.
-  FlightDeck(Cockpit& cockpit, const DeckOptions& options);
+  /// Opens the windows. Throws std::runtime_error when there is no display. The inputs must outlive it.
+  FlightDeck(CockpitInputs& inputs, const DeckOptions& options);
   ~FlightDeck();
   FlightDeck(const FlightDeck&) = delete;
   FlightDeck& operator=(const FlightDeck&) = delete;
@@ -76,6 +74,7 @@ class FlightDeck {
   void leave_or_close_help();
   static void take_message(const char* text, const char* caption, void* context);
 
+  CockpitInputs& inputs_;  ///< whatever the person does goes through here
   Cockpit& cockpit_;
   DeckOptions options_;
   Desktop desktop_;
@@ -83,7 +82,6 @@ class FlightDeck {
   Clock::time_point start_ = Clock::now();
   Views views_;
   Notices notices_;
-  Journal journal_;
   MouseHand hand_;
   ControlMap controls_;
   Hands hands_;

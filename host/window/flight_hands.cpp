@@ -17,7 +17,10 @@ double toward(double from, double to, double by) { return from + std::clamp(to -
 }  // namespace
 
 void FlightDeck::apply(const FlightInputs& inputs) {
-  if (!inputs.empty()) host::apply(inputs, cockpit_.aircraft().controls());
+  if (inputs.empty()) return;
+  simulation::FlightControls wanted = cockpit_.aircraft().controls();
+  host::apply(inputs, wanted);
+  inputs_.fly(wanted);
 }
 
 void FlightDeck::apply_hands() {

@@ -51,11 +51,10 @@ bool FlightDeck::take_panel_key(SDL_Keycode key) {
 }
 
 void FlightDeck::toggle_window(std::uint32_t ident) {
-  PanelSet& panels = cockpit_.panels();
-  if (!panels.find(ident)) return;
-  panels.toggle(ident);
-  journal_.call((panels.shows(ident) ? "open_window(" : "close_window(") + std::to_string(ident) + ")",
-                cockpit_.seconds());
+  if (cockpit_.panels().shows(ident))
+    inputs_.take(input::CloseWindow{ident});
+  else
+    inputs_.take(input::OpenWindow{ident});
 }
 
 void FlightDeck::toggle_torn() {
@@ -65,11 +64,7 @@ void FlightDeck::toggle_torn() {
   views_.toggle_torn(*window);
 }
 
-void FlightDeck::send(std::uint32_t event) {
-  cockpit_.aircraft().key_event(event, 0);
-  const std::string name(find_row(AircraftModel::events(), event)->name);
-  journal_.call("event(\"" + name + "\")", cockpit_.seconds());
-}
+void FlightDeck::send(std::uint32_t event) { inputs_.take(input::KeyEvent{event, 0}); }
 
 // The main panels' faces follow, as they do for the switch on the panel.
 void FlightDeck::toggle_panel_lights() {
@@ -77,9 +72,7 @@ void FlightDeck::toggle_panel_lights() {
   const bool night = cockpit_.panel_lights_on();
   for (const WindowConfig& window : cockpit_.config().windows) {
     const std::uint32_t face = night ? window.night_ident : window.day_ident;
-    if (face == 0 || !cockpit_.panels().shows(window.ident)) continue;
-    cockpit_.panels().open(face);
-    journal_.call("open_window(" + std::to_string(face) + ")", cockpit_.seconds());
+    if (face != 0 && cockpit_.panels().shows(window.ident)) inputs_.take(input::OpenWindow{face});
   }
 }
 

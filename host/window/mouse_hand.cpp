@@ -31,8 +31,8 @@ Hint tooltip_at(const std::optional<ViewHit>& hit) {
 
 }  // namespace
 
-MouseHand::MouseHand(Cockpit& cockpit, Views& views, Journal& journal, double scale)
-    : cockpit_(cockpit), views_(views), journal_(journal), cursors_(scale) {}
+MouseHand::MouseHand(CockpitInputs& inputs, Views& views, double scale)
+    : inputs_(inputs), views_(views), cursors_(scale) {}
 
 View* MouseHand::view_of(Uint32 id, int x, int y) {
   View* view = views_.find(id);
@@ -63,7 +63,7 @@ void MouseHand::take(const SDL_Event& event, double now) {
     }
     case SDL_MOUSEBUTTONDOWN:
       if (view_of(event.button.windowID, event.button.x, event.button.y))
-        press(event.button.button, event.button.clicks, now);
+        press(event.button.button, event.button.clicks);
       break;
     case SDL_MOUSEBUTTONUP: release(event.button.button); break;
     case SDL_MOUSEWHEEL: wheel(event.wheel); break;
@@ -75,9 +75,7 @@ void MouseHand::move(int dx, int dy, double now) {
   View* view = views_.find(view_id_);
   if (!view) return;
   if (held_) {
-    const PanelPoint point = view->point_on(held_->window, *held_->gauge, x_, y_);
-    pointer_.move(point);
-    journal_.move(point);
+    inputs_.take(input::Move{view->point_on(held_->window, *held_->gauge, x_, y_)});
   } else if (scrolling_) {
     view->scroll(dx, dy);
   } else {
@@ -113,29 +111,24 @@ void MouseHand::show_tooltip() {
   tooltip_shown_ = true;
 }
 
-void MouseHand::press(Uint8 button, int clicks, double now) {
+void MouseHand::press(Uint8 button, int clicks) {
   hide_tooltip();
   const auto under = hit();
   if (under && under->on_caption && button == SDL_BUTTON_LEFT) return press_caption(*under, clicks);
-  if (under && under->gauge && mouse_flag(button)) press_control(*under, mouse_flag(button), now);
+  if (under && under->gauge && mouse_flag(button)) press_control(*under, mouse_flag(button));
   if (!held_ && button != SDL_BUTTON_RIGHT) scrolling_ = true;
 }
 
-void MouseHand::press_control(const ViewHit& hit, std::uint32_t button, double now) {
+void MouseHand::press_control(const ViewHit& hit, std::uint32_t button) {
   let_go();
   CockpitGauge& gauge = *hit.gauge->gauge;
-  const PanelPoint point = hit.gauge->point;
-  const HotArea* area = pointer_.press(gauge.areas, point, button, now);
-  if (!area) return;
-  held_ = Held{&gauge, hit.window, button};
-  journal_.press(gauge.header().name, point, button, area->flags & MOUSE_DRAG, cockpit_.seconds());
+  const input::Press press{gauge.header().name, hit.gauge->point, input::Button{button}};
+  if (inputs_.take(press) != Answer::nothing) held_ = Held{&gauge, hit.window, button};
 }
 
 void MouseHand::press_caption(const ViewHit& hit, int clicks) {
   if (hit.caption == CaptionPart::close) {
-    const std::uint32_t ident = cockpit_.config().windows[hit.window].ident;
-    cockpit_.panels().close(ident);
-    journal_.call("close_window(" + std::to_string(ident) + ")", cockpit_.seconds());
+    inputs_.take(input::CloseWindow{inputs_.cockpit().config().windows[hit.window].ident});
   } else if (hit.caption == CaptionPart::tear || clicks == 2) {
     views_.toggle_torn(hit.window);
   }
@@ -147,8 +140,7 @@ void MouseHand::release(Uint8 button) {
 }
 
 void MouseHand::let_go() {
-  if (held_) journal_.release(cockpit_.seconds());
-  pointer_.release();
+  if (held_) inputs_.take(input::Release{});
   held_.reset();
 }
 
@@ -157,9 +149,7 @@ void MouseHand::wheel(const SDL_MouseWheelEvent& event) {
   const auto under = hit();
   if (under && under->gauge && notches != 0) {
     const auto [gauge, point] = *under->gauge;
-    const double now = cockpit_.seconds();
-    if (Pointer::wheel(gauge->areas, point, notches))
-      return journal_.wheel(gauge->header().name, point, notches, now);
+    if (inputs_.take(input::Wheel{gauge->header().name, point, notches}) != Answer::nothing) return;
   }
   scroll(event);
 }
@@ -174,10 +164,9 @@ void MouseHand::scroll(const SDL_MouseWheelEvent& event) {
 
 void MouseHand::tick(double now) {
   if (now >= tooltip_due_) show_tooltip();
-  pointer_.tick(now);
 }
 
-double MouseHand::next_tick() const { return std::min(tooltip_due_, pointer_.next_repeat()); }
+double MouseHand::next_tick() const { return tooltip_due_; }
 
 void MouseHand::reset() {
   let_go();

@@ -5,22 +5,21 @@
 
 #include <optional>
 
+#include "host/inputs/cockpit_inputs.h"
 #include "host/panel/hints.h"
-#include "host/panel/pointer.h"
 #include "host/window/cursors.h"
-#include "host/window/journal.h"
 #include "host/window/views.h"
 
 namespace host {
 
 class MouseHand {
  public:
-  MouseHand(Cockpit& cockpit, Views& views, Journal& journal, double scale);
+  MouseHand(CockpitInputs& inputs, Views& views, double scale);
 
-  /// One mouse event of the desktop. `now` is real seconds, for repeats and tooltips.
+  /// One mouse event of the desktop. `now` is real seconds, for tooltips.
   void take(const SDL_Event& event, double now);
 
-  /// Repeats a held control and shows a tooltip when their time has come.
+  /// Shows a tooltip when its time has come.
   void tick(double now);
 
   /// When tick() has something to do next; infinite if nothing.
@@ -42,8 +41,8 @@ class MouseHand {
   View* view_of(Uint32 id, int x, int y);
   std::optional<ViewHit> hit() const;
   void move(int dx, int dy, double now);
-  void press(Uint8 button, int clicks, double now);
-  void press_control(const ViewHit& hit, std::uint32_t button, double now);
+  void press(Uint8 button, int clicks);
+  void press_control(const ViewHit& hit, std::uint32_t button);
   void release(Uint8 button);
   void let_go();
   void wheel(const SDL_MouseWheelEvent& event);
@@ -53,11 +52,9 @@ class MouseHand {
   void hide_tooltip();
   void show_tooltip();
 
-  Cockpit& cockpit_;
+  CockpitInputs& inputs_;
   Views& views_;
-  Journal& journal_;
   Cursors cursors_;
-  Pointer pointer_;
   std::optional<Held> held_;
   bool scrolling_ = false;
   Uint32 view_id_ = 0;  ///< 0: outside of every view

@@ -29,6 +29,7 @@ class BadInput : public testing::TestWithParam<Case> {
       folder.write("no_picture.cfg",
                    "[Window00]\nident=1\nvisible=1\nsize_mm=9,9\nbackground=gone.png\n");
       folder.write("noise.lua", "wait(1)\n");
+      folder.write("noise.journal", "wait(1)\n");
       folder.write("picture.lua", "wait(0.1)\npicture('p')\n");
       folder.write("named.lua", "click('Masterbat', 'battery_switch')\n");
       folder.write("wrong/Tarnvale.GAU.names", "Masterbat\tlamp\telement 99\tLamp\n");
@@ -88,6 +89,15 @@ INSTANTIATE_TEST_SUITE_P(
         Case{"unwritable_sound", "run @noise.lua --wav @gone/x.wav", 1, "gone/x.wav"},
         Case{"unwritable_pictures", "run @noise.lua --png /proc/pictures", 1,
              "/proc/pictures: cannot write to this folder"},
+        Case{"missing_journal", "replay @gone.journal", 1, "gone.journal: there is no such journal"},
+        Case{"folder_journal", "replay @wrong", 1, "wrong: there is no such journal"},
+        Case{"no_journal", "replay @noise.journal", 1,
+             "noise.journal:1: this is not the journal of a flight"},
+        Case{"unwritable_journal", "run @noise.lua --journal @gone/x", 1,
+             "gone/x: cannot write the journal"},
+        Case{"resume_missing", "fly --resume --journal @gone.journal", 1,
+             "gone.journal: there is no such journal"},
+        Case{"resume_a_beginning", "fly --resume --at final", 2, "--at excludes --resume"},
         Case{"show_unknown", "show Masterbatt --png @x.png", 1,
              "Tarnvale.GAU has no gauge 'Masterbatt'"},
         Case{"show_bad_reading", "show Ctr --set battery --png @x.png", 1,
@@ -118,11 +128,28 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& test) { return test.param.name; });
 
 TEST(Program, HelpsEveryCommand) {
-  for (const char* command : {"", "fly", "run", "show", "list", "check", "bench"}) {
+  for (const char* command : {"", "fly", "run", "replay", "show", "list", "check", "bench"}) {
     const Outcome outcome = tarnvale(std::string(command) + " --help");
     EXPECT_EQ(outcome.exit_code, 0) << command;
     EXPECT_NE(outcome.output.find("Usage"), std::string::npos) << outcome.output;
   }
+}
+
+TEST(Program, RefusesTheJournalOfAnotherModuleOrPanel) {
+  const TempFolder folder;
+  const std::string journal = folder / "j";
+  ASSERT_EQ(tarnvale("run " + folder.write("f.lua", "wait(1)\n") + " --journal " + journal).exit_code,
+            0);
+  const std::string panel = folder.write("panel.cfg", file_text(cockpit_dir / "panel.cfg") + "\n");
+  const std::string module = folder.write("Tarnvale.GAU", file_text(module_file) + " ");
+  for (const auto& [option, said] :
+       {std::pair{" --panel " + panel, ":3: flown with another panel: panel.cfg ("},
+        std::pair{" --module " + module, ":2: flown with another module: Tarnvale.GAU ("}})
+    for (const std::string& command : {"replay " + journal, "fly --resume --journal " + journal}) {
+      const Outcome outcome = tarnvale(command + option);
+      EXPECT_EQ(outcome.exit_code, 1);
+      EXPECT_NE(outcome.output.find(journal + said), std::string::npos) << outcome.output;
+    }
 }
 
 TEST(Program, ListsWhatTheCockpitHas) {

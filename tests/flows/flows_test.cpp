@@ -56,13 +56,19 @@ class ShippedFlow : public testing::TestWithParam<Shipped> {};
 TEST_P(ShippedFlow, FliesToItsEndAndLeavesPicturesAndSound) {
   const TempFolder folder;
   const std::string sound = folder / "flight.wav";
-  const Outcome outcome =
-      tarnvale(std::string("run ") + GetParam().flow + " --png " + (folder / "") + " --wav " + sound);
+  const std::string journal = folder / "flight.journal";
+  const Outcome outcome = tarnvale(std::string("run ") + GetParam().flow + " --png " + (folder / "") +
+                                   " --wav " + sound + " --journal " + journal);
   EXPECT_EQ(outcome.exit_code, 0) << outcome.output;
   for (const char* picture : GetParam().pictures) {
     EXPECT_TRUE(file_text(folder / (std::string(picture) + ".png")).starts_with("\x89PNG")) << picture;
   }
   EXPECT_GE(onsets(loudness(sound)).size(), 5u) << "the switches are heard";
+
+  const Outcome again = tarnvale("replay " + journal + " --wav " + (folder / "again.wav"));
+  EXPECT_EQ(again.exit_code, 0) << again.output;
+  EXPECT_TRUE(file_text(folder / "again.wav") == file_text(sound))
+      << "flown again, it sounds otherwise";
 }
 
 INSTANTIATE_TEST_SUITE_P(Flows, ShippedFlow,

@@ -45,7 +45,7 @@ class Device : public RenderedSound {
   TempFolder folder_;
 };
 
-TEST_F(Device, PlaysByItselfAndIsOpenedAgainAfterItWasLost) {
+TEST_F(Device, PlaysByItselfAndIsOpenedAgainAfterItWasLostOrLeft) {
   const Buffer buffer = mono_16(std::vector<std::int16_t>(2000, 12000));
   play_to_the_end(*buffer);
   EXPECT_TRUE(heard(12000));
@@ -57,6 +57,19 @@ TEST_F(Device, PlaysByItselfAndIsOpenedAgainAfterItWasLost) {
   play_to_the_end(*buffer);
   EXPECT_TRUE(heard(5000));
   EXPECT_EQ(render(100), silence(100)) << "only a rendered mix can be taken";
+
+  platform_move_audio(PLATFORM_AUDIO_RENDERED);
+  EXPECT_EQ(status(*buffer), DSBSTATUS_BUFFERLOST);
+  ASSERT_EQ(buffer->Restore(), DS_OK);
+  fill(*buffer, std::vector<std::int16_t>(2000, 7000));
+  ASSERT_EQ(buffer->Play(0, 0, 0), DS_OK);
+  EXPECT_EQ(render(1).front().left, 7000);
+  platform_move_audio(PLATFORM_AUDIO_DEVICE);
+  ASSERT_EQ(buffer->Restore(), DS_OK);
+  fill(*buffer, std::vector<std::int16_t>(2000, 3000));
+  play_to_the_end(*buffer);
+  EXPECT_TRUE(heard(3000));
+  EXPECT_FALSE(heard(7000)) << "that went into the mix";
 }
 
 TEST(NoDevice, TheSilentStandInIsNone) {

@@ -3,7 +3,6 @@
 
 #include "host/window/compose.h"
 #include "host/window/height_above.h"
-#include "host/window/journal.h"
 #include "host/window/ui_pictures.h"
 #include "host/window/x11_desktop.h"
 #include "tests/app/program.h"
@@ -50,32 +49,6 @@ TEST(Caption, HasItsButtonsAtTheRightEnd) {
   EXPECT_EQ(caption_part(260, 300, 2.0), CaptionPart::close);
 }
 
-TEST(Journal, WritesAFlow) {
-  const TempFolder folder;
-  {
-    Journal journal(folder / "flight.lua", 0.05);
-    journal.press("Masterbat", {47, 99}, MOUSE_LEFT, false, 2.0);
-    journal.release(2.1);
-    journal.press("Clock", {65, 75}, MOUSE_RIGHT, false, 3.0);
-    journal.release(4.5);
-    journal.press("Thleft", {110, 200}, MOUSE_LEFT, true, 5.0);
-    journal.move({112, 240});
-    journal.release(6.0);
-    journal.press("Thleft", {110, 200}, MOUSE_LEFT, true, 6.0);
-    journal.release(6.0);
-    journal.wheel("Acdcsw", {40, 35}, -2, 6.05);
-    journal.call("open_window(502)", 7.05);
-  }
-  EXPECT_EQ(file_text(folder / "flight.lua"),
-            "-- Recorded in the cockpit; fly it again with: tarnvale run FILE\n"
-            "wait(1.949)\nclick(\"Masterbat\", 47, 99)\n"
-            "wait(0.949)\nright_hold(\"Clock\", 65, 75, 1.499)\n"
-            "wait(0.499)\ndrag(\"Thleft\", 110, 200, 112, 240, 1.000)\n"
-            "click(\"Thleft\", 110, 200)\n"
-            "wheel(\"Acdcsw\", 40, 35, -2)\n"
-            "wait(0.899)\nopen_window(502)\n");
-}
-
 TEST(HeightAbove, LeavesThePanelsLegible) {
   const PanelSize captain{898, 762}, overhead{1263, 694};
   const struct {
@@ -99,10 +72,6 @@ TEST(HeightAbove, LeavesThePanelsLegible) {
     EXPECT_GE(above, least) << what;
     EXPECT_LE(above, most) << what;
   }
-}
-
-TEST(Journal, NamesAFileThatCannotBeWritten) {
-  EXPECT_THROW(Journal("/no/such/folder/flight.lua", 0.05), std::runtime_error);
 }
 
 }  // namespace

@@ -26,6 +26,10 @@ class Child {
     _exit(127);
   }
   ~Child() { end(SIGTERM); }
+
+  /// At once, and without a word.
+  void die() { end(SIGKILL); }
+
   Child(const Child&) = delete;
   Child& operator=(const Child&) = delete;
 
@@ -67,10 +71,14 @@ class Screen {
   }
 
   std::string environment() const {
-    return "env -u WAYLAND_DISPLAY -u SDL_VIDEODRIVER DISPLAY=" + display_ + " ";
+    return "env -u WAYLAND_DISPLAY -u SDL_VIDEODRIVER DISPLAY=" + display_ +
+           " XDG_STATE_HOME=" + state_.path().string() + " ";
   }
 
   const std::string& display() const { return display_; }
+
+  /// Where the program keeps the journals of its sessions.
+  std::filesystem::path sessions() const { return state_.path() / "tarnvale"; }
 
   /// Works mouse and keyboard, in xdotool's words.
   Outcome hands(const std::string& what) const {
@@ -78,6 +86,7 @@ class Screen {
   }
 
  private:
+  TempFolder state_;
   std::unique_ptr<Child> server_;
   std::string display_;
 };

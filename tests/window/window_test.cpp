@@ -40,12 +40,17 @@ class InAWindow : public testing::Test {
     if (!Screen::available()) GTEST_SKIP() << "needs Xvfb and xdotool";
     screen = std::make_unique<Screen>(setting.screen);
     record = folder / "record.lua";
+    folder.write("panel.cfg", setting.panel);
+    begin("--record " + record + setting.start);
+  }
+
+  void begin(const std::string& options) {
     std::ostringstream command;
     // The program's own time limit is for the day when this test itself is killed.
     command << screen->environment() << cockpit_dir / "tarnvale"
             << " fly --mute --exit-after 120 --zoom " << setting.zoom << " --panel "
-            << folder.write("panel.cfg", setting.panel) << " --record " << record << " --pictures "
-            << folder.path() << setting.start;
+            << folder / "panel.cfg"
+            << " --pictures " << folder.path() << " " << options;
     if (!setting.module.empty()) command << " --module " << setting.module;
     command << " 2> " << folder / "log";
     program = std::make_unique<Child>(command.str(), -1);
@@ -132,6 +137,42 @@ TEST_F(InAWindow, TheBatteryComesOnWithAClickAndTheRecordFliesAgain) {
       << "wait(0.1)\nexpect(image('Masterbat', 40) == 1, 'the lamp is dark')\n";
   const Outcome again = tarnvale("run " + record + " --panel " + (folder / "panel.cfg"));
   EXPECT_EQ(again.exit_code, 0) << again.output << file_text(record);
+}
+
+TEST_F(InAWindow, ASessionThatWasKilledIsTakenUpWhereItWasLeft) {
+  const unsigned dark = look(20, 52);
+  const auto is_lit = [&] { return green(look(20, 52)) > green(dark) + 60; };
+  click(47, 99);
+  ASSERT_TRUE(eventually(is_lit));
+  const auto entry = std::filesystem::directory_iterator(screen->sessions());
+  const std::string journal = entry->path();
+  const auto kept = [&] { return file_text(journal); };
+  ASSERT_TRUE(
+      eventually([&] { return kept().find(" mark ", kept().find(" release")) != std::string::npos; }));
+  program->die();
+  program->wait();
+  std::ofstream(journal, std::ios::app) << "0123abcd 99 rel";
+  const std::string left = kept();
+  const auto good_lines = std::count(left.begin(), left.end(), '\n');
+
+  begin("--resume");
+  EXPECT_EQ(file_text(folder / "log"), "Journal: " + journal + ":" + std::to_string(good_lines + 1) +
+                                           ": damaged or cut off; the flight is taken up to here\n");
+  EXPECT_TRUE(eventually(is_lit)) << "the battery is on";
+  click(47, 99);
+  EXPECT_TRUE(eventually([&] { return !is_lit(); }));
+  screen->hands("key q");
+  EXPECT_EQ(program->wait(), 0);
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(screen->sessions()), {}), 1);
+
+  const std::string flow = folder / "again.lua";
+  const Outcome again =
+      tarnvale("replay " + journal + " --panel " + (folder / "panel.cfg") + " --flow " + flow);
+  EXPECT_EQ(again.exit_code, 0) << again.output << kept();
+  EXPECT_EQ(again.output.find("damaged"), std::string::npos) << again.output;
+  const std::string click = "click(\"Masterbat\", 47, 99)\n";
+  EXPECT_NE(file_text(flow).find(click, file_text(flow).find(click) + 1), std::string::npos)
+      << file_text(flow);
 }
 
 TEST_F(InAWindow, ARestOnAControlSaysWhatItIs) {

@@ -1,4 +1,4 @@
-#include "host/script/nearest.h"
+#include "host/inputs/nearest.h"
 
 #include <algorithm>
 #include <numeric>

@@ -1,4 +1,4 @@
-/// A named value in a table that a flow hands over.
+/// A value by its name, as a flow hands it over and as a journal keeps it.
 #pragma once
 
 #include <array>
@@ -12,12 +12,14 @@
 namespace host {
 
 /// The readers throw std::invalid_argument, "elevator must be a number from -1 to 1", for any other value.
-struct LuaField {
-  /// What a table may hold; std::monostate stands for everything else.
+struct NamedValue {
+  /// std::monostate stands for everything that cannot be a value.
   using Value = std::variant<std::monostate, bool, double, std::string, std::vector<double>>;
 
   std::string name;
   Value value;
+
+  bool operator==(const NamedValue&) const = default;
 
   double number(double least, double most) const;
   /// One number for both sides or a list of two, left first.

@@ -1,10 +1,11 @@
-#include "host/script/lua_field.h"
+#include "host/inputs/named_value.h"
 
 #include <algorithm>
 #include <cstdio>
 #include <stdexcept>
 
-#include "host/script/named_fields.h"
+#include "host/inputs/known_fields.h"
+#include "host/inputs/nearest.h"
 
 namespace host {
 namespace {
@@ -32,17 +33,17 @@ bool within(double number, double least, double most) { return number >= least &
 
 }  // namespace
 
-void LuaField::wrong(const std::string& wanted) const {
+void NamedValue::wrong(const std::string& wanted) const {
   throw std::invalid_argument(name + " must be " + wanted);
 }
 
-double LuaField::number(double least, double most) const {
+double NamedValue::number(double least, double most) const {
   const double* given = std::get_if<double>(&value);
   if (!given || !within(*given, least, most)) wrong(range(least, most));
   return *given;
 }
 
-std::array<double, 2> LuaField::both(double least, double most) const {
+std::array<double, 2> NamedValue::both(double least, double most) const {
   const auto* sides = std::get_if<std::vector<double>>(&value);
   const double* one = std::get_if<double>(&value);
   const std::vector<double> given = sides ? *sides : std::vector(2, one ? *one : most + 1);
@@ -52,13 +53,13 @@ std::array<double, 2> LuaField::both(double least, double most) const {
   return {given[0], given[1]};
 }
 
-bool LuaField::truth() const {
+bool NamedValue::truth() const {
   const bool* given = std::get_if<bool>(&value);
   if (!given) wrong("true or false");
   return *given;
 }
 
-std::size_t LuaField::one_of(std::span<const double> numbers) const {
+std::size_t NamedValue::one_of(std::span<const double> numbers) const {
   const double* given = std::get_if<double>(&value);
   const auto found = given ? std::ranges::find(numbers, *given) : numbers.end();
   if (found != numbers.end()) return static_cast<std::size_t>(found - numbers.begin());
@@ -67,7 +68,7 @@ std::size_t LuaField::one_of(std::span<const double> numbers) const {
   wrong(choice(items));
 }
 
-std::size_t LuaField::one_of(std::span<const std::string_view> texts) const {
+std::size_t NamedValue::one_of(std::span<const std::string_view> texts) const {
   const std::string* given = std::get_if<std::string>(&value);
   const auto found = given ? std::ranges::find(texts, *given) : texts.end();
   if (found != texts.end()) return static_cast<std::size_t>(found - texts.begin());
@@ -76,7 +77,7 @@ std::size_t LuaField::one_of(std::span<const std::string_view> texts) const {
   wrong(choice(items));
 }
 
-void refuse_field(const char* call_name, const LuaField& field,
+void refuse_field(const char* call_name, const NamedValue& field,
                   const std::vector<std::string_view>& known) {
   throw std::invalid_argument(std::string(call_name) + " knows no '" + field.name + "'" +
                               did_you_mean(field.name, known));
