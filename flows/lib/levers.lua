@@ -12,7 +12,11 @@ end
 
 function levers.flaps_at(degrees) return image("Thright", "flap_lever") == DETENTS[degrees] end
 
--- "up" or "down"
-function levers.gear(position) click("Gear", "set_gear_" .. position) end
+-- "up" or "down". The panel takes the lever for where a hand last put it, and does nothing when told so again;
+-- through neutral it moves wherever the aircraft has been placed.
+function levers.gear(position)
+  click("Gear", "set_gear_neutral")
+  click("Gear", "set_gear_" .. position)
+end
 
 return levers
