@@ -8,7 +8,7 @@ local landing = require("lib.landing")
 local levers = require("lib.levers")
 
 local LANDING_SYSTEM, BEACON = 11030, 11335        -- hundredths of a megahertz
-local COURSE, RADIAL = 70, 250
+local COURSE, RADIAL, CROSSWIND, BASE, INTERCEPT = 70, 250, 340, 160, 110
 local DECISION_HEIGHT = 200
 local APPROACH_SPEED = 130                          -- with flaps 42
 
@@ -41,7 +41,15 @@ local function expect_no_decision()
   for _, lit in ipairs({decided()}) do expect(not lit, "a decision light is lit already") end
 end
 
--- On an intercept heading: down the landing system until the decision height, every lamp in its turn.
+-- From the base leg, the beacon ahead to the left, toward the localizer.
+local function intercept()
+  watch("Base", 300, function(seen) return (seen.heading + seen.beacon) % 360 < 85 end)
+  autopilot.hold_heading(INTERCEPT)
+  levers.flaps(11)
+  watch("Intercept", 120, turned_to(INTERCEPT))
+end
+
+-- On that heading: down the landing system until the decision height, every lamp in its turn.
 local function fly_coupled_approach(picture_name)
   autopilot.arm_approach()
   watch("Localizer alive", 300, function(seen)
@@ -95,8 +103,10 @@ click("Intro", "captain_running")
 wait(1)
 place_in_flight{altitude = 5000, airspeed = 220, heading = 225, along = 5000, right = -13500}
 event("altimeters_to_qnh")
-for _, window in ipairs({500, 503, 504}) do open_window(window) end
+for _, window in ipairs({500, 502, 503, 504}) do open_window(window) end
 wait(0.5)
+expect(image("Avimaster", "avionics_lamp") == 1, "the avionics are off")
+close_window(502)
 click("Rmi", "right_bearing_selector")  -- to the beacon at the outer marker
 
 say("Autopilot")
@@ -126,16 +136,13 @@ end)
 expect_near(pilot.look().altitude, 3500, 50, "the altitude")
 picture("2-radial", 500)
 
-autopilot.hold_heading(160)
+autopilot.hold_heading(BASE)
 knobs.turn(knobs.speed, 180)
 levers.flaps(6)
 click("Vhf1nav", "transfer_button")
 knobs.turn(knobs.course, COURSE)
 expect(knobs.in_use("Vhf1nav") == LANDING_SYSTEM, "receiver 1 is not on the landing system")
-watch("Base", 300, function(seen) return (seen.heading + seen.beacon) % 360 < 85 end)
-autopilot.hold_heading(110)
-levers.flaps(11)
-watch("Intercept", 120, turned_to(110))
+intercept()
 fly_coupled_approach("3")
 landing.expect_calls(CALLS_TO_DECISION)
 picture("4-decision", 500)
@@ -159,24 +166,22 @@ pilot.leg("Climb", {pitch = 12, heading = COURSE, throttle = 0.95}, 90, function
 expect_no_decision()
 landing.expect_calls(CALLS_TO_DECISION)
 
+pilot.let_go()
 autopilot.engage()
 autopilot.hold_speed(180)
-autopilot.hold_heading(340)
+autopilot.hold_heading(CROSSWIND)
 autopilot.hold_altitude(3000, 1500)
 levers.flaps(11)
 picture("5-around", 500)
-watch("Crosswind", 120, turned_to(340))
+watch("Crosswind", 120, turned_to(CROSSWIND))
 wait(30)
 autopilot.hold_heading(RADIAL)
 levers.flaps(6)
 watch("Downwind", 300, function(seen) return turned_to(RADIAL)(seen) and seen.beacon < 270 end)
 expect_near(pilot.look().altitude, 3000, 50, "the altitude downwind")
 wait(200)
-autopilot.hold_heading(160)
-watch("Base", 300, function(seen) return (seen.heading + seen.beacon) % 360 < 85 end)
-autopilot.hold_heading(110)
-levers.flaps(11)
-watch("Intercept", 120, turned_to(110))
+autopilot.hold_heading(BASE)
+intercept()
 fly_coupled_approach("6")
 
 -- ---- Landing

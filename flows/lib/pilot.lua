@@ -100,8 +100,11 @@ local function hold_pitch(seen, wanted, dt)
   end
 end
 
-local function hold_bank(seen, wanted)
-  hands.aileron = within(0.06 * (wanted - seen.bank) - 0.03 * rate.bank, -1, 1)
+-- The aileron for the moment, and what a sideslip or a heavy wing has been found to need.
+local function hold_bank(seen, wanted, dt)
+  local lacks = wanted - seen.bank
+  hands.kept_aileron = within(hands.kept_aileron + 0.04 * within(lacks, -8, 8) * dt, -0.5, 0.5)
+  hands.aileron = within(0.06 * lacks - 0.03 * rate.bank + hands.kept_aileron, -1, 1)
 end
 
 local function hold_speed(seen, wanted, dt)
@@ -133,13 +136,13 @@ end
 local function climb_for_flare(seen) return -100 - 9 * seen.height end
 
 -- Where the aircraft goes, told by how the needle moves, against where it should go.
-local function bank_for_localizer(seen)
+local function bank_for_localizer(seen, firmness, most)
   local knots = math.max(seen.airspeed, 60)
   local feet_away = math.max(seen.distance or 10, 0.5) * FEET_A_MILE
   local drift = math.rad(LOCALIZER_SCALE)
       * (rate.localizer * feet_away - seen.localizer * knots * FEET_A_SECOND)
   local track = math.deg(math.asin(within(-drift / (knots * FEET_A_SECOND), -1, 1)))
-  return within(1.3 * (within(0.014 * feet_aside(seen), -30, 30) - track), -25, 25)
+  return within(firmness * (within(0.014 * feet_aside(seen), -30, 30) - track), -most, most)
 end
 
 local function pitch_for(wish, seen, dt)
@@ -152,7 +155,8 @@ end
 
 local function bank_for(wish, seen)
   return wish.bank or wish.heading and within(1.3 * turn_to(wish.heading, seen.heading), -25, 25)
-      or wish.localizer and bank_for_localizer(seen)
+      or wish.localizer and wish.flare and bank_for_localizer(seen, 2.5, 5)
+      or wish.localizer and bank_for_localizer(seen, 1.3, 25)
 end
 
 local BESIDES = {"rudder", "flaps", "gear", "speed_brake", "lift_dumpers", "brakes", "tiller",
@@ -163,7 +167,7 @@ local function move(wish, seen)
   notice_rates(seen, dt)
   local pitch, bank = pitch_for(wish, seen, dt), bank_for(wish, seen)
   if pitch then hold_pitch(seen, pitch, dt) end
-  if bank then hold_bank(seen, bank) end
+  if bank then hold_bank(seen, bank, dt) end
   if wish.speed then hold_speed(seen, wish.speed, dt) end
   hands.throttle = wish.throttle or hands.throttle
   local moved = {elevator = hands.elevator, pitch_trim = hands.pitch_trim, aileron = hands.aileron,
@@ -178,10 +182,13 @@ end
 function pilot.take_controls()
   local found = controls()
   hands = {elevator = found.elevator, pitch_trim = found.pitch_trim, aileron = found.aileron,
-           throttle = found.throttle[1]}
+           kept_aileron = 0, throttle = found.throttle[1]}
   rate = {pitch = 0, bank = 0, heading = 0, airspeed = 0, localizer = 0}
   last = pilot.look()
 end
+
+-- Takes the hands off the stick and the feet off the pedals, for the autopilot.
+function pilot.let_go() fly{elevator = 0, aileron = 0, rudder = 0} end
 
 -- Flies by the wish until the condition holds of what is seen; fails after the timeout.
 function pilot.fly_until(condition, timeout, what, wish)
