@@ -9,7 +9,7 @@ local levers = require("lib.levers")
 
 local LANDING_SYSTEM, BEACON = 11030, 11335        -- hundredths of a megahertz
 local COURSE, RADIAL, CROSSWIND, BASE, INTERCEPT = 70, 250, 340, 160, 110
-local DECISION_HEIGHT = 200
+local APPROACH_ALTITUDE, DECISION_HEIGHT = 3500, 200
 local APPROACH_SPEED = 130                          -- with flaps 42
 
 local CALLS_TO_DECISION = {"a2500", "a1000", "a500", "a400", "a300", "a200"}
@@ -128,12 +128,12 @@ picture("1-radios", 503)
 
 autopilot.navigate()
 watch("Radial", 200, function(seen) return math.abs(seen.localizer) < 0.1 and turned_to(RADIAL)(seen) end)
-knobs.turn(knobs.altitude, 3500)
+knobs.turn(knobs.altitude, APPROACH_ALTITUDE)
 watch("Outbound", 600, function(seen)
   expect(math.abs(seen.localizer) < 0.5, "the radial is left")
   return seen.distance > 23
 end)
-expect_near(pilot.look().altitude, 3500, 50, "the altitude")
+expect_near(pilot.look().altitude, APPROACH_ALTITUDE, 50, "the altitude")
 picture("2-radial", 500)
 
 autopilot.hold_heading(BASE)
@@ -161,8 +161,8 @@ end, 30, function(seen) return seen.climb > 500 end)
 expect(lowest > 100, string.format("the go-around sinks to %.0f feet", lowest))
 levers.flaps(18)
 levers.gear("up")
-knobs.turn(knobs.speed, 180)
-pilot.leg("Climb", {pitch = 12, heading = COURSE, throttle = 0.95}, 90, function(seen) return seen.altitude > 1500 end)
+pilot.leg("Climb", {climb = 1500, heading = COURSE, throttle = 0.95}, 90,
+          function(seen) return seen.altitude > 1500 end)
 expect_no_decision()
 landing.expect_calls(CALLS_TO_DECISION)
 
@@ -170,16 +170,15 @@ pilot.let_go()
 autopilot.engage()
 autopilot.hold_speed(180)
 autopilot.hold_heading(CROSSWIND)
-autopilot.hold_altitude(3000, 1500)
+autopilot.hold_altitude(APPROACH_ALTITUDE, 1500)
 levers.flaps(11)
 picture("5-around", 500)
 watch("Crosswind", 120, turned_to(CROSSWIND))
 wait(30)
 autopilot.hold_heading(RADIAL)
 levers.flaps(6)
-watch("Downwind", 300, function(seen) return turned_to(RADIAL)(seen) and seen.beacon < 270 end)
-expect_near(pilot.look().altitude, 3000, 50, "the altitude downwind")
-wait(200)
+watch("Downwind", 600, function(seen) return seen.distance and seen.distance > 18 end)
+expect_near(pilot.look().altitude, APPROACH_ALTITUDE, 50, "the altitude downwind")
 autopilot.hold_heading(BASE)
 intercept()
 fly_coupled_approach("6")

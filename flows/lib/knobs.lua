@@ -37,7 +37,8 @@ knobs.decision_height = knob("Radalt", "decision_height_knob", 10,
 local function rounds(head)
   local function drums(places) return figures(head, "standby_%s_of_megahertz", places) end
   local tens = drums({tens = 10})
-  return knob(head, "megahertz_knob", 1, function() return 100 + tens() + value(head, "standby_megahertz", 2) end),
+  local function megahertz() return 100 + tens() + value(head, "standby_megahertz", 2) end
+  return knob(head, "megahertz_knob", 1, megahertz),
          knob(head, "kilohertz_knob", 5, drums({tenths = 10, hundredths = 1}))
 end
 

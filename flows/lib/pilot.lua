@@ -100,11 +100,8 @@ local function hold_pitch(seen, wanted, dt)
   end
 end
 
--- The aileron for the moment, and what a sideslip or a heavy wing has been found to need.
-local function hold_bank(seen, wanted, dt)
-  local lacks = wanted - seen.bank
-  hands.kept_aileron = within(hands.kept_aileron + 0.04 * within(lacks, -8, 8) * dt, -0.5, 0.5)
-  hands.aileron = within(0.06 * lacks - 0.03 * rate.bank + hands.kept_aileron, -1, 1)
+local function hold_bank(seen, wanted)
+  hands.aileron = within(0.06 * (wanted - seen.bank) - 0.03 * rate.bank, -1, 1)
 end
 
 local function hold_speed(seen, wanted, dt)
@@ -167,7 +164,7 @@ local function move(wish, seen)
   notice_rates(seen, dt)
   local pitch, bank = pitch_for(wish, seen, dt), bank_for(wish, seen)
   if pitch then hold_pitch(seen, pitch, dt) end
-  if bank then hold_bank(seen, bank, dt) end
+  if bank then hold_bank(seen, bank) end
   if wish.speed then hold_speed(seen, wish.speed, dt) end
   hands.throttle = wish.throttle or hands.throttle
   local moved = {elevator = hands.elevator, pitch_trim = hands.pitch_trim, aileron = hands.aileron,
@@ -182,7 +179,7 @@ end
 function pilot.take_controls()
   local found = controls()
   hands = {elevator = found.elevator, pitch_trim = found.pitch_trim, aileron = found.aileron,
-           kept_aileron = 0, throttle = found.throttle[1]}
+           throttle = found.throttle[1]}
   rate = {pitch = 0, bank = 0, heading = 0, airspeed = 0, localizer = 0}
   last = pilot.look()
 end
