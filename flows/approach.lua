@@ -7,10 +7,10 @@ local knobs = require("lib.knobs")
 local landing = require("lib.landing")
 local levers = require("lib.levers")
 
-local LANDING_SYSTEM, BEACON = 11030, 11335        -- hundredths of a megahertz
+local LANDING_SYSTEM, BEACON = 11030, 11335  -- hundredths of a megahertz
 local COURSE, RADIAL, CROSSWIND, BASE, INTERCEPT = 70, 250, 340, 160, 110
 local APPROACH_ALTITUDE, DECISION_HEIGHT = 3500, 200
-local APPROACH_SPEED = 130                          -- with flaps 42
+local APPROACH_SPEED = 130  -- with flaps 42
 
 local CALLS_TO_DECISION = {"a2500", "a1000", "a500", "a400", "a300", "a200"}
 local CALLS_TO_GROUND = {"a100", "a50", "a40", "a30", "a20", "a10"}
@@ -51,6 +51,7 @@ end
 
 -- On that heading: down the landing system until the decision height, every lamp in its turn.
 local function fly_coupled_approach(picture_name)
+  expect_lamps("not armed", {arm = false, localizer = "dark", slope = "dark"})
   autopilot.arm_approach()
   watch("Localizer alive", 300, function(seen)
     expect_lamps("no glide slope yet", {arm = false, localizer = "amber", slope = "dark"})

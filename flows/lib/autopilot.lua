@@ -81,8 +81,8 @@ end
 
 local COLOURS = {[0] = "dark", "amber", "green"}
 
--- What the approach panel shows: whether the arm lamps are lit, and the others' colours: "dark", "amber" (armed,
--- or out of limits) or "green" (captured, or within limits).
+-- What the approach panel shows: whether the arm lamps are lit, and the others' colours: "dark", "amber"
+-- (armed, or out of limits) or "green" (captured, or within limits).
 function autopilot.approach_lamps()
   return {arm = lamp("arm") == 1, localizer = COLOURS[lamp("localizer")],
           slope = COLOURS[lamp("glide_slope")], speed = COLOURS[image("Cat2apsys", "speed_lamp")],
