@@ -1,6 +1,7 @@
 -- A circuit by hand: take-off from runway 07, left around it at 3,500 feet, down the landing system on raw
 -- needles, landing. The crew's calls are heard on the way.
 local pilot = require("lib.pilot")
+local landing = require("lib.landing")
 
 local RUNWAY, CROSSWIND, DOWNWIND, BASE, INTERCEPT = 70, 340, 250, 160, 110
 local CIRCUIT_ALTITUDE = 3500
@@ -12,21 +13,7 @@ local LANDING_CALLS = {
   "a2500", "a1000", "a500", "a400", "a300", "a200", "a100", "a50", "a40", "a30", "a20", "a10",
 }
 
-local function leg(name, wish, timeout, done)
-  say(name)
-  return pilot.fly_until(done, timeout, name .. " to end", wish)
-end
-
--- Of all that has been heard, these were heard once each and in this order.
-local function expect_calls(calls)
-  local awaited, heard = {}, {}
-  for _, name in ipairs(calls) do awaited[name] = true end
-  for _, sound in ipairs(sounds()) do
-    if awaited[sound.name] then table.insert(heard, sound.name) end
-  end
-  local wanted, got = table.concat(calls, ", "), table.concat(heard, ", ")
-  expect(got == wanted, "the calls are " .. got .. ", not " .. wanted)
-end
+local leg = pilot.leg
 
 -- ---- On the runway
 
@@ -63,7 +50,7 @@ leg("Rotate", function(seen)
 end, 20, function(seen) return seen.height > 35 and seen.climb > 500 end)
 leg("Gear up", {pitch = 12, heading = RUNWAY, gear = "up"}, 90,
     function(seen) return seen.altitude > 1500 end)
-expect_calls(TAKE_OFF_CALLS)
+landing.expect_calls(TAKE_OFF_CALLS)
 leg("Flaps 6", {climb = 1000, heading = RUNWAY, throttle = 0.9, flaps = 6}, 60,
     function(seen) return seen.airspeed > 180 end)
 leg("Climb, crosswind", {climb = 1800, heading = CROSSWIND, speed = 200, flaps = 0}, 180,
@@ -107,42 +94,15 @@ leg("1,000 feet", {slope = true, localizer = true, speed = APPROACH_SPEED}, 120,
   expect(decided or math.abs(seen.slope or 1) < 0.5, "the approach leaves the glide slope")
   return seen.height < 60
 end)
-local sink
-leg("Flare", function(seen)
-  return {flare = true, localizer = true, throttle = 0.3 * math.max(0, math.min(1, seen.height / 40 - 0.25)),
-          rudder = seen.height < 15 and pilot.straighten(seen) or 0}
-end, 30, function(seen)
-  if token("on_ground") == 0 then sink = -seen.climb end
-  return token("on_ground") == 1
-end)
-say(string.format("Touchdown at %.0f ft/min", sink))
-expect(sink < 600, string.format("a touchdown at %.0f ft/min", sink))
-expect_calls(LANDING_CALLS)
+landing.flare()
+landing.expect_calls(LANDING_CALLS)
 
 -- ---- Roll-out
 
--- Metres from the landing system's antenna, 300 beyond the runway's end, and from its middle line.
-local function place()
-  local ahead = token("nav1_distance") * 1852
-  return ahead, ahead * math.tan(math.rad(2.5 * token("localizer_deviation") / 127))
-end
-
-local touched = now()
-local nose = pilot.look().pitch
-leg("Roll-out", function(seen)
-  local _, aside = place()
-  expect(math.abs(aside) < 15, string.format("%.0f m from the centreline", aside))
-  return {pitch = math.max(nose - 2 * (seen.seconds - touched), 0), bank = 0, throttle = 0,
-          rudder = pilot.steer(seen), lift_dumpers = true, brakes = seen.seconds > touched + 2 and 0.5 or 0}
-end, 60, function(seen) return seen.airspeed < 20 end)
-fly{brakes = 1, parking_brake = true}
-wait(10)
-local ahead, aside = place()
-expect(ahead > 300 and ahead < 3300 and math.abs(aside) < 15,
-       string.format("stopped %.0f m from the antenna and %.1f from the middle", ahead, aside))
+local ahead, aside = landing.roll_out()
 wait(5)
-expect_near(place(), ahead, 0.1, "the place after five seconds")
-expect_calls(LANDING_CALLS)
-expect_calls(TAKE_OFF_CALLS)
+expect_near(landing.place(), ahead, 0.1, "the place after five seconds")
+landing.expect_calls(LANDING_CALLS)
+landing.expect_calls(TAKE_OFF_CALLS)
 picture("4-stopped", 500)
 say(string.format("Stopped %.0f m before the runway's end, %.1f m from its middle", ahead - 300, aside))

@@ -196,6 +196,12 @@ function pilot.fly_until(condition, timeout, what, wish)
   return last
 end
 
+-- The same with its name said.
+function pilot.leg(name, wish, timeout, done)
+  say(name)
+  return pilot.fly_until(done, timeout, name .. " to end", wish)
+end
+
 -- Pedals that keep to the middle of the runway by the localizer.
 function pilot.steer(seen)
   local heading = COURSE + within(0.15 * feet_aside(seen), -8, 8)

@@ -2,7 +2,6 @@
 
 #include <fstream>
 #include <iterator>
-#include <string_view>
 
 namespace host {
 namespace {
@@ -29,10 +28,12 @@ SoundBook::SoundBook(const fs::path& folder) {
 }
 
 std::string SoundBook::name_of(std::span<const std::byte> samples) const {
-  const std::string_view wanted(reinterpret_cast<const char*>(samples.data()), samples.size());
+  const std::string wanted(reinterpret_cast<const char*>(samples.data()), samples.size());
+  const auto [known, fresh] = known_.try_emplace(wanted, "?");
+  if (!fresh) return known->second;
   for (const Page& page : pages_)
-    if (page.bytes.find(wanted) != std::string::npos) return page.name;
-  return "?";
+    if (page.bytes.find(wanted) != std::string::npos) return known->second = page.name;
+  return known->second;
 }
 
 }  // namespace host

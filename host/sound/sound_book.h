@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <span>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 namespace host {
@@ -24,6 +25,7 @@ class SoundBook {
     std::string name, bytes;
   };
   std::vector<Page> pages_;
+  mutable std::unordered_map<std::string, std::string> known_;  ///< names by samples: a search is slow
 };
 
 }  // namespace host
