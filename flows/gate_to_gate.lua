@@ -31,6 +31,7 @@ wait(1)
 picture("01-start-page", 508)
 click("Intro", "captain_cold_and_dark")
 for _, window in ipairs({502, 503, 504}) do open_window(window) end
+say("Cold and dark")
 wait(2)
 expect(image("Masterbat", "battery_lamp") == 0, "the battery lamp is lit in a dead aircraft")
 expect(overhead.apu_running_lamp() == 0, "the APU lamp is lit in a dead aircraft")
@@ -106,6 +107,7 @@ overhead.start_engines()
 open_window(504)
 overhead.put_generators_on_line()
 overhead.switch_apu_off()
+say("Both engines running")
 picture("06-engines-running", 500)
 
 -- ---- Out to runway 07
@@ -127,10 +129,9 @@ taxi.along({{pushed.along, LANE}, {0, LANE}, {0, TAXIWAY}, {-700, TAXIWAY}}, tru
 ears.expect_said_at("ccsaftey", flaps_out + 201 * FRAME)
 picture("07-taxi", "outside")
 taxi.along({{-1470, TAXIWAY}, {-1470, HOLD}})
+say("Holding short of runway 07")
 picture("08-holding", "outside")
-click("Selcall", "taxi_announcement_button")
-
-say("Before take-off")
+click("Selcall", "taxi_announcement_button")  -- its light goes out
 for _, detent in ipairs({11, 18}) do
   levers.flaps(detent)
   wait(2)
@@ -142,6 +143,7 @@ taxi.along({{-1470, 0}, {-1380, 0}})
 click("Lightsp", "landing_lights_levers")
 expect_near(pilot.look().heading, RUNWAY, 3, "the heading on the runway")
 for _, window in ipairs({502, 503}) do close_window(window) end
+say("Lined up")
 picture("09-lined-up", "outside")
 
 -- ---- Up
@@ -154,12 +156,12 @@ end, 60, function(seen)
   return seen.airspeed >= ROTATE + 1
 end)
 for name, knots in pairs(TAKE_OFF_CALLS) do ears.expect_said_when(name, "airspeed", knots, 3) end
+picture("10-rotate", "outside")
 local rotation = now()
 pilot.leg("Rotate", function(seen)
   return {pitch = math.min(3 * (seen.seconds - rotation), 12), bank = 0,
           rudder = seen.height < 1 and pilot.steer(seen) or 0}
 end, 20, function(seen) return seen.height > 35 and seen.climb > 500 end)
-picture("10-rotate", "outside")
 levers.gear("up")
 local gear_up = now()
 pilot.leg("First climb", {pitch = 12, heading = RUNWAY}, 90, function(seen) return seen.altitude > 1500 end)
@@ -189,6 +191,7 @@ levers.flaps(6)
 wait(6)
 knobs.turn(knobs.speed, 230)
 levers.flaps(0)
+say("Autopilot")
 picture("11-autopilot", 500)
 watch("Climb", 200, function(seen) return seen.altitude > 4000 end)
 autopilot.hold_heading(CROSSWIND)
@@ -203,6 +206,7 @@ end)
 ears.expect_said_when("altalert", "altitude", CRUISE - 960, 20)
 knobs.turn(knobs.speed, 250)
 wait(15)
+say("Cruise")
 picture("13-cruise", 500)
 
 knobs.turn(knobs.speed, 220)
@@ -293,6 +297,7 @@ click("Thleft", "parking_brake_lever")
 local stand = taxi.where()
 expect_near(stand.along, 200, 3, "the place on the stand")
 expect_near(stand.right, 365, 3, "the place on the stand")
+say("On the stand")
 picture("19-on-the-stand", "outside")
 
 say("Shut down")

@@ -39,22 +39,39 @@ void ContactSheet::add(const Canvas& picture, const std::string& caption) {
   cells_.push_back({fitted(picture), fitted(caption)});
 }
 
+std::vector<ContactSheet::Row> ContactSheet::rows() const {
+  constexpr double across = cell_width + gap, down = picture_height + caption_height + gap;
+  const auto count = static_cast<double>(cells_.size());
+  const auto columns = static_cast<std::size_t>(std::ceil(std::sqrt(count * down / across)));
+  std::vector<Row> rows;
+  for (Row left = cells_; !left.empty(); left = left.subspan(rows.back().size()))
+    rows.push_back(left.first(std::min(columns, left.size())));
+  return rows;
+}
+
+int ContactSheet::pictures_height(const Row& row) {
+  return std::ranges::max(row, {}, [](const Cell& cell) { return cell.picture.height; }).picture.height;
+}
+
 Canvas ContactSheet::page() const {
-  constexpr int across = cell_width + gap, down = picture_height + caption_height + gap;
-  const int count = static_cast<int>(cells_.size());
-  const int columns =
-      std::max(1, static_cast<int>(std::lround(std::sqrt(double(count) * down / across))));
-  const int rows = (count + columns - 1) / columns;
-  Canvas page(columns * across + gap, rows * down + gap);
+  const std::vector<Row> all = rows();
+  int height = gap;
+  for (const Row& row : all) height += pictures_height(row) + caption_height + gap;
+  Canvas page(static_cast<int>(all.front().size()) * (cell_width + gap) + gap, height);
   const Rect whole{0, 0, page.width, page.height};
   fill(page, whole, paper_color);
   Sketch captions(page.width, page.height);
-  for (int i = 0; i < count; ++i) {
-    const auto& [picture, caption] = cells_[static_cast<std::size_t>(i)];
-    const int x = gap + i % columns * across, y = gap + i / columns * down;
-    copy_within(page, picture, x + (cell_width - picture.width) / 2,
-                y + picture_height - picture.height, whole);
-    captions.text(caption, x, y + picture_height + 4, caption_size, false, palette::ink);
+  int y = gap;
+  for (const Row& row : all) {
+    const int pictures = pictures_height(row);
+    int x = gap;
+    for (const auto& [picture, caption] : row) {
+      copy_within(page, picture, x + (cell_width - picture.width) / 2,
+                  y + (pictures - picture.height) / 2, whole);
+      captions.text(caption, x, y + pictures + 4, caption_size, false, palette::ink);
+      x += cell_width + gap;
+    }
+    y += pictures + caption_height + gap;
   }
   blend_within(page, captions.finish(), 0, 0, whole);
   return page;

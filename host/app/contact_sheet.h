@@ -1,6 +1,7 @@
 /// All pictures of a flight on one page.
 #pragma once
 
+#include <span>
 #include <string>
 #include <vector>
 
@@ -14,7 +15,8 @@ class ContactSheet {
   void add(const Canvas& picture, const std::string& caption);
   bool empty() const { return cells_.empty(); }
 
-  /// As many columns as make the page about as wide as it is high. At least one picture must be there.
+  /// As many columns as make the page about as wide as it is high, each row as high as its pictures need.
+  /// At least one picture must be there.
   Canvas page() const;
 
   // A cell, pixels: the picture's part, and the caption's below it.
@@ -25,6 +27,10 @@ class ContactSheet {
     Canvas picture;  // fits into its part
     std::string caption;
   };
+  using Row = std::span<const Cell>;
+  std::vector<Row> rows() const;
+  static int pictures_height(const Row& row);  // of the highest
+
   std::vector<Cell> cells_;
 };
 
