@@ -39,7 +39,7 @@ struct FlyOptions {
 
 struct RunOptions {
   CockpitOptions cockpit;
-  std::string flow = "engine_start";
+  std::string flow = "gate_to_gate";
   std::filesystem::path pictures;  ///< empty: none
   std::filesystem::path sound;     ///< empty: none
   std::filesystem::path journal;   ///< empty: none

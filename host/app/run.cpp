@@ -6,6 +6,7 @@
 #include <thread>
 
 #include "host/app/commands.h"
+#include "host/app/contact_sheet.h"
 #include "host/app/installation.h"
 #include "host/app/lookup.h"
 #include "host/app/progress.h"
@@ -71,6 +72,11 @@ class FlowRun {
     sound_->finish();
   }
 
+  /// All pictures that have been made, on one page.
+  void finish_pictures() const {
+    if (!sheet_.empty()) write_png(sheet_.page(), (options_.pictures / "contact-sheet.png").string());
+  }
+
   void report() const {
     std::printf("%s: fine, %.1f s flown at %.0f times real time\n", flow_.c_str(), session_.seconds(),
                 progress_.speed(session_.seconds()));
@@ -88,7 +94,21 @@ class FlowRun {
   FlowSurroundings surroundings() {
     return {options_.pictures, [this](double seconds) { after_frame(seconds); },
             [this](double seconds) { return sound_->level(seconds); },
-            [this](const std::string& text) { progress_.say(text, cockpit_.seconds()); }};
+            [this](const std::string& text) { say(text); },
+            [this](const Canvas& picture) { sheet_.add(picture, caption()); }};
+  }
+
+  void say(const std::string& text) {
+    stage_ = text;
+    progress_.say(text, cockpit_.seconds());
+  }
+
+  // The time of the flight and what the flow does.
+  std::string caption() const {
+    char time[16];
+    const int seconds = static_cast<int>(cockpit_.seconds());
+    std::snprintf(time, sizeof time, "%d:%02d", seconds / 60, seconds % 60);
+    return std::string(time) + "  " + stage_;
   }
 
   void after_frame(double seconds) {
@@ -123,6 +143,8 @@ class FlowRun {
   Cockpit cockpit_;
   FlowSession session_;
   std::unique_ptr<FlightJournal> journal_;
+  ContactSheet sheet_;
+  std::string stage_;  // what the flow has said last
 };
 
 }  // namespace
@@ -134,8 +156,10 @@ int run_flow(const RunOptions& options) {
     run.fly();
   } catch (const FlowError& error) {
     std::fprintf(stderr, "\n%s\n", error.what());
+    run.finish_pictures();
     return exit_failed;
   }
+  run.finish_pictures();
   run.report();
   return exit_fine;
 }

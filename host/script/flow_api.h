@@ -40,7 +40,7 @@
 ///         what a text field shows
 ///     events()     the key events since the last gesture: {number=, name=, value=, seconds=}
 ///     messages()   the texts that the module has shown in message boxes
-///     sounds()     the sounds that have started since the flow began: {name=, seconds=}
+///     sounds([since])  the sounds that have started since then, or the flow's beginning: {name=, seconds=}
 ///     sound_level(seconds)                 of the last part of the sound, 0 to 1
 ///     start_page()     the start page alone, and the aircraft as the ground crew hands it over
 ///     open_window(ident)  close_window(ident)  window_open(ident)

@@ -98,6 +98,7 @@ void FlowSession::picture(const std::string& name, const std::string& what, doub
   if (surroundings_.pictures.empty()) return;
   const Canvas canvas = picture_of(cockpit_, what, zoom);
   write_png(canvas, (surroundings_.pictures / (name + ".png")).string());
+  if (surroundings_.after_picture) surroundings_.after_picture(canvas);
 }
 
 }  // namespace host

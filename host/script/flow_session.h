@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "host/drawing/painter.h"
 #include "host/inputs/cockpit_inputs.h"
 
 namespace host {
@@ -32,6 +33,7 @@ struct FlowSurroundings {
   std::function<void(double)> after_frame;    ///< gets the frame's time in seconds
   std::function<double(double)> sound_level;  ///< of the last so many seconds, 0 to 1; may be empty
   std::function<void(const std::string&)> say;
+  std::function<void(const Canvas&)> after_picture = {};  ///< gets each picture that is made
 };
 
 /// A cockpit under the hands of a flow. Times are simulated seconds. Whatever cannot be done, such as

@@ -113,6 +113,17 @@ INSTANTIATE_TEST_SUITE_P(
                     Flight{"approach", {"", "wind_from = 340, wind_speed = 10, gusts = 1"}}),
     [](const auto& flight) { return std::string(flight.param.flow); });
 
+TEST(GateToGate, IsTheFlightThatIsFlownWhenNoneIsNamed) {
+  const TempFolder folder;
+  const std::string sound = folder / "flight.wav";
+  const Outcome outcome = tarnvale("run --png " + (folder / "") + " --wav " + sound);
+  EXPECT_EQ(outcome.exit_code, 0) << outcome.output;
+  EXPECT_NE(outcome.output.find("At the gate"), std::string::npos) << outcome.output;
+  for (const char* picture : {"01-start-page", "20-dark-again", "contact-sheet"})
+    EXPECT_TRUE(file_text(folder / (std::string(picture) + ".png")).starts_with("\x89PNG")) << picture;
+  EXPECT_GT(onsets(loudness(sound)).size(), 50u) << "the crew is heard";
+}
+
 TEST(FlowSound, TheClickIsHeardOnceAtItsTime) {
   const TempFolder folder;
   const std::string flow = folder.write("click.lua", "wait(2)\nclick('Masterbat', 47, 99)\nwait(3)\n");
