@@ -88,7 +88,8 @@ class FlowRun {
   FlowSurroundings surroundings() {
     return {options_.pictures, [this](double seconds) { after_frame(seconds); },
             [this](double seconds) { return sound_->level(seconds); },
-            [this](const std::string& text) { progress_.say(text, cockpit_.seconds()); }};
+            [this](const std::string& text) { progress_.say(text, cockpit_.seconds()); },
+            read_checklists(program_folder() / "checklists.txt")};
   }
 
   void after_frame(double seconds) {

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "host/inputs/cockpit_inputs.h"
+#include "host/pages/page.h"
 
 namespace host {
 
@@ -32,6 +33,7 @@ struct FlowSurroundings {
   std::function<void(double)> after_frame;    ///< gets the frame's time in seconds
   std::function<double(double)> sound_level;  ///< of the last so many seconds, 0 to 1; may be empty
   std::function<void(const std::string&)> say;
+  std::vector<Checklist> checklists{};  ///< of the kneeboard
 };
 
 /// A cockpit under the hands of a flow. Times are simulated seconds. Whatever cannot be done, such as
@@ -71,8 +73,8 @@ class FlowSession {
   /// A gauge that an open window shows.
   CockpitGauge& shown_gauge(const std::string& name);
 
-  /// Writes a picture: of everything that is open (`what` empty), of one window by its ident, or of
-  /// one gauge by its name. Does nothing where no pictures are wanted.
+  /// Writes a picture: of everything that is open (`what` empty), of one window by its ident, of one
+  /// gauge or of one of the program's pages by its name. Does nothing where no pictures are wanted.
   void picture(const std::string& name, const std::string& what, double zoom);
 
  private:
