@@ -150,7 +150,8 @@ class CommandLine {
   void add_show() {
     CLI::App* sub = add("show", "Draw gauges, in a window or into a file", show_, show);
     add_cockpit(sub, show_.cockpit);
-    sub->add_option("gauges", show_.gauges, "Names of gauges, a window's ident, outside, or a page: kneeboard, map, atc, gps, "
+    sub->add_option("gauges", show_.gauges,
+                    "Names of gauges, a window's ident, outside, or a page: kneeboard, map, atc, gps, "
                     "failures")
         ->required();
     sub->add_option("--zoom", show_.deck.zoom, "Size, 1 is the gauges' own")

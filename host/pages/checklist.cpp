@@ -33,7 +33,8 @@ double read_number(const std::string& word) {
 // [gauge] name sign number
 Comparison read_comparison(std::span<const std::string> words) {
   if (words.size() != 3 && words.size() != 4)
-    throw LineError("a condition is a token, or a gauge and its part, then = < > <= or >=, and a number");
+    throw LineError(
+        "a condition is a token, or a gauge and its part, then = < > <= or >=, and a number");
   Comparison comparison;
   if (words.size() == 4) comparison.gauge = words[0];
   comparison.name = words[words.size() - 3];

@@ -87,7 +87,8 @@ std::string fault_for(const std::vector<Checklist>& lists, const Cockpit& cockpi
     if (const std::string fault = fault_of(list.when, cockpit); !fault.empty())
       return at(list.line, fault);
     for (const ChecklistItem& item : list.items)
-      if (const std::string fault = fault_of(item, cockpit); !fault.empty()) return at(item.line, fault);
+      if (const std::string fault = fault_of(item, cockpit); !fault.empty())
+        return at(item.line, fault);
   }
   return {};
 }

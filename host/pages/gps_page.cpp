@@ -77,7 +77,8 @@ void draw_place(Sheet& sheet, const PageView& view, std::size_t index, double y)
   const WayTo way = way_to(place.position_m, view.cockpit.aircraft().flight());
   const bool chosen = index == view.choices.destination;
   const SheetColors& colors = sheet.colors();
-  if (chosen) sheet.box(Sheet::margin - 6, y - 3, Sheet::width - 2 * Sheet::margin + 12, 28, 4, colors.face);
+  if (chosen)
+    sheet.box(Sheet::margin - 6, y - 3, Sheet::width - 2 * Sheet::margin + 12, 28, 4, colors.face);
   sheet.text(place.name, Sheet::margin, y, 20, chosen ? colors.accent : colors.ink, true);
   sheet.text(place.frequency, Sheet::margin + 62, y + 1, 17, colors.soft);
   sheet.text_right(written("%.1f", way.distance_nm), distance_edge, y, 20, colors.ink);

@@ -31,7 +31,8 @@ void draw_item(Sheet& sheet, const PageView& view, const ChecklistItem& item, do
   const bool done = holds(item.done, view.cockpit), pointed = view.choices.pointing == point;
   const SheetColors& colors = sheet.colors();
   const double size = high * 0.68, left = Sheet::margin + high;
-  if (pointed) sheet.box(Sheet::margin - 6, y, Sheet::right() - Sheet::margin + 12, high, 4, colors.face);
+  if (pointed)
+    sheet.box(Sheet::margin - 6, y, Sheet::right() - Sheet::margin + 12, high, 4, colors.face);
   sheet.tick_box(Sheet::margin, y + high * 0.19, high * 0.62, done);
   const Color ink = done ? colors.soft : pointed ? colors.accent : colors.ink;
   sheet.text(item.what, left, y + high * 0.16, size, ink);

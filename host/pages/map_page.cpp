@@ -17,8 +17,8 @@ constexpr double below_map = 92;  // the lines under the map
 // True north is up and the aircraft in the middle.
 struct MapFrame {
   Vector middle_m;
-  double x, y;     // of the middle, on the sheet
-  double metres;   // a unit of the sheet
+  double x, y;    // of the middle, on the sheet
+  double metres;  // a unit of the sheet
 
   SketchPoint operator()(const Vector& place_m) const {
     return {x + (place_m.y - middle_m.y) / metres, y - (place_m.x - middle_m.x) / metres};
@@ -47,11 +47,11 @@ void draw_runway(Sheet& sheet, const MapFrame& at) {
   const SketchPoint far = at(on_runway_axes(threshold_along_m - led_m, 0));
   const SketchPoint threshold = at(on_runway_axes(threshold_along_m, 0));
   const SketchPoint end = at(on_runway_axes(-threshold_along_m, 0));
-  sheet.polyline({far, threshold}, 1.2, sheet.colors().accent);
+  sheet.polyline({far, threshold}, 1.2, sheet.colors().done);
   for (const MarkerBeacon& marker : marker_beacons) {
     const double along = threshold_along_m - marker.before_threshold_m;
     sheet.polyline({at(on_runway_axes(along, -250)), at(on_runway_axes(along, 250))}, 1.6,
-                   sheet.colors().accent);
+                   sheet.colors().done);
   }
   sheet.polyline({threshold, end}, std::max(4.0, 45.0 / at.metres), sheet.colors().ink);
 }
@@ -67,7 +67,8 @@ void draw_vor(Sheet& sheet, SketchPoint place) {
 }
 
 void draw_beacon(Sheet& sheet, SketchPoint place) {
-  for (const double radius : {3.0, 6.0, 9.0}) sheet.circle(place.x, place.y, radius, 1.2, sheet.colors().done);
+  for (const double radius : {3.0, 6.0, 9.0})
+    sheet.circle(place.x, place.y, radius, 1.2, sheet.colors().done);
 }
 
 void draw_place(Sheet& sheet, const MapFrame& at, const PlaceToGo& place) {
@@ -87,9 +88,9 @@ void draw_track(Sheet& sheet, const MapFrame& at, std::span<const Vector> track)
 
 // Seen from above, its nose where it points.
 void draw_aircraft(Sheet& sheet, const MapFrame& at, double heading_rad) {
-  constexpr SketchPoint outline[] = {{0, -13},  {2, -6},  {2, -2},  {13, 5},  {13, 8},  {2, 5}, {2, 11},
-                                     {6, 15},   {6, 17},  {0, 15},  {-6, 17}, {-6, 15}, {-2, 11},
-                                     {-2, 5},   {-13, 8}, {-13, 5}, {-2, -2}, {-2, -6}};
+  constexpr SketchPoint outline[] = {{0, -13}, {2, -6}, {2, -2},  {13, 5},  {13, 8},  {2, 5},
+                                     {2, 11},  {6, 15}, {6, 17},  {0, 15},  {-6, 17}, {-6, 15},
+                                     {-2, 11}, {-2, 5}, {-13, 8}, {-13, 5}, {-2, -2}, {-2, -6}};
   const double cosine = std::cos(heading_rad), sine = std::sin(heading_rad);
   std::vector<SketchPoint> corners;
   for (const auto& [x, y] : outline)
@@ -119,7 +120,8 @@ void draw_below(Sheet& sheet, const AircraftModel& aircraft, double y) {
   std::snprintf(text, sizeof text, "RW07 %.1f nm, bearing %03ld°", home.distance_nm,
                 std::lround(home.bearing_deg) % 360);
   sheet.text(text, Sheet::margin, y + 24, 18, sheet.colors().ink);
-  sheet.text("The thin line ahead is two minutes long.", Sheet::margin, y + 50, 14, sheet.colors().soft);
+  sheet.text("The thin line ahead is two minutes long.", Sheet::margin, y + 50, 14,
+             sheet.colors().soft);
   sheet.button("–", Sheet::right() - 84, y, 38, false, page_click::ChangeRange{-1});
   sheet.button("+", Sheet::right() - 38, y, 38, false, page_click::ChangeRange{1});
 }

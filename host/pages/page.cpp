@@ -44,8 +44,7 @@ Canvas picture_of_page(std::string_view name, const Cockpit& cockpit,
   const auto pixels = [&](int length) { return static_cast<int>(std::lround(length * zoom)); };
   const PageChoices choices;
   const DrawnPage page = draw_page(
-      row->kind,
-      {cockpit, lists, choices, {pixels(page_size.width), pixels(page_size.height)}, zoom});
+      row->kind, {cockpit, lists, choices, {pixels(page_size.width), pixels(page_size.height)}, zoom});
   Canvas canvas(page.picture.width, page.picture.height);
   canvas.pixels = page.picture.pixels;
   return canvas;

@@ -63,9 +63,10 @@ struct SetFailureRate {
 };
 }  // namespace page_click
 
-using PageClick = std::variant<page_click::Close, page_click::ShowList, page_click::PointAt,
-                               page_click::ChangeRange, page_click::AskFor, page_click::GoTo,
-                               page_click::SetFailed, page_click::RepairAll, page_click::SetFailureRate>;
+using PageClick =
+    std::variant<page_click::Close, page_click::ShowList, page_click::PointAt, page_click::ChangeRange,
+                 page_click::AskFor, page_click::GoTo, page_click::SetFailed, page_click::RepairAll,
+                 page_click::SetFailureRate>;
 
 /// A part of a page that can be clicked, in pixels of its picture.
 struct PageSpot {
@@ -98,8 +99,8 @@ struct PageView {
   const Cockpit& cockpit;
   const std::vector<Checklist>& lists;
   const PageChoices& choices;
-  PanelSize size;   ///< pixels that the page fills
-  double scale;     ///< of its letters, which shrink where the page would not fit
+  PanelSize size;  ///< pixels that the page fills
+  double scale;    ///< of its letters, which shrink where the page would not fit
 };
 
 /// The pixels that a page likes to have at a scale of 1.
@@ -114,7 +115,7 @@ DrawnPage draw_gps(const PageView& view);
 DrawnPage draw_failures(const PageView& view);
 
 /// The page of that name as a picture. Throws std::runtime_error if there is none.
-Canvas picture_of_page(std::string_view name, const Cockpit& cockpit, const std::vector<Checklist>& lists,
-                       double zoom);
+Canvas picture_of_page(std::string_view name, const Cockpit& cockpit,
+                       const std::vector<Checklist>& lists, double zoom);
 
 }  // namespace host

@@ -66,6 +66,13 @@ void Pages::show(PageKind page) {
   close();
   shown_ = page;
   changed_ = true;
+  if (page == PageKind::kneeboard) turn_to_the_moment();
+}
+
+// The list in hand stays, until the flight has come to another one.
+void Pages::turn_to_the_moment() {
+  const std::size_t fitting = proposed_list(lists_, cockpit_);
+  if (std::exchange(proposed_, fitting) != fitting) choices_.list = fitting;
 }
 
 void Pages::follow() {
@@ -103,8 +110,6 @@ void Pages::act(const page_click::PointAt& click) {
   const WindowConfig& window = *window_for(cockpit_, *target->gauge);
   if (!cockpit_.panels().shows(window.ident)) inputs_.take(input::OpenWindow{window.ident});
   choices_.pointing = click;
-  if (!choices_.list && shown_ == PageKind::kneeboard)
-    choices_.list = proposed_list(lists_, cockpit_);  // the list in hand does not turn by itself
 }
 
 void Pages::act(const page_click::ChangeRange& click) {

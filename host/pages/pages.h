@@ -44,6 +44,7 @@ class Pages {
 
  private:
   void show(PageKind page);
+  void turn_to_the_moment();
   void act(const page_click::Close&) { close(); }
   void act(const page_click::ShowList& click);
   void act(const page_click::PointAt& click);
@@ -61,6 +62,7 @@ class Pages {
   PageChoices choices_;
   std::optional<PageKind> shown_;
   std::array<bool, 4> wanted_{};
+  std::optional<std::size_t> proposed_;  ///< the list that fitted when the kneeboard was last opened
   bool changed_ = false;
 };
 

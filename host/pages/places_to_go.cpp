@@ -80,7 +80,8 @@ std::string duration_words(double minutes) {
   if (seconds < 3600)
     std::snprintf(text, sizeof text, "%ld:%02ld", seconds / 60, seconds % 60);
   else
-    std::snprintf(text, sizeof text, "%ld:%02ld:%02ld", seconds / 3600, seconds / 60 % 60, seconds % 60);
+    std::snprintf(text, sizeof text, "%ld:%02ld:%02ld", seconds / 3600, seconds / 60 % 60,
+                  seconds % 60);
   return text;
 }
 

@@ -61,9 +61,10 @@ void draw_talk(Sheet& sheet, const PageView& view, double y) {
     y = sheet.paragraph(information(aircraft), Sheet::margin, y + 32, wide, 19, colors.ink) + 12;
   }
   if (view.choices.talk.empty()) {
-    sheet.paragraph("Frequencies are set on the pedestal's radio: a click on a station shows where. Alt with "
-                    "a number speaks, too.",
-                    Sheet::margin, y + 4, wide, 15, colors.soft);
+    sheet.paragraph(
+        "Frequencies are set on the pedestal's radio: a click on a station shows where. Alt with "
+        "a number speaks, too.",
+        Sheet::margin, y + 4, wide, 15, colors.soft);
     return;
   }
   sheet.heading("Said and heard", y);

@@ -27,7 +27,7 @@ constexpr std::array<RequestRow, 4> requests{{
 
 constexpr std::string_view call_sign = "Tarnjet 36";
 constexpr double most_tailwind_kt = 5.0;
-constexpr double clearance_nm = 8.0;   // landing aircraft are cleared from here on
+constexpr double clearance_nm = 8.0;  // landing aircraft are cleared from here on
 constexpr double stand_reach_m = 60.0;
 
 std::string written(const char* format, auto... values) {
@@ -144,13 +144,12 @@ std::string_view runway_in_use(const AircraftModel& aircraft) {
 std::string information(const AircraftModel& aircraft) {
   const int minutes = static_cast<int>(aircraft.time_of_day_s() / 60.0);
   const int recorded = minutes / 30 * 30;
-  const double temperature = standard_temperature_at(airfield_elevation_ft) +
-                             aircraft.weather().warmer_by_celsius;
+  const double temperature =
+      standard_temperature_at(airfield_elevation_ft) + aircraft.weather().warmer_by_celsius;
   return written("Tarnvale information %c, recorded at %02d%02d. ", 'A' + minutes / 30 % 26,
                  recorded / 60 % 24, recorded % 60) +
-         "Runway in use " + std::string(runway_in_use(aircraft)) + ", " +
-         wind_words(aircraft) + ", temperature " + written("%.0f, ", temperature) +
-         qnh_words(aircraft) + ".";
+         "Runway in use " + std::string(runway_in_use(aircraft)) + ", " + wind_words(aircraft) +
+         ", temperature " + written("%.0f, ", temperature) + qnh_words(aircraft) + ".";
 }
 
 Exchange ask(const AircraftModel& aircraft, Request request) {

@@ -115,7 +115,8 @@ void Sheet::begin_clip(double x, double y, double wide, double high) {
 void Sheet::tick_box(double x, double y, double size, bool ticked) {
   outline(x, y, size, size, 3, ticked ? colors_.done : colors_.soft);
   if (!ticked) return;
-  polyline({{x + 0.22 * size, y + 0.52 * size}, {x + 0.42 * size, y + 0.74 * size},
+  polyline({{x + 0.22 * size, y + 0.52 * size},
+            {x + 0.42 * size, y + 0.74 * size},
             {x + 0.80 * size, y + 0.24 * size}},
            2.2, colors_.done);
 }

@@ -24,9 +24,10 @@ FlightDeck::FlightDeck(CockpitInputs& inputs, const DeckOptions& options)
              options.outside),
       notices_(views_.main()),
       hand_(inputs_, views_, scale_),
-      pages_(inputs_,
-             options.checklists.empty() ? std::vector<Checklist>{} : read_checklists(options.checklists),
-             options.checklists) {
+      pages_(
+          inputs_,
+          options.checklists.empty() ? std::vector<Checklist>{} : read_checklists(options.checklists),
+          options.checklists) {
   if (!options.controls.empty()) {
     controls_ = read_control_map(options.controls);
     sticks_.emplace(controls_, hands_);

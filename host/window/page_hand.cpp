@@ -6,7 +6,7 @@
 namespace host {
 namespace {
 
-constexpr double page_time = 0.25;        // seconds between two pictures of a page that nobody touches
+constexpr double page_time = 0.25;  // seconds between two pictures of a page that nobody touches
 constexpr double most_of_the_width = 0.45;  // the panels keep the rest
 
 PanelSize room_for_page(PanelSize window, double scale) {
@@ -49,7 +49,8 @@ const PageSpot* FlightDeck::page_spot(int x, int y) const {
 }
 
 bool FlightDeck::take_page_event(const SDL_Event& event) {
-  if (event.type == SDL_MOUSEBUTTONDOWN && over_page(event.button.windowID, event.button.x, event.button.y)) {
+  if (event.type == SDL_MOUSEBUTTONDOWN &&
+      over_page(event.button.windowID, event.button.x, event.button.y)) {
     const PageSpot* spot = page_spot(event.button.x, event.button.y);
     if (spot && event.button.button == SDL_BUTTON_LEFT) pages_.take(PageClick(spot->click));
     return true;
@@ -74,7 +75,8 @@ bool FlightDeck::take_page_key(const SDL_Keysym& key) {
   const auto requests = static_cast<SDL_Keycode>(request_table().size());
   if (pages_.shown() == PageKind::radio && (key.mod & KMOD_ALT) && key.sym >= SDLK_1 &&
       key.sym < SDLK_1 + requests) {
-    pages_.take(page_click::AskFor{request_table()[static_cast<std::size_t>(key.sym - SDLK_1)].request});
+    pages_.take(
+        page_click::AskFor{request_table()[static_cast<std::size_t>(key.sym - SDLK_1)].request});
     return true;
   }
   for (const PageRow& row : page_table()) {

@@ -116,8 +116,8 @@ Overlay draw_mark(const Rect& place, double scale) {
   const int width = place.width + 2 * around, height = place.height + 2 * around;
   Sketch sketch(width, height);
   sketch.box_outline(0, 0, width, height, 7 * scale, 6 * scale, {0, 0, 0, 0.55});
-  sketch.box_outline(1.5 * scale, 1.5 * scale, width - 3 * scale, height - 3 * scale, 6 * scale, 3 * scale,
-                     accent);
+  sketch.box_outline(1.5 * scale, 1.5 * scale, width - 3 * scale, height - 3 * scale, 6 * scale,
+                     3 * scale, accent);
   Overlay overlay = sketch.finish();
   overlay.x = place.x - around;
   overlay.y = place.y - around;

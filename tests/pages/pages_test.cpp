@@ -127,6 +127,22 @@ TEST_F(PagesInTheCockpit, AClickPointsAtTheControlUntilTheItemIsDone) {
   EXPECT_FALSE(pages.pointed()) << "the item is done";
 }
 
+TEST_F(PagesInTheCockpit, TheKneeboardTurnsToTheMomentWhenItIsOpened) {
+  Pages pages(inputs, parse_checklists("[A]\n[B]\nwhen battery = 1\n[C]\n", "lists"), "lists");
+  const auto list_when_opened = [&](double battery) {
+    cockpit.aircraft().hold_token(364, battery);
+    pages.toggle(PageKind::kneeboard);
+    const std::size_t list = *pages.choices().list;
+    pages.close();
+    return list;
+  };
+  EXPECT_EQ(list_when_opened(0), 0u);
+  EXPECT_EQ(list_when_opened(1), 1u);
+  pages.take(page_click::ShowList{2});
+  EXPECT_EQ(list_when_opened(1), 2u) << "what was chosen stays";
+  EXPECT_EQ(list_when_opened(0), 0u);
+}
+
 TEST_F(PagesInTheCockpit, OnePageIsShownAndTheCockpitsButtonsKnowIt) {
   Pages pages(inputs, {}, "lists");
   const simulation::ProgramWindows& windows = cockpit.aircraft().program_windows();

@@ -54,7 +54,8 @@ TEST(WayTo, AgreesWithTheReceivers) {
   const WayTo way = way_to(trn.position_m, aircraft.flight());
   EXPECT_NEAR(way.distance_nm, reading("nav2_distance"), 0.1);
   const double shown = reading("nav2_bearing") + reading("heading");
-  EXPECT_NEAR(std::cos((shown - way.bearing_deg) * 0.0174533), 1, 1e-3) << shown << ' ' << way.bearing_deg;
+  EXPECT_NEAR(std::cos((shown - way.bearing_deg) * 0.0174533), 1, 1e-3)
+      << shown << ' ' << way.bearing_deg;
   const GroundMotion motion = ground_motion(aircraft.flight());
   EXPECT_NEAR(motion.track_deg, 70, 1);
   EXPECT_NEAR(motion.speed_kt, aircraft.flight().true_airspeed_mps * 3600 / 1852, 2);
@@ -68,8 +69,8 @@ TEST(Words, OfPlacesAndTimes) {
   const struct {
     double minutes;
     const char* words;
-  } cases[] = {{4.1167, "4:07"}, {0, "0:00"}, {59.999, "1:00:00"}, {62.5, "1:02:30"}, {-1, "--"},
-               {1e9, "--"},      {NAN, "--"}};
+  } cases[] = {{4.1167, "4:07"}, {0, "0:00"}, {59.999, "1:00:00"}, {62.5, "1:02:30"},
+               {-1, "--"},       {1e9, "--"}, {NAN, "--"}};
   for (const auto& [minutes, words] : cases) EXPECT_EQ(duration_words(minutes), words) << minutes;
 }
 
@@ -81,8 +82,9 @@ TEST(Track, GrowsWithTheFlightAndBeginsAnewElsewhere) {
   EXPECT_GT(track.size(), 1000u);
   EXPECT_LT(track.size(), 4000u);
   const Vector& last = track.back();
-  EXPECT_LT(std::hypot(last.x - aircraft.flight().position_m.x, last.y - aircraft.flight().position_m.y),
-            110);
+  EXPECT_LT(
+      std::hypot(last.x - aircraft.flight().position_m.x, last.y - aircraft.flight().position_m.y),
+      110);
   EXPECT_NEAR(length(track.front() - last), 600 * aircraft.flight().true_airspeed_mps, 4000);
   aircraft.place_on_runway();
   aircraft.advance(1);

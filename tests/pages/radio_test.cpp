@@ -69,15 +69,19 @@ TEST(Information, ReadsTheWeatherAndTheRunwayThatItFavours) {
     const char* words;
   } cases[] = {
       {10.3, 0, 0, 1013.25, 0,
-       "Tarnvale information U, recorded at 1000. Runway in use 07, wind calm, temperature 14, QNH 1013."},
+       "Tarnvale information U, recorded at 1000. Runway in use 07, wind calm, temperature 14, QNH "
+       "1013."},
       {10.6, 72, 12, 998.9, 10,
-       "Tarnvale information V, recorded at 1030. Runway in use 07, wind 070 degrees 12 knots, temperature "
+       "Tarnvale information V, recorded at 1030. Runway in use 07, wind 070 degrees 12 knots, "
+       "temperature "
        "24, QNH 998."},
       {0, 252, 12, 1030, 0,
-       "Tarnvale information A, recorded at 0000. Runway in use 25, wind 250 degrees 12 knots, temperature "
+       "Tarnvale information A, recorded at 0000. Runway in use 25, wind 250 degrees 12 knots, "
+       "temperature "
        "14, QNH 1030."},
       {0, 252, 4, 1030, 0,
-       "Tarnvale information A, recorded at 0000. Runway in use 07, wind 250 degrees 4 knots, temperature "
+       "Tarnvale information A, recorded at 0000. Runway in use 07, wind 250 degrees 4 knots, "
+       "temperature "
        "14, QNH 1030."},
   };
   for (const auto& [hours, from, knots, hpa, warmer, words] : cases) {
