@@ -94,6 +94,8 @@ class CommandLine {
     sub->add_option("--open", fly_.open, "Windows to open at once, by their idents");
     sub->add_option("--controls", fly_.deck.controls,
                     "What keys and joysticks do; else controls.cfg beside this program");
+    sub->add_option("--checklists", fly_.deck.checklists,
+                    "The kneeboard's checklists; else checklists.txt beside this program");
     sub->add_option("--pictures", fly_.deck.pictures, "Folder for screenshots")->capture_default_str();
     sub->add_option("--record", fly_.record,
                     "Write your inputs to this file, as a flow that can be run again");
@@ -148,7 +150,9 @@ class CommandLine {
   void add_show() {
     CLI::App* sub = add("show", "Draw gauges, in a window or into a file", show_, show);
     add_cockpit(sub, show_.cockpit);
-    sub->add_option("gauges", show_.gauges, "Names of gauges, a window's ident, or outside")
+    sub->add_option("gauges", show_.gauges,
+                    "Names of gauges, a window's ident, outside, or a page: kneeboard, map, atc, gps, "
+                    "failures")
         ->required();
     sub->add_option("--zoom", show_.deck.zoom, "Size, 1 is the gauges' own")
         ->check(CLI::Range(0.1, 8.0));

@@ -48,6 +48,7 @@ FlightIdentity identity_for(const std::optional<LeftSession>& left, const Cockpi
 DeckOptions deck_of(const FlyOptions& options) {
   DeckOptions deck = options.deck;
   if (deck.controls.empty()) deck.controls = program_folder() / "controls.cfg";
+  if (deck.checklists.empty()) deck.checklists = program_folder() / "checklists.txt";
   return deck;
 }
 

@@ -8,7 +8,7 @@
 #include "host/panel/hints.h"
 #include "host/panel/panel_scene.h"
 #include "host/window/compose.h"
-#include "host/window/palette.h"
+#include "host/sketch/palette.h"
 
 namespace host {
 namespace {

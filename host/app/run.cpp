@@ -95,7 +95,8 @@ class FlowRun {
     return {options_.pictures, [this](double seconds) { after_frame(seconds); },
             [this](double seconds) { return sound_->level(seconds); },
             [this](const std::string& text) { say(text); },
-            [this](const Canvas& picture) { sheet_.add(picture, caption()); }};
+            [this](const Canvas& picture) { sheet_.add(picture, caption()); },
+            read_checklists(program_folder() / "checklists.txt")};
   }
 
   void say(const std::string& text) {

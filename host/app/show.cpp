@@ -8,6 +8,7 @@
 #include "host/app/lookup.h"
 #include "host/app/start.h"
 #include "host/app/start_notes.h"
+#include "host/pages/page.h"
 #include "host/panel/panel_picture.h"
 #include "host/panel/panel_scene.h"
 #include "host/window/flight_deck.h"
@@ -105,10 +106,29 @@ int show_outside(const ShowOptions& options) {
   return exit_fine;
 }
 
+// Everything that a page tells can be read: all panels have been looked at.
+int show_page(const ShowOptions& options) {
+  const std::string& page = options.gauges.front();
+  if (options.picture.empty())
+    throw std::runtime_error("show " + page + ": needs --png; tarnvale fly shows it in a window");
+  const CockpitOptions located_options = located(options.cockpit);
+  GaugeModule module(located_options.module);
+  prepare_platform(located_options, PLATFORM_AUDIO_RENDERED);
+  Cockpit cockpit(module, read_panel_config(located_options.panel), located_options.rate);
+  for (const WindowConfig& window : cockpit.config().windows) cockpit.panels().open(window.ident);
+  begin(cockpit.aircraft(), options.start);
+  set_up(cockpit, options);
+  write_png(picture_of_page(page, cockpit, read_checklists(program_folder() / "checklists.txt"),
+                            options.deck.zoom.value_or(1.0)),
+            options.picture.string());
+  return exit_fine;
+}
+
 }  // namespace
 
 int show(const ShowOptions& options) {
   if (options.gauges == std::vector<std::string>{std::string(view_name)}) return show_outside(options);
+  if (options.gauges.size() == 1 && find_page(options.gauges.front())) return show_page(options);
   const CockpitOptions located_options = located(options.cockpit);
   GaugeModule module(located_options.module);
   say_artwork_notes(module);

@@ -77,6 +77,7 @@ void bind_flow_api(LuaRunner& runner, FlowSession& session) {
   bind_aircraft(runner, session);
   bind_flying(runner, session);
   bind_readings(runner, session);
+  bind_pages(runner, session);
   bind_expectations(runner, session);
 }
 

@@ -44,11 +44,14 @@
 ///     sound_level(seconds)                 of the last part of the sound, 0 to 1
 ///     start_page()     the start page alone, and the aircraft as the ground crew hands it over
 ///     open_window(ident)  close_window(ident)  window_open(ident)
+///     checklist(title)   the items of a list of the kneeboard:
+///                        {what=, wanted=, gauge=, control=, window=, done=}
+///     radio(request)     what the crew hears when it asks for push_back, taxi, take_off or landing
 ///
 /// Expectations and notes.
 ///     expect(condition, what)  expect_near(actual, expected, tolerance, what)
 ///     expect_event(which [, value])        the gauges have sent it since the last gesture
-///     say(text)  picture(name [, what [, zoom]])   what: a window's ident or a gauge's name
+///     say(text)  picture(name [, what [, zoom]])   what: a window's ident, a gauge's name or a page's
 #pragma once
 
 #include "host/script/flow_session.h"
@@ -64,6 +67,7 @@ void bind_gestures(LuaRunner& runner, FlowSession& session);
 void bind_time(LuaRunner& runner, FlowSession& session);
 void bind_aircraft(LuaRunner& runner, FlowSession& session);
 void bind_flying(LuaRunner& runner, FlowSession& session);
+void bind_pages(LuaRunner& runner, FlowSession& session);
 void bind_readings(LuaRunner& runner, FlowSession& session);
 void bind_expectations(LuaRunner& runner, FlowSession& session);
 

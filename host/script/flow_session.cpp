@@ -96,7 +96,9 @@ void FlowSession::wheel(const Spot& spot, int notches) {
 
 void FlowSession::picture(const std::string& name, const std::string& what, double zoom) {
   if (surroundings_.pictures.empty()) return;
-  const Canvas canvas = picture_of(cockpit_, what, zoom);
+  const Canvas canvas = find_page(what)
+                            ? picture_of_page(what, cockpit_, surroundings_.checklists, zoom)
+                            : picture_of(cockpit_, what, zoom);
   write_png(canvas, (surroundings_.pictures / (name + ".png")).string());
   if (surroundings_.after_picture) surroundings_.after_picture(canvas);
 }

@@ -10,6 +10,7 @@
 
 #include "host/drawing/painter.h"
 #include "host/inputs/cockpit_inputs.h"
+#include "host/pages/page.h"
 
 namespace host {
 
@@ -34,6 +35,7 @@ struct FlowSurroundings {
   std::function<double(double)> sound_level;  ///< of the last so many seconds, 0 to 1; may be empty
   std::function<void(const std::string&)> say;
   std::function<void(const Canvas&)> after_picture = {};  ///< gets each picture that is made
+  std::vector<Checklist> checklists{};  ///< of the kneeboard
 };
 
 /// A cockpit under the hands of a flow. Times are simulated seconds. Whatever cannot be done, such as
@@ -73,8 +75,8 @@ class FlowSession {
   /// A gauge that an open window shows.
   CockpitGauge& shown_gauge(const std::string& name);
 
-  /// Writes a picture: of everything that is open (`what` empty), of one window by its ident, or of
-  /// one gauge by its name. Does nothing where no pictures are wanted.
+  /// Writes a picture: of everything that is open (`what` empty), of one window by its ident, of one
+  /// gauge or of one of the program's pages by its name. Does nothing where no pictures are wanted.
   void picture(const std::string& name, const std::string& what, double zoom);
 
  private:

@@ -51,6 +51,7 @@ void Aircraft::step() {
   update_fuel(clock.step_s());
   update_navigation(clock.step_s());
   update_warnings(clock.step_s());
+  track.follow(flight.position_m);
 }
 
 AirframeInputs Aircraft::surroundings() const {
@@ -271,6 +272,7 @@ void Aircraft::update_warnings(double dt_s) {
 }
 
 void Aircraft::arrive() {
+  track = {};
   update_systems(0.0);
   autopilot.reset(sensed());
   update_navigation(0.0);

@@ -9,6 +9,7 @@
 #include "host/simulation/flight/airframe.h"
 #include "host/simulation/flight/flight_controls.h"
 #include "host/simulation/flight/flight_state.h"
+#include "host/simulation/flight/track.h"
 #include "host/simulation/flight/trim.h"
 #include "host/simulation/navigation/audio_selector.h"
 #include "host/simulation/navigation/receivers.h"
@@ -38,6 +39,7 @@ struct Aircraft {
   Clock clock;
   FlightControls controls;
   FlightState flight;
+  Track track;
   Airframe airframe;
   Turbulence turbulence;
   TrimDrives trim_drives;
@@ -88,6 +90,9 @@ struct Aircraft {
   /// What the automatic start does: battery, fuel levers, ignition and both starters.
   void start_both_engines();
 
+  /// The avionics bus carries current.
+  bool has_avionics() const;
+
   /// What the autopilot's computers see.
   Sensed sensed() const;
 
@@ -115,7 +120,6 @@ struct Aircraft {
   void tune_radios();
   void fly(double dt_s);
   FlightControls governed_controls();
-  bool has_avionics() const;
   void stand_or_roll(double dt_s);
   TugInputs tug_inputs() const;
   AirframeInputs surroundings() const;

@@ -51,6 +51,8 @@ simulation::FlightControls& AircraftModel::controls() { return systems_->aircraf
 
 simulation::Weather& AircraftModel::weather() { return systems_->aircraft.air.weather; }
 
+const simulation::Weather& AircraftModel::weather() const { return systems_->aircraft.air.weather; }
+
 const simulation::FlightState& AircraftModel::flight() const { return systems_->aircraft.flight; }
 
 double AircraftModel::time_of_day_s() const { return systems_->aircraft.clock.time_of_day_s(); }
@@ -95,6 +97,20 @@ bool AircraftModel::failed(std::uint32_t key) const { return systems_->aircraft.
 
 void AircraftModel::set_failure_rate(double per_hour) {
   systems_->aircraft.failures.per_hour = per_hour;
+}
+
+double AircraftModel::failure_rate() const { return systems_->aircraft.failures.per_hour; }
+
+std::span<const simulation::Vector> AircraftModel::track() const {
+  return systems_->aircraft.track.points();
+}
+
+const simulation::VhfTuning& AircraftModel::com() const { return systems_->aircraft.com; }
+
+bool AircraftModel::com_powered() const { return systems_->aircraft.has_avionics(); }
+
+const simulation::ProgramWindows& AircraftModel::program_windows() const {
+  return systems_->aircraft.windows;
 }
 
 void AircraftModel::hold_token(std::uint32_t number, std::optional<double> value) {

@@ -12,7 +12,9 @@
 #include "host/simulation/flight/air_data.h"
 #include "host/simulation/flight/flight_controls.h"
 #include "host/simulation/flight/flight_state.h"
+#include "host/simulation/navigation/tuning.h"
 #include "host/simulation/placement.h"
+#include "host/simulation/program_windows.h"
 #include "host/simulation/table_row.h"
 
 namespace host {
@@ -43,6 +45,7 @@ class AircraftModel {
 
   /// The day's weather: pressure, temperature, wind and gusts.
   simulation::Weather& weather();
+  const simulation::Weather& weather() const;
 
   /// Where it is and how it moves.
   const simulation::FlightState& flight() const;
@@ -81,6 +84,17 @@ class AircraftModel {
 
   /// How many systems fail by chance in an hour; 0, as at the start: none.
   void set_failure_rate(double per_hour);
+  double failure_rate() const;
+
+  /// The places flown over, the oldest first, since the aircraft was last put somewhere.
+  std::span<const simulation::Vector> track() const;
+
+  /// The communication radio.
+  const simulation::VhfTuning& com() const;
+  bool com_powered() const;
+
+  /// Which of the program's windows the cockpit's buttons have opened.
+  const simulation::ProgramWindows& program_windows() const;
 
   /// Puts a token to a value by its name or number, for scripts and tests: a held reading that
   /// the models no longer change. An empty value lets it go again.

@@ -25,6 +25,9 @@ inline constexpr std::uint32_t panel_lights = 10;         ///< 0/1: on, the cock
 }  // namespace token
 namespace event {
 inline constexpr std::uint32_t panel_lights_toggle = 0x100D6;
+inline constexpr std::uint32_t atc_window_toggle = 0x1001C;
+inline constexpr std::uint32_t kneeboard_toggle = 0x10154;
+inline constexpr std::uint32_t map_window_toggle = 0x10380;
 }  // namespace event
 
 }  // namespace host

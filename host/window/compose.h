@@ -4,7 +4,7 @@
 #include <cstdint>
 
 #include "host/drawing/painter.h"
-#include "host/window/sketch.h"
+#include "host/sketch/sketch.h"
 
 namespace host {
 

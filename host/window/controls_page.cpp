@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <cstdio>
 
-#include "host/window/palette.h"
+#include "host/sketch/palette.h"
 #include "host/window/ui_pictures.h"
 
 namespace host {

@@ -23,7 +23,11 @@ FlightDeck::FlightDeck(CockpitInputs& inputs, const DeckOptions& options)
       views_(cockpit_, scale_, options.zoom ? std::optional(*options.zoom * scale_) : std::nullopt,
              options.outside),
       notices_(views_.main()),
-      hand_(inputs_, views_, scale_) {
+      hand_(inputs_, views_, scale_),
+      pages_(
+          inputs_,
+          options.checklists.empty() ? std::vector<Checklist>{} : read_checklists(options.checklists),
+          options.checklists) {
   if (!options.controls.empty()) {
     controls_ = read_control_map(options.controls);
     sticks_.emplace(controls_, hands_);
@@ -52,6 +56,7 @@ void FlightDeck::fly() {
     notices_.tick(now());
     hand_.tick(now());
     take_window_actions();
+    follow_pages();
     if (views_.follow_cockpit()) hand_.reset();
     refresh();
     wait_for_event();
@@ -95,6 +100,7 @@ double FlightDeck::next_deadline() const {
   double next = std::min(notices_.next_tick(), hand_.next_tick());
   if (options_.exit_after) next = std::min(next, *options_.exit_after);
   if (paused_) return next;
+  if (pages_.shown()) next = std::min(next, page_due_);
   if (views_.moving()) next = std::min(next, picture_due_);
   return std::min(next, frame_due_);
 }
@@ -109,7 +115,7 @@ void FlightDeck::wait_for_event() {
 
 void FlightDeck::take(const SDL_Event& event) {
   if (sticks_) sticks_->take(event);
-  if (take_yoke(event)) return;
+  if (take_yoke(event) || take_page_event(event)) return;
   switch (event.type) {
     case SDL_QUIT: leaving_ = true; break;
     case SDL_WINDOWEVENT: take_window(event.window); break;
@@ -127,7 +133,7 @@ void FlightDeck::take_window(const SDL_WindowEvent& event) {
   if (event.event == SDL_WINDOWEVENT_FOCUS_LOST) let_go_of_keys();
   if (event.event == SDL_WINDOWEVENT_SIZE_CHANGED) {
     view->take_size();
-    if (view == &views_.main()) notices_.place();
+    if (view == &views_.main()) notices_.place(), show_page();
   } else if (event.event == SDL_WINDOWEVENT_EXPOSED) {
     view->invalidate();
   } else if (event.event == SDL_WINDOWEVENT_CLOSE) {

@@ -9,6 +9,7 @@
 #include <string>
 
 #include "host/hands/sticks.h"
+#include "host/pages/pages.h"
 #include "host/window/deck_options.h"
 #include "host/window/mouse_hand.h"
 #include "host/window/notices.h"
@@ -62,6 +63,15 @@ class FlightDeck {
   void show_controls_page();
   void show_badge();
 
+  // ---- The pages beside the panels (page_hand.cpp) ----------------------------------------------
+  void follow_pages();
+  void show_page();
+  bool take_page_event(const SDL_Event& event);
+  bool take_page_key(const SDL_Keysym& key);
+  /// What a pixel of the main window, in the desktop's units, has of the page; the page's spot there.
+  bool over_page(Uint32 window, int x, int y) const;
+  const PageSpot* page_spot(int x, int y) const;
+
   void toggle_window(std::uint32_t ident);
   void toggle_torn();
   /// Sends a key event of the aircraft past the panel, as a keyboard command does.
@@ -83,6 +93,9 @@ class FlightDeck {
   Views views_;
   Notices notices_;
   MouseHand hand_;
+  Pages pages_;
+  DrawnPage page_;  ///< as it stands in the main window
+  double page_due_ = 0;
   ControlMap controls_;
   Hands hands_;
   std::optional<Sticks> sticks_;

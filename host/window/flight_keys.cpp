@@ -19,7 +19,7 @@ std::filesystem::path free_picture_name(const std::filesystem::path& folder) {
 }  // namespace
 
 void FlightDeck::take_key(const SDL_Keysym& key) {
-  if (take_panel_key(key.sym)) return;
+  if (take_page_key(key) || take_panel_key(key.sym)) return;
   switch (key.sym) {
     case SDLK_t: toggle_torn(); break;
     case SDLK_PLUS:
@@ -113,6 +113,8 @@ void FlightDeck::leave_or_close_help() {
     controls_shown_ = false, show_controls_page();
   else if (notices_.help_shown())
     notices_.toggle_help();
+  else if (pages_.shown())
+    pages_.close();
   else
     leaving_ = true;
 }

@@ -3,7 +3,7 @@
 #include <span>
 #include <string_view>
 
-#include "host/window/palette.h"
+#include "host/sketch/palette.h"
 #include "host/window/ui_pictures.h"
 
 namespace host {
@@ -22,6 +22,9 @@ constexpr std::array cockpit_rows{
     HelpRow{"T", "Tear off the panel under the pointer, or put it back"},
     HelpRow{"+  -  0", "Zoom in, zoom out, fit the window"},
     HelpRow{"F11", "Full screen"},
+    HelpRow{"Pages beside the panels", ""},
+    HelpRow{"K  N  R", "Kneeboard with checklists, map, radio"},
+    HelpRow{"W  F", "GPS, failures"},
     HelpRow{"Controls", ""},
     HelpRow{"Click", "Work a switch, a button or a guard; hold to repeat"},
     HelpRow{"Right click", "The other way, or the test of a button"},

@@ -19,6 +19,9 @@ class MouseHand {
   /// One mouse event of the desktop. `now` is real seconds, for tooltips.
   void take(const SDL_Event& event, double now);
 
+  /// Shows the hand: under the pointer is something to click that is no panel's.
+  void show_hand() { cursors_.show(CURSOR_HAND); }
+
   /// Shows a tooltip when its time has come.
   void tick(double now);
 

@@ -5,7 +5,7 @@
 #include <numbers>
 
 #include "host/panel/text.h"
-#include "host/window/palette.h"
+#include "host/sketch/palette.h"
 
 namespace host {
 namespace {
@@ -109,6 +109,19 @@ Overlay draw_note(const std::string& text, int width, double scale) {
 
 Overlay draw_badge(const std::string& text, double scale) {
   return draw_card({{text, 20 * scale, accent, true}}, 14 * scale, scale);
+}
+
+Overlay draw_mark(const Rect& place, double scale) {
+  const int around = pixels(6 * scale);
+  const int width = place.width + 2 * around, height = place.height + 2 * around;
+  Sketch sketch(width, height);
+  sketch.box_outline(0, 0, width, height, 7 * scale, 6 * scale, {0, 0, 0, 0.55});
+  sketch.box_outline(1.5 * scale, 1.5 * scale, width - 3 * scale, height - 3 * scale, 6 * scale,
+                     3 * scale, accent);
+  Overlay overlay = sketch.finish();
+  overlay.x = place.x - around;
+  overlay.y = place.y - around;
+  return overlay;
 }
 
 Overlay draw_turn_cursor(bool increase, double scale) {

@@ -4,8 +4,9 @@
 #include <string>
 #include <vector>
 
+#include "host/drawing/painter.h"
 #include "host/hands/sticks.h"
-#include "host/window/sketch.h"
+#include "host/sketch/sketch.h"
 
 namespace host {
 
@@ -41,6 +42,9 @@ struct ControlsState {
 
 /// The page that shows live where the aircraft's controls stand, and what keys and joysticks do.
 Overlay draw_controls_page(const ControlsState& state, int width, int height, double scale);
+
+/// The frame around a control that is pointed at, which stands at `place`.
+Overlay draw_mark(const Rect& place, double scale);
 
 /// A pointer with a plus or a minus, for areas that turn a value up or down. Square.
 Overlay draw_turn_cursor(bool increase, double scale);

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "host/drawing/pixels.h"
+#include "host/panel/area_marks.h"
 #include "host/panel/panel_scene.h"
 #include "host/window/compose.h"
 #include "host/window/height_above.h"
@@ -43,6 +44,47 @@ void View::mark_areas(bool marked) {
   for (Panel& panel : panels_) panel.picture.mark_areas(marked);
 }
 
+void View::point_at(const std::optional<Target>& target) {
+  const bool same = target.has_value() == target_.has_value() &&
+                    (!target || (target->gauge == target_->gauge && target->box == target_->box));
+  if (same) return;
+  target_ = target;
+  marked_ = {};
+  if (!target_) set_layer(Layer::mark, std::nullopt);
+}
+
+void View::keep_free(int width) {
+  layout_old_ = layout_old_ || width != kept_free_;
+  kept_free_ = width;
+}
+
+std::optional<Rect> View::place_of(const Target& target) const {
+  for (const Panel& panel : panels_) {
+    Rect gauge = panel.picture.place_of(*target.gauge);
+    if (is_empty(gauge)) continue;
+    gauge.x += panel.place.x;
+    gauge.y += panel.place.y;
+    return on_screen(host::mark_place(target.box, target.gauge->size, gauge));
+  }
+  return std::nullopt;
+}
+
+// Where the control stands now; once, as far into sight as it goes.
+void View::place_mark() {
+  if (!target_) return;
+  auto place = place_of(*target_);
+  if (place && is_empty(marked_)) {
+    const PanelSize size{screen_.size().width - kept_free_, screen_.size().height};
+    scroll(std::clamp(0, -place->x, std::max(-place->x, size.width - place->x - place->width)),
+           std::clamp(0, -place->y, std::max(-place->y, size.height - place->y - place->height)));
+    place = place_of(*target_);
+  }
+  const Rect now = place.value_or(Rect{});
+  if (now == marked_) return;
+  marked_ = now;
+  set_layer(Layer::mark, place ? std::optional(draw_mark(now, scale())) : std::nullopt);
+}
+
 void View::want_outside(bool wanted) {
   layout_old_ = layout_old_ || wanted != outside_wanted_;
   outside_wanted_ = wanted;
@@ -63,7 +105,7 @@ void View::relayout() {
   const PanelSize size = screen_.size();
   const int caption = kind_ == Kind::main ? caption_height(scale()) : 0;
   const int gap = kind_ == Kind::main ? static_cast<int>(std::lround(6 * scale())) : 0;
-  LayoutArea area{size.width, size.height, gap, caption};
+  LayoutArea area{size.width - kept_free_, size.height, gap, caption};
   const std::vector<PanelSize> sizes = window_sizes(cockpit_, windows_);
   make_room_outside(sizes, area);
   layout_ = arrange(sizes, area, zoom_, 8.0);
@@ -86,7 +128,7 @@ void View::relayout() {
 
 void View::limit_scroll() {
   const PanelSize size = screen_.size();
-  scroll_.x = std::clamp(scroll_.x, std::min(0, size.width - layout_.width), 0);
+  scroll_.x = std::clamp(scroll_.x, std::min(0, size.width - kept_free_ - layout_.width), 0);
   scroll_.y = std::clamp(scroll_.y, std::min(0, size.height - layout_.height), 0);
 }
 
@@ -140,6 +182,7 @@ void View::draw_outside(const std::optional<outside::Sight>& sight) {
 
 bool View::refresh(double blend, const std::optional<outside::Sight>& sight) {
   if (layout_old_) relayout();
+  place_mark();
   draw_panels(blend);
   draw_outside(sight);
   if (all_changed_) changed_ = {{0, 0, screen_.size().width, screen_.size().height}};
@@ -165,7 +208,7 @@ void View::compose(const Rect& rect) {
 }
 
 std::optional<ViewHit> View::hit(int x, int y) const {
-  if (overlap(outside_, {x, y, 1, 1})) return std::nullopt;
+  if (overlap(outside_, {x, y, 1, 1}) || x >= screen_.size().width - kept_free_) return std::nullopt;
   const Rect pixel{x - scroll_.x, y - scroll_.y, 1, 1};
   for (std::size_t i = 0; i < panels_.size(); ++i) {
     const Panel& panel = panels_[i];

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "host/outside/outside_view.h"
+#include "host/pages/checklist_progress.h"
 #include "host/panel/layout.h"
 #include "host/panel/panel_picture.h"
 #include "host/window/screen_window.h"
@@ -15,7 +16,7 @@
 namespace host {
 
 /// What the program lays over the panels, from the lowest to the topmost.
-enum class Layer { badge, note, tooltip, controls, help };
+enum class Layer { mark, page, badge, note, tooltip, controls, help, count };
 
 /// What lies under a pixel of a view.
 struct ViewHit {
@@ -35,6 +36,7 @@ class View {
   View(const Cockpit& cockpit, Kind kind, const std::string& title, PanelSize size, double scale);
 
   ScreenWindow& screen() { return screen_; }
+  const ScreenWindow& screen() const { return screen_; }
   double scale() const { return scale_ * screen_.density(); }
 
   /// Shows these windows, in this order.
@@ -55,6 +57,12 @@ class View {
   void invalidate() { all_changed_ = true; }
 
   void mark_areas(bool marked);
+
+  /// Outlines a control wherever this view shows it, and brings it into sight.
+  void point_at(const std::optional<Target>& target);
+
+  /// Keeps so many pixels at the right end free of panels.
+  void keep_free(int width);
 
   /// Lays a picture over the panels, or takes it away.
   void set_layer(Layer layer, std::optional<Overlay> overlay);
@@ -88,6 +96,8 @@ class View {
   void make_room_outside(const std::vector<PanelSize>& sizes, LayoutArea& area);
   void draw_outside(const std::optional<outside::Sight>& sight);
   void limit_scroll();
+  std::optional<Rect> place_of(const Target& target) const;
+  void place_mark();
   Rect on_screen(const Rect& rect) const;
   void draw_panels(double blend);
   void change(const Rect& rect);
@@ -107,7 +117,10 @@ class View {
   Canvas outside_picture_;
   outside::Sight sight_;
   outside::OutsideView outside_view_;
-  std::array<std::optional<Overlay>, 5> layers_;
+  std::array<std::optional<Overlay>, static_cast<std::size_t>(Layer::count)> layers_;
+  std::optional<Target> target_;
+  Rect marked_{};  ///< of the screen; empty: nothing
+  int kept_free_ = 0;
   std::vector<Rect> changed_;
   bool layout_old_ = true;
   bool all_changed_ = true;

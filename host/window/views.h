@@ -19,6 +19,7 @@ class Views {
   Views(Cockpit& cockpit, double scale, std::optional<double> zoom, bool outside);
 
   View& main() { return *main_; }
+  const View& main() const { return *main_; }
 
   /// Shows and hides views as the cockpit's windows have opened and closed. Returns whether any did.
   bool follow_cockpit();

@@ -71,15 +71,17 @@ TEST_P(ShippedFlow, FliesToItsEndAndLeavesPicturesAndSound) {
       << "flown again, it sounds otherwise";
 }
 
-INSTANTIATE_TEST_SUITE_P(Flows, ShippedFlow,
-                         testing::Values(Shipped{"power_up",
-                                                 {"1-cold-and-dark", "2-battery", "3-meters",
-                                                  "4-generators", "5-night", "6-ready"}},
-                                         Shipped{"engine_start",
-                                                 {"1-cold-and-dark", "2-apu-on-line", "3-start-air",
-                                                  "4-both-running"}},
-                                         Shipped{"pedestal", {"1-parked", "2-flaps", "3-part-power"}}),
-                         [](const auto& shipped) { return std::string(shipped.param.flow); });
+INSTANTIATE_TEST_SUITE_P(
+    Flows, ShippedFlow,
+    testing::Values(
+        Shipped{"power_up",
+                {"1-cold-and-dark", "2-battery", "3-meters", "4-generators", "5-night", "6-ready"}},
+        Shipped{"engine_start", {"1-cold-and-dark", "2-apu-on-line", "3-start-air", "4-both-running"}},
+        Shipped{
+            "checklists",
+            {"1-before-start", "2-after-start", "3-radio", "4-approach", "5-approach", "6-shut-down"}},
+        Shipped{"pedestal", {"1-parked", "2-flaps", "3-part-power"}}),
+    [](const auto& shipped) { return std::string(shipped.param.flow); });
 
 struct Flight {
   const char* flow;

@@ -79,6 +79,7 @@ class InAWindow : public testing::Test {
     const std::vector<PanelSize> sizes = {setting.size};
     place = arrange(sizes, {width, height, 6, caption_height(1)}, setting.zoom).places[0];
     corner = {left, top};
+    window = {width, height};
   }
 
   std::string move_to(int x, int y) {
@@ -119,6 +120,7 @@ class InAWindow : public testing::Test {
   std::string record;
   Rect place;
   PanelPoint corner{};
+  PanelSize window{};
   int pictures = 0;
 };
 
@@ -239,6 +241,21 @@ TEST_F(CaptainInAWindow, AHeldArrowBanksTheAircraft) {
   screen->hands("keydown Left");
   EXPECT_TRUE(eventually([&] { return !sky_at(left) && sky_at(right); })) << "no bank to the left";
   screen->hands("keyup Left");
+  EXPECT_EQ(leave(), 0);
+}
+
+// The page stands at the right end, at most as wide as the panels leave it.
+TEST_F(InAWindow, AnItemOfTheKneeboardOpensThePanelWithItsControl) {
+  screen->hands("key k");
+  ASSERT_TRUE(recorded("kneeboard_toggle")) << file_text(record);
+  const double unit = std::min({1.0, window.width * 0.45 / 420, window.height / 760.0});
+  constexpr double second_item =
+      62 + 3 * 30 + 10 + 1.5 * 26;  // behind the battery: the avionics master
+  std::ostringstream words;
+  words << "mousemove " << std::lround(corner.x + window.width - 210 * unit) << " "
+        << std::lround(corner.y + second_item * unit) << " sleep 0.3 click 1";
+  screen->hands(words.str());
+  EXPECT_TRUE(recorded("open_window(505)")) << file_text(record);
   EXPECT_EQ(leave(), 0);
 }
 

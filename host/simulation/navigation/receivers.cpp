@@ -23,16 +23,15 @@ Sight sight_of(const Vector& station_m, const FlightState& flight) {
 
 double magnetic_deg(double true_deg) { return compass_degrees(true_deg - magnetic_variation_deg); }
 
-/// How far a wave goes before the ground hides it.
-double horizon_nm(const FlightState& flight) {
-  return 1.23 * (std::sqrt(std::max(flight.height_ft, 10.0)) + std::sqrt(mast_ft));
-}
-
 bool tuned_to(const VhfTuning& tuning, double station_mhz) {
   return tuning.active_khz == std::lround(station_mhz * 1000.0);
 }
 
 }  // namespace
+
+double radio_horizon_nm(const FlightState& flight) {
+  return 1.23 * (std::sqrt(std::max(flight.height_ft, 10.0)) + std::sqrt(mast_ft));
+}
 
 void NavReceiver::forget() {
   received = localizer = glide_slope = false;
@@ -57,7 +56,7 @@ void NavReceiver::update_landing_system(const FlightState& flight, const Landing
   const Sight sight = sight_of(station.localizer_m, flight);
   const double off_course_deg = turn_degrees(sight.bearing_true_deg - station.course_true_deg);
   const double behind_deg = std::abs(off_course_deg);
-  if (sight.slant_nm > std::min(25.0, horizon_nm(flight)) || behind_deg > 35.0) return;
+  if (sight.slant_nm > std::min(25.0, radio_horizon_nm(flight)) || behind_deg > 35.0) return;
   received = localizer = true;
   ident = station.ident;
   distance_nm = sight.slant_nm;
@@ -79,7 +78,7 @@ void NavReceiver::update_glide_slope(const FlightState& flight, const LandingSys
 
 void NavReceiver::update_vor(const FlightState& flight, const VorStation& station) {
   const Sight sight = sight_of(station.position_m, flight);
-  if (sight.slant_nm > std::min(100.0, horizon_nm(flight))) return;
+  if (sight.slant_nm > std::min(100.0, radio_horizon_nm(flight))) return;
   received = true;
   ident = station.ident;
   distance_nm = sight.slant_nm;

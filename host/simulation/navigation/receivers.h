@@ -62,6 +62,9 @@ int marker_overhead(const FlightState& flight);
 /// The bearing as a needle shows it on an instrument whose card turns behind it: 0 straight ahead.
 double on_instrument_deg(double bearing_deg, double heading_deg);
 
+/// Miles that a wave between the aircraft and a mast goes before the ground hides it.
+double radio_horizon_nm(const FlightState& flight);
+
 double magnetic_heading_deg(const FlightState& flight);
 
 }  // namespace host::simulation

@@ -10,9 +10,9 @@ void toggle(Aircraft& aircraft, std::uint32_t) {
 }
 
 constexpr EventRow events[] = {
-    {{0x1001C, "atc_window_toggle", ""}, toggle<&ProgramWindows::atc_shown>},
-    {{0x10154, "kneeboard_toggle", ""}, toggle<&ProgramWindows::kneeboard_shown>},
-    {{0x10380, "map_window_toggle", ""}, toggle<&ProgramWindows::map_shown>},
+    {{event::atc_window_toggle, "atc_window_toggle", ""}, toggle<&ProgramWindows::atc_shown>},
+    {{event::kneeboard_toggle, "kneeboard_toggle", ""}, toggle<&ProgramWindows::kneeboard_shown>},
+    {{event::map_window_toggle, "map_window_toggle", ""}, toggle<&ProgramWindows::map_shown>},
 };
 
 }  // namespace

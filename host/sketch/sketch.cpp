@@ -1,4 +1,4 @@
-#include "host/window/sketch.h"
+#include "host/sketch/sketch.h"
 
 #include <pango/pangocairo.h>
 
@@ -64,6 +64,42 @@ void Sketch::line(double x0, double y0, double x1, double y1, double width, Colo
   cairo_line_to(context(), x1, y1);
   cairo_stroke(context());
 }
+
+void Sketch::circle(double x, double y, double radius, double line, Color color) {
+  cairo_new_path(context());
+  cairo_arc(context(), x, y, radius, 0, 2 * std::numbers::pi);
+  set(color);
+  cairo_set_line_width(context(), line);
+  cairo_stroke(context());
+}
+
+void Sketch::path(std::span<const SketchPoint> points) {
+  cairo_new_path(context());
+  for (const auto& [x, y] : points) cairo_line_to(context(), x, y);
+}
+
+void Sketch::polyline(std::span<const SketchPoint> points, double width, Color color) {
+  path(points);
+  set(color);
+  cairo_set_line_width(context(), width);
+  cairo_set_line_join(context(), CAIRO_LINE_JOIN_ROUND);
+  cairo_stroke(context());
+}
+
+void Sketch::polygon(std::span<const SketchPoint> corners, Color color) {
+  path(corners);
+  cairo_close_path(context());
+  set(color);
+  cairo_fill(context());
+}
+
+void Sketch::begin_clip(double x, double y, double width, double height, double radius) {
+  cairo_save(context());
+  path(x, y, width, height, radius);
+  cairo_clip(context());
+}
+
+void Sketch::end_clip() { cairo_restore(context()); }
 
 void Sketch::text(const std::string& text, double x, double y, double size, bool bold, Color color) {
   const Layout layout = make_layout(context(), text, size, bold);

@@ -1,7 +1,7 @@
 /// The colours of the program's own pictures: quiet, so that the cockpit is what one sees.
 #pragma once
 
-#include "host/window/sketch.h"
+#include "host/sketch/sketch.h"
 
 namespace host::palette {
 

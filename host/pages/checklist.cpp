@@ -1,0 +1,137 @@
+#include "host/pages/checklist.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <fstream>
+#include <sstream>
+
+#include "host/panel/config_values.h"
+#include "host/panel/text.h"
+
+namespace host {
+namespace {
+
+constexpr std::array<std::string_view, 5> signs{"=", "<", ">", "<=", ">="};
+
+std::vector<std::string> words_in(std::string_view text) {
+  std::vector<std::string> words;
+  for (const std::string_view word : split(text, ' '))
+    if (!trimmed(word).empty()) words.emplace_back(trimmed(word));
+  return words;
+}
+
+double read_number(const std::string& word) {
+  double number = 0;
+  const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), number);
+  if (error != std::errc{} || end != word.data() + word.size() || !std::isfinite(number))
+    throw LineError("'" + word + "' is no number");
+  return number;
+}
+
+// [gauge] name sign number
+Comparison read_comparison(std::span<const std::string> words) {
+  if (words.size() != 3 && words.size() != 4)
+    throw LineError(
+        "a condition is a token, or a gauge and its part, then = < > <= or >=, and a number");
+  Comparison comparison;
+  if (words.size() == 4) comparison.gauge = words[0];
+  comparison.name = words[words.size() - 3];
+  comparison.sign = words[words.size() - 2];
+  if (std::ranges::find(signs, comparison.sign) == signs.end())
+    throw LineError("'" + comparison.sign + "' is none of = < > <= >=");
+  comparison.number = read_number(words.back());
+  return comparison;
+}
+
+Condition read_condition(std::string_view text) {
+  const std::vector<std::string> words = words_in(text);
+  Condition condition;
+  auto begin = words.begin();
+  for (;;) {
+    const auto end = std::find(begin, words.end(), "and");
+    condition.push_back(read_comparison({begin, end}));
+    if (end == words.end()) return condition;
+    begin = end + 1;
+  }
+}
+
+ChecklistItem read_item(std::string_view line) {
+  const std::vector<std::string_view> columns = split(line, '|');
+  if (columns.size() != 4)
+    throw LineError("an item is: what | how it should be | where it is worked | when it is done");
+  ChecklistItem item;
+  item.what = trimmed(columns[0]);
+  item.wanted = trimmed(columns[1]);
+  if (item.what.empty() || item.wanted.empty()) throw LineError("the item has no words");
+  const std::vector<std::string> where = words_in(columns[2]);
+  if (where.empty() || where.size() > 2)
+    throw LineError("an item is worked at a gauge and one of its controls");
+  item.gauge = where[0];
+  if (where.size() == 2) item.control = where[1];
+  item.done = read_condition(columns[3]);
+  return item;
+}
+
+Checklist read_title(std::string_view line) {
+  if (line.back() != ']') throw LineError("the list's title has no end: " + std::string(line));
+  Checklist list;
+  list.title = trimmed(line.substr(1, line.size() - 2));
+  if (list.title.empty()) throw LineError("the list has no title");
+  return list;
+}
+
+void take_line(std::vector<Checklist>& lists, std::string_view line, int number) {
+  if (line.front() == '[') {
+    if (lists.size() == most_checklists) throw LineError("there is no room for another list");
+    lists.push_back(read_title(line));
+    lists.back().line = number;
+    return;
+  }
+  if (lists.empty()) throw LineError("expected a list's title such as [Before start] first");
+  Checklist& list = lists.back();
+  if (line.starts_with("when ")) {
+    list.when = read_condition(line.substr(5));
+    return;
+  }
+  if (list.items.size() == most_items) throw LineError("there is no room for another item");
+  list.items.push_back(read_item(line));
+  list.items.back().line = number;
+}
+
+}  // namespace
+
+std::vector<Checklist> parse_checklists(std::string_view text, const std::filesystem::path& file) {
+  std::vector<Checklist> lists;
+  int number = 0;
+  for (const std::string_view raw : split(text, '\n')) {
+    ++number;
+    const std::string_view line = trimmed(raw);
+    if (line.empty() || line.front() == '#') continue;
+    try {
+      take_line(lists, line, number);
+    } catch (const LineError& error) {
+      throw ConfigError(at_line(file, number, error.what()));
+    }
+  }
+  return lists;
+}
+
+std::vector<Checklist> read_checklists(const std::filesystem::path& file) {
+  std::ifstream in(file, std::ios::binary);
+  std::ostringstream text;
+  if (!(text << in.rdbuf())) throw ConfigError(file.string() + ": cannot read the checklists");
+  return parse_checklists(text.str(), file);
+}
+
+bool holds(const Comparison& comparison, double reading) {
+  const std::string& sign = comparison.sign;
+  if (sign == "<") return reading < comparison.number;
+  if (sign == ">") return reading > comparison.number;
+  if (sign == "<=") return reading <= comparison.number;
+  if (sign == ">=") return reading >= comparison.number;
+  return reading == comparison.number;
+}
+
+}  // namespace host
