@@ -95,7 +95,7 @@ void FlowSession::wheel(const Spot& spot, int notches) {
 }
 
 void FlowSession::picture(const std::string& name, const std::string& what, double zoom) {
-  if (surroundings_.pictures.empty()) return;
+  if (surroundings_.pictures.empty()) return check_picture(cockpit_, what);
   const Canvas canvas = picture_of(cockpit_, what, zoom);
   write_png(canvas, (surroundings_.pictures / (name + ".png")).string());
 }
