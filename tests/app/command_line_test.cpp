@@ -106,6 +106,7 @@ INSTANTIATE_TEST_SUITE_P(
              "gone.cfg: cannot be read: No such file or directory"},
         Case{"pipe_panel", "list windows --panel @pipe", 1, "@pipe: is no regular file"},
         Case{"device_panel", "list windows --panel @zero", 1, "@zero: is no regular file"},
+        Case{"pipe_module_flown", "fly --module @pipe", 1, "@pipe: is no regular file"},
         Case{"pipe_module", "check @pipe", 1, "@pipe: is no regular file"},
         Case{"swapped_artwork", "check @swapped/Tarnvale.GAU", 0,
              "@swapped/Tarnvale.GAU.2x: bitmap 10 has 60 x 60 pixels, not 40 x 40"},
