@@ -5,6 +5,8 @@
 #include <string>
 
 #include "host/app/commands.h"
+#include "host/app/standard_streams.h"
+#include "host/files/shortened.h"
 #include "host/simulation/places.h"
 
 namespace host {
@@ -27,16 +29,17 @@ class CommandLine {
 
   int run(int argc, char** argv) {
     if (argc > 1 && argv[1][0] != '-' && !is_command(argv[1])) {
-      std::fprintf(stderr, "there is no command '%s'; tarnvale --help lists them\n", argv[1]);
+      std::fprintf(stderr, "there is no command '%s'; tarnvale --help lists them\n",
+                   shortened(argv[1]).c_str());
       return exit_usage;
     }
     try {
       app_.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
-      const bool asked_for_help = error.get_exit_code() == 0;
-      app_.failure_message(CLI::FailureMessage::simple);
-      app_.exit(error);
-      return asked_for_help ? exit_fine : exit_usage;
+      if (error.get_exit_code() == 0) return app_.exit(error);  // asked for help
+      std::fprintf(stderr, "tarnvale: %s; see: %s --help\n", shortened(error.what(), 300).c_str(),
+                   command_typed().c_str());
+      return exit_usage;
     }
     return command_();
   }
@@ -46,6 +49,25 @@ class CommandLine {
     const auto commands =
         app_.get_subcommands([&](const CLI::App* app) { return app->check_name(name); });
     return !commands.empty();
+  }
+
+  // "tarnvale run", as far as it has been read.
+  std::string command_typed() const {
+    const auto commands = app_.get_subcommands();
+    return commands.empty() ? "tarnvale" : "tarnvale " + commands.front()->get_name();
+  }
+
+  // A finite number of a range. What is no number lies outside of no range that is asked for by less and
+  // more, so it is asked for by within.
+  static CLI::Validator number(double low, double high) {
+    char range[80];
+    std::snprintf(range, sizeof range, "a number from %.10g to %.10g", low, high);
+    const auto check = [low, high, words = std::string(range)](std::string& text) {
+      double value = 0;
+      const bool fine = CLI::detail::lexical_cast(text, value) && value >= low && value <= high;
+      return fine ? std::string() : "'" + shortened(text) + "' is not " + words;
+    };
+    return CLI::Validator(check, "");
   }
 
   template <typename Options>
@@ -65,7 +87,7 @@ class CommandLine {
   static void add_cockpit(CLI::App* sub, CockpitOptions& options) {
     add_files(sub, options);
     sub->add_option("--rate", options.rate, "Gauge frames a second")
-        ->check(CLI::Range(1.0, 240.0))
+        ->check(number(1.0, 240.0))
         ->capture_default_str();
   }
 
@@ -77,7 +99,7 @@ class CommandLine {
         ->capture_default_str();
     sub->add_option("--time", options.hours,
                     "Local time in hours, 19.5 is half past seven in the evening")
-        ->check(CLI::Range(0.0, 24.0));
+        ->check(number(0.0, 24.0));
   }
 
   void add_fly() {
@@ -85,10 +107,10 @@ class CommandLine {
     add_cockpit(sub, fly_.cockpit);
     sub->add_option("--scale", fly_.deck.scale,
                     "Scale of the desktop, 1 is 96 dots an inch; else its own setting")
-        ->check(CLI::Range(0.5, 8.0));
+        ->check(number(0.5, 8.0));
     sub->add_option("--zoom", fly_.deck.zoom,
                     "Size of the panels, 1 is their own; else what fits the screen")
-        ->check(CLI::Range(0.1, 8.0));
+        ->check(number(0.1, 8.0));
     add_start(sub, fly_.start);
     sub->add_flag("!--no-view", fly_.deck.outside, "Without the view out of the window (key V)");
     sub->add_option("--open", fly_.open, "Windows to open at once, by their idents");
@@ -100,7 +122,7 @@ class CommandLine {
     sub->add_option("--record", fly_.record,
                     "Write your inputs to this file, as a flow that can be run again");
     sub->add_option("--exit-after", fly_.deck.exit_after, "Leave after so many seconds")
-        ->check(CLI::NonNegativeNumber);
+        ->check(number(0, 1e9));
     sub->add_flag("--mute", fly_.mute, "Fly without sound");
     add_journal(sub);
   }
@@ -138,7 +160,7 @@ class CommandLine {
     CLI::Option* pictures = sub->add_option(
         "--png", replay_.pictures, "Folder for pictures of what is open, now and then and at the end");
     sub->add_option("--every", replay_.picture_every, "Seconds of flight between two pictures")
-        ->check(CLI::Range(0.01, 1e6))
+        ->check(number(0.01, 1e6))
         ->capture_default_str()
         ->needs(pictures);
     sub->add_option("--wav", replay_.sound, "File for the flight's sound");
@@ -154,9 +176,8 @@ class CommandLine {
                     "Names of gauges, a window's ident, outside, or a page: kneeboard, map, atc, gps, "
                     "failures")
         ->required();
-    sub->add_option("--zoom", show_.deck.zoom, "Size, 1 is the gauges' own")
-        ->check(CLI::Range(0.1, 8.0));
-    sub->add_option("--scale", show_.deck.scale, "Scale of the desktop")->check(CLI::Range(0.5, 8.0));
+    sub->add_option("--zoom", show_.deck.zoom, "Size, 1 is the gauges' own")->check(number(0.1, 8.0));
+    sub->add_option("--scale", show_.deck.scale, "Scale of the desktop")->check(number(0.5, 8.0));
     add_start(sub, show_.start);
     sub->add_flag("--areas", show_.areas, "Outline the click areas");
     sub->add_flag("--night", show_.night, "With the panel lights on");
@@ -200,13 +221,21 @@ class CommandLine {
 
 }  // namespace
 
-int run_command_line(int argc, char** argv) {
+static int run_reporting(int argc, char** argv) {
   try {
     return CommandLine().run(argc, argv);
+  } catch (const std::bad_alloc&) {
+    std::fprintf(stderr, "tarnvale: there is not enough memory\n");
   } catch (const std::exception& error) {
-    std::fprintf(stderr, "tarnvale: %s\n", error.what());
-    return exit_failed;
+    std::fprintf(stderr, "tarnvale: %s\n", shortened(error.what(), 1000).c_str());
   }
+  return exit_failed;
+}
+
+int run_command_line(int argc, char** argv) {
+  prepare_standard_streams();
+  const int code = run_reporting(argc, argv);
+  return standard_output_taken() || code != exit_fine ? code : exit_failed;
 }
 
 }  // namespace host

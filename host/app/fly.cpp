@@ -1,5 +1,6 @@
 #include <windows.h>
 
+#include <cstdio>
 #include <optional>
 #include <stdexcept>
 
@@ -9,6 +10,7 @@
 #include "host/app/progress.h"
 #include "host/app/start.h"
 #include "host/app/start_notes.h"
+#include "host/files/output.h"
 #include "host/journal/flight_journal.h"
 #include "host/journal/flow_writer.h"
 #include "host/journal/replay.h"
@@ -35,6 +37,10 @@ std::optional<LeftSession> left_session(const FlyOptions& options) {
 
 CockpitOptions cockpit_of(const FlyOptions& options, const std::optional<LeftSession>& left) {
   CockpitOptions cockpit = located(options.cockpit);
+  check_outputs({{"--record", options.record}, {"--journal", options.journal}},
+                {{"the module", cockpit.module},
+                 {"the panel configuration", cockpit.panel},
+                 {"the controls", options.deck.controls}});
   if (left) cockpit.rate = left->record.identity.rate;
   return cockpit;
 }
@@ -65,14 +71,15 @@ class Session {
         identity_(identity_for(left_, cockpit_options_)),
         module_(cockpit_options_.module),
         cockpit_(module_, read_panel_config(cockpit_options_.panel), cockpit_options_.rate) {
-    say_artwork_notes(module_);
+    say_start_notes(module_);
     say_notes(cockpit_.names());
     if (options.record.empty()) return;
     flow_.emplace(options.record, cockpit_);
     inputs_.tell(*flow_);
   }
 
-  void fly() {
+  // Whether all that the session should leave has been written.
+  bool fly() {
     left_ ? take_up() : begin();
     FlightDeck deck(inputs_, deck_of(options_));
     Identifications identifications;
@@ -85,6 +92,9 @@ class Session {
     if (inputs_.holding()) inputs_.take(input::Release{});  // nobody holds the button any more
     deck.fly();
     journal_.reset();
+    if (!flow_ || flow_->fault().empty()) return whole_;
+    std::fprintf(stderr, "%s\n", flow_->fault().c_str());
+    return false;
   }
 
  private:
@@ -117,7 +127,10 @@ class Session {
     } else if (!begin_journal()) {
       return;
     }
-    journal_->on_fault = tell;
+    journal_->on_fault = [this](const std::string& fault) {
+      tell(fault);
+      whole_ = false;
+    };
     inputs_.tell(*journal_);
   }
 
@@ -154,13 +167,11 @@ class Session {
   std::optional<FlightJournal> journal_;
   std::vector<Input> beginning_;
   std::vector<std::string> notes_;
+  bool whole_ = true;
 };
 
 }  // namespace
 
-int fly(const FlyOptions& options) {
-  Session(options).fly();
-  return exit_fine;
-}
+int fly(const FlyOptions& options) { return Session(options).fly() ? exit_fine : exit_failed; }
 
 }  // namespace host

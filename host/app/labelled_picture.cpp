@@ -177,6 +177,7 @@ Canvas labelled_picture(const Cockpit& cockpit, const PanelPicture& picture) {
   const double scale = std::clamp((picture.zoom() + 1) / 2, 1.0, 3.0);
   const Areas areas = areas_of(cockpit, picture);
   const Legend legend(areas.legend, panel.width, scale);
+  check_picture_size(std::max(panel.width, legend.width()), panel.height + legend.height());
   Sketch sketch(std::max(panel.width, legend.width()), panel.height + legend.height());
   Badges(areas, panel, scale).draw(sketch);
   legend.draw(sketch, panel.height);

@@ -1,6 +1,5 @@
 #include <algorithm>
 #include <cstdio>
-#include <map>
 
 #include "host/app/columns.h"
 #include "host/app/commands.h"
@@ -81,16 +80,16 @@ void list_sounds(const CockpitOptions& options) {
   const fs::path folder = options.module.parent_path() / "Sound";
   if (!fs::is_directory(folder))
     throw std::runtime_error(folder.string() + ": there is no such folder");
-  std::map<std::string, WavFacts> sounds;
-  for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder))
-    if (entry.is_regular_file() && lower(entry.path().extension().string()) == ".wav")
-      sounds[fs::relative(entry.path(), folder).string()] = read_wav_facts(entry.path());
+  const auto sounds = sounds_in(folder);
+  for (const std::string& fault : sound_faults(sounds))
+    std::fprintf(stderr, "warning: %s\n", fault.c_str());
   Columns columns({"seconds", "rate", "bits", "channels", "file"});
-  for (const auto& [name, facts] : sounds) {
+  for (const auto& [file, facts] : sounds) {
+    if (facts.rate == 0) continue;
     char seconds[32];
     std::snprintf(seconds, sizeof seconds, "%.2f", facts.seconds);
     columns.add({seconds, std::to_string(facts.rate), std::to_string(facts.bits),
-                 std::to_string(facts.channels), name});
+                 std::to_string(facts.channels), file.lexically_relative(folder).string()});
   }
   print(columns);
 }

@@ -2,11 +2,13 @@
 
 #include <cstdio>
 
+#include "host/files/shortened.h"
+
 namespace host {
 
 const GaugeHeader& find_gauge(const GaugeModule& module, const std::string& name) {
   if (const GaugeHeader* gauge = module.find(name)) return *gauge;
-  throw std::runtime_error(module.file().filename().string() + " has no gauge '" + name +
+  throw std::runtime_error(module.file().string() + " has no gauge '" + shortened(name) +
                            "'; see: tarnvale list gauges");
 }
 

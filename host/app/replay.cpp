@@ -9,6 +9,7 @@
 #include "host/app/lookup.h"
 #include "host/app/progress.h"
 #include "host/app/start_notes.h"
+#include "host/files/output.h"
 #include "host/journal/flow_writer.h"
 #include "host/panel/panel_scene.h"
 #include "host/sound/identifications.h"
@@ -17,8 +18,12 @@
 namespace host {
 namespace {
 
-CockpitOptions flown_in(CockpitOptions options, const FlightRecord& record) {
-  options = located(options);
+CockpitOptions flown_in(const ReplayOptions& asked, const FlightRecord& record) {
+  CockpitOptions options = located(asked.cockpit);
+  check_outputs({{"--wav", asked.sound}, {"--flow", asked.flow}},
+                {{"the journal", asked.journal},
+                 {"the module", options.module},
+                 {"the panel configuration", options.panel}});
   check_identity(record, identity_of(options.module, options.panel, record.identity.rate));
   options.rate = record.identity.rate;
   return options;
@@ -30,12 +35,12 @@ class FlownAgain {
   explicit FlownAgain(const ReplayOptions& options)
       : options_(options),
         record_(read_journal(options.journal)),
-        cockpit_options_(flown_in(options.cockpit, record_)),
+        cockpit_options_(flown_in(options, record_)),
         module_(cockpit_options_.module),
         cockpit_(module_, read_panel_config(cockpit_options_.panel), cockpit_options_.rate),
         frames_between_pictures_(frames_in(options.picture_every)) {
     if (!record_.damage.empty()) progress_.note("warning: " + record_.damage);
-    say_artwork_notes(module_);
+    say_start_notes(module_);
     if (!options.pictures.empty()) prepare_folder(options.pictures);
     if (!options.sound.empty()) sound_ = std::make_unique<WavRecorder>(options.sound.string());
     if (!options.flow.empty()) {
@@ -48,13 +53,15 @@ class FlownAgain {
 
   ~FlownAgain() { platform_on_message(nullptr, nullptr); }
 
-  // Whether it has been the same flight.
+  // Whether it has been the same flight, and all of it has been written that was asked for.
   bool fly() {
     const std::string departed = fly_again(inputs_, record_, [this] { after_frame(); });
     take_picture();
     sound_->finish();
-    if (!departed.empty()) progress_.note(departed);
-    return departed.empty();
+    const std::string unwritten = flow_ ? flow_->fault() : "";
+    for (const std::string& note : {departed, unwritten})
+      if (!note.empty()) progress_.note(note);
+    return departed.empty() && unwritten.empty();
   }
 
   void report() const {

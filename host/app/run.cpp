@@ -1,3 +1,5 @@
+#include <unistd.h>
+
 #include <chrono>
 #include <csignal>
 #include <cstdio>
@@ -11,6 +13,8 @@
 #include "host/app/lookup.h"
 #include "host/app/progress.h"
 #include "host/app/start_notes.h"
+#include "host/files/output.h"
+#include "host/files/shortened.h"
 #include "host/journal/flight_journal.h"
 #include "host/script/flow_api.h"
 #include "host/sound/identifications.h"
@@ -22,10 +26,29 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-// Ctrl-C ends the flow like a failed expectation, so that its sound file is completed.
+// Ctrl-C ends the flow like a failed expectation; once more, and the program ends where it is. The sound and
+// the journal are whole at any moment.
 volatile std::sig_atomic_t interrupted = 0;
 
-void interrupt(int) { interrupted = 1; }
+void interrupt(int signal) {
+  if (interrupted) _exit(128 + signal);
+  interrupted = 1;
+}
+
+void end_when_told() {
+  for (const int signal : {SIGINT, SIGTERM, SIGHUP}) std::signal(signal, interrupt);
+}
+
+// A flow with an error in it must not cost the recording of the one before.
+std::filesystem::path sound_flow(const RunOptions& options) {
+  std::filesystem::path flow = find_flow(options.flow);
+  LuaRunner().parse(flow);
+  const CockpitOptions cockpit = located(options.cockpit);
+  check_outputs(
+      {{"--wav", options.sound}, {"--journal", options.journal}},
+      {{"the flow", flow}, {"the module", cockpit.module}, {"the panel configuration", cockpit.panel}});
+  return flow;
+}
 
 // Keeps simulated time from running ahead of the clock.
 class Pacer {
@@ -45,11 +68,11 @@ class FlowRun {
   explicit FlowRun(const RunOptions& options)
       : options_(options),
         cockpit_options_(located(options.cockpit)),
-        flow_(find_flow(options.flow)),
+        flow_(sound_flow(options)),
         module_(cockpit_options_.module),
         cockpit_(module_, read_panel_config(cockpit_options_.panel), cockpit_options_.rate),
         session_(cockpit_, surroundings()) {
-    say_artwork_notes(module_);
+    say_start_notes(module_);
     if (!options.pictures.empty()) prepare_folder(options.pictures);
     if (!options.sound.empty()) sound_ = std::make_unique<WavRecorder>(options.sound.string());
     if (!options.journal.empty()) keep_journal(options.journal);
@@ -63,13 +86,17 @@ class FlowRun {
     platform_on_sound(nullptr, nullptr);
   }
 
-  void fly() {
+  // Whether all that was asked for has been written.
+  bool fly() {
     say_notes(cockpit_.names());
     LuaRunner runner;
+    runner.end_wanted = [] { return interrupted != 0; };
     bind_flow_api(runner, session_);
     session_.frame();  // the cockpit stands before the person takes a seat
     runner.run(flow_);
     sound_->finish();
+    journal_.reset();
+    return journal_whole_;
   }
 
   /// All pictures that have been made, on one page.
@@ -87,7 +114,10 @@ class FlowRun {
     journal_ = std::make_unique<FlightJournal>(
         JournalFile::create(file), cockpit_,
         identity_of(cockpit_options_.module, cockpit_options_.panel, cockpit_options_.rate));
-    journal_->on_fault = [this](const std::string& fault) { progress_.note(fault); };
+    journal_->on_fault = [this](const std::string& fault) {
+      progress_.note(fault);
+      journal_whole_ = false;
+    };
     session_.inputs().tell(*journal_);
   }
 
@@ -143,6 +173,7 @@ class FlowRun {
   GaugeModule module_;
   Cockpit cockpit_;
   FlowSession session_;
+  bool journal_whole_ = true;
   std::unique_ptr<FlightJournal> journal_;
   ContactSheet sheet_;
   std::string stage_;  // what the flow has said last
@@ -151,18 +182,19 @@ class FlowRun {
 }  // namespace
 
 int run_flow(const RunOptions& options) {
+  end_when_told();
   FlowRun run(options);
-  std::signal(SIGINT, interrupt);
+  bool whole = false;
   try {
-    run.fly();
+    whole = run.fly();
   } catch (const FlowError& error) {
-    std::fprintf(stderr, "\n%s\n", error.what());
+    std::fprintf(stderr, "\n%s\n", shortened(error.what(), 1000).c_str());
     run.finish_pictures();
     return exit_failed;
   }
   run.finish_pictures();
   run.report();
-  return exit_fine;
+  return whole ? exit_fine : exit_failed;
 }
 
 }  // namespace host

@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <stdexcept>
 
 #include "host/app/commands.h"
@@ -8,6 +9,8 @@
 #include "host/app/lookup.h"
 #include "host/app/start.h"
 #include "host/app/start_notes.h"
+#include "host/files/output.h"
+#include "host/files/shortened.h"
 #include "host/pages/page.h"
 #include "host/panel/panel_picture.h"
 #include "host/panel/panel_scene.h"
@@ -66,9 +69,11 @@ PanelConfig panel_of(const GaugeModule& module, const ShowOptions& options,
 }
 
 std::uint32_t token_number(const std::string& name) {
-  if (const auto number = as_number(name)) return *number;
-  if (const TableRow* row = find_row(AircraftModel::tokens(), name)) return row->number;
-  throw std::runtime_error("there is no token '" + name + "'; see: tarnvale list tokens");
+  const auto tokens = AircraftModel::tokens();
+  const auto number = as_number(name);
+  if (const TableRow* row = number ? find_row(tokens, *number) : find_row(tokens, name))
+    return row->number;
+  throw std::runtime_error("there is no token '" + shortened(name) + "'; see: tarnvale list tokens");
 }
 
 void hold_reading(AircraftModel& aircraft, const std::string& reading) {
@@ -76,8 +81,9 @@ void hold_reading(AircraftModel& aircraft, const std::string& reading) {
   char* end = nullptr;
   const double value =
       equals == std::string::npos ? 0 : std::strtod(reading.c_str() + equals + 1, &end);
-  if (equals == std::string::npos || equals + 1 == reading.size() || *end != '\0')
-    throw std::runtime_error("--set " + reading + ": expected token=value");
+  if (equals == std::string::npos || equals + 1 == reading.size() || *end != '\0' ||
+      !std::isfinite(value))
+    throw std::runtime_error("--set " + shortened(reading) + ": expected token=value");
   aircraft.hold_token(token_number(reading.substr(0, equals)), value);
 }
 
@@ -88,7 +94,10 @@ void set_up(Cockpit& cockpit, const ShowOptions& options) {
 }
 
 void write_picture(Cockpit& cockpit, const ShowOptions& options) {
-  PanelPicture picture(cockpit, 0, options.deck.zoom.value_or(1.0));
+  const double zoom = options.deck.zoom.value_or(1.0);
+  const WindowConfig& window = cockpit.config().windows.front();
+  check_picture_size(window.width * zoom, window.height * zoom);
+  PanelPicture picture(cockpit, 0, zoom);
   picture.mark_areas(options.areas || options.labels);
   std::vector<Rect> changed;
   picture.draw(1.0, changed);
@@ -130,8 +139,10 @@ int show(const ShowOptions& options) {
   if (options.gauges == std::vector<std::string>{std::string(view_name)}) return show_outside(options);
   if (options.gauges.size() == 1 && find_page(options.gauges.front())) return show_page(options);
   const CockpitOptions located_options = located(options.cockpit);
+  check_outputs({{"--png", options.picture}}, {{"the module", located_options.module},
+                                               {"the panel configuration", located_options.panel}});
   GaugeModule module(located_options.module);
-  say_artwork_notes(module);
+  say_start_notes(module);
   const bool window = options.picture.empty();
   prepare_platform(located_options, window ? PLATFORM_AUDIO_DEVICE : PLATFORM_AUDIO_NONE);
   Cockpit cockpit(module, panel_of(module, options, located_options.panel), located_options.rate);

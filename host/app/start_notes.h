@@ -5,7 +5,7 @@
 
 namespace host {
 
-/// Says on standard error what of the module's artwork is missing or damaged.
-void say_artwork_notes(const GaugeModule& module);
+/// Says on standard error what of the module's artwork and sounds is missing, damaged or of no use.
+void say_start_notes(const GaugeModule& module);
 
 }  // namespace host

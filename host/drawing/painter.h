@@ -64,7 +64,7 @@ class GaugePainter {
 /// The size of a gauge in pixels of its own background; {0, 0} if the background is missing.
 PanelSize gauge_size(const GaugeHeader& gauge, const BitmapStore& bitmaps);
 
-/// Writes a canvas as a PNG file. Throws std::runtime_error that names the file.
+/// Writes a canvas as a PNG file; if that fails, what stood there stays. Throws std::runtime_error that names the file.
 void write_png(const Canvas& canvas, const std::string& file);
 
 }  // namespace host

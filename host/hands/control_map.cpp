@@ -1,10 +1,10 @@
 #include "host/hands/control_map.h"
 
 #include <algorithm>
-#include <fstream>
 #include <functional>
-#include <sstream>
 
+#include "host/files/read_file.h"
+#include "host/files/shortened.h"
 #include "host/hands/actions.h"
 #include "host/panel/config_values.h"
 #include "host/panel/panel_config.h"
@@ -20,7 +20,7 @@ std::optional<std::size_t> place_of(std::span<const Row> table, std::string_view
   return static_cast<std::size_t>(found - table.begin());
 }
 
-std::string quoted(std::string_view text) { return "'" + std::string(text) + "'"; }
+std::string quoted(std::string_view text) { return "'" + shortened(text) + "'"; }
 
 // The parts of "this or that".
 std::vector<std::string_view> alternatives(std::string_view text) {
@@ -118,14 +118,14 @@ class Reader {
 
  private:
   void take_section(std::string_view line) {
-    if (line.back() != ']') throw LineError("the section's name has no end: " + std::string(line));
+    if (line.back() != ']') throw LineError("the section's name has no end: " + shortened(line));
     const std::string_view title = trimmed(line.substr(1, line.size() - 2));
     const std::string_view kind = title.substr(0, title.find(' '));
     const std::string_view name = trimmed(title.substr(kind.size()));
     in_keys_ = title == "keys";
     in_device_ = kind == "joystick" || kind == "controller";
     if (!in_keys_ && !in_device_)
-      throw LineError("a section is [keys], [joystick] or [controller], not [" + std::string(title) +
+      throw LineError("a section is [keys], [joystick] or [controller], not [" + shortened(title) +
                       "]");
     if (in_device_) map_.devices.push_back({kind == "controller", std::string(name), {}, {}});
   }
@@ -211,10 +211,11 @@ ControlMap parse_control_map(std::string_view text, const std::filesystem::path&
 }
 
 ControlMap read_control_map(const std::filesystem::path& file) {
-  std::ifstream in(file, std::ios::binary);
-  std::ostringstream text;
-  if (!(text << in.rdbuf())) throw ConfigError(file.string() + ": cannot read the controls");
-  return parse_control_map(text.str(), file);
+  try {
+    return parse_control_map(read_file(file, mebibyte), file);
+  } catch (const FileFault& fault) {
+    throw ConfigError(fault.what());
+  }
 }
 
 }  // namespace host

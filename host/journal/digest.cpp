@@ -2,8 +2,8 @@
 
 #include <array>
 #include <bit>
-#include <fstream>
-#include <stdexcept>
+
+#include "host/files/read_file.h"
 
 namespace host {
 namespace {
@@ -42,12 +42,8 @@ std::uint64_t digest_of(Cockpit& cockpit) {
 }
 
 std::uint64_t digest_of(const std::filesystem::path& file) {
-  std::ifstream stream(file, std::ios::binary);
   Digest digest;
-  std::array<char, 65536> part;
-  while (stream.read(part.data(), part.size()) || stream.gcount() > 0)
-    digest.add(std::string_view(part.data(), static_cast<std::size_t>(stream.gcount())));
-  if (!stream.eof()) throw std::runtime_error(file.string() + ": cannot read this file");
+  digest.add(std::string_view(read_file(file, 512 * mebibyte)));
   return digest.value();
 }
 

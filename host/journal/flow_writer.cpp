@@ -1,9 +1,11 @@
 #include "host/journal/flow_writer.h"
 
 #include <array>
+#include <cerrno>
 #include <charconv>
 #include <cmath>
 #include <cstdio>
+#include <cstring>
 #include <stdexcept>
 
 namespace host {
@@ -72,9 +74,21 @@ bool drags(const Cockpit& cockpit, const input::Press& press) {
 }  // namespace
 
 FlowWriter::FlowWriter(const std::filesystem::path& file, Cockpit& cockpit)
-    : out_(file), cockpit_(cockpit), frame_(1.0 / cockpit.rate()), flow_time_(frame_) {
+    : path_(file.string()),
+      out_(file),
+      cockpit_(cockpit),
+      frame_(1.0 / cockpit.rate()),
+      flow_time_(frame_) {
   if (!out_) throw std::runtime_error(file.string() + ": cannot write the record");
-  out_ << "-- Recorded in the cockpit; fly it again with: tarnvale run FILE\n" << std::flush;
+  put("-- Recorded in the cockpit; fly it again with: tarnvale run FILE\n");
+}
+
+void FlowWriter::put(const std::string& text) {
+  if (!fault_.empty()) return;
+  errno = 0;
+  if (out_ << text << std::flush) return;
+  fault_ = path_ + ": cannot write the flow any more" +
+           (errno ? std::string(": ") + std::strerror(errno) : "");
 }
 
 void FlowWriter::taken(std::uint64_t frames, const Input& input) {
@@ -119,10 +133,10 @@ void FlowWriter::write(const Other& other) {
 
 void FlowWriter::line(double start, const std::string& text, double lasting) {
   if (start - flow_time_ > frame_ / 2) {
-    out_ << "wait(" << waiting(start - flow_time_) << ")\n";
+    put("wait(" + waiting(start - flow_time_) + ")\n");
     flow_time_ = start;
   }
-  out_ << text << "\n" << std::flush;
+  put(text + "\n");
   flow_time_ += lasting;
 }
 

@@ -19,6 +19,9 @@ class FlowWriter : public InputListener {
 
   void taken(std::uint64_t frames, const Input& input) override;
 
+  /// What went wrong while writing; empty while all is well.
+  const std::string& fault() const { return fault_; }
+
  private:
   void write(const input::Press& press);
   void write(const input::Move& move);
@@ -26,6 +29,7 @@ class FlowWriter : public InputListener {
   void write(const input::Wheel& wheel);
   template <typename Other>
   void write(const Other& other);
+  void put(const std::string& text);
   void line(double start, const std::string& text, double lasting);
 
   struct Gesture {
@@ -34,6 +38,8 @@ class FlowWriter : public InputListener {
     double start;
   };
 
+  std::string path_;
+  std::string fault_;
   std::ofstream out_;
   Cockpit& cockpit_;
   double frame_;      ///< seconds: the least that a gesture of a flow lasts

@@ -1,7 +1,8 @@
 #include "host/journal/read_journal.h"
 
-#include <fstream>
 #include <stdexcept>
+
+#include "host/files/read_file.h"
 
 namespace host {
 namespace {
@@ -29,11 +30,13 @@ class CheckedLines {
   JournalEnd end_;
 };
 
+// Some hundred hours of busy flight.
+constexpr std::uintmax_t longest_journal = 256 * mebibyte;
+
 std::string text_of(const std::filesystem::path& file) {
-  std::ifstream stream(file, std::ios::binary);
-  if (!stream || !std::filesystem::is_regular_file(file))
+  if (!std::filesystem::exists(file))
     throw std::runtime_error(file.string() + ": there is no such journal");
-  return {std::istreambuf_iterator<char>(stream), {}};
+  return read_file(file, longest_journal);
 }
 
 [[noreturn]] void refuse(const std::filesystem::path& file, int line, const std::string& why) {

@@ -59,6 +59,8 @@ void check_artwork(const GaugeHeader& gauge, const ModuleBitmaps& bitmaps, const
     check_images(*chain[i].element, bitmaps, place.part("element " + std::to_string(i)));
   const i32 background = gauge.element_list[0]->resource_id;
   const Dib* face = bitmaps.own(static_cast<u32>(background));
+  if (face == nullptr)
+    place.error("has no background: " + bitmaps.why_missing(static_cast<u32>(background)));
   if (face != nullptr) check_boxes(gauge.mouse_areas, *face, place);
 }
 

@@ -9,18 +9,15 @@
 namespace host {
 namespace {
 
-constexpr std::size_t most_lines = 20;
-
-// Errors only, a line each; what comes after the first screenful is counted.
-std::string error_lines(const std::vector<Finding>& findings) {
-  std::string lines;
-  std::size_t count = 0;
+// The first error; a check of the module lists the others.
+std::string first_error(const std::vector<Finding>& findings) {
+  std::string first;
+  std::size_t more = 0;
   for (const Finding& finding : findings) {
-    if (finding.severity != Finding::Severity::error || ++count > most_lines) continue;
-    lines += (lines.empty() ? "" : "\n") + finding.message;
+    if (finding.severity != Finding::Severity::error) continue;
+    first.empty() ? void(first = finding.message) : void(++more);
   }
-  if (count > most_lines) lines += "\nand " + std::to_string(count - most_lines) + " more";
-  return lines;
+  return more == 0 ? first : first + ", and " + std::to_string(more) + " more; see: tarnvale check";
 }
 
 }  // namespace
@@ -31,7 +28,7 @@ struct GaugeModule::Library : OpenModule {
 
 GaugeModule::GaugeModule(const std::filesystem::path& file)
     : library_(std::make_unique<Library>(file)) {
-  if (has_errors(library_->findings())) throw LoadError(error_lines(library_->findings()));
+  if (has_errors(library_->findings())) throw LoadError(first_error(library_->findings()));
 }
 
 GaugeModule::~GaugeModule() = default;
@@ -57,7 +54,7 @@ std::vector<std::string> GaugeModule::artwork_notes() const {
   constexpr const char* outcome = "; pictures are coarser at a zoom above 1";
   std::vector<std::string> notes = library_->bitmaps().dense_faults();
   const bool none = notes.empty() && bitmaps().densities().size() == 1;
-  if (none) notes.push_back(file().filename().string() + ".2x and .3x: no dense artwork");
+  if (none) notes.push_back(file().string() + ".2x and .3x: no dense artwork");
   for (std::string& note : notes) note += outcome;
   return notes;
 }

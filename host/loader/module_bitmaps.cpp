@@ -16,7 +16,7 @@ ModuleBitmaps::ModuleBitmaps(Bytes section, const std::filesystem::path& module)
 }
 
 void ModuleBitmaps::add_dense(int density, const std::filesystem::path& file) {
-  const std::string name = file.filename().string();
+  const std::string name = file.string();
   try {
     MappedFile mapped(file);
     ResourceSection section(mapped.bytes());
@@ -29,7 +29,7 @@ void ModuleBitmaps::add_dense(int density, const std::filesystem::path& file) {
   } catch (const ResourceError& error) {
     dense_faults_.push_back(name + ": " + error.what());
   } catch (const std::system_error& error) {
-    dense_faults_.push_back(name + ": cannot be read: " + error.code().message());
+    dense_faults_.push_back(name + ": " + MappedFile::fault(error.code()));
   }
 }
 
@@ -69,7 +69,29 @@ const Bitmap* ModuleBitmaps::find(std::uint32_t id, BitmapUse use, int density) 
   if (kept != set->pictures.end()) return &kept->second;
   const Dib* source = dib(*set, id);
   if (source == nullptr) return nullptr;
-  return &set->pictures.emplace(std::pair{id, use}, decode(*source, use)).first->second;
+  std::optional<Bitmap> bitmap =
+      set->file ? decode_from(*set->file, *source, use) : decode(*source, use);
+  return bitmap ? &set->pictures.emplace(std::pair{id, use}, *std::move(bitmap)).first->second
+                : nullptr;
+}
+
+// A file that has been cut short since it was opened has no pages where it was mapped: whoever touches them is
+// ended. So its bytes are read; where they are gone, the coarser bitmap must do.
+std::optional<Bitmap> ModuleBitmaps::decode_from(const MappedFile& file, const Dib& source,
+                                                 BitmapUse use) {
+  const auto palette = file.copy(source.palette), rows = file.copy(source.rows);
+  if (!palette || !rows) return std::nullopt;
+  Dib copied = source;
+  copied.palette = *palette;
+  copied.rows = *rows;
+  return decode(copied, use);
+}
+
+std::string ModuleBitmaps::why_missing(std::uint32_t id) const {
+  const std::string name = "bitmap " + std::to_string(id);
+  for (const std::string& damage : notes())
+    if (damage.starts_with(name + " ")) return damage;
+  return "there is no " + name;
 }
 
 std::vector<int> ModuleBitmaps::densities() const {

@@ -25,6 +25,9 @@ class ModuleBitmaps final : public BitmapStore {
   /// The module's own bitmap; null if there is none. Unlike find() this converts nothing.
   const Dib* own(std::uint32_t id) const { return sets_.front().section.find(id); }
 
+  /// "bitmap 12 is damaged: ..." or "there is no bitmap 12".
+  std::string why_missing(std::uint32_t id) const;
+
   /// The module's own damaged bitmaps, a line for each.
   const std::vector<std::string>& notes() const { return sets_.front().section.notes(); }
 
@@ -40,6 +43,7 @@ class ModuleBitmaps final : public BitmapStore {
     mutable std::map<std::pair<std::uint32_t, BitmapUse>, Bitmap> pictures;
   };
 
+  static std::optional<Bitmap> decode_from(const MappedFile& file, const Dib& source, BitmapUse use);
   void add_dense(int density, const std::filesystem::path& file);
   std::vector<std::string> faults_of(const DensitySet& set) const;
   const DensitySet* set_of(int density) const;

@@ -5,7 +5,9 @@
 #include <algorithm>
 #include <system_error>
 
+#include "host/loader/dynamic_checks.h"
 #include "host/loader/record_checks.h"
+#include "host/loader/trial_load.h"
 
 namespace host {
 namespace {
@@ -23,7 +25,7 @@ OpenModule::~OpenModule() {
 }
 
 void OpenModule::note(Finding::Severity severity, const std::string& text) {
-  findings_.push_back({severity, file_.filename().string() + ": " + text});
+  findings_.push_back({severity, file_.string() + ": " + text});
 }
 
 void OpenModule::open() {
@@ -39,12 +41,14 @@ void OpenModule::read_file() {
   try {
     mapped_ = std::make_unique<MappedFile>(file_);
     const ElfFile elf(mapped_->bytes());
+    const std::string fault = fault_of_dynamic_tables(mapped_->bytes());
+    if (!fault.empty()) note(Finding::Severity::error, "is damaged: " + fault);
     check_exports(elf);
     read_bitmaps(elf);
   } catch (const ElfError& error) {
     note(Finding::Severity::error, error.what());
   } catch (const std::system_error& error) {
-    note(Finding::Severity::error, "cannot be read: " + error.code().message());
+    note(Finding::Severity::error, MappedFile::fault(error.code()));
   }
 }
 
@@ -88,7 +92,10 @@ void OpenModule::read_bitmaps(const ElfFile& elf) {
 
 void OpenModule::load_library() {
   // A bare name would be looked for along the system's library path.
-  library_ = ::dlopen(std::filesystem::absolute(file_).c_str(), RTLD_NOW | RTLD_LOCAL);
+  const std::filesystem::path file = std::filesystem::absolute(file_);
+  if (const std::string fault = trial_load(file, {linkage_name, imports_name}); !fault.empty())
+    return note(Finding::Severity::error, "cannot be loaded: " + fault);
+  library_ = ::dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL);
   if (library_ == nullptr) {
     const char* reason = ::dlerror();
     note(Finding::Severity::error,
@@ -103,12 +110,12 @@ void OpenModule::load_library() {
 
 void OpenModule::look_at_records() {
   const MemoryMap memory;
-  check_records(*linkage_, *imports_, Inspector(memory, findings_, file_.filename().string()));
+  check_records(*linkage_, *imports_, Inspector(memory, findings_, file_.string()));
 }
 
 void OpenModule::look_at_artwork() {
   const MemoryMap memory;
-  const Inspector file(memory, findings_, file_.filename().string());
+  const Inspector file(memory, findings_, file_.string());
   for (std::size_t i = 0; linkage_->gauges[i] != nullptr; ++i) {
     const GaugeHeader& gauge = *linkage_->gauges[i];
     check_artwork(gauge, *bitmaps_, file.first(gauge_place(i, gauge.name)));

@@ -5,6 +5,7 @@
 #include <charconv>
 #include <cmath>
 #include <fstream>
+#include <span>
 #include <sstream>
 
 #include "host/panel/config_values.h"

@@ -3,6 +3,7 @@
 #include <charconv>
 #include <filesystem>
 
+#include "host/files/shortened.h"
 #include "host/panel/text.h"
 
 namespace host {
@@ -12,9 +13,9 @@ int whole_number(std::string_view text, int low, int high) {
   int value = 0;
   const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
   if (error != std::errc{} || end != digits.data() + digits.size())
-    throw LineError("'" + std::string(digits) + "' is not a whole number");
+    throw LineError("'" + shortened(digits) + "' is not a whole number");
   if (value < low || value > high)
-    throw LineError(std::string(digits) + " is outside " + std::to_string(low) + " to " +
+    throw LineError(shortened(digits) + " is outside " + std::to_string(low) + " to " +
                     std::to_string(high));
   return value;
 }

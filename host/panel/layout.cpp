@@ -33,6 +33,9 @@ Frame frame_of(const LayoutArea& area, bool rows) {
   return rows ? Frame{width, height, 0, caption, gap} : Frame{height, width, caption, 0, gap};
 }
 
+// Up to here every way to part the windows is tried.
+constexpr std::size_t most_parted = 12;
+
 // Bit i of the mask starts a new line after window i.
 std::vector<Line> lines_of(std::size_t count, unsigned mask) {
   std::vector<Line> lines{{0, 1}};
@@ -43,6 +46,23 @@ std::vector<Line> lines_of(std::size_t count, unsigned mask) {
       ++lines.back().count;
   }
   return lines;
+}
+
+// Of more windows than that, lines of one length.
+std::vector<Line> even_lines(std::size_t count, std::size_t length) {
+  std::vector<Line> lines;
+  for (std::size_t i = 0; i < count; i += length) lines.push_back({i, std::min(length, count - i)});
+  return lines;
+}
+
+std::vector<std::vector<Line>> ways_to_part(std::size_t count) {
+  std::vector<std::vector<Line>> ways;
+  if (count > most_parted) {
+    for (std::size_t length = 1; length <= count; ++length) ways.push_back(even_lines(count, length));
+  } else {
+    for (unsigned mask = 0; mask < 1u << (count - 1); ++mask) ways.push_back(lines_of(count, mask));
+  }
+  return ways;
 }
 
 Extent extent_of(std::span<const PanelSize> sizes, const Line& line, bool rows) {
@@ -77,12 +97,11 @@ struct Choice {
 
 Choice best_choice(std::span<const PanelSize> sizes, const LayoutArea& area) {
   Choice best;
-  const unsigned masks = 1u << std::min<std::size_t>(sizes.size() - 1, 11);
+  const auto ways = ways_to_part(sizes.size());
   for (const bool rows : {true, false})
-    for (unsigned mask = 0; mask < masks; ++mask) {
-      std::vector<Line> lines = lines_of(sizes.size(), mask);
+    for (const std::vector<Line>& lines : ways) {
       const double zoom = zoom_of(sizes, lines, rows, frame_of(area, rows));
-      if (zoom > best.zoom + 1e-9) best = {std::move(lines), rows, zoom};
+      if (zoom > best.zoom + 1e-9) best = {lines, rows, zoom};
     }
   return best;
 }

@@ -1,8 +1,8 @@
 #include "host/panel/name_book.h"
 
 #include <algorithm>
-#include <fstream>
 
+#include "host/files/read_file.h"
 #include "host/loader/element_chain.h"
 #include "host/panel/config_values.h"
 #include "host/panel/hot_areas.h"
@@ -13,7 +13,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::uintmax_t largest_file = 1 << 20;
 constexpr std::size_t longest_name = 64;
 constexpr std::size_t longest_words = 80;
 constexpr std::size_t longest_message = 160;
@@ -140,14 +139,6 @@ class Reader {
   int line_ = 0;
 };
 
-// Why a file cannot be read; empty if it can.
-std::string fault_of(const fs::path& file) {
-  std::error_code error;
-  if (!fs::is_regular_file(file, error)) return "is no regular file";
-  if (fs::file_size(file, error) > largest_file) return "is larger than 1 MiB";
-  return std::ifstream(file) ? "" : "cannot be read";
-}
-
 }  // namespace
 
 const Named* GaugeNames::part(std::string_view name) const { return find(parts, name); }
@@ -178,14 +169,13 @@ NameBook read_names(const GaugeModule& module) {
     book.missing = file.string() + " is missing";
     return book;
   }
-  if (const std::string fault = fault_of(file); !fault.empty()) {
-    book.missing = file.string() + " " + fault;
-    book.notes = {file.string() + ": " + fault};
+  try {
+    return parse_names(read_file(file, mebibyte), file.string(), module.gauges());
+  } catch (const FileFault& fault) {
+    book.missing = fault.what();
+    book.notes = {fault.what()};
     return book;
   }
-  std::ifstream stream(file, std::ios::binary);
-  const std::string text{std::istreambuf_iterator<char>(stream), {}};
-  return parse_names(text, file.string(), module.gauges());
 }
 
 }  // namespace host

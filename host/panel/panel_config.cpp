@@ -1,12 +1,13 @@
 #include "host/panel/panel_config.h"
 
 #include <algorithm>
-#include <fstream>
-#include <iterator>
 #include <map>
 #include <set>
 
+#include "host/files/read_file.h"
+#include "host/files/shortened.h"
 #include "host/panel/config_values.h"
+#include "host/panel/plate.h"
 #include "host/panel/text.h"
 
 namespace host {
@@ -18,28 +19,44 @@ bool is_numbered(std::string_view key, std::string_view prefix) {
                      [](char c) { return c >= '0' && c <= '9'; });
 }
 
-using EntryReader = void (*)(WindowConfig&, std::string_view);
+// `gauge00` and `gauge0` are the same entry.
+std::string plain_number(std::string_view key) {
+  const std::size_t digits = key.find_last_not_of("0123456789") + 1;
+  if (digits == 0 || digits >= key.size()) return std::string(key);
+  const std::size_t first = std::min(key.find_first_not_of('0', digits), key.size() - 1);
+  return std::string(key.substr(0, digits)) + std::string(key.substr(first));
+}
+
+using EntryReader = void (*)(WindowConfig&, std::string_view, int line);
 
 // Keys are compared in small letters.
 const std::map<std::string_view, EntryReader> window_entries = {
-    {"ident", [](WindowConfig& w, std::string_view v) { w.ident = read_ident(v); }},
-    {"ident_day", [](WindowConfig& w, std::string_view v) { w.day_ident = read_ident(v); }},
-    {"ident_night", [](WindowConfig& w, std::string_view v) { w.night_ident = read_ident(v); }},
+    {"ident", [](WindowConfig& w, std::string_view v, int) { w.ident = read_ident(v); }},
+    {"ident_day", [](WindowConfig& w, std::string_view v, int) { w.day_ident = read_ident(v); }},
+    {"ident_night", [](WindowConfig& w, std::string_view v, int) { w.night_ident = read_ident(v); }},
     {"size_mm",
-     [](WindowConfig& w, std::string_view v) {
+     [](WindowConfig& w, std::string_view v, int) {
        const std::vector<int> size = exactly(2, v, 1, greatest_size);
        w.width = size[0];
        w.height = size[1];
      }},
-    {"position", [](WindowConfig& w, std::string_view v) { w.position = whole_number(v, 0, 8); }},
+    {"position", [](WindowConfig& w, std::string_view v, int) { w.position = whole_number(v, 0, 8); }},
     {"start_page",
-     [](WindowConfig& w, std::string_view v) { w.start_page = whole_number(v, 0, 1) == 1; }},
-    {"visible", [](WindowConfig& w, std::string_view v) { w.visible = whole_number(v, 0, 1) == 1; }},
-    {"drawn", [](WindowConfig& w, std::string_view v) { w.drawn = whole_number(v, 0, 1) == 1; }},
-    {"background", [](WindowConfig& w, std::string_view v) { w.background = read_picture(v); }},
+     [](WindowConfig& w, std::string_view v, int) { w.start_page = whole_number(v, 0, 1) == 1; }},
+    {"visible",
+     [](WindowConfig& w, std::string_view v, int) { w.visible = whole_number(v, 0, 1) == 1; }},
+    {"drawn", [](WindowConfig& w, std::string_view v, int) { w.drawn = whole_number(v, 0, 1) == 1; }},
+    {"background",
+     [](WindowConfig& w, std::string_view v, int line) {
+       w.background = read_picture(v);
+       w.background_line = line;
+     }},
     {"background_night",
-     [](WindowConfig& w, std::string_view v) { w.night_background = read_picture(v); }},
-    {"background_color", [](WindowConfig& w, std::string_view v) { w.color = read_color(v); }},
+     [](WindowConfig& w, std::string_view v, int line) {
+       w.night_background = read_picture(v);
+       w.night_background_line = line;
+     }},
+    {"background_color", [](WindowConfig& w, std::string_view v, int) { w.color = read_color(v); }},
 };
 
 class Reader {
@@ -59,8 +76,12 @@ class Reader {
   }
 
   PanelConfig finish() {
-    for (auto& [number, title] : titles_)
-      if (WindowConfig* window = find(number)) window->title = title;
+    for (const auto& [number, title] : titles_) {
+      WindowConfig* window = find(number);
+      if (!window)
+        fail(title.line, "a title for window " + std::to_string(number) + ", which is not there");
+      window->title = title.text;
+    }
     for (WindowConfig& window : config_.windows) check(window);
     if (config_.windows.empty()) fail(line_, "the panel has no window");
     std::ranges::sort(config_.windows, {}, &WindowConfig::number);
@@ -82,10 +103,11 @@ class Reader {
     if (line.front() == '[') return open_section(line);
     const std::size_t equals = line.find('=');
     if (equals == std::string_view::npos)
-      throw LineError("expected [section] or entry=value, not '" + std::string(line) + "'");
+      throw LineError("expected [section] or entry=value, not '" + shortened(line) + "'");
     const std::string key = lower(trimmed(line.substr(0, equals)));
     if (section_ == Section::none) throw LineError("an entry before the first [section]");
-    if (!keys_.insert(key).second) throw LineError("a second '" + key + "' in this section");
+    if (!keys_.insert(plain_number(key)).second)
+      throw LineError("a second '" + shortened(key) + "' in this section");
     const std::string_view value = trimmed(line.substr(equals + 1));
     section_ == Section::titles ? read_title(key, value) : read_entry(key, value);
   }
@@ -93,12 +115,13 @@ class Reader {
   void open_section(std::string_view line) {
     if (line.back() != ']') throw LineError("a section ends with ]");
     const std::string name = lower(trimmed(line.substr(1, line.size() - 2)));
-    if (!sections_.insert(name).second) throw LineError("a second [" + name + "]");
+    if (!sections_.insert(name).second) throw LineError("a second [" + shortened(name) + "]");
     keys_.clear();
     section_ = name == "window titles" ? Section::titles : Section::window;
     if (section_ == Section::titles) return;
     if (!is_numbered(name, "window"))
-      throw LineError("unknown section [" + name + "]: expected [Window Titles] or [Window00]");
+      throw LineError("unknown section [" + shortened(name) +
+                      "]: expected [Window Titles] or [Window00]");
     const int number = whole_number(std::string_view(name).substr(6), 0, 99);
     if (find(number)) throw LineError("a second window " + std::to_string(number));
     WindowConfig& window = config_.windows.emplace_back();
@@ -108,8 +131,9 @@ class Reader {
   }
 
   void read_title(const std::string& key, std::string_view value) {
-    if (!is_numbered(key, "window")) throw LineError("expected Window00=title, not '" + key + "'");
-    titles_[whole_number(std::string_view(key).substr(6), 0, 99)] = value;
+    if (!is_numbered(key, "window"))
+      throw LineError("expected Window00=title, not '" + shortened(key) + "'");
+    titles_[whole_number(std::string_view(key).substr(6), 0, 99)] = {std::string(value), line_};
   }
 
   void read_entry(const std::string& key, std::string_view value) {
@@ -119,9 +143,9 @@ class Reader {
       return;
     }
     const auto entry = window_entries.find(key);
-    if (entry == window_entries.end()) throw LineError("unknown entry '" + key + "'");
+    if (entry == window_entries.end()) throw LineError("unknown entry '" + shortened(key) + "'");
     try {
-      entry->second(window, value);
+      entry->second(window, value, line_);
     } catch (const LineError& error) {
       throw LineError(key + ": " + error.what());
     }
@@ -141,7 +165,11 @@ class Reader {
   enum class Section { none, titles, window };
 
   PanelConfig config_;
-  std::map<int, std::string> titles_;
+  struct Title {
+    std::string text;
+    int line;
+  };
+  std::map<int, Title> titles_;
   std::set<std::string> sections_;
   std::set<std::string> keys_;
   std::set<std::uint32_t> idents_;
@@ -150,6 +178,18 @@ class Reader {
 };
 
 }  // namespace
+
+// A face that is drawn for the first time in mid-flight is no moment to find that its picture is missing.
+static void check_backgrounds(const WindowConfig& window, const std::filesystem::path& config) {
+  for (const auto& [picture, line] :
+       {std::pair{&window.background, window.background_line},
+        std::pair{&window.night_background, window.night_background_line}}) {
+    if (picture->empty()) continue;
+    const std::string fault = fault_of_picture(config.parent_path() / *picture);
+    if (!fault.empty())
+      throw ConfigError(at_line(config, line, "the window's background " + *picture + " " + fault));
+  }
+}
 
 std::string at_line(const std::filesystem::path& file, int line, const std::string& message) {
   return file.string() + ":" + std::to_string(line) + ": " + message;
@@ -162,11 +202,13 @@ PanelConfig parse_panel_config(std::string_view text, const std::filesystem::pat
 }
 
 PanelConfig read_panel_config(const std::filesystem::path& file) {
-  std::ifstream stream(file, std::ios::binary);
-  if (!stream || std::filesystem::is_directory(file))
-    throw ConfigError(file.string() + ": the panel configuration cannot be read");
-  const std::string text{std::istreambuf_iterator<char>(stream), {}};
-  return parse_panel_config(text, file);
+  try {
+    PanelConfig config = parse_panel_config(read_file(file, mebibyte), file);
+    for (const WindowConfig& window : config.windows) check_backgrounds(window, file);
+    return config;
+  } catch (const FileFault& fault) {
+    throw ConfigError(fault.what());
+  }
 }
 
 }  // namespace host

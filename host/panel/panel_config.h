@@ -58,6 +58,8 @@ struct WindowConfig {
   bool start_page = false;
   std::string background;        ///< empty: a plate in `color`
   std::string night_background;  ///< empty: as by day
+  int background_line = 0;       ///< where the configuration names them
+  int night_background_line = 0;
   std::uint32_t color = 0xFF2B2E33u;
   std::vector<Placement> gauges;
 };
@@ -71,7 +73,8 @@ struct PanelConfig {
 /// Reads a configuration. `file` is named in errors and kept. Throws ConfigError.
 PanelConfig parse_panel_config(std::string_view text, const std::filesystem::path& file);
 
-/// Reads a configuration file. Throws ConfigError, also when the file cannot be read.
+/// Reads a configuration file of at most 1 MiB. Throws ConfigError, also when it or a picture that it names
+/// cannot be read.
 PanelConfig read_panel_config(const std::filesystem::path& file);
 
 /// "file:line: message", the form of every configuration error.

@@ -3,7 +3,11 @@
 #include <cairo.h>
 
 #include <algorithm>
+#include <cstring>
 #include <memory>
+
+#include "host/files/read_file.h"
+#include "host/panel/config_values.h"
 
 namespace host {
 namespace {
@@ -11,6 +15,9 @@ namespace {
 using Surface = std::unique_ptr<cairo_surface_t, decltype(&cairo_surface_destroy)>;
 using Context = std::unique_ptr<cairo_t, decltype(&cairo_destroy)>;
 using Pattern = std::unique_ptr<cairo_pattern_t, decltype(&cairo_pattern_destroy)>;
+
+constexpr std::uintmax_t largest_picture = 64 * mebibyte;
+constexpr const char* no_picture = "is no PNG picture of at most 8192 x 8192 pixels, or damaged";
 
 struct Color {
   double red, green, blue;
@@ -85,10 +92,37 @@ void draw_edges(cairo_t* cairo, double width, double height, double zoom) {
   cairo_fill(cairo);
 }
 
+cairo_status_t take(void* rest, unsigned char* bytes, unsigned count) {
+  auto& left = *static_cast<std::string_view*>(rest);
+  if (left.size() < count) return CAIRO_STATUS_READ_ERROR;
+  std::memcpy(bytes, left.data(), count);
+  left.remove_prefix(count);
+  return CAIRO_STATUS_SUCCESS;
+}
+
+// The size stands at the front, before anything is unpacked.
+bool sensible_png(std::string_view bytes) {
+  constexpr std::string_view front("\x89PNG\r\n\x1A\n\0\0\0\rIHDR", 16);
+  if (!bytes.starts_with(front) || bytes.size() < 24) return false;
+  const auto side = [&](std::size_t at) {
+    std::uint32_t value = 0;
+    for (std::size_t i = at; i < at + 4; ++i) value = value << 8 | static_cast<unsigned char>(bytes[i]);
+    return value;
+  };
+  return side(16) >= 1 && side(16) <= greatest_size && side(20) >= 1 && side(20) <= greatest_size;
+}
+
+// Null for what is no whole picture.
+Surface picture_in(std::string_view bytes) {
+  if (!sensible_png(bytes)) return {nullptr, cairo_surface_destroy};
+  Surface picture(cairo_image_surface_create_from_png_stream(take, &bytes), cairo_surface_destroy);
+  if (cairo_surface_status(picture.get()) != CAIRO_STATUS_SUCCESS) picture.reset();
+  return picture;
+}
+
 void draw_picture(cairo_t* cairo, const std::filesystem::path& file, double width, double height) {
-  const Surface picture(cairo_image_surface_create_from_png(file.c_str()), cairo_surface_destroy);
-  if (cairo_surface_status(picture.get()) != CAIRO_STATUS_SUCCESS)
-    throw ConfigError(file.string() + ": the window's background cannot be read");
+  const Surface picture = picture_in(read_file(file, largest_picture));
+  if (!picture) throw ConfigError(file.string() + ": " + no_picture);
   cairo_scale(cairo, width / cairo_image_surface_get_width(picture.get()),
               height / cairo_image_surface_get_height(picture.get()));
   cairo_set_source_surface(cairo, picture.get(), 0, 0);
@@ -104,6 +138,11 @@ Surface surface_on(Canvas& canvas) {
 }
 
 }  // namespace
+
+std::string fault_of_picture(const std::filesystem::path& file) {
+  if (std::string fault = fault_of_file(file, largest_picture); !fault.empty()) return fault;
+  return picture_in(read_file(file, largest_picture)) ? "" : no_picture;
+}
 
 void draw_plate(Canvas& canvas, const WindowConfig& window, const std::filesystem::path& folder,
                 std::span<const Rect> gauges, Face face, double zoom) {

@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <span>
+#include <string>
 
 #include "host/drawing/painter.h"
 #include "host/panel/panel_config.h"
@@ -16,5 +17,8 @@ namespace host {
 /// Throws ConfigError when the picture cannot be read.
 void draw_plate(Canvas& canvas, const WindowConfig& window, const std::filesystem::path& folder,
                 std::span<const Rect> gauges, Face face, double zoom);
+
+/// Why a picture beside a configuration cannot be used; empty if it can.
+std::string fault_of_picture(const std::filesystem::path& file);
 
 }  // namespace host

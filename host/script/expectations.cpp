@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "host/files/shortened.h"
 #include "host/script/flow_api.h"
 
 namespace host {
@@ -67,7 +68,7 @@ void bind_expectations(LuaRunner& runner, FlowSession& session) {
   runner.bind("expect_event", [&](LuaCall& call) { expect_event(call, session); });
   runner.bind("picture", [&](LuaCall& call) { picture(call, session); });
   runner.bind("say", [&](LuaCall& call) {
-    if (session.surroundings().say) session.surroundings().say(call.text(1, "text"));
+    if (session.surroundings().say) session.surroundings().say(shortened(call.text(1, "text"), 200));
   });
 }
 

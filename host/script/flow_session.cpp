@@ -95,7 +95,8 @@ void FlowSession::wheel(const Spot& spot, int notches) {
 }
 
 void FlowSession::picture(const std::string& name, const std::string& what, double zoom) {
-  if (surroundings_.pictures.empty()) return;
+  if (find_page(what) && surroundings_.pictures.empty()) return;
+  if (surroundings_.pictures.empty()) return check_picture(cockpit_, what);
   const Canvas canvas = find_page(what)
                             ? picture_of_page(what, cockpit_, surroundings_.checklists, zoom)
                             : picture_of(cockpit_, what, zoom);

@@ -4,17 +4,20 @@
 
 #include <algorithm>
 #include <cctype>
+#include <cstdio>
 #include <cstdlib>
-#include <fstream>
-#include <iterator>
 #include <sstream>
+
+#include "host/files/read_file.h"
+#include "host/files/shortened.h"
 
 namespace host {
 namespace {
 
 constexpr std::size_t memory_limit = 256u << 20;
-constexpr int steps_per_count = 100'000;
-constexpr int most_counts = 1'000;  // a second or two of pure computing
+constexpr int steps_per_count = 10'000;
+constexpr int most_counts = 10'000;  // a second or two of pure computing
+constexpr const char* endless = "the flow computes without ever waiting: an endless loop?";
 
 // Lua knows a file by this and its number, since it cuts long names; messages carry the real one.
 constexpr std::string_view chunk = "flow";
@@ -92,11 +95,39 @@ std::optional<std::filesystem::path> module_file(const std::string& module) {
   return file += ".lua";
 }
 
-std::optional<std::string> text_of(const std::filesystem::path& file) {
-  std::ifstream stream(file, std::ios::binary);
-  if (!stream || std::filesystem::is_directory(file)) return std::nullopt;
-  return std::string(std::istreambuf_iterator<char>(stream), {});
-}
+std::string text_of(const std::filesystem::path& file) { return read_file(file, mebibyte); }
+
+// The flow's thread is out of the flow, in a function of the host.
+class HostTurn {
+ public:
+  explicit HostTurn(ComputeWatch* watch) : watch_(watch) {
+    if (watch_) watch_->in_host();
+  }
+  ~HostTurn() {
+    if (watch_) watch_->in_flow();
+  }
+  HostTurn(const HostTurn&) = delete;
+  HostTurn& operator=(const HostTurn&) = delete;
+
+ private:
+  ComputeWatch* watch_;
+};
+
+// And back in it, as when the host asks a condition.
+class FlowTurn {
+ public:
+  explicit FlowTurn(ComputeWatch* watch) : watch_(watch) {
+    if (watch_) watch_->in_flow();
+  }
+  ~FlowTurn() {
+    if (watch_) watch_->in_host();
+  }
+  FlowTurn(const FlowTurn&) = delete;
+  FlowTurn& operator=(const FlowTurn&) = delete;
+
+ private:
+  ComputeWatch* watch_;
+};
 
 }  // namespace
 
@@ -111,6 +142,9 @@ LuaRunner::LuaRunner() : state_(lua_newstate(allocate, this)) {
     lua_pushnil(state_);
     lua_setglobal(state_, name);
   }
+  lua_getglobal(state_, "setmetatable");
+  lua_pushcclosure(state_, set_metatable, 1);
+  lua_setglobal(state_, "setmetatable");
   bind("require", [this](LuaCall& call) { require(call); });
   luaL_dostring(state_, "math.randomseed(1)");  // the same flow flies the same every time
   lua_sethook(state_, count_steps, LUA_MASKCOUNT, steps_per_count);
@@ -125,18 +159,42 @@ void LuaRunner::bind(const char* name, FlowFunction function) {
   lua_setglobal(state_, name);
 }
 
-void LuaRunner::run(const std::filesystem::path& file) {
-  const auto text = text_of(file);
-  if (!text) throw FlowError(file.string() + ": the flow cannot be read");
+void LuaRunner::parse(const std::filesystem::path& file) {
   start(std::filesystem::absolute(file).parent_path());
-  load(*text, file.string());
-  call(0, 0);
+  try {
+    load(text_of(file), file.string());
+  } catch (const FileFault& fault) {
+    throw FlowError(fault.what());
+  }
+}
+
+void LuaRunner::run(const std::filesystem::path& file) {
+  parse(file);
+  run_loaded();
 }
 
 void LuaRunner::run(const std::string& text, const std::string& name) {
   start({});
   load(text, name);
+  run_loaded();
+}
+
+void LuaRunner::run_loaded() {
+  const struct Watched {
+    explicit Watched(LuaRunner& flow) : runner(flow) {
+      runner.watch_ = std::make_unique<ComputeWatch>([this] { runner.stuck(); });
+    }
+    ~Watched() { runner.watch_.reset(); }
+    LuaRunner& runner;
+  } watched(*this);
   call(0, 0);
+}
+
+void LuaRunner::stuck() const {
+  const std::string message = sources_.front() + ": " + endless;
+  if (on_stuck) return on_stuck(message);
+  std::fprintf(stderr, "\n%s\n", message.c_str());
+  std::_Exit(1);
 }
 
 void LuaRunner::start(const std::filesystem::path& folder) {
@@ -144,6 +202,7 @@ void LuaRunner::start(const std::filesystem::path& folder) {
   sources_.clear();
   failure_.reset();
   steps_ = 0;
+  lua_settop(state_, 0);
   lua_newtable(state_);
   lua_setfield(state_, LUA_REGISTRYINDEX, modules);
 }
@@ -173,11 +232,12 @@ void LuaRunner::require(LuaCall& call) {
 // Below the value that it leaves on the stack lies the table of modules.
 void LuaRunner::require_file(const std::string& module) {
   const auto file = module_file(module);
-  const auto text = file && !folder_.empty() ? text_of(folder_ / *file) : std::nullopt;
-  if (!text) throw std::runtime_error("there is no file for '" + module + "' beside the flow");
+  if (!file || folder_.empty() || !std::filesystem::is_regular_file(folder_ / *file))
+    throw std::runtime_error("there is no file for '" + shortened(module) + "' beside the flow");
+  const std::string text = text_of(folder_ / *file);
   lua_pushboolean(state_, false);
   lua_setfield(state_, -2, module.c_str());
-  load(*text, (std::filesystem::path(sources_.front()).parent_path() / *file).string());
+  load(text, (std::filesystem::path(sources_.front()).parent_path() / *file).string());
   this->call(0, 1);
   if (lua_isnil(state_, -1)) {
     lua_pop(state_, 1);
@@ -191,10 +251,15 @@ void LuaRunner::call(int arguments, int results) {
   const int handler = lua_gettop(state_) - arguments;
   lua_pushcfunction(state_, remember_failure);
   lua_insert(state_, handler);
+  const FlowTurn turn(watch_.get());
   const int status = lua_pcall(state_, arguments, results, handler);
   lua_remove(state_, handler);
   if (status == LUA_OK) return;
-  if (!failure_) failure_ = describe(state_, status == LUA_ERRMEM ? "out of memory" : "stack overflow");
+  const bool too_long = watch_ && watch_->expired();
+  if (!failure_)
+    failure_ = describe(state_, too_long               ? endless
+                                : status == LUA_ERRMEM ? "out of memory"
+                                                       : "stack overflow");
   fail();
 }
 
@@ -227,11 +292,12 @@ int LuaRunner::remember_failure(lua_State* state) {
   return 1;
 }
 
-// Lua leaves an erroring function by a jump, past destructors: so the exception is caught, its text
-// put on Lua's stack and everything of C++ gone before the jump.
+// This Lua is the one that is compiled for exceptions: its own errors, such as no memory for a result,
+// run the destructors between here and the flow. The host's exceptions become errors of Lua.
 int LuaRunner::dispatch(lua_State* state) {
   const auto* bound = static_cast<const Bound*>(lua_touserdata(state, lua_upvalueindex(1)));
   try {
+    const HostTurn turn(bound->runner->watch_.get());
     LuaCall call(state);
     bound->function(call);
     return call.given();
@@ -242,8 +308,24 @@ int LuaRunner::dispatch(lua_State* state) {
 }
 
 void LuaRunner::count_steps(lua_State* state, lua_Debug*) {
-  if (++of(state).steps_ > most_counts)
-    luaL_error(state, "the flow computes without ever waiting: an endless loop?");
+  LuaRunner& runner = of(state);
+  if (runner.end_wanted && runner.end_wanted()) luaL_error(state, "interrupted");
+  const bool too_long = runner.watch_ && runner.watch_->expired();
+  if (++runner.steps_ > most_counts || too_long) luaL_error(state, endless);
+}
+
+// A finalizer would run at any moment, also in the middle of a call of the host's, and no hook sees it.
+int LuaRunner::set_metatable(lua_State* state) {
+  if (lua_istable(state, 2)) {
+    lua_pushliteral(state, "__gc");
+    if (lua_rawget(state, 2) != LUA_TNIL)
+      luaL_error(state, "tables of a flow have no finalizer (__gc)");
+    lua_pop(state, 1);
+  }
+  lua_pushvalue(state, lua_upvalueindex(1));
+  lua_insert(state, 1);
+  lua_call(state, lua_gettop(state) - 1, 1);
+  return 1;
 }
 
 LuaRunner& LuaRunner::of(lua_State* state) {
@@ -251,14 +333,17 @@ LuaRunner& LuaRunner::of(lua_State* state) {
 }
 
 void* LuaRunner::allocate(void* context, void* block, std::size_t old_size, std::size_t new_size) {
-  auto& used = static_cast<LuaRunner*>(context)->memory_;
+  auto* runner = static_cast<LuaRunner*>(context);
+  auto& used = runner->memory_;
   if (!block) old_size = 0;  // then it tells the kind of object
   if (new_size == 0) {
     std::free(block);
     used -= old_size;
     return nullptr;
   }
-  if (new_size > old_size && used + (new_size - old_size) > memory_limit) return nullptr;
+  const bool grows = new_size > old_size;
+  if (grows && used + (new_size - old_size) > memory_limit) return nullptr;
+  if (grows && runner->watch_ && runner->watch_->expired()) return nullptr;
   void* moved = std::realloc(block, new_size);
   if (moved) used += new_size - old_size;
   return moved;

@@ -130,6 +130,12 @@ void give_sound_level(LuaCall& call, const FlowSession& session) {
   call.give(level(seconds));
 }
 
+std::uint32_t window_argument(const LuaCall& call, const PanelSet& panels) {
+  const std::uint32_t ident = call.key(1, "ident");
+  if (panels.find(ident)) return ident;
+  throw std::invalid_argument("the panel has no window " + std::to_string(ident));
+}
+
 }  // namespace
 
 void bind_readings(LuaRunner& runner, FlowSession& session) {
@@ -148,10 +154,11 @@ void bind_readings(LuaRunner& runner, FlowSession& session) {
   runner.bind("sound_level", [&](LuaCall& call) { give_sound_level(call, session); });
   runner.bind("start_page", [&](LuaCall&) { inputs.take(input::BeginWithStartPage{}); });
   runner.bind("open_window",
-              [&](LuaCall& call) { inputs.take(input::OpenWindow{call.key(1, "ident")}); });
+              [&](LuaCall& call) { inputs.take(input::OpenWindow{window_argument(call, panels)}); });
   runner.bind("close_window",
-              [&](LuaCall& call) { inputs.take(input::CloseWindow{call.key(1, "ident")}); });
-  runner.bind("window_open", [&](LuaCall& call) { call.give(panels.shows(call.key(1, "ident"))); });
+              [&](LuaCall& call) { inputs.take(input::CloseWindow{window_argument(call, panels)}); });
+  runner.bind("window_open",
+              [&](LuaCall& call) { call.give(panels.shows(window_argument(call, panels))); });
 }
 
 }  // namespace host

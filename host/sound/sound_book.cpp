@@ -1,7 +1,9 @@
 #include "host/sound/sound_book.h"
 
-#include <fstream>
-#include <iterator>
+#include <string_view>
+
+#include "host/files/read_file.h"
+#include "host/sound/wav_facts.h"
 
 namespace host {
 namespace {
@@ -13,9 +15,13 @@ std::string name_of_file(const fs::path& file) {
   return stem.substr(stem.find('_') + 1);
 }
 
+// A file that cannot be read is never heard either.
 std::string content_of(const fs::path& file) {
-  std::ifstream stream(file, std::ios::binary);
-  return {std::istreambuf_iterator<char>(stream), {}};
+  try {
+    return read_file(file, largest_sound);
+  } catch (const FileFault&) {
+    return {};
+  }
 }
 
 }  // namespace

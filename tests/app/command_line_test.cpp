@@ -1,6 +1,11 @@
 // The program from the outside: what it says and returns for good and for bad input.
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+
+#include <cstdint>
+#include <cstring>
+
 #include "tests/app/program.h"
 
 namespace {
@@ -29,6 +34,13 @@ class BadInput : public testing::TestWithParam<Case> {
       folder.write("no_picture.cfg",
                    "[Window00]\nident=1\nvisible=1\nsize_mm=9,9\nbackground=gone.png\n");
       folder.write("noise.lua", "wait(1)\n");
+      folder.write("window.lua", "\nopen_window(777)\n");
+      folder.write("stranger.lua", "picture('p', 'Altimiter')\n");
+      folder.write("search.lua", "wait(0.1)\nlocal s = ('a'):rep(60)\ns:find(('.-'):rep(30) .. 'b')\n");
+      std::filesystem::create_symlink("/dev/full", folder / "full");
+      std::filesystem::create_symlink("/dev/zero", folder / "zero");
+      EXPECT_EQ(mkfifo((folder / "pipe").c_str(), 0600), 0);
+      folder.write("large.cfg", "[Window00]\nident=502\nsize_mm=8192,1000\n");
       folder.write("noise.journal", "wait(1)\n");
       folder.write("picture.lua", "wait(0.1)\npicture('p')\n");
       folder.write("named.lua", "click('Masterbat', 'battery_switch')\n");
@@ -37,7 +49,12 @@ class BadInput : public testing::TestWithParam<Case> {
       std::filesystem::create_directories(folder / "odd/Tarnvale.GAU.names");
       std::filesystem::create_directory(folder / "nameless");
       std::filesystem::create_directory_symlink(cockpit_dir / "Sound", folder / "nameless/Sound");
-      for (const std::string place : {"nameless", "wrong", "large", "odd"})
+      // Nobody has mixed up the files of dense artwork before looking at one.
+      std::filesystem::create_directory(folder / "swapped");
+      for (const auto& [name, target] : {std::pair{".2x", ".3x"}, std::pair{".3x", ".2x"}})
+        if (std::filesystem::exists(module_file + target))
+          std::filesystem::create_symlink(module_file + target, folder / "swapped/Tarnvale.GAU" + name);
+      for (const std::string place : {"nameless", "wrong", "large", "odd", "swapped"})
         std::filesystem::create_symlink(module_file, folder / (place + "/Tarnvale.GAU"));
       std::filesystem::create_directory(folder / "closed");
       std::filesystem::permissions(folder / "closed", std::filesystem::perms::owner_read);
@@ -71,7 +88,13 @@ INSTANTIATE_TEST_SUITE_P(
         Case{"no_command", "", 2, "subcommand is required"},
         Case{"unknown_command", "sail", 2, "there is no command 'sail'"},
         Case{"unknown_option", "run --speed 3", 2, "--speed"},
-        Case{"bad_rate", "run --rate 0", 2, "--rate"}, Case{"unknown_list", "list clouds", 2, "clouds"},
+        Case{"bad_rate", "run --rate 0", 2, "--rate: '0' is not a number from 1 to 240"},
+        Case{"no_rate", "run --rate nan", 2, "--rate: 'nan' is not"},
+        Case{"no_zoom", "show Ctr --png @x.png --zoom nan", 2, "--zoom: 'nan' is not"},
+        Case{"no_end", "fly --exit-after nan", 2, "--exit-after: 'nan' is not"},
+        Case{"no_time", "fly --time -nan", 2, "--time: '-nan' is not"},
+        Case{"no_interval", "replay x --png @out --every inf", 2, "--every: 'inf' is not"},
+        Case{"unknown_list", "list clouds", 2, "clouds"},
         Case{"show_nothing", "show", 2, "gauges is required"},
         Case{"missing_module", "list gauges --module @gone.GAU", 1, "gone.GAU"},
         Case{"truncated_module", "list gauges --module @truncated.GAU", 1, "truncated.GAU"},
@@ -80,17 +103,38 @@ INSTANTIATE_TEST_SUITE_P(
              "libwinplatform.so"},
         Case{"check_missing", "check @gone.GAU", 1, "gone.GAU"},
         Case{"missing_panel", "run --panel @gone.cfg", 1,
-             "gone.cfg: the panel configuration cannot be read"},
+             "gone.cfg: cannot be read: No such file or directory"},
+        Case{"pipe_panel", "list windows --panel @pipe", 1, "@pipe: is no regular file"},
+        Case{"device_panel", "list windows --panel @zero", 1, "@zero: is no regular file"},
+        Case{"pipe_module_flown", "fly --module @pipe", 1, "@pipe: is no regular file"},
+        Case{"pipe_module", "check @pipe", 1, "@pipe: is no regular file"},
+        Case{"swapped_artwork", "check @swapped/Tarnvale.GAU", 0,
+             "@swapped/Tarnvale.GAU.2x: bitmap 10 has 60 x 60 pixels, not 40 x 40"},
+        Case{"endless_search", "run @search.lua", 1,
+             "search.lua: the flow computes without ever waiting: an endless loop?"},
+        Case{"sound_over_flow", "run @noise.lua --wav @noise.lua", 1,
+             "noise.lua: --wav would write over the flow"},
+        Case{"sound_over_journal", "run @noise.lua --wav @x --journal @x", 1,
+             "x: --journal would write over --wav"},
+        Case{"picture_over_panel", "show 500 --panel @no_picture.cfg --png @no_picture.cfg", 1,
+             "no_picture.cfg: --png would write over the panel configuration"},
+        Case{"list_on_a_full_disk", "list tokens >@full", 1, "standard output cannot be written"},
+        Case{"check_without_output", "check >&-", 1, "standard output cannot be written"},
+        Case{"sound_on_a_full_disk", "run @noise.lua --wav @full", 1, "full': No space left"},
+        Case{"flow_opens_unknown", "run @window.lua", 1, "window.lua:2: the panel has no window 777"},
+        Case{"flow_draws_unknown", "run @stranger.lua", 1,
+             "stranger.lua:1: no window has a gauge 'Altimiter'"},
         Case{"unknown_gauge", "run --panel @unknown_gauge.cfg", 1,
              "unknown_gauge.cfg:4: Tarnvale has no gauge 'Masterbatt'"},
         Case{"missing_picture", "run @picture.lua --panel @no_picture.cfg --png @out", 1,
-             "gone.png: the window's background cannot be read"},
+             "no_picture.cfg:5: the window's background gone.png cannot be read"},
         Case{"missing_flow", "run @gone.lua", 1, "gone.lua: there is no such flow"},
         Case{"unwritable_sound", "run @noise.lua --wav @gone/x.wav", 1, "gone/x.wav"},
         Case{"unwritable_pictures", "run @noise.lua --png /proc/pictures", 1,
              "/proc/pictures: cannot write to this folder"},
         Case{"missing_journal", "replay @gone.journal", 1, "gone.journal: there is no such journal"},
-        Case{"folder_journal", "replay @wrong", 1, "wrong: there is no such journal"},
+        Case{"folder_journal", "replay @wrong", 1, "wrong: cannot be read: Is a directory"},
+        Case{"endless_journal", "replay @zero", 1, "zero: is no regular file"},
         Case{"no_journal", "replay @noise.journal", 1,
              "noise.journal:1: this is not the journal of a flight"},
         Case{"unwritable_journal", "run @noise.lua --journal @gone/x", 1,
@@ -104,6 +148,12 @@ INSTANTIATE_TEST_SUITE_P(
              "--set battery: expected token=value"},
         Case{"show_unknown_token", "show Ctr --set batery=1 --png @x.png", 1,
              "there is no token 'batery'"},
+        Case{"show_unknown_number", "show Ctr --set 99999=1 --png @x.png", 1,
+             "there is no token '99999'"},
+        Case{"show_no_number", "show Ctr --set battery=nan --png @x.png", 1,
+             "--set battery=nan: expected token=value"},
+        Case{"show_too_large", "show 502 --panel @large.cfg --zoom 8 --png @x.png", 1,
+             "a picture of 65536 x 8000 pixels is too large: at most 64 million"},
         Case{"show_unwritable", "show Ctr --png @gone/x.png", 1, "gone/x.png"},
         Case{"show_outside_on_a_screen", "show outside", 1, "needs --png"},
         Case{"show_outside_nowhere", "show outside --at nowhere --png @x.png", 2, "--at"},
@@ -119,7 +169,8 @@ INSTANTIATE_TEST_SUITE_P(
              "warning: @wrong/Tarnvale.GAU.names:1: the gauge has no element 99"},
         Case{"large_names", "list names --module @large/Tarnvale.GAU", 1,
              "names: is larger than 1 MiB"},
-        Case{"odd_names", "list names --module @odd/Tarnvale.GAU", 1, "names is no regular file"},
+        Case{"odd_names", "list names --module @odd/Tarnvale.GAU", 1,
+             "names: cannot be read: Is a directory"},
         Case{"no_display", "fly", 1,
              "no display to open a window on (neither DISPLAY nor WAYLAND_DISPLAY is set). "
              "Without one: tarnvale run"},
@@ -133,6 +184,64 @@ TEST(Program, HelpsEveryCommand) {
     EXPECT_EQ(outcome.exit_code, 0) << command;
     EXPECT_NE(outcome.output.find("Usage"), std::string::npos) << outcome.output;
   }
+}
+
+std::string program() { return (cockpit_dir / "tarnvale").string(); }
+
+// The header tells how long the file is.
+bool is_whole_sound(const std::string& file) {
+  const std::string bytes = file_text(file);
+  std::uint32_t told = 0;
+  if (bytes.size() < 44 || !bytes.starts_with("RIFF")) return false;
+  std::memcpy(&told, bytes.data() + 4, sizeof told);
+  return told + 8 == bytes.size();
+}
+
+TEST(Program, LeavesAWholeSoundHoweverItIsEnded) {
+  const TempFolder folder;
+  const std::string flow = folder.write("long.lua", "wait(3600)"), sound = folder / "long.wav";
+  for (const std::string signal : {"INT", "TERM", "HUP", "KILL"}) {
+    std::filesystem::remove(sound);
+    run_command(program() + " run " + flow + " --realtime --wav " + sound +
+                " & run=$!; until [ -n \"$(find " + sound +
+                " -size +19 2>/dev/null)\" ]; do sleep 0.1; done; kill -" + signal +
+                " $run; wait $run");
+    EXPECT_TRUE(is_whole_sound(sound)) << signal;
+  }
+}
+
+TEST(Program, KeepsTheEarlierSoundWhenTheFlowIsNoFlow) {
+  const TempFolder folder;
+  const std::string sound = folder.write("earlier.wav", "earlier");
+  EXPECT_EQ(tarnvale("run " + folder.write("bad.lua", "wait(") + " --wav " + sound).exit_code, 1);
+  EXPECT_EQ(file_text(sound), "earlier");
+}
+
+TEST(Program, SaysNothingIntoItsFilesWhenItMayNotSpeak) {
+  const TempFolder folder;
+  const std::string sound = folder / "quiet.wav";
+  const std::string flow = folder.write("loud.lua", "for i = 1, 20 do say('loud') wait(0.1) end");
+  run_command("( " + program() + " run " + flow + " --wav " + sound + " >&- 2>&- )");
+  EXPECT_TRUE(is_whole_sound(sound));
+}
+
+TEST(Program, NamesWhatIsNoSoundOnce) {
+  const TempFolder folder;
+  std::filesystem::create_symlink(module_file, folder / "Tarnvale.GAU");
+  folder.write("Sound/words.wav", "no sound");
+  folder.write(
+      "Sound/deep.wav",
+      std::string(
+          "RIFF\x26\0\0\0WAVEfmt \x10\0\0\0\1\0\1\0\x44\xAC\0\0\xCC\4\2\0\3\0\x18\0data\3\0\0\0abc\0",
+          48));
+  const Outcome outcome = tarnvale("list sounds --module " + (folder / "Tarnvale.GAU"));
+  EXPECT_EQ(outcome.output, "warning: " + (folder / "Sound/deep.wav") +
+                                ": is not heard: only PCM of 8 or 16 bits in one or two channels is\n"
+                                "warning: " +
+                                (folder / "Sound/words.wav") +
+                                ": is no sound\n"
+                                "seconds   rate  bits  channels  file\n"
+                                "   0.00  44100    24         1  deep.wav\n");
 }
 
 TEST(Program, RefusesTheJournalOfAnotherModuleOrPanel) {

@@ -21,10 +21,10 @@ struct Outcome {
   std::string output;  ///< both streams
 };
 
-/// Runs a shell command.
+/// Runs a shell command; what it says on a stream that it does not redirect itself is kept.
 inline Outcome run_command(const std::string& command) {
   Outcome outcome;
-  FILE* pipe = popen((command + " 2>&1").c_str(), "r");
+  FILE* pipe = popen(("{ " + command + "\n} 2>&1").c_str(), "r");
   if (!pipe) return outcome;
   std::array<char, 4096> part;
   while (const std::size_t size = fread(part.data(), 1, part.size(), pipe))

@@ -54,7 +54,7 @@ TEST_F(Bitmaps, DenseOnesCountOnlyAtTheRightSize) {
   EXPECT_EQ(colour(bitmaps, 30, 2), 0u);
   EXPECT_EQ(colour(bitmaps, 99, 2), 0u);  // no bitmap of the module's own
   EXPECT_EQ(bitmaps.dense_faults(),
-            std::vector<std::string>{"made.GAU.2x: bitmap 20 has 8 x 1 pixels, not 8 x 2"});
+            std::vector<std::string>{file_ + ".2x: bitmap 20 has 8 x 1 pixels, not 8 x 2"});
 }
 
 TEST_F(Bitmaps, DamagedDenseOnesAreLeftOutAndToldOnceAFile) {
@@ -70,8 +70,18 @@ TEST_F(Bitmaps, DamagedDenseOnesAreLeftOutAndToldOnceAFile) {
   EXPECT_EQ(bitmaps.densities(), (std::vector<int>{1, 2}));
   EXPECT_EQ(
       bitmaps.dense_faults(),
-      (std::vector<std::string>{"made.GAU.2x: bitmap 30 is damaged: it lies past the end, and 1 more",
-                                "made.GAU.3x: holds no bitmap directory"}));
+      (std::vector<std::string>{file_ + ".2x: bitmap 30 is damaged: it lies past the end, and 1 more",
+                                file_ + ".3x: holds no bitmap directory"}));
+}
+
+TEST_F(Bitmaps, AFileThatIsCutShortInMidFlightLeavesTheCoarserBitmap) {
+  write_dense(".2x", section_bytes({{10, plain_dib(4, 4, 0x00FF00)}, {30, plain_dib(2, 2, 0x00FF00)}}));
+  const ModuleBitmaps bitmaps = store();
+  EXPECT_EQ(colour(bitmaps, 10, 2), green);
+  std::filesystem::resize_file(file_ + ".2x", 0);
+  EXPECT_EQ(colour(bitmaps, 10, 2), green) << "has been read";
+  EXPECT_EQ(colour(bitmaps, 30, 2), 0u);
+  EXPECT_EQ(colour(bitmaps, 30, 1), red);
 }
 
 TEST_F(Bitmaps, DirectoryMustLieInside) {

@@ -25,7 +25,12 @@ typedef struct Resources {
   SmallBitmap bitmaps[3];
 } Resources;
 
-#define SMALL(colour) {40, 8, 8, 1, 8, 0, 0, 0, 0, 2, 0, {colour, 0xFFFFFF}, {{0}}, {0}}
+#define SMALL(colour, bits) {40, 8, 8, 1, bits, 0, 0, 0, 0, 2, 0, {colour, 0xFFFFFF}, {{0}}, {0}}
+#ifdef BREAK_NO_BACKGROUND
+#define BACKGROUND_BITS 7
+#else
+#define BACKGROUND_BITS 8
+#endif
 #define ENTRY(number, id) \
   {id, offsetof(Resources, bitmaps) + (number) * sizeof(SmallBitmap), sizeof(SmallBitmap), 0, ""}
 
@@ -34,7 +39,7 @@ __attribute__((section(PANEL_RESOURCE_SECTION), used, aligned(16)))
 static const Resources resources = {
     {"PANELRES", PANEL_RESOURCE_VERSION, 3},
     {ENTRY(0, 10), ENTRY(1, 20), ENTRY(2, 21)},
-    {SMALL(0x202020), SMALL(0x0000FF), SMALL(0x00FF00)},
+    {SMALL(0x202020, BACKGROUND_BITS), SMALL(0x0000FF, 8), SMALL(0x00FF00, 8)},
 };
 #endif
 

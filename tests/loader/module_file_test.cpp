@@ -1,8 +1,12 @@
 #include <gtest/gtest.h>
 
 #include <elf.h>
+#include <sys/stat.h>
 
+#include <cstring>
 #include <iterator>
+#include <set>
+#include <span>
 
 #include "host/loader/check.h"
 #include "host/loader/elf_file.h"
@@ -38,12 +42,18 @@ fs::path with_header(Field Elf64_Ehdr::*field, Field value) {
   return changed([&](ByteList& bytes) { reinterpret_cast<Elf64_Ehdr*>(bytes.data())->*field = value; });
 }
 
+/// Messages begin with the whole path; its folder is left out here.
+std::string without_folder(const fs::path& file, const std::string& message) {
+  EXPECT_TRUE(message.starts_with(file.string())) << message;
+  return file.filename().string() + message.substr(std::min(message.size(), file.string().size()));
+}
+
 std::string load_error(const fs::path& file) {
   try {
     GaugeModule module(file);
     return "";
   } catch (const LoadError& error) {
-    return error.what();
+    return without_folder(file, error.what());
   }
 }
 
@@ -54,10 +64,10 @@ TEST(ModuleFile, SoundModuleLoads) {
   EXPECT_EQ(module.find("SMALL"), module.gauges()[0]);
   EXPECT_EQ(module.find("smal"), nullptr);
   EXPECT_TRUE(module.warnings().empty());
-  EXPECT_EQ(
-      module.artwork_notes(),
-      std::vector<std::string>{"small_sound.GAU.2x and .3x: no dense artwork; pictures are coarser "
-                               "at a zoom above 1"});
+  EXPECT_EQ(module.artwork_notes(),
+            std::vector<std::string>{
+                built("small_sound").string() +
+                ".2x and .3x: no dense artwork; pictures are coarser at a zoom above 1"});
   EXPECT_NE(module.handle(), 0u);
   EXPECT_EQ(module.bitmaps().find(21, BitmapUse::image)->pixels[0], 0xFF00FF00u);
   const PanelServices services{};
@@ -96,6 +106,8 @@ TEST(ModuleFile, SaysWhatIsWrongWithAModule) {
        "gauge 1 (Small), element 1: the element points to memory that cannot be read"},
       {"small_no_linkage", "does not export Linkage"},
       {"small_no_symbols", "has no symbols; a module exports Linkage and ImportTable"},
+      {"small_no_background",
+       "gauge 1 (Small): has no background: bitmap 10 is damaged: 7 bits a pixel"},
       {"small_no_bitmaps", "has no section .panelres and so no bitmaps"},
   };
   for (const auto& [name, message] : cases)
@@ -105,8 +117,49 @@ TEST(ModuleFile, SaysWhatIsWrongWithAModule) {
 TEST(ModuleFile, SurplusSymbolIsOnlyAWarning) {
   const GaugeModule module(built("small_extra_symbol"));
   ASSERT_EQ(module.warnings().size(), 1u);
-  EXPECT_EQ(module.warnings()[0].message,
+  EXPECT_EQ(without_folder(module.file(), module.warnings()[0].message),
             "small_extra_symbol.GAU: exports surplus beside Linkage and ImportTable");
+}
+
+/// The file's bytes from a section's begin to its end.
+std::span<std::byte> section_of(ByteList& bytes, const std::string& name) {
+  const auto section = ElfFile(bytes).section(name);
+  if (!section) return {};
+  return std::span(bytes).subspan(static_cast<std::size_t>(section->data() - bytes.data()),
+                                  section->size());
+}
+
+// The system's loader believes these tables, and is ended by them or never ends. Each word of each table is
+// damaged in turn; what is left over is whether this test is still there to say so.
+TEST(ModuleFile, NoDamageToTheDynamicTablesCrashes) {
+  std::set<std::string> said;
+  for (const std::string table : {".dynamic", ".gnu.hash", ".dynsym", ".rela.dyn", ".dynstr"}) {
+    ByteList sound = bytes_of(built("small_sound"));
+    const std::size_t words = section_of(sound, table).size() / 8;
+    ASSERT_GT(words, 0u) << table;
+    for (std::size_t word = 0; word < words; word += 1 + words / 64) {
+      const fs::path file = changed(
+          [&](ByteList& bytes) { std::memset(section_of(bytes, table).data() + word * 8, 0x5F, 8); });
+      for (const Finding& finding : check_module(file))
+        said.insert(without_folder(file, finding.message));
+    }
+  }
+  for (const char* part : {"symbol table lies", "table of names lies", "relocation table lies",
+                           "relocations reach", "hash table lies"})
+    EXPECT_TRUE(std::ranges::any_of(said, [&](auto& text) { return text.find(part) != text.npos; }))
+        << part;
+  EXPECT_TRUE(said.contains("changed.GAU: cannot be loaded: the system's loader breaks down over it"));
+}
+
+TEST(ModuleFile, WaitsForNoPipeAndReadsNoDevice) {
+  const TempFolder folder;
+  ASSERT_EQ(mkfifo((folder / "pipe.GAU").c_str(), 0600), 0);
+  fs::create_symlink("/dev/zero", folder / "zero.GAU");
+  std::ofstream(folder / "huge.GAU");
+  fs::resize_file(folder / "huge.GAU", std::uintmax_t{1} << 40);
+  EXPECT_EQ(load_error(folder / "pipe.GAU"), "pipe.GAU: is no regular file");
+  EXPECT_EQ(load_error(folder / "zero.GAU"), "zero.GAU: is no regular file");
+  EXPECT_EQ(load_error(folder / "huge.GAU"), "huge.GAU: is larger than 512 MiB");
 }
 
 // Whatever a cut or a flipped byte does to headers and tables, it must not be followed.

@@ -40,6 +40,17 @@ TEST(Layout, FillsScreensOfAllShapes) {
   }
 }
 
+TEST(Layout, HasRoomForEveryWindowThatCanBe) {
+  const LayoutArea area{1920, 1080, 6, 22};
+  for (const std::size_t count : {13, 32, 33, 100}) {
+    const std::vector<PanelSize> sizes(count, {300, 200});
+    const Layout layout = arrange(sizes, area, std::nullopt);
+    ASSERT_EQ(layout.places.size(), count);
+    EXPECT_GT(layout.places.back().width, 130) << count << " windows keep a size to read";
+    expect_sound(layout, area);
+  }
+}
+
 TEST(Layout, PutsWideOverWideAndTallBesideTall) {
   const LayoutArea area{1000, 1000, 0, 0};
   const std::vector<PanelSize> wide = {{900, 450}, {900, 450}}, tall = {{450, 900}, {450, 900}};

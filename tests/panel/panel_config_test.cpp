@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/rig/temp_folder.h"
+
 namespace {
 
 using namespace host;
@@ -83,6 +85,13 @@ TEST(PanelConfig, IsRefusedWithFileAndLine) {
       {"[Window00]\ngauge00=Tarnvale!Ctr, 1,2,3", "2: a gauge needs x,y or x,y,width,height"},
       {"[Window00]\ngauge00=Tarnvale!Ctr, 1,left", "2: 'left' is not a whole number"},
       {"[Window00]\ngauge00=Tarnvale!Ctr, 1,2,3,0", "2: a gauge's width and height are 1 or more"},
+      {"[Window Titles]\nWindow7=GPS\n[Window00]\nsize_mm=1,1",
+       "2: a title for window 7, which is not there"},
+      {"[Window00]\nsize_mm=1,1\ngauge00=Tarnvale!Ctr, 1,2\ngauge0=Tarnvale!Ctr, 1,2",
+       "4: a second 'gauge0' in this section"},
+      {"[Window00]\nnothing but words that go on and on and on and on and on and on and on and on",
+       "2: expected [section] or entry=value, not 'nothing but words that go on and on and ...n and on "
+       "and on'"},
       {"[Window Titles]\nMain=Captain", "2: expected Window00=title, not 'main'"},
   };
   for (const auto& [text, message] : cases)
@@ -90,8 +99,28 @@ TEST(PanelConfig, IsRefusedWithFileAndLine) {
 }
 
 TEST(PanelConfig, AFileThatCannotBeReadIsRefused) {
-  for (const char* file : {"no/such/panel.cfg", "/"})
-    EXPECT_THROW(read_panel_config(file), ConfigError);
+  const TempFolder folder;
+  const auto config = [&](const std::string& entries) {
+    return folder.write("panel.cfg", "[Window00]\nsize_mm=9,9\n" + entries);
+  };
+  folder.write("text.png", "no picture");
+  const auto said = [&](const std::string& file) {
+    try {
+      read_panel_config(file);
+      return std::string("accepted");
+    } catch (const ConfigError& error) {
+      return std::string(error.what()).substr(folder.path().string().size());
+    }
+  };
+  EXPECT_EQ(said(folder / "gone.cfg"), "/gone.cfg: cannot be read: No such file or directory");
+  EXPECT_EQ(said(folder / ""), "/: cannot be read: Is a directory");
+  EXPECT_EQ(said(config(std::string(2 << 20, '\n'))), "/panel.cfg: is larger than 1 MiB");
+  EXPECT_EQ(said(config("background_night=gone.png")),
+            "/panel.cfg:3: the window's background gone.png cannot be read: No such file or directory");
+  EXPECT_EQ(said(config("\nbackground=text.png")),
+            "/panel.cfg:4: the window's background text.png is no PNG picture of at most 8192 x 8192 "
+            "pixels, or "
+            "damaged");
 }
 
 }  // namespace

@@ -73,6 +73,10 @@ INSTANTIATE_TEST_SUITE_P(
                 "flows/test.lua:1: argument 1 (question) must be a function"},
         Failure{"endless", "local n = 0\nwhile true do n = n + 1 end",
                 "flows/test.lua:2: the flow computes without ever waiting: an endless loop?"},
+        Failure{"finalizer", "setmetatable({}, {__gc = function() end})",
+                "flows/test.lua:1: tables of a flow have no finalizer (__gc)"},
+        Failure{"growing", "while true do local s = string.rep('x', 1 << 26) end",
+                "flows/test.lua: the flow computes without ever waiting: an endless loop?"},
         Failure{"memory", "local s = string.rep('x', 1 << 30)", "flows/test.lua: out of memory"},
         Failure{"binary", "\x1bLua", "flows/test.lua: attempt to load a binary chunk (mode is 't')"}),
     [](const auto& test) { return test.param.name; });
@@ -91,6 +95,7 @@ TEST_F(Flow, HasNoWayOutOfItsRoom) {
 TEST_F(Flow, HasTextsTablesAndMathematics) {
   EXPECT_EQ(outcome(runner,
                     "local t = {3, 1, 2}\ntable.sort(t)\n"
+                    "local u = setmetatable({}, {__index = t})\nif u[3] ~= 3 then error('?') end\n"
                     "if table.concat(t) .. string.format('%02d', math.floor(7.9)) ~= '12307' then "
                     "error('!') end"),
             "");
@@ -116,6 +121,23 @@ TEST_F(Flow, RunsAgainAfterAFailure) {
   EXPECT_NE(outcome(runner, "refuse('first')"), "");
   EXPECT_EQ(outcome(runner, "return 1"), "");
   EXPECT_EQ(outcome(runner, "refuse('third')"), "flows/test.lua:1: third");
+}
+
+TEST_F(Flow, ErrorsOfLuaItselfEndWhatTheHostHolds) {
+  const auto held = std::make_shared<int>();
+  runner.bind("list", [held](LuaCall& call) {
+    const auto kept = held;
+    call.begin_list();
+    for (;;) call.append(std::string(1 << 20, 'x'));
+  });
+  const long before = held.use_count();
+  EXPECT_EQ(outcome(runner, "list()"), "flows/test.lua: out of memory");
+  EXPECT_EQ(held.use_count(), before);
+}
+
+TEST_F(Flow, EndsWhenThatIsWanted) {
+  runner.end_wanted = [] { return true; };
+  EXPECT_EQ(outcome(runner, "\nwhile true do end"), "flows/test.lua:2: interrupted");
 }
 
 TEST_F(Flow, IsAliveWhileTimeMovesOn) {
@@ -193,7 +215,7 @@ TEST(FlowFile, ThatCannotBeReadIsNamed) {
       runner.run(std::filesystem::path(file));
       FAIL() << file;
     } catch (const FlowError& error) {
-      EXPECT_EQ(error.what(), std::string(file) + ": the flow cannot be read");
+      EXPECT_TRUE(std::string(error.what()).starts_with(std::string(file) + ": cannot be read: "));
     }
   }
 }

@@ -1,0 +1,31 @@
+#include "host/app/standard_streams.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
+#include <cstdio>
+#include <cstring>
+
+namespace host {
+
+// Opened for reading, so that writing there goes on failing.
+void prepare_standard_streams() {
+  for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
+    if (fcntl(stream, F_GETFD) < 0 && errno == EBADF) static_cast<void>(open("/dev/null", O_RDONLY));
+  std::signal(SIGPIPE, SIG_IGN);
+}
+
+// Who reads only the first lines of a list has not lost anything.
+bool standard_output_taken() {
+  const bool failed_before = std::ferror(stdout) != 0;
+  errno = 0;
+  if (std::fflush(stdout) == 0 && !failed_before) return true;
+  if (errno != EPIPE)
+    std::fprintf(stderr, "tarnvale: standard output cannot be written%s%s\n", errno ? ": " : "",
+                 errno ? std::strerror(errno) : "");
+  return false;
+}
+
+}  // namespace host
