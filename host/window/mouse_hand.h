@@ -19,6 +19,15 @@ class MouseHand {
   /// One mouse event of the desktop. `now` is real seconds, for tooltips.
   void take(const SDL_Event& event, double now);
 
+  /// Turns the wheel of an event into zoom, about the pointer.
+  void zoom(const SDL_MouseWheelEvent& event);
+
+  /// Whether controls are looked at and not worked.
+  void look_only(bool only);
+
+  /// Where the pointer is, if it is in that view.
+  std::optional<PanelPoint> place_in(const View& view) const;
+
   /// Shows a tooltip when its time has come.
   void tick(double now);
 
@@ -57,6 +66,7 @@ class MouseHand {
   Cursors cursors_;
   std::optional<Held> held_;
   bool scrolling_ = false;
+  bool look_only_ = false;
   Uint32 view_id_ = 0;  ///< 0: outside of every view
   int x_ = 0;           ///< pixels of that view
   int y_ = 0;
