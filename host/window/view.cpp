@@ -16,7 +16,7 @@ std::string key_hint(const WindowConfig& window) {
   return {};
 }
 
-constexpr double most_zoom = 8.0;  // of a panel that has the window for itself
+constexpr double most_zoom = 3.0;  // of a small panel that has the window for itself, at scale 1
 
 }  // namespace
 
@@ -36,7 +36,8 @@ bool View::has_room_beside(std::vector<std::size_t> windows, std::size_t more) c
   LayoutArea room = area();
   room.height -= outside_.height;
   windows.push_back(more);
-  return arrange(window_sizes(cockpit_, windows), room, std::nullopt, most_zoom).zoom >= zoom() * 0.999;
+  return arrange(window_sizes(cockpit_, windows), room, std::nullopt, most_zoom * scale()).zoom >=
+         zoom() * 0.999;
 }
 
 void View::set_zoom(std::optional<double> zoom) {
@@ -101,7 +102,7 @@ void View::relayout() {
   const int strip = screen_.size().height - room.height;
   const std::vector<PanelSize> sizes = window_sizes(cockpit_, windows_);
   make_room_outside(sizes, room);
-  layout_ = arrange(sizes, room, zoom_, most_zoom);
+  layout_ = arrange(sizes, room, zoom_, most_zoom * scale());
   panels_.clear();
   for (std::size_t i = 0; i < windows_.size(); ++i) {
     Rect place = layout_.places[i];

@@ -126,7 +126,7 @@ INSTANTIATE_TEST_SUITE_P(
         Case{"show_no_display", "show Ctr", 1, "no display to open a window on"},
         Case{"open_unknown", "fly --open 7", 1, "there is no window 7; there are: Captain"},
         Case{"open_ambiguous", "fly --open P", 1, "there is no window P; there are: "},
-        Case{"bad_place", "fly --place Overhead=1,2", 1, "--place Overhead=1,2: expected 4"}),
+        Case{"bad_place", "fly --place Overhead=1,2", 1, "--place Overhead=1,2: needs 4 numbers"}),
     [](const auto& test) { return test.param.name; });
 
 TEST(Program, HelpsEveryCommand) {

@@ -89,7 +89,7 @@ TEST(Desk, IsReadAsItWasWrittenAndBadLinesAreTold) {
   const struct {
     const char* line;
     const char* wrong;
-  } cases[] = {{"place = 1,2,3", "expected 4"},   {"place = 0,0,9,900", "a window is 100 to 16384"},
+  } cases[] = {{"place = 1,2,3", "needs 4 numbers"},   {"place = 0,0,9,900", "a window is 100 to 16384"},
                {"zoom = nan", "expected a zoom"}, {"zoom = 1e99", "expected a zoom"},
                {"full_screen = yes", "'yes'"},    {"torn = 1", "there is no entry 'torn' here"},
                {"zoom", "expected name = value"}, {"[0]", "0 is outside"},
