@@ -16,7 +16,10 @@ namespace {
 class CommandLine {
  public:
   CommandLine() {
-    app_.require_subcommand(1);
+    app_.require_subcommand(0, 1);
+    app_.set_version_flag("--version", "tarnvale " TARNVALE_VERSION);
+    command_ = [this] { return fly(fly_); };
+    app_.footer("Without a command it flies.");
     app_.failure_message(CLI::FailureMessage::help);
     add_fly();
     add_run();
@@ -112,19 +115,31 @@ class CommandLine {
                     "Size of the panels, 1 is their own; else what fits the screen")
         ->check(number(0.1, 8.0));
     add_start(sub, fly_.start);
-    sub->add_flag("!--no-view", fly_.deck.outside, "Without the view out of the window (key V)");
-    sub->add_option("--open", fly_.open, "Windows to open at once, by their idents");
+    sub->add_flag("--no-view", fly_.no_view, "Without the view out of the window (key V)");
+    add_windows(sub);
     sub->add_option("--controls", fly_.deck.controls,
                     "What keys and joysticks do; else controls.cfg beside this program");
     sub->add_option("--checklists", fly_.deck.checklists,
                     "The kneeboard's checklists; else checklists.txt beside this program");
-    sub->add_option("--pictures", fly_.deck.pictures, "Folder for screenshots")->capture_default_str();
+    sub->add_option("--pictures", fly_.deck.pictures,
+                    "Folder for pictures of the window; else the desktop's folder for pictures");
     sub->add_option("--record", fly_.record,
                     "Write your inputs to this file, as a flow that can be run again");
     sub->add_option("--exit-after", fly_.deck.exit_after, "Leave after so many seconds")
         ->check(number(0, 1e9));
     sub->add_flag("--mute", fly_.mute, "Fly without sound");
     add_journal(sub);
+  }
+
+  void add_windows(CLI::App* sub) {
+    sub->add_option("--open", fly_.open,
+                    "Windows to open, by title or ident; else those that were open last");
+    sub->add_option("--torn", fly_.torn, "Windows to open, each in a window of its own");
+    sub->add_option("--place", fly_.places,
+                    "WINDOW=x,y,width,height on the desktop; main=... for the main one");
+    sub->add_flag("--full-screen", fly_.full_screen, "The main window fills the screen (key F11)");
+    sub->add_flag("--fresh", fly_.fresh,
+                  "As the first time, without what was remembered of the windows");
   }
 
   // A session that is taken up has begun already.

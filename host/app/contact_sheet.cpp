@@ -5,7 +5,7 @@
 
 #include "host/drawing/resample.h"
 #include "host/window/compose.h"
-#include "host/window/palette.h"
+#include "host/sketch/palette.h"
 
 namespace host {
 namespace {

@@ -5,6 +5,7 @@
 #include <stdexcept>
 
 #include "host/app/commands.h"
+#include "host/app/desk_options.h"
 #include "host/app/installation.h"
 #include "host/app/lookup.h"
 #include "host/app/progress.h"
@@ -51,13 +52,6 @@ FlightIdentity identity_for(const std::optional<LeftSession>& left, const Cockpi
   return here;
 }
 
-DeckOptions deck_of(const FlyOptions& options) {
-  DeckOptions deck = options.deck;
-  if (deck.controls.empty()) deck.controls = program_folder() / "controls.cfg";
-  if (deck.checklists.empty()) deck.checklists = program_folder() / "checklists.txt";
-  return deck;
-}
-
 // A note in the window, and on standard error.
 void tell(const std::string& text) { MessageBoxA(nullptr, text.c_str(), "Journal", MB_OK); }
 
@@ -80,8 +74,11 @@ class Session {
 
   // Whether all that the session should leave has been written.
   bool fly() {
-    left_ ? take_up() : begin();
-    FlightDeck deck(inputs_, deck_of(options_));
+    std::string unused;
+    const DeckOptions on_deck = deck_options(options_, cockpit_.config(), unused);
+    if (!unused.empty()) notes_.push_back(unused);
+    left_ ? take_up() : begin(on_deck.desk);
+    FlightDeck deck(inputs_, on_deck);
     Identifications identifications;
     deck.after_frame = [&] {
       identifications.update(cockpit_.aircraft().identifications_heard(), cockpit_.seconds());
@@ -89,6 +86,7 @@ class Session {
     deck.on_pause = [&] { identifications.silence(); };
     for (const std::string& note : notes_) tell(note);
     keep_journal();
+    deck.ask_to_leave = !journal_;
     if (inputs_.holding()) inputs_.take(input::Release{});  // nobody holds the button any more
     deck.fly();
     journal_.reset();
@@ -103,9 +101,9 @@ class Session {
     return options_.mute ? PLATFORM_AUDIO_RENDERED : PLATFORM_AUDIO_DEVICE;
   }
 
-  void begin() {
+  void begin(const Desk& desk) {
     prepare_platform(cockpit_options_, audio());
-    beginning_ = beginning(cockpit_, options_);
+    beginning_ = beginning(cockpit_, options_.start, desk);
     for (const Input& input : beginning_) inputs_.take(input);
   }
 

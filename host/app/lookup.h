@@ -4,6 +4,7 @@
 #include <string>
 
 #include "host/panel/name_book.h"
+#include "host/panel/panel_config.h"
 
 namespace host {
 
@@ -12,5 +13,9 @@ const GaugeHeader& find_gauge(const GaugeModule& module, const std::string& name
 
 /// Says on standard error which lines of the names file are wrong.
 void say_notes(const NameBook& names);
+
+/// The window for what a person typed: its ident, its title, or how only its title begins, letter case
+/// aside. Throws std::runtime_error that lists what there is.
+const WindowConfig& find_window(const PanelConfig& panel, const std::string& typed);
 
 }  // namespace host

@@ -28,8 +28,13 @@ struct StartOptions {
 struct FlyOptions {
   CockpitOptions cockpit;
   StartOptions start;
-  DeckOptions deck;                 ///< its controls empty: those beside this program
-  std::vector<std::uint32_t> open;  ///< idents to open besides those that are open from the start
+  DeckOptions deck;                 ///< its controls empty: those beside this program; its desk is made
+  std::vector<std::string> open;    ///< windows to open instead of those that were open last
+  std::vector<std::string> torn;    ///< windows to open, each in a window of its own
+  std::vector<std::string> places;  ///< WINDOW=x,y,width,height; "main" is the main one
+  bool full_screen = false;
+  bool fresh = false;    ///< without what is remembered of earlier flights
+  bool no_view = false;  ///< without the view out of the window
   bool mute = false;
   std::filesystem::path record;   ///< a flow to write the person's inputs to; empty: none
   std::filesystem::path journal;  ///< empty: one in the folder of sessions

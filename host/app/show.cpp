@@ -14,6 +14,7 @@
 #include "host/pages/page.h"
 #include "host/panel/panel_picture.h"
 #include "host/panel/panel_scene.h"
+#include "host/panel/text.h"
 #include "host/window/flight_deck.h"
 
 namespace host {
@@ -53,19 +54,26 @@ std::optional<std::uint32_t> as_number(const std::string& text) {
 }
 
 // One window of the cockpit's own panel.
-PanelConfig panel_window(const std::filesystem::path& panel, std::uint32_t ident) {
+PanelConfig panel_window(const std::filesystem::path& panel, const std::string& typed) {
   PanelConfig config = read_panel_config(panel);
-  std::erase_if(config.windows,
-                [&](const WindowConfig& window) { return window.ident != ident || !window.drawn; });
-  if (config.windows.empty()) throw std::runtime_error("there is no window " + std::to_string(ident));
+  const std::uint32_t ident = find_window(config, typed).ident;
+  std::erase_if(config.windows, [&](const WindowConfig& window) { return window.ident != ident; });
   config.windows.front().visible = true;
   return config;
 }
 
+bool is_window_title(const std::filesystem::path& panel, const std::string& typed) {
+  return std::ranges::any_of(read_panel_config(panel).windows, [&](const WindowConfig& window) {
+    return window.drawn && same_name(window.title, typed);
+  });
+}
+
 PanelConfig panel_of(const GaugeModule& module, const ShowOptions& options,
                      const std::filesystem::path& panel) {
-  const auto ident = options.gauges.size() == 1 ? as_number(options.gauges.front()) : std::nullopt;
-  return ident ? panel_window(panel, *ident) : shelf(module, options.gauges);
+  const std::string& first = options.gauges.front();
+  const bool gauges = options.gauges.size() > 1 || module.find(first);
+  if (as_number(first) || (!gauges && is_window_title(panel, first))) return panel_window(panel, first);
+  return shelf(module, options.gauges);
 }
 
 std::uint32_t token_number(const std::string& name) {
@@ -153,7 +161,7 @@ int show(const ShowOptions& options) {
     return exit_fine;
   }
   DeckOptions deck_options = options.deck;
-  deck_options.outside = false;
+  deck_options.desk.outside = false;
   CockpitInputs inputs(cockpit);
   FlightDeck deck(inputs, deck_options);
   deck.mark_areas(options.areas);

@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <utility>
 
+#include "host/panel/panel_scene.h"
 #include "platform/platform_host.h"
 
 namespace host {
@@ -12,6 +13,13 @@ namespace {
 
 constexpr double picture_time = 1.0 / 60;  // seconds between two pictures of something that moves
 constexpr int most_late_frames = 4;        // a machine that slept does not fly the time it missed
+
+// Ends a wait for events, from any thread.
+void wake() {
+  SDL_Event event{};
+  event.type = SDL_USEREVENT;
+  SDL_PushEvent(&event);
+}
 
 }  // namespace
 
@@ -21,8 +29,9 @@ FlightDeck::FlightDeck(CockpitInputs& inputs, const DeckOptions& options)
       options_(options),
       scale_(options.scale.value_or(Desktop::scale())),
       views_(cockpit_, scale_, options.zoom ? std::optional(*options.zoom * scale_) : std::nullopt,
-             options.outside),
+             options.desk),
       notices_(views_.main()),
+      pictures_(options.pictures.empty() ? pictures_folder() : options.pictures, wake),
       hand_(inputs_, views_, scale_),
       pages_(
           inputs_,
@@ -53,15 +62,52 @@ void FlightDeck::fly() {
   frame_due_ = now();
   while (!leaving_) {
     run_frames();
+    for (const std::string& note : pictures_.take_notes()) notices_.add(note, now());
     notices_.tick(now());
     hand_.tick(now());
+    if (now() >= zoom_shown_until_) hide_zoom();
     take_window_actions();
     follow_pages();
-    if (views_.follow_cockpit()) hand_.reset();
+    settle();
     refresh();
     wait_for_event();
     if (options_.exit_after && now() >= *options_.exit_after) leaving_ = true;
   }
+  keep_desk();
+}
+
+void FlightDeck::settle() {
+  const Views::Settled settled = views_.settle();
+  if (settled.main_resized) {
+    notices_.place();
+    show_page();
+    views_.settle();  // the page may have taken another share of the window
+  }
+  show_zoom();
+  if (!settled.panels) return;
+  hand_.reset();
+  if (paused_) show_what_opened_in_a_pause();
+}
+
+// What has not run for a while has no picture, or an old one: the flight goes on for one frame.
+void FlightDeck::show_what_opened_in_a_pause() {
+  for (std::size_t i : open_windows(cockpit_))
+    for (const PlacedGauge& placed : cockpit_.windows()[i].gauges)
+      if (placed.gauge->frame != cockpit_.frames()) return run_frame();
+}
+
+void FlightDeck::keep_desk() {
+  if (options_.desk_file.empty()) return;
+  try {
+    write_desk(options_.desk_file, views_.desk());
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "%s\n", error.what());
+  }
+}
+
+void FlightDeck::run_frame() {
+  inputs_.frame();
+  if (after_frame) after_frame();
 }
 
 void FlightDeck::run_frames() {
@@ -70,8 +116,7 @@ void FlightDeck::run_frames() {
   if (now() - frame_due_ > most_late_frames * period) frame_due_ = now();
   for (; now() >= frame_due_; frame_due_ += period) {
     apply_hands();
-    inputs_.frame();
-    if (after_frame) after_frame();
+    run_frame();
     last_frame_ = frame_due_;
   }
 }
@@ -97,7 +142,7 @@ outside::Sight FlightDeck::sight_at(double time) const {
 }
 
 double FlightDeck::next_deadline() const {
-  double next = std::min(notices_.next_tick(), hand_.next_tick());
+  double next = std::min({notices_.next_tick(), hand_.next_tick(), zoom_shown_until_});
   if (options_.exit_after) next = std::min(next, *options_.exit_after);
   if (paused_) return next;
   if (pages_.shown()) next = std::min(next, page_due_);
@@ -117,12 +162,19 @@ void FlightDeck::take(const SDL_Event& event) {
   if (sticks_) sticks_->take(event);
   if (take_yoke(event) || take_page_event(event)) return;
   switch (event.type) {
-    case SDL_QUIT: leaving_ = true; break;
+    case SDL_QUIT: leave(); break;
     case SDL_WINDOWEVENT: take_window(event.window); break;
     case SDL_KEYUP: take_flying_key(event.key); break;
     case SDL_KEYDOWN:
-      if (!take_flying_key(event.key)) take_key(event.key.keysym);
+      if (!take_flying_key(event.key)) take_key(event.key);
       break;
+    case SDL_MOUSEWHEEL:
+      if (View* view = views_.find(event.wheel.windowID); view && (SDL_GetModState() & KMOD_CTRL)) {
+        hand_.zoom(event.wheel);
+        zoomed_ = event.wheel.windowID;
+        break;
+      }
+      [[fallthrough]];
     default: hand_.take(event, now()); break;
   }
 }
@@ -133,16 +185,13 @@ void FlightDeck::take_window(const SDL_WindowEvent& event) {
   if (event.event == SDL_WINDOWEVENT_FOCUS_LOST) let_go_of_keys();
   if (event.event == SDL_WINDOWEVENT_SIZE_CHANGED) {
     view->take_size();
-    if (view == &views_.main()) notices_.place(), show_page();
   } else if (event.event == SDL_WINDOWEVENT_EXPOSED) {
     view->invalidate();
   } else if (event.event == SDL_WINDOWEVENT_CLOSE) {
-    if (const auto torn = views_.torn_window(event.windowID)) {
-      hand_.reset();
-      views_.toggle_torn(*torn);
-    } else {
-      leaving_ = true;
-    }
+    if (const auto torn = views_.torn_window(event.windowID))
+      inputs_.take(input::CloseWindow{cockpit_.config().windows[*torn].ident});
+    else
+      leave();
   }
 }
 

@@ -13,6 +13,7 @@
 #include "host/window/deck_options.h"
 #include "host/window/mouse_hand.h"
 #include "host/window/notices.h"
+#include "host/window/picture_writer.h"
 #include "host/window/views.h"
 
 namespace host {
@@ -31,6 +32,8 @@ class FlightDeck {
   std::function<void()> after_frame;
   /// Called when frames stop for a while.
   std::function<void()> on_pause;
+  /// Whether leaving loses the flight: then it takes two asks.
+  bool ask_to_leave = false;
 
   /// Flies until the person leaves.
   void fly();
@@ -43,9 +46,15 @@ class FlightDeck {
   double next_deadline() const;
   void take(const SDL_Event& event);
   void take_window(const SDL_WindowEvent& event);
-  void take_key(const SDL_Keysym& key);
-  bool take_panel_key(SDL_Keycode key);
+  void take_key(const SDL_KeyboardEvent& key);
+  void take_repeating_key(const SDL_Keysym& key, View& view);
+  bool take_scroll_key(const SDL_Keysym& key, View& view);
+  bool take_panel_key(const SDL_Keysym& key);
   void run_frames();
+  void run_frame();
+  void settle();
+  void show_what_opened_in_a_pause();
+  void keep_desk();
   void refresh();
   /// What the captain sees now: the aircraft of the last frame, flown on to this moment.
   outside::Sight sight_at(double time) const;
@@ -72,16 +81,18 @@ class FlightDeck {
   bool over_page(Uint32 window, int x, int y) const;
   const PageSpot* page_spot(int x, int y) const;
 
-  void toggle_window(std::uint32_t ident);
+  void toggle_window(std::uint32_t ident, bool beside);
   void toggle_torn();
   /// Sends a key event of the aircraft past the panel, as a keyboard command does.
   void send(std::uint32_t event);
   void toggle_panel_lights();
   void toggle_outside();
   void toggle_pause();
-  void change_zoom(double factor);
-  void save_picture();
-  void leave_or_close_help();
+  void change_zoom(double factor, View& view);
+  void show_zoom();
+  void hide_zoom();
+  void go_back(View& view);
+  void leave();
   static void take_message(const char* text, const char* caption, void* context);
 
   CockpitInputs& inputs_;  ///< whatever the person does goes through here
@@ -92,6 +103,7 @@ class FlightDeck {
   Clock::time_point start_ = Clock::now();
   Views views_;
   Notices notices_;
+  PictureWriter pictures_;
   MouseHand hand_;
   Pages pages_;
   DrawnPage page_;  ///< as it stands in the main window
@@ -108,6 +120,9 @@ class FlightDeck {
   double last_frame_ = 0;
   double picture_due_ = 0;
   bool paused_ = false;
+  Uint32 zoomed_ = 0;  ///< the view whose zoom has just changed; 0: none
+  double zoom_shown_until_ = Pointer::never;
+  bool asked_ = false;  ///< whether to leave
   bool leaving_ = false;
 };
 

@@ -39,6 +39,7 @@ bool FlightDeck::take_flying_key(const SDL_KeyboardEvent& key) {
   if (key.repeat != 0) return held != held_keys_.end();
   const auto action = controls_.action_of(key.keysym);
   if (!action) return false;
+  if (paused_ && action_table()[*action].window == WindowAction::none) return true;
   if (held == held_keys_.end()) hands_.press(held_keys_[key.keysym.sym] = *action);
   return true;
 }

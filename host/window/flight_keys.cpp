@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <cstdio>
+#include <utility>
 
 #include "host/window/flight_deck.h"
 
@@ -8,59 +9,90 @@ namespace {
 
 constexpr std::uint32_t first_panel_ident = 500;  // the panels stand on the keys in their idents' order
 
-std::filesystem::path free_picture_name(const std::filesystem::path& folder) {
-  for (int number = 1;; ++number) {
-    char name[32];
-    std::snprintf(name, sizeof name, "tarnvale-%03d.png", number);
-    if (!std::filesystem::exists(folder / name)) return folder / name;
-  }
-}
+constexpr double zoom_step = 1.125;
+constexpr double zoom_shown_s = 1.5;
+constexpr double scroll_share = 0.75;  // of the window, for a key
 
 }  // namespace
 
-void FlightDeck::take_key(const SDL_Keysym& key) {
-  if (take_page_key(key) || take_panel_key(key.sym)) return;
+void FlightDeck::take_key(const SDL_KeyboardEvent& event) {
+  View* found = views_.find(event.windowID);
+  View& view = found ? *found : views_.main();
+  const SDL_Keysym& key = event.keysym;
+  if (take_page_key(key) || take_scroll_key(key, view)) return;
+  take_repeating_key(key, view);
+  if (event.repeat != 0 || take_panel_key(key)) return;
   switch (key.sym) {
     case SDLK_t: toggle_torn(); break;
-    case SDLK_PLUS:
-    case SDLK_EQUALS:
-    case SDLK_KP_PLUS: change_zoom(1.125); break;
-    case SDLK_MINUS:
-    case SDLK_KP_MINUS: change_zoom(1 / 1.125); break;
-    case SDLK_0:
-    case SDLK_KP_0: views_.main().set_zoom(std::nullopt); break;
     case SDLK_v: toggle_outside(); break;
     case SDLK_d: toggle_panel_lights(); break;
     case SDLK_p: toggle_pause(); break;
     case SDLK_s:
-    case SDLK_F12: save_picture(); break;
+    case SDLK_F12: pictures_.write(view.picture()); break;
     case SDLK_h:
     case SDLK_F1: notices_.toggle_help(); break;
-    case SDLK_F11: views_.main().screen().toggle_full_screen(); break;
-    case SDLK_ESCAPE: leave_or_close_help(); break;
-    case SDLK_q: leaving_ = true; break;
+    case SDLK_F11: view.screen().set_full_screen(!view.screen().is_full_screen()); break;
+    case SDLK_ESCAPE: go_back(view); break;
+    case SDLK_q: leave(); break;
     default: break;
   }
 }
 
-bool FlightDeck::take_panel_key(SDL_Keycode key) {
+void FlightDeck::take_repeating_key(const SDL_Keysym& key, View& view) {
+  switch (key.sym) {
+    case SDLK_PLUS:
+    case SDLK_EQUALS:
+    case SDLK_KP_PLUS: change_zoom(zoom_step, view); break;
+    case SDLK_MINUS:
+    case SDLK_KP_MINUS: change_zoom(1 / zoom_step, view); break;
+    case SDLK_0:
+    case SDLK_KP_0:
+      view.set_zoom(std::nullopt);
+      zoomed_ = view.screen().id();
+      break;
+    default: break;
+  }
+}
+
+// Arrows and Page keys alone fly.
+bool FlightDeck::take_scroll_key(const SDL_Keysym& key, View& view) {
+  if ((key.mod & KMOD_CTRL) == 0) return false;
+  const PanelSize size = view.screen().size();
+  const int across = static_cast<int>(size.width * scroll_share);
+  const int down = static_cast<int>(size.height * scroll_share);
+  switch (key.sym) {
+    case SDLK_PAGEUP: view.scroll(0, down); return true;
+    case SDLK_PAGEDOWN: view.scroll(0, -down); return true;
+    case SDLK_HOME: view.scroll(across, 0); return true;
+    case SDLK_END: view.scroll(-across, 0); return true;
+    default: return false;
+  }
+}
+
+bool FlightDeck::take_panel_key(const SDL_Keysym& keysym) {
+  SDL_Keycode key = keysym.sym;
   if (key >= SDLK_KP_1 && key <= SDLK_KP_9) key = SDLK_1 + (key - SDLK_KP_1);
   if (key < SDLK_1 || key > SDLK_9) return false;
-  toggle_window(first_panel_ident + static_cast<std::uint32_t>(key - SDLK_1));
+  toggle_window(first_panel_ident + static_cast<std::uint32_t>(key - SDLK_1), keysym.mod & KMOD_SHIFT);
   return true;
 }
 
-void FlightDeck::toggle_window(std::uint32_t ident) {
-  if (cockpit_.panels().shows(ident))
+// What is open and not in sight comes into sight before it closes.
+void FlightDeck::toggle_window(std::uint32_t ident, bool beside) {
+  const auto window = cockpit_.panels().find(ident);
+  if (!window) return;
+  const bool open = cockpit_.panels().shows(ident);
+  if (open && !views_.waits(*window)) {
     inputs_.take(input::CloseWindow{ident});
-  else
-    inputs_.take(input::OpenWindow{ident});
+    return;
+  }
+  if (!open) inputs_.take(input::OpenWindow{ident});
+  if (open || beside) views_.bring(*window, beside);
 }
 
 void FlightDeck::toggle_torn() {
   const auto window = hand_.window_under();
   if (!window) return notices_.add("Point at a panel to tear it off", now());
-  hand_.reset();
   views_.toggle_torn(*window);
 }
 
@@ -68,6 +100,7 @@ void FlightDeck::send(std::uint32_t event) { inputs_.take(input::KeyEvent{event,
 
 // The main panels' faces follow, as they do for the switch on the panel.
 void FlightDeck::toggle_panel_lights() {
+  if (paused_) return;
   send(event::panel_lights_toggle);
   const bool night = cockpit_.panel_lights_on();
   for (const WindowConfig& window : cockpit_.config().windows) {
@@ -86,37 +119,57 @@ void FlightDeck::toggle_outside() {
 
 void FlightDeck::toggle_pause() {
   paused_ = !paused_;
+  if (paused_) let_go_of_keys();
+  hand_.look_only(paused_);
   frame_due_ = now();
   if (paused_ && on_pause) on_pause();
   show_badge();
 }
 
-void FlightDeck::change_zoom(double factor) {
-  View& view = views_.main();
-  view.set_zoom(view.zoom() * factor);
+void FlightDeck::change_zoom(double factor, View& view) {
+  view.zoom_by(factor, hand_.place_in(view));
+  zoomed_ = view.screen().id();
 }
 
-void FlightDeck::save_picture() {
-  try {
-    std::error_code unwritable;  // then writing the picture says so
-    std::filesystem::create_directories(options_.pictures, unwritable);
-    const std::filesystem::path file = free_picture_name(options_.pictures);
-    write_png(views_.main().screen().canvas(), file.string());
-    notices_.add("Saved " + file.lexically_normal().string(), now());
-  } catch (const std::exception& error) {
-    notices_.add(error.what(), now());
-  }
+void FlightDeck::show_zoom() {
+  View* view = views_.find(std::exchange(zoomed_, 0));
+  if (!view) return;
+  hide_zoom();
+  char text[32];
+  std::snprintf(text, sizeof text, "%.0f %%", 100 * view->zoom() / view->scale());
+  Overlay badge = draw_badge(text, view->scale());
+  badge.x = view->screen().size().width - badge.width - static_cast<int>(12 * view->scale());
+  badge.y = static_cast<int>(30 * view->scale());
+  view->set_layer(Layer::zoom, std::move(badge));
+  zoom_shown_until_ = now() + zoom_shown_s;
 }
 
-void FlightDeck::leave_or_close_help() {
+void FlightDeck::hide_zoom() {
+  views_.each([](View& view) { view.set_layer(Layer::zoom, std::nullopt); });
+  zoom_shown_until_ = Pointer::never;
+}
+
+// Escape leads out of whatever one is in, one thing at a time, and never out of the cockpit.
+void FlightDeck::go_back(View& view) {
   if (controls_shown_)
     controls_shown_ = false, show_controls_page();
   else if (notices_.help_shown())
     notices_.toggle_help();
   else if (pages_.shown())
     pages_.close();
+  else if (yoke_)
+    toggle_yoke();
+  else if (view.screen().is_full_screen())
+    view.screen().set_full_screen(false);
   else
-    leaving_ = true;
+    notices_.add("Q leaves the cockpit", now());
+}
+
+// The journal keeps a flight, and --resume takes it up: leaving loses nothing then, and needs no question.
+void FlightDeck::leave() {
+  if (ask_to_leave && !std::exchange(asked_, true))
+    return notices_.add("Nothing keeps this flight: once more to leave it", now());
+  leaving_ = true;
 }
 
 }  // namespace host

@@ -18,9 +18,10 @@ constexpr std::array cockpit_rows{
     HelpRow{"Panels", ""},
     HelpRow{"1  2  3  4", "Captain, First officer, Overhead, Pedestal"},
     HelpRow{"5  6  7  8", "Throttle, Pushback, Utility, GPS"},
-    HelpRow{"9", "Start page"},
+    HelpRow{"9", "Start page; with Shift a panel opens beside the others"},
     HelpRow{"T", "Tear off the panel under the pointer, or put it back"},
-    HelpRow{"+  -  0", "Zoom in, zoom out, fit the window"},
+    HelpRow{"+  -  0", "Zoom in, zoom out, fit; Ctrl with the wheel, too"},
+    HelpRow{"Ctrl PgUp  PgDn", "Scroll; Ctrl with Home and End sideways"},
     HelpRow{"F11", "Full screen"},
     HelpRow{"Pages beside the panels", ""},
     HelpRow{"K  N  R", "Kneeboard with checklists, map, radio"},
@@ -33,10 +34,11 @@ constexpr std::array cockpit_rows{
     HelpRow{"Flight", ""},
     HelpRow{"V", "View out of the window, above the captain's panel"},
     HelpRow{"D", "Panel lights: day and night"},
-    HelpRow{"P", "Pause"},
-    HelpRow{"S  F12", "Save a picture of the screen"},
+    HelpRow{"P", "Pause: look at everything, work nothing"},
+    HelpRow{"S  F12", "Save a picture of the window"},
     HelpRow{"H  F1", "This page"},
-    HelpRow{"Q  Esc", "Leave the cockpit"},
+    HelpRow{"Esc", "Back: out of a page, out of full screen"},
+    HelpRow{"Q", "Leave; tarnvale fly --resume goes on with the flight"},
 };
 
 // As the file of controls beside the program has them.

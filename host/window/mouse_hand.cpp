@@ -8,6 +8,11 @@ namespace {
 
 constexpr double tooltip_delay = 0.6;  // seconds of rest
 constexpr int scroll_step = 60;        // pixels a notch, at scale 1
+constexpr double zoom_notch = 1.125;
+
+int notches_of(const SDL_MouseWheelEvent& event) {
+  return event.direction == SDL_MOUSEWHEEL_FLIPPED ? -event.y : event.y;
+}
 
 std::uint32_t mouse_flag(Uint8 button) {
   if (button == SDL_BUTTON_LEFT) return MOUSE_LEFT;
@@ -16,7 +21,7 @@ std::uint32_t mouse_flag(Uint8 button) {
 
 int cursor_at(const std::optional<ViewHit>& hit) {
   if (!hit) return CURSOR_ARROW;
-  if (hit->on_caption) return hit->caption == CaptionPart::none ? CURSOR_ARROW : CURSOR_HAND;
+  if (hit->on_caption) return CURSOR_HAND;
   if (!hit->gauge) return CURSOR_ARROW;
   const HotArea* area = hit->gauge->gauge->areas.at(hit->gauge->point, MOUSE_LEFT | MOUSE_RIGHT);
   return area ? area->cursor : CURSOR_ARROW;
@@ -26,6 +31,7 @@ Hint tooltip_at(const std::optional<ViewHit>& hit) {
   if (!hit) return {};
   if (hit->caption == CaptionPart::tear) return {"Tear off into its own window", {}};
   if (hit->caption == CaptionPart::close) return {"Close", {}};
+  if (hit->on_caption) return {"Show it alone", "with Shift beside the others"};
   return hit->gauge ? hint_at(*hit->gauge->gauge, hit->gauge->point) : Hint{};
 }
 
@@ -116,11 +122,13 @@ void MouseHand::press(Uint8 button, int clicks) {
   const auto under = hit();
   if (under && under->on_caption && button == SDL_BUTTON_LEFT) return press_caption(*under, clicks);
   if (under && under->gauge && mouse_flag(button)) press_control(*under, mouse_flag(button));
-  if (!held_ && button != SDL_BUTTON_RIGHT) scrolling_ = true;
+  const View* view = views_.find(view_id_);
+  if (!held_ && button != SDL_BUTTON_RIGHT) scrolling_ = view && !view->is_covered(x_, y_);
 }
 
 void MouseHand::press_control(const ViewHit& hit, std::uint32_t button) {
   let_go();
+  if (look_only_) return;
   CockpitGauge& gauge = *hit.gauge->gauge;
   const input::Press press{gauge.header().name, hit.gauge->point, input::Button{button}};
   if (inputs_.take(press) != Answer::nothing) held_ = Held{&gauge, hit.window, button};
@@ -131,6 +139,8 @@ void MouseHand::press_caption(const ViewHit& hit, int clicks) {
     inputs_.take(input::CloseWindow{inputs_.cockpit().config().windows[hit.window].ident});
   } else if (hit.caption == CaptionPart::tear || clicks == 2) {
     views_.toggle_torn(hit.window);
+  } else {
+    views_.bring(hit.window, SDL_GetModState() & KMOD_SHIFT);
   }
 }
 
@@ -145,9 +155,9 @@ void MouseHand::let_go() {
 }
 
 void MouseHand::wheel(const SDL_MouseWheelEvent& event) {
-  const int notches = event.direction == SDL_MOUSEWHEEL_FLIPPED ? -event.y : event.y;
+  const int notches = notches_of(event);
   const auto under = hit();
-  if (under && under->gauge && notches != 0) {
+  if (under && under->gauge && notches != 0 && !look_only_) {
     const auto [gauge, point] = *under->gauge;
     if (inputs_.take(input::Wheel{gauge->header().name, point, notches}) != Answer::nothing) return;
   }
@@ -160,6 +170,21 @@ void MouseHand::scroll(const SDL_MouseWheelEvent& event) {
   const int step = static_cast<int>(scroll_step * view->scale());
   const bool sideways = SDL_GetModState() & KMOD_SHIFT;
   view->scroll((sideways ? event.y : -event.x) * step, sideways ? 0 : event.y * step);
+}
+
+void MouseHand::zoom(const SDL_MouseWheelEvent& event) {
+  View* view = views_.find(event.windowID);
+  if (view)
+    view->zoom_by(std::pow(zoom_notch, std::clamp(notches_of(event), -20, 20)), place_in(*view));
+}
+
+void MouseHand::look_only(bool only) {
+  let_go();
+  look_only_ = only;
+}
+
+std::optional<PanelPoint> MouseHand::place_in(const View& view) const {
+  return view.screen().id() == view_id_ ? std::optional(PanelPoint{x_, y_}) : std::nullopt;
 }
 
 void MouseHand::tick(double now) {

@@ -22,6 +22,15 @@ class MouseHand {
   /// Shows the hand: under the pointer is something to click that is no panel's.
   void show_hand() { cursors_.show(CURSOR_HAND); }
 
+  /// Turns the wheel of an event into zoom, about the pointer.
+  void zoom(const SDL_MouseWheelEvent& event);
+
+  /// Whether controls are looked at and not worked.
+  void look_only(bool only);
+
+  /// Where the pointer is, if it is in that view.
+  std::optional<PanelPoint> place_in(const View& view) const;
+
   /// Shows a tooltip when its time has come.
   void tick(double now);
 
@@ -60,6 +69,7 @@ class MouseHand {
   Cursors cursors_;
   std::optional<Held> held_;
   bool scrolling_ = false;
+  bool look_only_ = false;
   Uint32 view_id_ = 0;  ///< 0: outside of every view
   int x_ = 0;           ///< pixels of that view
   int y_ = 0;

@@ -32,6 +32,39 @@ void set_icon(SDL_Window* window) {
   SDL_FreeSurface(surface);
 }
 
+int shared(int from, int length, int other, int other_length) {
+  return std::max(0, std::min(from + length, other + other_length) - std::max(from, other));
+}
+
+// The room on the screen that has most of the place; the first one's for a place that is on none.
+SDL_Rect room_for(const WindowPlace& place) {
+  SDL_Rect best{0, 0, 1280, 800};
+  SDL_GetDisplayUsableBounds(0, &best);
+  int most = 0;
+  for (int screen = 0; place.x && place.y && screen < SDL_GetNumVideoDisplays(); ++screen) {
+    SDL_Rect room;
+    if (SDL_GetDisplayUsableBounds(screen, &room) != 0) continue;
+    const int common =
+        shared(*place.x, place.width, room.x, room.w) * shared(*place.y, place.height, room.y, room.h);
+    if (common > most) most = common, best = room;
+  }
+  return best;
+}
+
+SDL_Rect on_a_screen(const WindowPlace& place) {
+  const SDL_Rect room = room_for(place);
+  SDL_Rect rect{SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED, std::min(place.width, room.w),
+                std::min(place.height, room.h)};
+  if (place.x) rect.x = std::clamp(*place.x, room.x, room.x + room.w - rect.w);
+  if (place.y) rect.y = std::clamp(*place.y, room.y, room.y + room.h - rect.h);
+  return rect;
+}
+
+SDL_Window* open_window(const std::string& title, const SDL_Rect& rect) {
+  return SDL_CreateWindow(title.c_str(), rect.x, rect.y, rect.w, rect.h,
+                          SDL_WINDOW_RESIZABLE | SDL_WINDOW_ALLOW_HIGHDPI);
+}
+
 Rect within(const Rect& rect, PanelSize size) {
   const int x = std::clamp(rect.x, 0, size.width), y = std::clamp(rect.y, 0, size.height);
   return {x, y, std::clamp(rect.x + rect.width, 0, size.width) - x,
@@ -67,9 +100,8 @@ PanelSize Desktop::usable_size() {
   return {bounds.w, bounds.h};
 }
 
-ScreenWindow::ScreenWindow(const std::string& title, int width, int height)
-    : window_(SDL_CreateWindow(title.c_str(), SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED, width,
-                               height, SDL_WINDOW_RESIZABLE | SDL_WINDOW_ALLOW_HIGHDPI)) {
+ScreenWindow::ScreenWindow(const std::string& title, const WindowPlace& place)
+    : window_(open_window(title, on_a_screen(place))) {
   if (!window_) throw std::runtime_error(std::string("cannot open a window: ") + SDL_GetError());
   SDL_SetWindowMinimumSize(window_.get(), 160, 120);
   set_icon(window_.get());
@@ -93,9 +125,22 @@ bool ScreenWindow::take_size() {
   return true;
 }
 
-void ScreenWindow::toggle_full_screen() {
-  const bool full = SDL_GetWindowFlags(window_.get()) & SDL_WINDOW_FULLSCREEN_DESKTOP;
-  SDL_SetWindowFullscreen(window_.get(), full ? 0 : SDL_WINDOW_FULLSCREEN_DESKTOP);
+bool ScreenWindow::is_full_screen() const {
+  return SDL_GetWindowFlags(window_.get()) & SDL_WINDOW_FULLSCREEN_DESKTOP;
+}
+
+void ScreenWindow::set_full_screen(bool full) {
+  if (full == is_full_screen()) return;
+  if (full) before_full_ = place();
+  SDL_SetWindowFullscreen(window_.get(), full ? SDL_WINDOW_FULLSCREEN_DESKTOP : 0);
+}
+
+WindowPlace ScreenWindow::place() const {
+  if (is_full_screen()) return before_full_;
+  int x = 0, y = 0, width = 0, height = 0;
+  SDL_GetWindowPosition(window_.get(), &x, &y);
+  SDL_GetWindowSize(window_.get(), &width, &height);
+  return {x, y, width, height};
 }
 
 void ScreenWindow::raise() {

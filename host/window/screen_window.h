@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "host/drawing/painter.h"
+#include "host/window/desk.h"
 
 namespace host {
 
@@ -30,8 +31,8 @@ class Desktop {
 /// One window. All sizes and places are pixels.
 class ScreenWindow {
  public:
-  /// `width` and `height` in the desktop's units.
-  ScreenWindow(const std::string& title, int width, int height);
+  /// Opens it there, moved and made smaller where no screen has room for it.
+  ScreenWindow(const std::string& title, const WindowPlace& place);
 
   Uint32 id() const { return SDL_GetWindowID(window_.get()); }
   PanelSize size() const { return {canvas_.width, canvas_.height}; }
@@ -42,7 +43,11 @@ class ScreenWindow {
   /// Takes the window's present size. Returns whether it has changed.
   bool take_size();
 
-  void toggle_full_screen();
+  void set_full_screen(bool full);
+  bool is_full_screen() const;
+
+  /// Where it stands, or would stand if it did not fill the screen.
+  WindowPlace place() const;
 
   /// Brings it to the front and gives it the keyboard.
   void raise();
@@ -58,6 +63,7 @@ class ScreenWindow {
   };
 
   std::unique_ptr<SDL_Window, Close> window_;
+  WindowPlace before_full_;
   Canvas canvas_;
 };
 

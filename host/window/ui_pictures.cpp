@@ -64,17 +64,27 @@ Overlay draw_card(const std::vector<Line>& lines, double padding, double scale) 
 
 int caption_height(double scale) { return pixels(22 * scale); }
 
-Overlay draw_caption(const std::string& title, const std::string& key, int width, double scale) {
+double caption_width(const std::string& title, const std::string& key, double scale) {
+  const double letter = 0.75 * caption_height(scale);
+  return (key.empty() ? 16 : 26) * scale + Sketch::text_width(title, letter, true) +
+         Sketch::text_width(key, letter, false) + 2 * button_width(scale);
+}
+
+Overlay draw_caption(const std::string& title, const std::string& key, int width, double scale,
+                     bool in_work) {
   const int height = caption_height(scale);
+  const Color face = in_work ? key_face : strip;
   Sketch sketch(std::max(width, 1), height);
-  sketch.rounded_box(0, 0, width, height * 1.5, 4 * scale, strip);
-  sketch.line(0, height - 0.5, width, height - 0.5, 1, {0, 0, 0, 0.6});
-  sketch.text(title, 8 * scale, 0, 0.75 * height, true, ink);
+  sketch.rounded_box(0.5 * scale, 0, width - scale, height * 1.5, 4 * scale, face);
+  if (in_work) sketch.line(scale, height - scale, width - scale, height - scale, 2 * scale, accent);
+  sketch.text(title, 8 * scale, 0, 0.75 * height, true, in_work ? ink : soft_ink);
   if (!key.empty())
     sketch.text(key, 14 * scale + Sketch::text_width(title, 0.75 * height, true), 0, 0.75 * height,
                 false, soft_ink);
   const double middle = height / 2.0, arm = 4 * scale, line = 1.5 * scale;
   const double close = width - button_width(scale) / 2, tear = close - button_width(scale);
+  sketch.rounded_box(width - 2 * button_width(scale), scale, 2 * button_width(scale) - scale,
+                     height - 3 * scale, 0.5, face);  // over the end of a long title
   sketch.line(close - arm, middle - arm, close + arm, middle + arm, line, soft_ink);
   sketch.line(close - arm, middle + arm, close + arm, middle - arm, line, soft_ink);
   sketch.box_outline(tear - arm - 1 * scale, middle - 1 * scale, arm * 1.6, arm * 1.4, 0.5, line,

@@ -16,8 +16,13 @@ int caption_height(double scale);
 /// What a point of a caption does.
 enum class CaptionPart { none, tear, close };
 
-/// A panel's caption: its title, the key that opens it, and two buttons at the right end.
-Overlay draw_caption(const std::string& title, const std::string& key, int width, double scale);
+/// A panel's tab: its title, the key that opens it, and two buttons at the right end. `in_work`: it is one of
+/// those that are shown.
+Overlay draw_caption(const std::string& title, const std::string& key, int width, double scale,
+                     bool in_work);
+
+/// The width that a tab likes to have.
+double caption_width(const std::string& title, const std::string& key, double scale);
 
 /// The button under a point of a caption of that width.
 CaptionPart caption_part(int x, int width, double scale);

@@ -17,15 +17,28 @@ std::string key_hint(const WindowConfig& window) {
   return {};
 }
 
+constexpr double most_zoom = 3.0;  // of a small panel that has the window for itself, at scale 1
+
 }  // namespace
 
-View::View(const Cockpit& cockpit, Kind kind, const std::string& title, PanelSize size, double scale)
-    : cockpit_(cockpit), kind_(kind), scale_(scale), screen_(title, size.width, size.height) {}
+View::View(const Cockpit& cockpit, Kind kind, const std::string& title, const WindowPlace& place,
+           double scale)
+    : cockpit_(cockpit), kind_(kind), scale_(scale), screen_(title, place) {}
 
-void View::show(std::vector<std::size_t> windows) {
-  if (windows == windows_) return;
+void View::show(std::vector<std::size_t> windows, std::vector<std::size_t> tabs) {
+  if (windows == windows_ && tabs == tab_windows_) return;
   windows_ = std::move(windows);
+  tab_windows_ = std::move(tabs);
   layout_old_ = true;
+}
+
+bool View::has_room_beside(std::vector<std::size_t> windows, std::size_t more) const {
+  if (windows.empty()) return true;
+  LayoutArea room = area();
+  room.height -= outside_.height;
+  windows.push_back(more);
+  return arrange(window_sizes(cockpit_, windows), room, std::nullopt, most_zoom * scale()).zoom >=
+         zoom() * 0.999;
 }
 
 void View::set_zoom(std::optional<double> zoom) {
@@ -34,9 +47,27 @@ void View::set_zoom(std::optional<double> zoom) {
   zoom_ = zoom;
 }
 
-void View::take_size() {
-  screen_.take_size();
-  layout_old_ = true;  // the screen may have lost the picture in any case
+void View::zoom_by(double factor, std::optional<PanelPoint> at) {
+  const PanelPoint pixel = at.value_or(PanelPoint{screen_.size().width / 2, screen_.size().height / 2});
+  const auto distance = [&](const Panel& panel) {
+    const Rect place = on_screen(panel.place);
+    return std::hypot(std::max({place.x - pixel.x, 0, pixel.x - place.x - place.width}),
+                      std::max({place.y - pixel.y, 0, pixel.y - place.y - place.height}));
+  };
+  const auto nearest = std::ranges::min_element(panels_, {}, distance);
+  if (nearest != panels_.end()) {
+    const Rect place = on_screen(nearest->place);
+    anchor_ = {nearest->picture.window(), static_cast<double>(pixel.x - place.x) / place.width,
+               static_cast<double>(pixel.y - place.y) / place.height, pixel};
+  }
+  set_zoom(zoom() * factor);
+}
+
+bool View::settle() {
+  if (!layout_old_) return false;
+  const bool resized = screen_.take_size();
+  relayout();  // even at the same size: the screen may have lost the picture
+  return resized;
 }
 
 void View::mark_areas(bool marked) {
@@ -100,30 +131,62 @@ void View::make_room_outside(const std::vector<PanelSize>& sizes, LayoutArea& ar
   outside_ = {0, 0, area.width, height};
 }
 
+LayoutArea View::area() const {
+  const PanelSize size = screen_.size();
+  if (kind_ == Kind::torn) return {size.width, size.height, 0, 0};
+  return {size.width - kept_free_, size.height - caption_height(scale()), static_cast<int>(std::lround(6 * scale())),
+          0};
+}
+
 void View::relayout() {
   layout_old_ = false;
-  const PanelSize size = screen_.size();
-  const int caption = kind_ == Kind::main ? caption_height(scale()) : 0;
-  const int gap = kind_ == Kind::main ? static_cast<int>(std::lround(6 * scale())) : 0;
-  LayoutArea area{size.width - kept_free_, size.height, gap, caption};
+  LayoutArea room = area();
+  const int strip = screen_.size().height - room.height;
   const std::vector<PanelSize> sizes = window_sizes(cockpit_, windows_);
-  make_room_outside(sizes, area);
-  layout_ = arrange(sizes, area, zoom_, 8.0);
-  layout_.height += outside_.height;
-  for (Rect& place : layout_.places) place.y += outside_.height;
+  make_room_outside(sizes, room);
+  layout_ = arrange(sizes, room, zoom_, most_zoom * scale());
   panels_.clear();
   for (std::size_t i = 0; i < windows_.size(); ++i) {
-    const WindowConfig& window = cockpit_.config().windows[windows_[i]];
-    Panel& panel = panels_.emplace_back(
-        Panel{PanelPicture(cockpit_, windows_[i], layout_.zoom), layout_.places[i], {}});
-    panel.picture.mark_areas(areas_marked_);
-    if (!caption) continue;
-    panel.caption = draw_caption(window.title, key_hint(window), panel.place.width, scale());
-    panel.caption.x = panel.place.x;
-    panel.caption.y = panel.place.y - caption;
+    Rect place = layout_.places[i];
+    place.y += outside_.height + strip;
+    panels_.push_back({PanelPicture(cockpit_, windows_[i], layout_.zoom), place});
+    panels_.back().picture.mark_areas(areas_marked_);
   }
+  layout_.height += outside_.height + strip;
+  place_tabs();
+  keep_anchor();
   limit_scroll();
   all_changed_ = true;
+}
+
+// The tabs stand below the view out of the window, each as wide as it likes, or narrower where there are many.
+void View::place_tabs() {
+  tabs_.clear();
+  double wanted = 0;
+  const auto width_of = [&](const WindowConfig& window) {
+    return caption_width(window.title, key_hint(window), scale());
+  };
+  for (std::size_t window : tab_windows_) wanted += width_of(cockpit_.config().windows[window]);
+  const double share = std::min(1.0, (screen_.size().width - kept_free_) / std::max(wanted, 1.0));
+  int x = 0;
+  for (std::size_t i : tab_windows_) {
+    const WindowConfig& window = cockpit_.config().windows[i];
+    const bool in_work = std::ranges::find(windows_, i) != windows_.end();
+    Tab& tab = tabs_.emplace_back(
+        Tab{i, draw_caption(window.title, key_hint(window), static_cast<int>(width_of(window) * share),
+                            scale(), in_work)});
+    tab.picture.x = x;
+    tab.picture.y = outside_.height;
+    x += tab.picture.width;
+  }
+}
+
+void View::keep_anchor() {
+  for (const Panel& panel : panels_)
+    if (anchor_ && anchor_->window == panel.picture.window())
+      scroll_ = {static_cast<int>(anchor_->at.x - panel.place.x - anchor_->right * panel.place.width),
+                 static_cast<int>(anchor_->at.y - panel.place.y - anchor_->down * panel.place.height)};
+  anchor_.reset();
 }
 
 void View::limit_scroll() {
@@ -181,43 +244,62 @@ void View::draw_outside(const std::optional<outside::Sight>& sight) {
 }
 
 bool View::refresh(double blend, const std::optional<outside::Sight>& sight) {
-  if (layout_old_) relayout();
   place_mark();
   draw_panels(blend);
   draw_outside(sight);
-  if (all_changed_) changed_ = {{0, 0, screen_.size().width, screen_.size().height}};
+  if (all_changed_) changed_ = {whole_of(screen_.canvas())};
   all_changed_ = false;
   if (changed_.empty()) return false;
-  for (const Rect& rect : changed_) compose(rect);
+  for (const Rect& rect : changed_) {
+    compose(screen_.canvas(), rect);
+    for (const auto& layer : layers_)
+      if (layer) blend_within(screen_.canvas(), *layer, layer->x, layer->y, rect);
+  }
   screen_.present(changed_);
   changed_.clear();
   return true;
 }
 
-void View::compose(const Rect& rect) {
-  Canvas& canvas = screen_.canvas();
+void View::compose(Canvas& canvas, const Rect& rect) const {
   fill(canvas, rect, surround_color);
   for (const Panel& panel : panels_) {
     const Rect place = on_screen(panel.place);
     copy_within(canvas, panel.picture.canvas(), place.x, place.y, rect);
-    blend_within(canvas, panel.caption, panel.caption.x + scroll_.x, panel.caption.y + scroll_.y, rect);
   }
   if (shows_outside()) copy_within(canvas, outside_picture_, outside_.x, outside_.y, rect);
-  for (const auto& layer : layers_)
-    if (layer) blend_within(canvas, *layer, layer->x, layer->y, rect);
+  if (tabs_.empty()) return;
+  const Rect strip{0, outside_.height, canvas.width, tabs_[0].picture.height};
+  fill(canvas, intersection(strip, rect), surround_color);
+  for (const Tab& tab : tabs_) blend_within(canvas, tab.picture, tab.picture.x, tab.picture.y, rect);
+}
+
+Canvas View::picture() const {
+  Canvas canvas(screen_.size().width, screen_.size().height);
+  compose(canvas, whole_of(canvas));
+  return canvas;
+}
+
+bool View::is_covered(int x, int y) const {
+  for (const Layer layer : {Layer::badge, Layer::note, Layer::controls, Layer::help})
+    if (const auto& over = layers_[static_cast<std::size_t>(layer)])
+      if (overlap({over->x, over->y, over->width, over->height}, {x, y, 1, 1})) return true;
+  return false;
 }
 
 std::optional<ViewHit> View::hit(int x, int y) const {
-  if (overlap(outside_, {x, y, 1, 1}) || x >= screen_.size().width - kept_free_) return std::nullopt;
-  const Rect pixel{x - scroll_.x, y - scroll_.y, 1, 1};
-  for (std::size_t i = 0; i < panels_.size(); ++i) {
-    const Panel& panel = panels_[i];
-    const Overlay& caption = panel.caption;
-    if (overlap({caption.x, caption.y, caption.width, caption.height}, pixel))
-      return ViewHit{windows_[i], caption_part(pixel.x - caption.x, caption.width, scale()), true, {}};
-    if (overlap(panel.place, pixel))
-      return ViewHit{windows_[i], CaptionPart::none, false,
-                     panel.picture.hit(pixel.x - panel.place.x, pixel.y - panel.place.y)};
+  const Rect pixel{x, y, 1, 1};
+  if (x >= screen_.size().width - kept_free_) return std::nullopt;
+  if (is_covered(x, y) || overlap(outside_, pixel)) return std::nullopt;
+  for (const auto& [window, tab] : tabs_)
+    if (overlap({tab.x, tab.y, tab.width, tab.height}, pixel))
+      return ViewHit{window, caption_part(x - tab.x, tab.width, scale()), true, {}};
+  if (!tabs_.empty() && y >= outside_.height && y < outside_.height + tabs_[0].picture.height)
+    return {};
+  for (const Panel& panel : panels_) {
+    const Rect place = on_screen(panel.place);
+    if (overlap(place, pixel))
+      return ViewHit{panel.picture.window(), CaptionPart::none, false,
+                     panel.picture.hit(x - place.x, y - place.y)};
   }
   return std::nullopt;
 }

@@ -16,7 +16,7 @@
 namespace host {
 
 /// What the program lays over the panels, from the lowest to the topmost.
-enum class Layer { mark, page, badge, note, tooltip, controls, help, count };
+enum class Layer { mark, page, badge, zoom, note, tooltip, controls, help, count };
 
 /// What lies under a pixel of a view.
 struct ViewHit {
@@ -26,32 +26,45 @@ struct ViewHit {
   std::optional<PanelHit> gauge;
 };
 
-/// Shows some of a cockpit's windows: the main view all that are open, side by side under captions;
-/// a torn-off view one, without a caption and as large as its window.
+/// Shows some of a cockpit's windows: the main view those in work, side by side below a strip with a tab for
+/// every one that is open; a torn-off view one, without a strip and as large as its window.
+///
+/// Whatever happens to it, what it shows changes in settle() alone: until then a pixel still hits what is
+/// seen there.
 class View {
  public:
   enum class Kind { main, torn };
 
-  /// `scale` is the desktop's; width and height are in its units.
-  View(const Cockpit& cockpit, Kind kind, const std::string& title, PanelSize size, double scale);
+  /// `scale` is the desktop's.
+  View(const Cockpit& cockpit, Kind kind, const std::string& title, const WindowPlace& place,
+       double scale);
 
   ScreenWindow& screen() { return screen_; }
   const ScreenWindow& screen() const { return screen_; }
   double scale() const { return scale_ * screen_.density(); }
 
-  /// Shows these windows, in this order.
-  void show(std::vector<std::size_t> windows);
-  const std::vector<std::size_t>& windows() const { return windows_; }
+  /// Shows these windows, in this order, and a tab for each of `tabs`.
+  void show(std::vector<std::size_t> windows, std::vector<std::size_t> tabs = {});
+
+  /// Whether one more window can stand beside these without making anything smaller.
+  bool has_room_beside(std::vector<std::size_t> windows, std::size_t more) const;
 
   /// Screen pixels per panel pixel; empty: as large as fits.
   void set_zoom(std::optional<double> zoom);
-  double zoom() const { return layout_.zoom; }
+  double zoom() const { return zoom_.value_or(layout_.zoom); }
+  std::optional<double> chosen_zoom() const { return zoom_; }
+
+  /// Changes the zoom and leaves what lies under a pixel where it is, as far as the window's edges let it.
+  void zoom_by(double factor, std::optional<PanelPoint> at);
 
   /// Moves the panels under the window where they do not all fit.
   void scroll(int dx, int dy);
 
-  /// Takes a new size of the desktop's window.
-  void take_size();
+  /// Takes a new size of the desktop's window at the next settle().
+  void take_size() { layout_old_ = true; }
+
+  /// Takes on everything that was asked of it since the last call. Returns whether its size has changed.
+  bool settle();
 
   /// Everything is drawn and presented again with the next refresh.
   void invalidate() { all_changed_ = true; }
@@ -80,7 +93,13 @@ class View {
   /// whether anything had changed.
   bool refresh(double blend, const std::optional<outside::Sight>& sight);
 
+  /// What it shows, without what the program lays over it.
+  Canvas picture() const;
+
   std::optional<ViewHit> hit(int x, int y) const;
+
+  /// Whether a page, a note or a badge lies over the pixel.
+  bool is_covered(int x, int y) const;
 
   /// A pixel of the view as a point of a gauge of one of its windows.
   PanelPoint point_on(std::size_t window, const CockpitGauge& gauge, int x, int y) const;
@@ -88,11 +107,22 @@ class View {
  private:
   struct Panel {
     PanelPicture picture;
-    Rect place;       ///< in the layout
-    Overlay caption;  ///< in the layout; empty in a torn view
+    Rect place;  ///< in the layout
+  };
+  struct Tab {
+    std::size_t window;
+    Overlay picture;
+  };
+  struct Anchor {
+    std::size_t window;
+    double right, down;  ///< of the panel's width and height
+    PanelPoint at;       ///< of the view
   };
 
   void relayout();
+  void place_tabs();
+  void keep_anchor();
+  LayoutArea area() const;
   void make_room_outside(const std::vector<PanelSize>& sizes, LayoutArea& area);
   void draw_outside(const std::optional<outside::Sight>& sight);
   void limit_scroll();
@@ -101,17 +131,20 @@ class View {
   Rect on_screen(const Rect& rect) const;
   void draw_panels(double blend);
   void change(const Rect& rect);
-  void compose(const Rect& rect);
+  void compose(Canvas& canvas, const Rect& rect) const;
 
   const Cockpit& cockpit_;
   Kind kind_;
   double scale_;
   ScreenWindow screen_;
-  std::vector<std::size_t> windows_;
+  std::vector<std::size_t> windows_;      ///< to show from the next settle() on
+  std::vector<std::size_t> tab_windows_;  ///< likewise
   std::optional<double> zoom_;
   Layout layout_;
   PanelPoint scroll_{};
   std::vector<Panel> panels_;
+  std::vector<Tab> tabs_;
+  std::optional<Anchor> anchor_;  ///< of a change of zoom
   bool outside_wanted_ = false;
   Rect outside_;  ///< of the screen; empty where the view does not stand
   Canvas outside_picture_;

@@ -85,7 +85,7 @@ TEST_P(BadInput, GetsOneClearMessage) {
 INSTANTIATE_TEST_SUITE_P(
     Commands, BadInput,
     testing::Values(
-        Case{"no_command", "", 2, "subcommand is required"},
+        Case{"no_command", "", 1, "no display to open a window on"},
         Case{"unknown_command", "sail", 2, "there is no command 'sail'"},
         Case{"unknown_option", "run --speed 3", 2, "--speed"},
         Case{"bad_rate", "run --rate 0", 2, "--rate: '0' is not a number from 1 to 240"},
@@ -175,7 +175,9 @@ INSTANTIATE_TEST_SUITE_P(
              "no display to open a window on (neither DISPLAY nor WAYLAND_DISPLAY is set). "
              "Without one: tarnvale run"},
         Case{"show_no_display", "show Ctr", 1, "no display to open a window on"},
-        Case{"open_unknown", "fly --open 7", 1, "--open: there is no window 7"}),
+        Case{"open_unknown", "fly --open 7", 1, "there is no window 7; there are: Captain"},
+        Case{"open_ambiguous", "fly --open P", 1, "there is no window P; there are: "},
+        Case{"bad_place", "fly --place Overhead=1,2", 1, "--place Overhead=1,2: needs 4 numbers"}),
     [](const auto& test) { return test.param.name; });
 
 TEST(Program, HelpsEveryCommand) {

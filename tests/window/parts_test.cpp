@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "host/window/compose.h"
+#include "host/window/desk.h"
 #include "host/window/height_above.h"
 #include "host/window/ui_pictures.h"
 #include "host/window/x11_desktop.h"
@@ -71,6 +72,32 @@ TEST(HeightAbove, LeavesThePanelsLegible) {
     const int above = height_above(panels, {width, height, 6, 22}, zoom, scale);
     EXPECT_GE(above, least) << what;
     EXPECT_LE(above, most) << what;
+  }
+}
+
+TEST(Desk, IsReadAsItWasWrittenAndBadLinesAreTold) {
+  Desk desk;
+  desk.main = {WindowPlace{-20, 0, 1280, 720}, 1.0 / 3, true};
+  desk.outside = false;
+  desk.panels[500].open = desk.panels[500].torn = true;
+  desk.panels[500].place = WindowPlace{1920, 10, 800, 600};
+  desk.panels[502].in_work = true;
+  std::string notes;
+  EXPECT_EQ(parse_desk(text_of(desk), "windows.cfg", notes), desk);
+  EXPECT_EQ(notes, "");
+
+  const struct {
+    const char* line;
+    const char* wrong;
+  } cases[] = {{"place = 1,2,3", "needs 4 numbers"},   {"place = 0,0,9,900", "a window is 100 to 16384"},
+               {"zoom = nan", "expected a zoom"}, {"zoom = 1e99", "expected a zoom"},
+               {"full_screen = yes", "'yes'"},    {"torn = 1", "there is no entry 'torn' here"},
+               {"zoom", "expected name = value"}, {"[0]", "0 is outside"},
+               {"[50000000000]", "50000000000"}};
+  for (const auto& each : cases) {
+    std::string told;
+    EXPECT_EQ(parse_desk("[window]\n" + std::string(each.line), "w.cfg", told), Desk{}) << each.line;
+    EXPECT_TRUE(told.starts_with("w.cfg:2: ") && told.find(each.wrong) != std::string::npos) << told;
   }
 }
 

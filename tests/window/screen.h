@@ -72,7 +72,8 @@ class Screen {
 
   std::string environment() const {
     return "env -u WAYLAND_DISPLAY -u SDL_VIDEODRIVER DISPLAY=" + display_ +
-           " XDG_STATE_HOME=" + state_.path().string() + " ";
+           " XDG_STATE_HOME=" + state_.path().string() + " XDG_CONFIG_HOME=" + (state_ / "config") +
+           " ";
   }
 
   const std::string& display() const { return display_; }

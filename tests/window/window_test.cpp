@@ -96,14 +96,10 @@ class InAWindow : public testing::Test {
     return eventually([&] { return file_text(record).find(text) != std::string::npos; });
   }
 
-  // Takes a picture with the key and returns the colour of a pixel of the panel.
-  unsigned look(int x, int y) {
-    char name[32];
-    std::snprintf(name, sizeof name, "tarnvale-%03d.png", ++pictures);
-    const std::string file = folder / name;
-    screen->hands("key F12");
-    EXPECT_TRUE(eventually([&] { return file_text(file).ends_with("IEND\xAE\x42\x60\x82"); })) << file;
-    return pixel(file, place.x + x, place.y + y);
+  // The colour of a pixel of the panel on the screen, when the program has had time for it.
+  unsigned look(int x, int y) const {
+    std::this_thread::sleep_for(std::chrono::milliseconds(120));
+    return x11_pixel(screen->display(), corner.x + place.x + x, corner.y + place.y + y);
   }
 
   int leave() {
@@ -123,6 +119,8 @@ class InAWindow : public testing::Test {
   PanelSize window{};
   int pictures = 0;
 };
+
+constexpr const char* picture_end = "IEND\xAE\x42\x60\x82";
 
 int green(unsigned color) { return static_cast<int>(color >> 8 & 255); }
 
@@ -158,8 +156,10 @@ TEST_F(InAWindow, ASessionThatWasKilledIsTakenUpWhereItWasLeft) {
   const auto good_lines = std::count(left.begin(), left.end(), '\n');
 
   begin("--resume");
-  EXPECT_EQ(file_text(folder / "log"), "Journal: " + journal + ":" + std::to_string(good_lines + 1) +
-                                           ": damaged or cut off; the flight is taken up to here\n");
+  const std::string said = "Journal: " + journal + ":" + std::to_string(good_lines + 1) +
+                           ": damaged or cut off; the flight is taken up to here\n";
+  EXPECT_TRUE(eventually([&] { return file_text(folder / "log") == said; }))
+      << file_text(folder / "log");
   EXPECT_TRUE(eventually(is_lit)) << "the battery is on";
   click(47, 99);
   EXPECT_TRUE(eventually([&] { return !is_lit(); }));
@@ -206,6 +206,47 @@ TEST_F(InAWindow, ThePanelLightsComeOnAndTheHelpLiesOverThePanel) {
   EXPECT_EQ(leave(), 0);
 }
 
+// A held key writes one picture, and what the program lays over the panel is not in it.
+TEST_F(InAWindow, APictureShowsThePanelAndNotTheHelpOverIt) {
+  const unsigned plate = look(385, 85);
+  screen->hands("key h sleep 0.3 keydown s sleep 1 keyup s");
+  EXPECT_NE(look(385, 85), plate) << "no help page";
+  const std::string file = folder / "tarnvale-001.png";
+  ASSERT_TRUE(eventually([&] { return file_text(file).ends_with(picture_end); }));
+  EXPECT_EQ(pixel(file, place.x + 385, place.y + 85), plate);
+  EXPECT_FALSE(std::filesystem::exists(folder / "tarnvale-002.png"));
+  EXPECT_EQ(leave(), 0);
+}
+
+TEST_F(InAWindow, APauseLetsNobodyWorkAControl) {
+  screen->hands("key p");
+  click(47, 99);
+  screen->hands("key p");
+  click(240, 35, 4);  // the wheel over the DC selector, after the pause
+  EXPECT_TRUE(recorded("Acdcsw"));
+  EXPECT_EQ(file_text(record).find("Masterbat"), std::string::npos);
+  EXPECT_EQ(leave(), 0);
+}
+
+TEST_F(InAWindow, TheWindowsStandAsTheyWereLeft) {
+  screen->hands(move_to(300, 90) + "sleep 0.1 key t");
+  ASSERT_TRUE(eventually([&] { return windows("Overhead") == 1; }));
+  screen->hands("search --name Overhead windowmove 33 44 windowsize 500 290 sleep 0.3");
+  screen->hands("mousemove 100 100 sleep 0.1 key 6");
+  ASSERT_TRUE(recorded("open_window(505)"));
+  screen->hands("key q");
+  program->wait();
+
+  begin("");
+  ASSERT_TRUE(eventually([&] { return windows("Overhead") == 1; })) << file_text(folder / "log");
+  EXPECT_TRUE(eventually([&] {
+    const std::string geometry = screen->hands("search --name Overhead getwindowgeometry").output;
+    return geometry.find("Position: 33,44") != std::string::npos &&
+           geometry.find("Geometry: 500x290") != std::string::npos;
+  })) << screen->hands("search --name Overhead getwindowgeometry").output;
+  EXPECT_EQ(leave(), 0);
+}
+
 // The captain's panel alone on a screen of a size on which the view has room.
 class CaptainInAWindow : public InAWindow {
  protected:
@@ -223,7 +264,7 @@ class CaptainInAWindow : public InAWindow {
 };
 
 TEST_F(CaptainInAWindow, TheViewStandsAboveThePanelAndGoesWithItsKey) {
-  EXPECT_TRUE(is_sky(look_out(20)));
+  EXPECT_TRUE(eventually([&] { return is_sky(look_out(20)); }));
   screen->hands("key v");
   EXPECT_TRUE(eventually([&] { return !is_sky(look_out(20)); })) << "the view stays";
   screen->hands("key v");
@@ -237,7 +278,7 @@ TEST_F(CaptainInAWindow, TheViewStandsAboveThePanelAndGoesWithItsKey) {
 TEST_F(CaptainInAWindow, AHeldArrowBanksTheAircraft) {
   const auto sky_at = [&](int x) { return is_sky(look(x, 12 - place.y)); };
   const int left = 30 - place.x, right = place.width + place.x - 30;
-  EXPECT_TRUE(sky_at(left) && sky_at(right)) << "level at first";
+  EXPECT_TRUE(eventually([&] { return sky_at(left) && sky_at(right); })) << "level at first";
   screen->hands("keydown Left");
   EXPECT_TRUE(eventually([&] { return !sky_at(left) && sky_at(right); })) << "no bank to the left";
   screen->hands("keyup Left");
