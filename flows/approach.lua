@@ -104,10 +104,8 @@ click("Intro", "captain_running")
 wait(1)
 place_in_flight{altitude = 5000, airspeed = 220, heading = 225, along = 5000, right = -13500}
 event("altimeters_to_qnh")
-for _, window in ipairs({500, 502, 503, 504}) do open_window(window) end
+for _, window in ipairs({500, 503, 504}) do open_window(window) end
 wait(0.5)
-expect(image("Avimaster", "avionics_lamp") == 1, "the avionics are off")
-close_window(502)
 click("Rmi", "right_bearing_selector")  -- to the beacon at the outer marker
 
 say("Autopilot")
