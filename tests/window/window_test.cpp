@@ -56,6 +56,7 @@ class InAWindow : public testing::Test {
     program = std::make_unique<Child>(command.str(), -1);
     ASSERT_TRUE(eventually([&] { return windows("Tarnvale") == 1; })) << file_text(folder / "log");
     take_geometry();
+    ASSERT_TRUE(eventually([&] { return look(2, 2) != 0; })) << "no first picture";
   }
 
   int windows(const std::string& title) {
