@@ -7,8 +7,8 @@
 #include "host/panel/area_marks.h"
 #include "host/panel/hints.h"
 #include "host/panel/panel_scene.h"
-#include "host/window/compose.h"
 #include "host/sketch/palette.h"
+#include "host/window/compose.h"
 
 namespace host {
 namespace {
