@@ -39,6 +39,7 @@ struct Row {
   const char* words;  ///< unlike those of every other part of the gauge
   Element day;
   Element lit;
+  failure::Loss without_power = failure::never;
 
   // ---- Both copies
 
@@ -57,17 +58,17 @@ struct Row {
     return row;
   }
 
-  /// What it shows while a system has failed, in place of the usual of its kind.
-  constexpr Row failing(const FailureEntry* table) const {
-    Row row = *this;
-    row.day.failures = row.lit.failures = table;
+  /// What it does without power, in place of the usual of its kind.
+  constexpr Row failing(failure::Loss loss) const {
+    Row row = with_table(failure::table_of(loss));
+    row.without_power = loss;
     return row;
   }
 
   /// What makes it fail besides the loss of power. A part that works by hand goes on.
   constexpr Row fails_with(const failure::System& system) const {
-    if (day.failures == failure::never) return *this;
-    return failing(day.failures == failure::at_rest ? system.at_rest : system.dark);
+    if (without_power == failure::never) return *this;
+    return with_table(without_power == failure::dark ? system.dark : system.at_rest);
   }
 
   /// Image flags by day; the lit copy shines beside them.
@@ -132,6 +133,12 @@ struct Row {
   }
 
  private:
+  constexpr Row with_table(const FailureEntry* table) const {
+    Row row = *this;
+    row.day.failures = row.lit.failures = table;
+    return row;
+  }
+
   /// Never defined: a row that says what its kind does not have does not compile.
   static void not_of_this_kind();
 
@@ -154,14 +161,13 @@ using Rows = std::array<Row, count>;
 namespace detail {
 
 constexpr Row row(const char* words, u32 kind, i32 resource, PanelPoint at, u32 flags,
-                  const FailureEntry* failures) {
+                  failure::Loss without_power) {
   Element e{};
   e.kind = kind;
   e.resource_id = resource;
   e.position = at;
-  e.failures = failures;
   e.image_flags = flags;
-  return Row{words, e, e}.flags(flags);
+  return Row{words, e, e}.flags(flags).failing(without_power);
 }
 
 constexpr TokenVariable source(u32 token) { return {token, 0, 0.0}; }

@@ -20,14 +20,19 @@ inline constexpr u32 key_avionics = 21;    ///< no power on the avionics bus
 
 inline constexpr FailureEntry end_of_table{0, 0, 0};
 
-/// Parts that work by hand.
-inline constexpr const FailureEntry* never = nullptr;
+/// What a part does without power.
+enum Loss {
+  never,    ///< works by hand: goes on
+  dark,     ///< lamps, lighting and electrical read-outs
+  at_rest,  ///< electrical meters and indicators: the needle falls to 0
+};
 
-/// Lamps, lighting and electrical read-outs: dark without power.
-inline constexpr FailureEntry dark[] = {{key_electrical, FAILURE_HIDE, 0}, end_of_table};
+inline constexpr FailureEntry dark_table[] = {{key_electrical, FAILURE_HIDE, 0}, end_of_table};
+inline constexpr FailureEntry at_rest_table[] = {{key_electrical, FAILURE_ZERO, 0}, end_of_table};
 
-/// Electrical meters and indicators: the needle falls to rest without power.
-inline constexpr FailureEntry at_rest[] = {{key_electrical, FAILURE_ZERO, 0}, end_of_table};
+constexpr const FailureEntry* table_of(Loss loss) {
+  return loss == dark ? dark_table : loss == at_rest ? at_rest_table : nullptr;
+}
 
 /// What else makes a part fail that goes dark, or falls to rest, without power.
 struct System {

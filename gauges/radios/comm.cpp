@@ -5,7 +5,8 @@ namespace tarnvale {
 namespace {
 
 constexpr FrequencyHead head{
-    .radio = {.active = token::com1_active,
+    .radio = {.system = &failure::avionics,
+              .active = token::com1_active,
               .standby = token::com1_standby,
               .exchange = event::com1_exchange,
               .megahertz_down = event::com1_megahertz_down,

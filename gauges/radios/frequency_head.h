@@ -11,12 +11,14 @@
 
 namespace tarnvale {
 
-/// The host's side of a radio: tokens and events.
+/// The host's side of a radio: what makes it fail, tokens and events.
 struct Radio {
+  const failure::System* system;
   u32 active, standby, exchange;
   u32 megahertz_down, megahertz_up, kilohertz_down, kilohertz_up;
 };
 inline constexpr Radio nav1_radio{
+    .system = &failure::receiver_1,
     .active = token::nav1_active,
     .standby = token::nav1_standby,
     .exchange = event::nav1_exchange,
@@ -63,15 +65,17 @@ constexpr PanelPoint beside(PanelPoint at, i32 right, i32 below = 0) {
 }
 
 constexpr Rows<5> figures(const DisplayWords& words, const DisplayBitmaps& bitmaps, PanelPoint at,
-                          u32 frequency) {
+                          u32 frequency, const failure::System& system) {
   constexpr Range figure{0, 9};
+  const auto drum_of = [&](const char* name, i32 strip, i32 right, ValueRoutine digit) {
+    return drum(name, strip, beside(at, right), figure, digit).from(frequency).fails_with(system);
+  };
   return {
       icon(words.leading, bitmaps.leading_one, at, lit_at<&Aircraft::avionics_master_on>),
-      drum(words.tens, bitmaps.megahertz, beside(at, 10), figure, packed_digit<3>).from(frequency),
-      drum(words.units, bitmaps.megahertz, beside(at, 20), figure, packed_digit<2>).from(frequency),
-      drum(words.tenths, bitmaps.kilohertz, beside(at, 31), figure, packed_digit<1>).from(frequency),
-      drum(words.hundredths, bitmaps.kilohertz, beside(at, 41), figure, packed_digit<0>)
-          .from(frequency),
+      drum_of(words.tens, bitmaps.megahertz, 10, packed_digit<3>),
+      drum_of(words.units, bitmaps.megahertz, 20, packed_digit<2>),
+      drum_of(words.tenths, bitmaps.kilohertz, 31, packed_digit<1>),
+      drum_of(words.hundredths, bitmaps.kilohertz, 41, packed_digit<0>),
   };
 }
 
@@ -102,14 +106,14 @@ void transfer() {
 /// `clock` times the transfer light, whose flag is `light`.
 template <FrequencyHead head, auto clock, auto light>
 constexpr Rows<15> frequency_rows() {
-  return rows(figures(standby_words, head.display, head.standby, head.radio.standby),
-              figures(active_words, head.display, head.active, head.radio.active),
-              display_cover(standby_words.cover, head.standby),
-              display_cover(active_words.cover, head.active),
-              display_power(standby_words.power, head.display.power, head.standby),
-              display_power(active_words.power, head.display.power, head.active),
-              icon("Transfer button", head.transfer_bitmap, head.transfer_light,
-                   held_lit<clock, light, transfer_time>));
+  return rows(
+      figures(standby_words, head.display, head.standby, head.radio.standby, *head.radio.system),
+      figures(active_words, head.display, head.active, head.radio.active, *head.radio.system),
+      display_cover(standby_words.cover, head.standby), display_cover(active_words.cover, head.active),
+      display_power(standby_words.power, head.display.power, head.standby),
+      display_power(active_words.power, head.display.power, head.active),
+      icon("Transfer button", head.transfer_bitmap, head.transfer_light,
+           held_lit<clock, light, transfer_time>));
 }
 
 template <FrequencyHead head, auto clock, auto light>

@@ -69,13 +69,17 @@ constinit Body body{
         needle("Third code knob", knob_bitmap, third_knob, knob_pivot, third_scale, code_knob<2>),
         needle("Fourth code knob", knob_bitmap, fourth_knob, knob_pivot, fourth_scale, code_knob<3>),
         drum("First figure", figure_strip, {86, 31}, figure, code_figure<3>)
-            .from(token::transponder_code),
+            .from(token::transponder_code)
+            .fails_with(failure::avionics),
         drum("Second figure", figure_strip, {96, 31}, figure, code_figure<2>)
-            .from(token::transponder_code),
+            .from(token::transponder_code)
+            .fails_with(failure::avionics),
         drum("Third figure", figure_strip, {106, 31}, figure, code_figure<1>)
-            .from(token::transponder_code),
+            .from(token::transponder_code)
+            .fails_with(failure::avionics),
         drum("Fourth figure", figure_strip, {116, 31}, figure, code_figure<0>)
-            .from(token::transponder_code),
+            .from(token::transponder_code)
+            .fails_with(failure::avionics),
         icon("IDENT light", 2390, {85, 22}, ident_light),
         icon("IDENT button", 2380, {34, 15}, ident_button),
         icon("Transponder selector", {2450, last_mode + 1}, {169, 15},

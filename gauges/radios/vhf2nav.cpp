@@ -5,6 +5,7 @@ namespace tarnvale {
 namespace {
 
 constexpr Radio nav2_radio{
+    .system = &failure::receiver_2,
     .active = token::nav2_active,
     .standby = token::nav2_standby,
     .exchange = event::nav2_exchange,

@@ -157,11 +157,12 @@ TEST(Program, ListsWhatTheCockpitHas) {
     const char* what;
     const char* row;
   } cases[] = {
-      {"gauges", "  2  Masterbat      174     148        15      3  Overhead\n"},
+      {"gauges", "  2  Masterbat      174     148        15      3  Overhead, Behind the Panels\n"},
       {"names Acdcsw", "Acdcsw  dc_meter_selector       icon  wheel    DC meter selector\n"},
       {"windows", "  502              Overhead"},
       {"tokens", "   364  0x16C  battery"},
       {"events", " 66374  0x10346  battery_toggle"},
+      {"failures", "103  generator_1"},
       {"sounds", "Halvery_Tarnjet/Tarv_kippclick.wav\n"},
   };
   for (const auto& each : cases) {

@@ -1,8 +1,13 @@
 /// Gauges and aircraft mean the same by a token and by an event.
 #include <gtest/gtest.h>
 
+#include <set>
+
+#include "host/simulation/systems/failures.h"
 #include "host/simulation/table.h"
 #include "tests/module/walk.h"
+
+extern "C" const LinkageRecord Linkage;
 
 namespace {
 
@@ -54,6 +59,23 @@ TEST(Tokens, AreAllUsed) {
   for (const Named& event : events) {
     EXPECT_TRUE(walk::result().events.contains(event.number)) << event.name;
   }
+}
+
+/// The keys of the instruments are those that the host can fail.
+TEST(Tokens, EveryFailureOfAnInstrumentIsSeenOnOne) {
+  std::set<u32> instruments, host_keys;
+  for (const GaugeHeader* gauge : Linkage.gauges) {
+    if (gauge == nullptr) break;
+    for (const Element* e : rig::chain_of(*gauge)) {
+      for (const FailureEntry* f = e->failures; f != nullptr && f->key != 0; ++f)
+        instruments.insert(f->key);
+    }
+  }
+  constexpr u32 first_unseen = 101;
+  for (const host::FailureRow& row : failure_table()) {
+    if (row.key < first_unseen) host_keys.insert(row.key);
+  }
+  EXPECT_EQ(instruments, host_keys);
 }
 
 }  // namespace

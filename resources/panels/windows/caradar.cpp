@@ -5,6 +5,8 @@
 
 namespace artwork::panels::caradar {
 
+constexpr std::string_view atc = "open_close_atc_window", map = "open_close_flightmap_window";
+
 constexpr Box tube{14, 27, 134, 96};
 
 /// The sweep of a radar that is not transmitting: rings and a fan of bearings, in phosphor.
@@ -49,29 +51,27 @@ void draw_glass(const Canvas& canvas) {
   cairo_paint(canvas.cr());
 }
 
-void draw_keys(const Canvas& canvas, Colour ink) {
+void draw_keys(const Board& board) {
+  label_key(board.canvas, part_box(board.gauge, atc).grown(-0.7), 1.5);
+  label_key(board.canvas, part_box(board.gauge, map).grown(-0.7), 1.5);
+  display_window(board.canvas, tube);
+}
+
+/// Dark, lit: the tube, and the words over the plate.
+void draw_face(const Canvas& canvas, int image) {
+  const Colour ink = image == 1 ? palette::filament : palette::legend;
+  fill(canvas, rounded(tube, 7), palette::face_dark);
+  draw_scope(canvas, image == 1);
+  draw_glass(canvas);
   const GaugeHeader& gauge = tarnvale::caradar.header;
-  label_key(canvas, part_box(gauge, "open_close_atc_window").grown(-0.7), 1.5);
-  label_key(canvas, part_box(gauge, "open_close_flightmap_window").grown(-0.7), 1.5);
-  print(canvas, part_box(gauge, "open_close_atc_window").centre(), "A", {.size = 7, .colour = ink});
-  print(canvas, part_box(gauge, "open_close_flightmap_window").centre(), "M",
-        {.size = 7, .colour = ink});
+  print(canvas, part_box(gauge, atc).centre(), "A", {.size = 7, .colour = ink});
+  print(canvas, part_box(gauge, map).centre(), "M", {.size = 7, .colour = ink});
   print(canvas, {32, 14}, "ATC", {.size = 7, .colour = ink});
   print(canvas, {87, 14}, "MAP", {.size = 7, .colour = ink});
   print(canvas, {124, 14}, "WX RADAR", {.size = 7.5, .colour = ink});
 }
 
-/// Dark, lit.
-void draw_face(const Canvas& canvas, int image) {
-  painted_plate(canvas);
-  corner_screws(canvas, 7, 3);
-  display_window(canvas, tube);
-  draw_scope(canvas, image == 1);
-  draw_glass(canvas);
-  draw_keys(canvas, image == 1 ? palette::filament : palette::legend);
-}
-
-constexpr Item items[] = {CornerScrews{7, 3}};
+constexpr Item items[] = {CornerScrews{7, 3}, Ornament{draw_keys}};
 
 constexpr Art art[] = {
     plate(136, items),

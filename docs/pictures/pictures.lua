@@ -1,0 +1,21 @@
+-- The pictures of the documents: flown by tools/pictures, which copies them here.
+start_page()
+wait(0.5)
+picture("start", 508)
+click("Intro", "captain_running")
+for _, panel in ipairs({502, 503, 504}) do open_window(panel) end
+wait(1)
+click("Cainstlg", "instrument_lights_knob_up")
+wait(3)
+picture("overhead", 502)
+picture("pedestal", 503)
+picture("throttle", 504)
+place_in_flight{altitude = 3000, airspeed = 160, along = -18000, flaps = 18, gear = "down"}
+event("altimeters_to_qnh")
+wait(4)
+picture("captain", 500)
+event("panel_lights_toggle")
+click("Cainstlg", "instrument_lights_knob_up")
+wait(2)
+picture("captain-night", 500)
+picture("night", 502)
