@@ -7,10 +7,10 @@ local knobs = require("lib.knobs")
 local landing = require("lib.landing")
 local levers = require("lib.levers")
 
-local LANDING_SYSTEM, BEACON = 11030, 11335        -- hundredths of a megahertz
-local COURSE, RADIAL = 70, 250
-local DECISION_HEIGHT = 200
-local APPROACH_SPEED = 130                          -- with flaps 42
+local LANDING_SYSTEM, BEACON = 11030, 11335  -- hundredths of a megahertz
+local COURSE, RADIAL, CROSSWIND, BASE, INTERCEPT = 70, 250, 340, 160, 110
+local APPROACH_ALTITUDE, DECISION_HEIGHT = 3500, 200
+local APPROACH_SPEED = 130  -- with flaps 42
 
 local CALLS_TO_DECISION = {"a2500", "a1000", "a500", "a400", "a300", "a200"}
 local CALLS_TO_GROUND = {"a100", "a50", "a40", "a30", "a20", "a10"}
@@ -41,8 +41,17 @@ local function expect_no_decision()
   for _, lit in ipairs({decided()}) do expect(not lit, "a decision light is lit already") end
 end
 
--- On an intercept heading: down the landing system until the decision height, every lamp in its turn.
+-- From the base leg, the beacon ahead to the left, toward the localizer.
+local function intercept()
+  watch("Base", 300, function(seen) return (seen.heading + seen.beacon) % 360 < 85 end)
+  autopilot.hold_heading(INTERCEPT)
+  levers.flaps(11)
+  watch("Intercept", 120, turned_to(INTERCEPT))
+end
+
+-- On that heading: down the landing system until the decision height, every lamp in its turn.
 local function fly_coupled_approach(picture_name)
+  expect_lamps("not armed", {arm = false, localizer = "dark", slope = "dark"})
   autopilot.arm_approach()
   watch("Localizer alive", 300, function(seen)
     expect_lamps("no glide slope yet", {arm = false, localizer = "amber", slope = "dark"})
@@ -95,8 +104,10 @@ click("Intro", "captain_running")
 wait(1)
 place_in_flight{altitude = 5000, airspeed = 220, heading = 225, along = 5000, right = -13500}
 event("altimeters_to_qnh")
-for _, window in ipairs({500, 503, 504}) do open_window(window) end
+for _, window in ipairs({500, 502, 503, 504}) do open_window(window) end
 wait(0.5)
+expect(image("Avimaster", "avionics_lamp") == 1, "the avionics are off")
+close_window(502)
 click("Rmi", "right_bearing_selector")  -- to the beacon at the outer marker
 
 say("Autopilot")
@@ -118,24 +129,21 @@ picture("1-radios", 503)
 
 autopilot.navigate()
 watch("Radial", 200, function(seen) return math.abs(seen.localizer) < 0.1 and turned_to(RADIAL)(seen) end)
-knobs.turn(knobs.altitude, 3500)
+knobs.turn(knobs.altitude, APPROACH_ALTITUDE)
 watch("Outbound", 600, function(seen)
   expect(math.abs(seen.localizer) < 0.5, "the radial is left")
   return seen.distance > 23
 end)
-expect_near(pilot.look().altitude, 3500, 50, "the altitude")
+expect_near(pilot.look().altitude, APPROACH_ALTITUDE, 50, "the altitude")
 picture("2-radial", 500)
 
-autopilot.hold_heading(160)
+autopilot.hold_heading(BASE)
 knobs.turn(knobs.speed, 180)
 levers.flaps(6)
 click("Vhf1nav", "transfer_button")
 knobs.turn(knobs.course, COURSE)
 expect(knobs.in_use("Vhf1nav") == LANDING_SYSTEM, "receiver 1 is not on the landing system")
-watch("Base", 300, function(seen) return (seen.heading + seen.beacon) % 360 < 85 end)
-autopilot.hold_heading(110)
-levers.flaps(11)
-watch("Intercept", 120, turned_to(110))
+intercept()
 fly_coupled_approach("3")
 landing.expect_calls(CALLS_TO_DECISION)
 picture("4-decision", 500)
@@ -154,29 +162,26 @@ end, 30, function(seen) return seen.climb > 500 end)
 expect(lowest > 100, string.format("the go-around sinks to %.0f feet", lowest))
 levers.flaps(18)
 levers.gear("up")
-knobs.turn(knobs.speed, 180)
-pilot.leg("Climb", {pitch = 12, heading = COURSE, throttle = 0.95}, 90, function(seen) return seen.altitude > 1500 end)
+pilot.leg("Climb", {climb = 1500, heading = COURSE, throttle = 0.95}, 90,
+          function(seen) return seen.altitude > 1500 end)
 expect_no_decision()
 landing.expect_calls(CALLS_TO_DECISION)
 
+pilot.let_go()
 autopilot.engage()
 autopilot.hold_speed(180)
-autopilot.hold_heading(340)
-autopilot.hold_altitude(3000, 1500)
+autopilot.hold_heading(CROSSWIND)
+autopilot.hold_altitude(APPROACH_ALTITUDE, 1500)
 levers.flaps(11)
 picture("5-around", 500)
-watch("Crosswind", 120, turned_to(340))
+watch("Crosswind", 120, turned_to(CROSSWIND))
 wait(30)
 autopilot.hold_heading(RADIAL)
 levers.flaps(6)
-watch("Downwind", 300, function(seen) return turned_to(RADIAL)(seen) and seen.beacon < 270 end)
-expect_near(pilot.look().altitude, 3000, 50, "the altitude downwind")
-wait(200)
-autopilot.hold_heading(160)
-watch("Base", 300, function(seen) return (seen.heading + seen.beacon) % 360 < 85 end)
-autopilot.hold_heading(110)
-levers.flaps(11)
-watch("Intercept", 120, turned_to(110))
+watch("Downwind", 600, function(seen) return seen.distance and seen.distance > 18 end)
+expect_near(pilot.look().altitude, APPROACH_ALTITUDE, 50, "the altitude downwind")
+autopilot.hold_heading(BASE)
+intercept()
 fly_coupled_approach("6")
 
 -- ---- Landing

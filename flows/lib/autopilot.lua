@@ -20,7 +20,10 @@ local function press_to(button, wanted)
   expect(lit(button) == wanted, "the " .. button .. (wanted and " does not light" or " stays lit"))
 end
 
-function autopilot.engaged() return lit("autopilot_master_button") and image("Aplight", "autopilot_lamp") == 1 end
+function autopilot.engaged()
+  return lit("autopilot_master_button") and image("Aplight", "autopilot_lamp") == 1
+end
+
 function autopilot.engage() press_to("autopilot_master_button", true) end
 function autopilot.let_go() press_to("autopilot_master_button", false) end
 
@@ -68,15 +71,18 @@ function autopilot.arm_approach()
   press_to("approach_button", true)
 end
 
--- What the approach panel shows: in either column "dark", "amber" (armed) or "green" (captured).
+-- The same in both columns of the approach panel.
 local function lamp(name)
-  local left, right = image("Cat2apsys", "left_" .. name .. "_lamp"), image("Cat2apsys", "right_" .. name .. "_lamp")
+  local left = image("Cat2apsys", "left_" .. name .. "_lamp")
+  local right = image("Cat2apsys", "right_" .. name .. "_lamp")
   expect(left == right, "the approach panel's columns differ")
   return left
 end
 
 local COLOURS = {[0] = "dark", "amber", "green"}
 
+-- What the approach panel shows: whether the arm lamps are lit, and the others' colours: "dark", "amber"
+-- (armed, or out of limits) or "green" (captured, or within limits).
 function autopilot.approach_lamps()
   return {arm = lamp("arm") == 1, localizer = COLOURS[lamp("localizer")],
           slope = COLOURS[lamp("glide_slope")], speed = COLOURS[image("Cat2apsys", "speed_lamp")],

@@ -37,7 +37,8 @@ knobs.decision_height = knob("Radalt", "decision_height_knob", 10,
 local function rounds(head)
   local function drums(places) return figures(head, "standby_%s_of_megahertz", places) end
   local tens = drums({tens = 10})
-  return knob(head, "megahertz_knob", 1, function() return 100 + tens() + value(head, "standby_megahertz", 2) end),
+  local function megahertz() return 100 + tens() + value(head, "standby_megahertz", 2) end
+  return knob(head, "megahertz_knob", 1, megahertz),
          knob(head, "kilohertz_knob", 5, drums({tenths = 10, hundredths = 1}))
 end
 
@@ -65,8 +66,9 @@ function knobs.tune(head, hundredths)
   knobs.turn(kilohertz, hundredths % 100)
 end
 
--- The frequency in use, in hundredths of a megahertz.
+-- The frequency in use, in hundredths of a megahertz; nil while the display is dark.
 function knobs.in_use(head)
+  if image(head, "active_display_cover") == 1 then return nil end
   return 10000 + figures(head, "active_%s_of_megahertz", {tens = 1000, tenths = 10, hundredths = 1})()
       + 100 * value(head, "active_megahertz", 2)
 end
@@ -77,7 +79,7 @@ function knobs.bring_into_use(head, hundredths)
   click(head, "transfer_button")
   wait(0.2)
   expect(knobs.in_use(head) == hundredths,
-         string.format("%s is on %.2f MHz", head, knobs.in_use(head) / 100))
+         string.format("%s is not on %.2f MHz", head, hundredths / 100))
 end
 
 return knobs

@@ -18,7 +18,7 @@ function landing.flare()
   local sink
   pilot.leg("Flare", function(seen)
     return {flare = true, localizer = true, throttle = 0.3 * math.max(0, math.min(1, seen.height / 40 - 0.25)),
-            rudder = seen.height < 15 and pilot.straighten(seen) or 0}
+            rudder = seen.height < 9 and pilot.straighten(seen) or 0}
   end, 30, function(seen)
     if token("on_ground") == 0 then sink = -seen.climb end
     return token("on_ground") == 1

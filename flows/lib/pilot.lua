@@ -133,13 +133,13 @@ end
 local function climb_for_flare(seen) return -100 - 9 * seen.height end
 
 -- Where the aircraft goes, told by how the needle moves, against where it should go.
-local function bank_for_localizer(seen)
+local function bank_for_localizer(seen, firmness, most)
   local knots = math.max(seen.airspeed, 60)
   local feet_away = math.max(seen.distance or 10, 0.5) * FEET_A_MILE
   local drift = math.rad(LOCALIZER_SCALE)
       * (rate.localizer * feet_away - seen.localizer * knots * FEET_A_SECOND)
   local track = math.deg(math.asin(within(-drift / (knots * FEET_A_SECOND), -1, 1)))
-  return within(1.3 * (within(0.014 * feet_aside(seen), -30, 30) - track), -25, 25)
+  return within(firmness * (within(0.014 * feet_aside(seen), -30, 30) - track), -most, most)
 end
 
 local function pitch_for(wish, seen, dt)
@@ -152,7 +152,8 @@ end
 
 local function bank_for(wish, seen)
   return wish.bank or wish.heading and within(1.3 * turn_to(wish.heading, seen.heading), -25, 25)
-      or wish.localizer and bank_for_localizer(seen)
+      or wish.localizer and wish.flare and bank_for_localizer(seen, 2.5, 5)
+      or wish.localizer and bank_for_localizer(seen, 1.3, 25)
 end
 
 local BESIDES = {"rudder", "flaps", "gear", "speed_brake", "lift_dumpers", "brakes", "tiller",
@@ -182,6 +183,9 @@ function pilot.take_controls()
   rate = {pitch = 0, bank = 0, heading = 0, airspeed = 0, localizer = 0}
   last = pilot.look()
 end
+
+-- Takes the hands off the stick and the feet off the pedals, for the autopilot.
+function pilot.let_go() fly{elevator = 0, aileron = 0, rudder = 0} end
 
 -- Flies by the wish until the condition holds of what is seen; fails after the timeout.
 function pilot.fly_until(condition, timeout, what, wish)

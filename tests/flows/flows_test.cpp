@@ -81,18 +81,37 @@ INSTANTIATE_TEST_SUITE_P(Flows, ShippedFlow,
                                          Shipped{"pedestal", {"1-parked", "2-flaps", "3-part-power"}}),
                          [](const auto& shipped) { return std::string(shipped.param.flow); });
 
-TEST(Circuit, IsFlownInCalmAirAndInLightWinds) {
+struct Flight {
+  const char* flow;
+  std::vector<const char*> days;
+};
+
+void PrintTo(const Flight& flight, std::ostream* out) { *out << flight.flow; }
+
+class FlownFlow : public testing::TestWithParam<Flight> {};
+
+TEST_P(FlownFlow, EndsWellInCalmAirAndInLightWinds) {
   const TempFolder folder;
   const std::filesystem::path flows = cockpit_dir / "flows";
-  folder.write("lib/pilot.lua", file_text(flows / "lib/pilot.lua"));
-  for (const char* day : {"", "wind_from = 340, wind_speed = 10, gusts = 1",
-                          "wind_from = 130, wind_speed = 15, pressure = 995, warmer_by = 15"}) {
-    const std::string flow = folder.write(
-        "day.lua", std::string("weather{") + day + "}\n" + file_text(flows / "circuit.lua"));
+  for (const auto& part : std::filesystem::directory_iterator(flows / "lib")) {
+    folder.write("lib/" + part.path().filename().string(), file_text(part.path()));
+  }
+  for (const char* day : GetParam().days) {
+    const std::string flow =
+        folder.write("day.lua", std::string("weather{") + day + "}\n" +
+                                    file_text(flows / (std::string(GetParam().flow) + ".lua")));
     const Outcome outcome = tarnvale("run " + flow);
     EXPECT_EQ(outcome.exit_code, 0) << day << "\n" << outcome.output;
   }
 }
+
+INSTANTIATE_TEST_SUITE_P(
+    Flows, FlownFlow,
+    testing::Values(Flight{"circuit",
+                           {"", "wind_from = 340, wind_speed = 10, gusts = 1",
+                            "wind_from = 130, wind_speed = 15, pressure = 995, warmer_by = 15"}},
+                    Flight{"approach", {"", "wind_from = 340, wind_speed = 10, gusts = 1"}}),
+    [](const auto& flight) { return std::string(flight.param.flow); });
 
 TEST(GateToGate, IsTheFlightThatIsFlownWhenNoneIsNamed) {
   const TempFolder folder;
