@@ -182,7 +182,7 @@ local function turned_to(heading)
 end
 
 ears.expect_said_at("gearu", gear_up + 8, 1)
-fly{elevator = 0, aileron = 0, rudder = 0}
+pilot.let_go()
 autopilot.engage()
 autopilot.hold_speed(180)
 autopilot.hold_heading(RUNWAY)
@@ -280,7 +280,7 @@ end, 60, function(seen) return seen.airspeed < 40 end)
 for _, side in ipairs({"left", "right"}) do
   expect(image("Liftdump", side .. "_lift_dumper_light") == 3, "the " .. side .. " lift dumpers are in")
 end
-fly{elevator = 0, aileron = 0, rudder = 0}
+pilot.let_go()
 say("Taxi in")
 taxi.along({{550, 0}, {550, 100}}, true)
 ears.expect_said_at("ccrollout", touched + 601 * FRAME)
