@@ -182,7 +182,7 @@ local function turned_to(heading)
 end
 
 ears.expect_said_at("gearu", gear_up + 8, 1)
-fly{elevator = 0, aileron = 0, rudder = 0}
+pilot.let_go()
 autopilot.engage()
 autopilot.hold_speed(180)
 autopilot.hold_heading(RUNWAY)
@@ -193,7 +193,7 @@ knobs.turn(knobs.speed, 230)
 levers.flaps(0)
 say("Autopilot")
 picture("11-autopilot", 500)
-watch("Climb", 200, function(seen) return seen.altitude > 4000 end)
+watch("Climb", 200, function(seen) return seen.altitude > 3000 end)
 autopilot.hold_heading(CROSSWIND)
 watch("Crosswind", 200, function(seen) return seen.altitude > 5300 end)
 local climbing = now()
@@ -229,12 +229,12 @@ watch("Intercept", 120, turned_to(INTERCEPT))
 autopilot.arm_approach()
 levers.flaps(11)
 watch("Localizer", 300, function(seen)
-  return math.abs(seen.localizer) < 0.1 and math.abs(seen.bank) < 3
+  return seen.distance and math.abs(seen.localizer) < 0.1 and math.abs(seen.bank) < 3
 end)
 expect_near(pilot.look().altitude, PLATFORM, 50, "the altitude on the localizer")
 knobs.turn(knobs.speed, 160)
 levers.flaps(18)
-watch("Glide slope", 300, function() return autopilot.approach_lamps().slope == "green" end)
+watch("Glide slope", 500, function() return autopilot.approach_lamps().slope == "green" end)
 levers.flaps(25)
 knobs.turn(knobs.speed, 150)
 watch("Final approach", 300, function(seen) return not autopilot.holds_altitude() and seen.climb < -200 end)
@@ -280,7 +280,7 @@ end, 60, function(seen) return seen.airspeed < 40 end)
 for _, side in ipairs({"left", "right"}) do
   expect(image("Liftdump", side .. "_lift_dumper_light") == 3, "the " .. side .. " lift dumpers are in")
 end
-fly{elevator = 0, aileron = 0, rudder = 0}
+pilot.let_go()
 say("Taxi in")
 taxi.along({{550, 0}, {550, 100}}, true)
 ears.expect_said_at("ccrollout", touched + 601 * FRAME)

@@ -117,13 +117,11 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(GateToGate, IsTheFlightThatIsFlownWhenNoneIsNamed) {
   const TempFolder folder;
-  const std::string sound = folder / "flight.wav";
-  const Outcome outcome = tarnvale("run --png " + (folder / "") + " --wav " + sound);
+  const Outcome outcome = tarnvale("run --png " + (folder / ""));
   EXPECT_EQ(outcome.exit_code, 0) << outcome.output;
   EXPECT_NE(outcome.output.find("At the gate"), std::string::npos) << outcome.output;
   for (const char* picture : {"01-start-page", "20-dark-again", "contact-sheet"})
     EXPECT_TRUE(file_text(folder / (std::string(picture) + ".png")).starts_with("\x89PNG")) << picture;
-  EXPECT_GT(onsets(loudness(sound)).size(), 50u) << "the crew is heard";
 }
 
 TEST(FlowSound, TheClickIsHeardOnceAtItsTime) {
