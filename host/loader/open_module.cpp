@@ -3,6 +3,7 @@
 #include <dlfcn.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <system_error>
 
 #include "host/loader/dynamic_checks.h"
@@ -14,6 +15,12 @@ namespace {
 
 constexpr const char* linkage_name = "Linkage";
 constexpr const char* imports_name = "ImportTable";
+
+/// Whether a record can lie there: a damaged symbol points anywhere.
+template <typename Record>
+bool is_record(const MemoryMap& memory, const Record* at) {
+  return reinterpret_cast<std::uintptr_t>(at) % alignof(Record) == 0 && memory.readable(at, sizeof *at);
+}
 
 }  // namespace
 
@@ -105,7 +112,10 @@ void OpenModule::load_library() {
   linkage_ = static_cast<LinkageRecord*>(::dlsym(library_, linkage_name));
   imports_ = static_cast<ImportTableRecord*>(::dlsym(library_, imports_name));
   if (linkage_ == nullptr || imports_ == nullptr)
-    note(Finding::Severity::error, "cannot be loaded: its symbols are not found");
+    return note(Finding::Severity::error, "cannot be loaded: its symbols are not found");
+  const MemoryMap memory;
+  if (!is_record(memory, linkage_) || !is_record(memory, imports_))
+    note(Finding::Severity::error, "is damaged: its symbols lie outside of it");
 }
 
 void OpenModule::look_at_records() {

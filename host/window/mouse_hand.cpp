@@ -9,9 +9,13 @@ namespace {
 constexpr double tooltip_delay = 0.6;  // seconds of rest
 constexpr int scroll_step = 60;        // pixels a notch, at scale 1
 constexpr double zoom_notch = 1.125;
+constexpr int most_notches = 20;  // of one event; a device may claim any number
+
+int limited_notches(int notches) { return std::clamp(notches, -most_notches, most_notches); }
 
 int notches_of(const SDL_MouseWheelEvent& event) {
-  return event.direction == SDL_MOUSEWHEEL_FLIPPED ? -event.y : event.y;
+  const int notches = limited_notches(event.y);
+  return event.direction == SDL_MOUSEWHEEL_FLIPPED ? -notches : notches;
 }
 
 std::uint32_t mouse_flag(Uint8 button) {
@@ -169,13 +173,13 @@ void MouseHand::scroll(const SDL_MouseWheelEvent& event) {
   if (!view) return;
   const int step = static_cast<int>(scroll_step * view->scale());
   const bool sideways = SDL_GetModState() & KMOD_SHIFT;
-  view->scroll((sideways ? event.y : -event.x) * step, sideways ? 0 : event.y * step);
+  const int right = limited_notches(event.x), up = limited_notches(event.y);
+  view->scroll((sideways ? up : -right) * step, sideways ? 0 : up * step);
 }
 
 void MouseHand::zoom(const SDL_MouseWheelEvent& event) {
   View* view = views_.find(event.windowID);
-  if (view)
-    view->zoom_by(std::pow(zoom_notch, std::clamp(notches_of(event), -20, 20)), place_in(*view));
+  if (view) view->zoom_by(std::pow(zoom_notch, notches_of(event)), place_in(*view));
 }
 
 void MouseHand::look_only(bool only) {

@@ -59,7 +59,8 @@ bool FlightDeck::take_page_event(const SDL_Event& event) {
     int x = 0, y = 0;
     SDL_GetMouseState(&x, &y);
     if (!over_page(event.wheel.windowID, x, y)) return false;
-    if (pages_.shown() == PageKind::map) pages_.take(page_click::ChangeRange{event.wheel.y});
+    if (pages_.shown() == PageKind::map)
+      pages_.take(page_click::ChangeRange{std::clamp(event.wheel.y, -20, 20)});
     return true;
   }
   if (event.type == SDL_MOUSEMOTION && event.motion.state == 0 &&
