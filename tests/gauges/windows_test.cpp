@@ -1,6 +1,8 @@
 /// Start page, window buttons, cabin signs and announcements.
 #include <gtest/gtest.h>
 
+#include <map>
+
 #include "module/tokens.h"
 #include "tests/rig/rig.h"
 
