@@ -47,7 +47,7 @@ const ElementState* GaugeRun::showing(std::size_t index) const {
 
 void GaugeRun::start(std::uintptr_t module_handle) {
   if (gauge_->service == nullptr) return;
-  gauge_->service(gauge_, SERVICE_START, module_handle);
+  gauge_->service(gauge_, SERVICE_BEGIN, module_handle);
   gauge_->service(gauge_, SERVICE_SET_UP, 0);
 }
 

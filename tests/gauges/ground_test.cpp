@@ -20,7 +20,7 @@ void expect_calls(const char* gauge, u32 token, f64 from, f64 to, std::set<Sound
     rig::Host host;
     rig::Gauge panel(gauge);
     host.tokens[token] = from;
-    panel.service(SERVICE_START);
+    panel.service(SERVICE_BEGIN);
     aircraft.fo_callouts_enabled = enabled;
     host.tokens[token] = to;
     panel.frame();

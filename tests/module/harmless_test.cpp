@@ -24,7 +24,7 @@ TEST(Harmless, AnyTokenValueAndAnyClick) {
           extreme ? extremes[bits() % std::size(extremes)] : std::bit_cast<f64>(bits());
     }
     for (rig::Gauge& gauge : gauges) {
-      gauge.service(SERVICE_START);
+      gauge.service(SERVICE_BEGIN);
       gauge.service(SERVICE_SET_UP);
       gauge.frame(2);
       for (const rig::NamedArea& area : gauge.areas()) {
