@@ -8,7 +8,7 @@ set(CMAKE_SYSTEM_PROCESSOR ${TARNVALE_PROCESSOR})
 set(CMAKE_C_COMPILER ${TARNVALE_PROCESSOR}-w64-mingw32-gcc-posix)
 set(CMAKE_CXX_COMPILER ${TARNVALE_PROCESSOR}-w64-mingw32-g++-posix)
 set(CMAKE_RC_COMPILER ${TARNVALE_PROCESSOR}-w64-mingw32-windres)
-set(CMAKE_CROSSCOMPILING_EMULATOR ${CMAKE_CURRENT_LIST_DIR}/in_wine)
+set(CMAKE_CROSSCOMPILING_EMULATOR ${CMAKE_CURRENT_LIST_DIR}/in_wine ${TARNVALE_PROCESSOR})
 
 # Nothing but the system's own libraries is needed at run time, and every link gives the same bytes.
 set(links "-static -Wl,--no-insert-timestamp -Wl,--disable-auto-image-base")
