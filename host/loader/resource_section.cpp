@@ -18,9 +18,13 @@ std::uint32_t directory_length(Bytes bytes) {
   return header->count;
 }
 
-std::string name_of(const PanelResourceEntry& entry) {
+std::string name_in(const PanelResourceEntry& entry) {
+  return {entry.name, strnlen(entry.name, sizeof entry.name)};
+}
+
+std::string title_of(const PanelResourceEntry& entry) {
   if (entry.id != PANEL_RESOURCE_NAMED) return "bitmap " + std::to_string(entry.id);
-  return "bitmap \"" + std::string(entry.name, strnlen(entry.name, sizeof entry.name)) + "\"";
+  return "bitmap \"" + name_in(entry) + "\"";
 }
 
 }  // namespace
@@ -37,16 +41,24 @@ void ResourceSection::add(Bytes bytes, std::uint64_t place) {
     const auto packed = slice(bytes, entry.offset, entry.size);
     if (!packed) throw DibError("it lies past the end");
     const Dib dib = parse_dib(*packed);
-    if (entry.id == PANEL_RESOURCE_NAMED) return;
-    if (!numbered_.emplace(entry.id, dib).second) throw DibError("the number is taken");
+    if (entry.id == PANEL_RESOURCE_NAMED) {
+      if (!named_.emplace(name_in(entry), dib).second) throw DibError("the name is taken");
+    } else if (!numbered_.emplace(entry.id, dib).second) {
+      throw DibError("the number is taken");
+    }
   } catch (const DibError& error) {
-    notes_.push_back(name_of(entry) + " is damaged: " + error.what());
+    notes_.push_back(title_of(entry) + " is damaged: " + error.what());
   }
 }
 
 const Dib* ResourceSection::find(std::uint32_t id) const {
   const auto found = numbered_.find(id);
   return found == numbered_.end() ? nullptr : &found->second;
+}
+
+const Dib* ResourceSection::find(std::string_view name) const {
+  const auto found = named_.find(name);
+  return found == named_.end() ? nullptr : &found->second;
 }
 
 }  // namespace host

@@ -1,9 +1,11 @@
 /// The bitmaps of one `.panelres` section, or of a file with the same bytes, by number.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "host/loader/dib.h"
@@ -21,11 +23,13 @@ class ResourceSection {
   /// bitmap is left out and noted. Throws ResourceError when there is no directory.
   explicit ResourceSection(Bytes bytes);
 
-  /// The numbered bitmap; null if there is none. Drawing never asks for a named one.
+  /// The bitmap of that number or name; null if there is none. Drawing asks for numbers alone.
   const Dib* find(std::uint32_t id) const;
+  const Dib* find(std::string_view name) const;
 
-  /// Numbers of the bitmaps, and how many there are.
+  /// All bitmaps, by their numbers or names.
   const std::map<std::uint32_t, Dib>& numbered() const { return numbered_; }
+  const std::map<std::string, Dib, std::less<>>& named() const { return named_; }
 
   /// What was left out and why, a line for each.
   const std::vector<std::string>& notes() const { return notes_; }
@@ -34,6 +38,7 @@ class ResourceSection {
   void add(Bytes bytes, std::uint64_t place);
 
   std::map<std::uint32_t, Dib> numbered_;
+  std::map<std::string, Dib, std::less<>> named_;
   std::vector<std::string> notes_;
 };
 
