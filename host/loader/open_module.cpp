@@ -51,7 +51,7 @@ void OpenModule::read_file() {
     const std::string fault = fault_of_dynamic_tables(mapped_->bytes());
     if (!fault.empty()) note(Finding::Severity::error, "is damaged: " + fault);
     check_exports(elf);
-    read_bitmaps(elf);
+    if (!has_errors(findings_)) read_bitmaps(elf);
   } catch (const ElfError& error) {
     note(Finding::Severity::error, error.what());
   } catch (const std::system_error& error) {
@@ -62,6 +62,15 @@ void OpenModule::read_file() {
 void OpenModule::check_exports(const ElfFile& elf) {
   if (elf.exports().empty()) {
     note(Finding::Severity::error, "has no symbols; a module exports Linkage and ImportTable");
+    return;
+  }
+  const auto lacks = [&](const char* name) {
+    return std::ranges::find(elf.exports(), name, &ExportedSymbol::name) == elf.exports().end();
+  };
+  if (lacks(linkage_name) && lacks(imports_name)) {
+    note(Finding::Severity::error, "is no gauge module: it exports neither Linkage nor ImportTable");
+    for (const ExportedSymbol& symbol : elf.exports())
+      note(Finding::Severity::detail, "exports " + symbol.name);
     return;
   }
   check_export(elf, linkage_name, sizeof(LinkageRecord));
