@@ -71,6 +71,7 @@ class Session {
         cockpit_(module_, read_panel_config(cockpit_options_.panel), cockpit_options_.rate) {
     say_start_notes(module_);
     say_notes(cockpit_.names());
+    say_notes(cockpit_.words());
     if (options.record.empty()) return;
     flow_.emplace(options.record, cockpit_);
     inputs_.tell(*flow_);
