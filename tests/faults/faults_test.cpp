@@ -13,19 +13,9 @@ namespace {
 namespace fs = std::filesystem;
 using namespace std::chrono_literals;
 
-/// The folder of the program as people get it; of the sanitized one where that is not built.
-const fs::path plain_dir = fs::exists(PLAIN_DIR "/tarnvale") ? PLAIN_DIR : COCKPIT_DIR;
-
-constexpr bool sanitized =
-#ifdef __SANITIZE_ADDRESS__
-    true;
-#else
-    false;
-#endif
-
 class Faults : public testing::Test {
  protected:
-  std::string program() const { return (plain_dir / "tarnvale").string(); }
+  std::string program() const { return (cockpit_dir / "tarnvale").string(); }
 
   /// Without a display, its own state and settings in the folder.
   std::string surroundings() const {
@@ -99,7 +89,7 @@ TEST_F(Faults, TheSoundsAreDeletedInFlight) {
   fs::create_directory(folder / "c");
   for (const char* name :
        {"Tarnvale.GAU", "Tarnvale.GAU.2x", "Tarnvale.GAU.3x", "Tarnvale.GAU.names", "Sound"})
-    fs::create_symlink(plain_dir / name, fs::path(folder / "c") / name);
+    fs::create_symlink(cockpit_dir / name, fs::path(folder / "c") / name);
   const std::string flow = folder.write(
       "f.lua", "for i = 1, 3 do click('Masterbat', 'battery_switch') wait(0.7) end\nexpect(#sounds() > 1)");
   const std::string command =
@@ -121,7 +111,9 @@ TEST_F(Faults, TheSoundsAreDeletedInFlight) {
 }
 
 TEST_F(Faults, TwoHundredMebibytesAreEnoughOrToldToBeTooFew) {
-  if (sanitized && plain_dir == COCKPIT_DIR) GTEST_SKIP() << "the sanitizers take more by themselves";
+#ifdef __SANITIZE_ADDRESS__
+  GTEST_SKIP() << "the sanitizers take more by themselves";
+#endif
   const std::string flow = folder.write("f.lua", "wait(1) picture('p', 500)");
   const std::string run = "run " + flow + " --png " + (folder / "p");
   const Outcome enough = fly(run, "ulimit -d 204800; ");
