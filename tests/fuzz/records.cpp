@@ -150,6 +150,7 @@ class Tokens final : public host::TokenSource {
     return values[(number + turn) % std::size(values)];
   }
   bool failed(std::uint32_t key) const override { return (key + turn) % 3 == 0; }
+  bool any_failed() const override { return true; }
   std::uint32_t turn = 0;
 };
 
