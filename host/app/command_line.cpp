@@ -1,5 +1,7 @@
 #include <CLI/CLI.hpp>
 
+#include <sys/resource.h>
+
 #include <cstdio>
 #include <functional>
 #include <string>
@@ -264,8 +266,18 @@ class CommandLine {
 
 }  // namespace
 
+// The libraries that draw and play end the program where they get no room; better a word beforehand.
+static void check_address_space() {
+  constexpr rlim_t least = 256u << 20;
+  rlimit allowed{};
+  if (getrlimit(RLIMIT_AS, &allowed) == 0 && allowed.rlim_cur < least)
+    throw std::runtime_error("only " + std::to_string(allowed.rlim_cur >> 20) +
+                             " MiB of memory may be used here (ulimit -v); it takes 256");
+}
+
 static int run_reporting(int argc, char** argv) {
   try {
+    check_address_space();
     return CommandLine().run(argc, argv);
   } catch (const std::bad_alloc&) {
     std::fprintf(stderr, "tarnvale: there is not enough memory\n");

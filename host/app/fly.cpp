@@ -6,6 +6,7 @@
 
 #include "host/app/commands.h"
 #include "host/app/desk_options.h"
+#include "host/app/end_signals.h"
 #include "host/app/installation.h"
 #include "host/app/lookup.h"
 #include "host/app/progress.h"
@@ -59,6 +60,15 @@ constexpr std::uint32_t start_page = 508;
 // A note in the window, and on standard error.
 void tell(const std::string& text) { MessageBoxA(nullptr, text.c_str(), "Journal", MB_OK); }
 
+// As a window manager asks; twice, for whom the cockpit would ask back.
+void leave_cockpit() {
+  for (int i = 0; i < 2; ++i) {
+    SDL_Event quit{};
+    quit.type = SDL_QUIT;
+    SDL_PushEvent(&quit);
+  }
+}
+
 // A person's session in the cockpit: begun or taken up, flown, and kept.
 class Session {
  public:
@@ -85,6 +95,7 @@ class Session {
     find_audio();
     left_ ? take_up() : begin(on_deck.desk);
     if (!desktop) desktop.emplace();
+    const EndSignals end_signals(leave_cockpit);
     FlightDeck deck(inputs_, on_deck);
     desktop->clear();
     deck.after_frame = [&] { after_frame(); };

@@ -83,7 +83,7 @@ void GaugePainter::Layers::add_items(const std::vector<ChainLink>& chain) {
   const auto behind = [](const Item& item) { return item.element->kind == ELEMENT_SPRITE; };
   for (Item& item : items)
     if (behind(item)) item.limits = openings;
-  std::ranges::stable_partition(items, behind);
+  std::stable_partition(items.begin(), items.end(), behind);
 }
 
 // Everything below the first element that may move, whether or not it shows anything just now.
@@ -113,16 +113,17 @@ void GaugePainter::Layers::compare(std::span<const ElementState> before,
   if (end != base_end) base_dirty.add(whole);
   base_end = end;
   for (std::size_t i = 0; i < items.size(); ++i) {
-    const auto& [index, element, painter, limits, look, bounds] = items[i];
+    const Item& item = items[i];
+    const std::size_t index = item.index;
     const auto drawn = [&](std::span<const ElementState> states) {
-      return index < states.size() && states[index].drawn && states[index].element == element;
+      return index < states.size() && states[index].drawn && states[index].element == item.element;
     };
-    if (painter == nullptr || !drawn(now)) {
+    if (item.painter == nullptr || !drawn(now)) {
       take_look(i, {});
       continue;
     }
     const ElementState& from = drawn(before) ? before[index] : now[index];
-    take_look(i, painter->look({from, now[index], blend, light}));
+    take_look(i, item.painter->look({from, now[index], blend, light}));
   }
 }
 
