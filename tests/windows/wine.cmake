@@ -2,6 +2,7 @@
 set(BUILD_GMOCK OFF)
 set(INSTALL_GTEST OFF)
 add_subdirectory(/usr/src/googletest ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL SYSTEM)
+target_compile_options(gtest PRIVATE -O0)
 
 set(wine_prefix ${CMAKE_BINARY_DIR}/wine)
 set(captured_sound ${CMAKE_BINARY_DIR}/captured.wav)
