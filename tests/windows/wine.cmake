@@ -21,7 +21,7 @@ function(in_wine name)
   set_tests_properties(${name} PROPERTIES
     ENVIRONMENT "WINEPREFIX=${wine_prefix};ALSA_CONFIG_PATH=${sound_configuration}"
     SKIP_RETURN_CODE 77
-    TIMEOUT 120)
+    TIMEOUT 300)
 endfunction()
 
 # wine_test(name program arguments...): a program of this tree, run in that Wine.
