@@ -4,6 +4,7 @@
 #include <optional>
 #include <stdexcept>
 
+#include "host/ambience/ambience_stream.h"
 #include "host/app/commands.h"
 #include "host/app/desk_options.h"
 #include "host/app/installation.h"
@@ -80,10 +81,18 @@ class Session {
     left_ ? take_up() : begin(on_deck.desk);
     FlightDeck deck(inputs_, on_deck);
     Identifications identifications;
+    CockpitNoise noise(options_.mute ? 0 : options_.ambience / 100);
+    AmbienceStream ambience;
     deck.after_frame = [&] {
-      identifications.update(cockpit_.aircraft().identifications_heard(), cockpit_.seconds());
+      const AircraftModel& aircraft = cockpit_.aircraft();
+      identifications.update(aircraft.identifications_heard(), cockpit_.seconds());
+      noise.hear(aircraft.sound_sources(), 1.0 / cockpit_.rate());
+      ambience.keep_up(noise, cockpit_.seconds());
     };
-    deck.on_pause = [&] { identifications.silence(); };
+    deck.on_pause = [&] {
+      identifications.silence();
+      ambience.pause(noise);
+    };
     for (const std::string& note : notes_) tell(note);
     keep_journal();
     deck.ask_to_leave = !journal_;
