@@ -9,7 +9,7 @@ constexpr std::size_t frames_in(double seconds) {
   return static_cast<std::size_t>(seconds * PLATFORM_AUDIO_RATE);
 }
 
-constexpr std::size_t ahead = frames_in(0.2);
+constexpr std::size_t ahead = frames_in(0.2), ahead_at_first = frames_in(0.6);
 
 }  // namespace
 
@@ -25,8 +25,9 @@ bool AmbienceStream::is_open(double seconds) {
 
 void AmbienceStream::keep_up(CockpitNoise& noise, double seconds) {
   if (noise.silent() || !is_open(seconds)) return;
-  const std::size_t waiting = platform_stream_waiting();
-  if (waiting < ahead) feed(noise, ahead - waiting);
+  // What has run dry, or begins with the window, has frames that come later still.
+  const std::size_t waiting = platform_stream_waiting(), wanted = waiting > 0 ? ahead : ahead_at_first;
+  if (waiting < wanted) feed(noise, wanted - waiting);
 }
 
 void AmbienceStream::pause(CockpitNoise& noise) {

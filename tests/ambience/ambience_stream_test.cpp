@@ -40,7 +40,7 @@ TEST_F(Stream, PlaysWithoutAGapAndDiesAwayInAPause) {
   }
   EXPECT_LT(longest, 20) << "a late frame is not heard";
   stream.pause(noise);
-  render(30000);
+  render(50000);
   EXPECT_EQ(render(2000), silence(2000));
   EXPECT_GT(listen(18), 50) << "and goes on";
 }

@@ -11,6 +11,7 @@ using host::CockpitNoise;
 using host::simulation::SoundSources;
 using namespace listening;
 
+const std::filesystem::path sounds = COCKPIT_DIR "/Sound/Halvery_Tarnjet";
 constexpr double frame_s = 1.0 / 18;
 constexpr std::size_t frame_samples = 2 * 2450;
 
@@ -71,9 +72,9 @@ SoundSources dirty() {
   return s;
 }
 
-TEST(CockpitNoise, LeavesEveryVoiceTwelveDecibelsAboveIt) {
+TEST(CockpitNoise, LeavesEveryVoiceTwelveDecibelsAboveItAndEveryWarningToo) {
   double faintest = 0;
-  for (const auto& entry : std::filesystem::recursive_directory_iterator{COCKPIT_DIR "/Sound"}) {
+  for (const auto& entry : std::filesystem::recursive_directory_iterator{sounds}) {
     const std::string name = entry.path().filename().string();
     const bool speaks = entry.path().parent_path().filename() != "Halvery_Tarnjet" ||
                         (name.starts_with("Tarv_a") && name.ends_with("0.wav"));
@@ -100,6 +101,10 @@ TEST(CockpitNoise, LeavesEveryVoiceTwelveDecibelsAboveIt) {
     std::printf("%-20s faintest voice %4.1f dB above; %.1f dB in all\n", what,
                 faintest - level_db(speech_band(wave)), level_db(wave));
     EXPECT_GT(loudness(wave), -60) << what << " is not heard";
+    const double bright = level_db(between(wave, 3000, 5500));
+    for (const char* warning : {"Tarv_fire.wav", "Tarv_stall.wav", "Tarv_cabwarn.wav", "Tarv_gpws.wav"})
+      EXPECT_GT(level_db(between(samples(sounds / warning), 3000, 5500)), bright + 12)
+          << warning << ", " << what;
   }
 }
 
