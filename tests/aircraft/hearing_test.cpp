@@ -8,7 +8,7 @@
 #include <sstream>
 
 #include "host/ambience/cockpit_noise.h"
-#include "tests/aircraft/listening.h"
+#include "tests/listening/listening.h"
 
 namespace {
 

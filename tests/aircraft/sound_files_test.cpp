@@ -5,7 +5,7 @@
 #include <set>
 #include <sstream>
 
-#include "tests/aircraft/listening.h"
+#include "tests/listening/listening.h"
 
 namespace {
 

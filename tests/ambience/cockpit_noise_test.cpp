@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/aircraft/listening.h"
+#include "tests/listening/listening.h"
 
 namespace {
 
