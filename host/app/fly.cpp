@@ -4,6 +4,7 @@
 #include <optional>
 #include <stdexcept>
 
+#include "host/ambience/ambience_stream.h"
 #include "host/app/commands.h"
 #include "host/app/desk_options.h"
 #include "host/app/end_signals.h"
@@ -99,7 +100,7 @@ class Session {
     FlightDeck deck(inputs_, on_deck);
     desktop->clear();
     deck.after_frame = [&] { after_frame(); };
-    deck.on_pause = [&] { identifications_.silence(); };
+    deck.on_pause = [&] { fall_silent(); };
     deck.on_speed = [&](bool as_life) { move_audio(as_life ? audio_ : PLATFORM_AUDIO_RENDERED); };
     for (const std::string& note : notes_) tell(note);
     keep_journal();
@@ -133,14 +134,23 @@ class Session {
 
   // A flight that runs faster than life is silent, and its sounds run with it.
   void move_audio(PlatformAudio audio) {
-    identifications_.silence();
+    fall_silent();
     if (audio != audio_now_) platform_move_audio(audio);
     audio_now_ = audio;
   }
 
+  // What would go on sounding by itself.
+  void fall_silent() {
+    identifications_.silence();
+    ambience_.pause(noise_);
+  }
+
   void after_frame() {
-    identifications_.update(cockpit_.aircraft().identifications_heard(), cockpit_.seconds());
-    if (audio_now_ == PLATFORM_AUDIO_RENDERED) unheard_.advance(1.0 / cockpit_.rate());
+    const AircraftModel& aircraft = cockpit_.aircraft();
+    identifications_.update(aircraft.identifications_heard(), cockpit_.seconds());
+    if (audio_now_ == PLATFORM_AUDIO_RENDERED) return unheard_.advance(1.0 / cockpit_.rate());
+    noise_.hear(aircraft.sound_sources(), 1.0 / cockpit_.rate());
+    ambience_.keep_up(noise_, cockpit_.seconds());
   }
 
   void begin(const Desk& desk) {
@@ -227,6 +237,8 @@ class Session {
   PlatformAudio audio_now_ = PLATFORM_AUDIO_DEVICE;
   WavRecorder unheard_;
   Identifications identifications_;
+  CockpitNoise noise_{options_.ambience / 100};
+  AmbienceStream ambience_;
   bool whole_ = true;
 };
 
