@@ -177,7 +177,10 @@ void expect_refused(const Case& each, const std::string& control) {
   EXPECT_FALSE(each.works != "-" && works(stage, each)) << control << " works all the same";
 }
 
+// Once for all the reasons for which a control is refused.
 void expect_worked(const Case& each, const std::string& control) {
+  static std::set<std::pair<std::string, Steps>> known;
+  if (!known.emplace(control, each.able).second) return;
   Stage stage;
   stage.take(each.able);
   EXPECT_EQ(stage.click(control), "") << control;
