@@ -188,6 +188,17 @@ TEST_F(InAWindow, ARestOnAControlSaysWhatItIs) {
   EXPECT_EQ(leave(), 0);
 }
 
+TEST_F(InAWindow, ARefusedClickSaysAtOnceWhatItLacked) {
+  const PanelPoint paper{132, 124};  // of the words beside the pointer
+  const int plate = green(look(paper.x, paper.y));
+  click(117, 93);  // external power, with no ground unit there
+  EXPECT_TRUE(eventually([&] { return green(look(paper.x, paper.y)) < plate / 2; }))
+      << "nothing is said";
+  screen->hands(move_to(385, 85));
+  EXPECT_TRUE(eventually([&] { return green(look(paper.x, paper.y)) == plate; })) << "it stays";
+  EXPECT_EQ(leave(), 0);
+}
+
 TEST_F(InAWindow, TheWheelTurnsASelectorAndLeavesASwitchAlone) {
   click(47, 99, 4);   // the wheel over the battery switch
   click(240, 35, 4);  // and over the DC selector
