@@ -39,5 +39,23 @@ TEST(Night, OnlyWhatDoesNotShineByItselfDims) {
   EXPECT_EQ(scene.at(0, 0), grey);
 }
 
+/// A lever's lit copy says that it shines as a lamp's does.
+TEST(Night, LeversAreAsDarkAsTheirPlate) {
+  MadeBitmaps bitmaps;
+  bitmaps.add(1, 20, 10, grey);
+  bitmaps.add(10, 4, 4, grey);
+  bitmaps.add(11, 4, 4, red);
+  MadeGauge gauge{1};
+  gauge.icon(10, {2, 2}, 1).image_flags = 0x3;
+  gauge.icon(11, {12, 2}, 1).image_flags = 0x7;
+  gauge.icon(10, {2, 2}, 1).image_flags = 0x7;
+  gauge.icon(11, {12, 2}, 1).image_flags = 0x7;
+  Scene scene(gauge, bitmaps);
+  scene.painter->set_night(true);
+  scene.draw();
+  EXPECT_EQ(scene.at(3, 3), by_night(grey));
+  EXPECT_EQ(scene.at(13, 3), red);
+}
+
 }  // namespace
 }  // namespace host
