@@ -15,7 +15,7 @@ constexpr double legend[] = {1.0, 0.94, 0.82};
 struct Passage {
   double paint_ends, legend_begins;
 };
-constexpr Passage on_plates{0.60, 0.85}, on_parts{0.88, 0.98};
+constexpr Passage on_plates{0.60, 0.85}, on_parts{0.88, 0.92};
 
 double brightness(double red, double green, double blue) {
   return 0.30 * red + 0.59 * green + 0.11 * blue;

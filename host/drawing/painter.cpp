@@ -4,7 +4,7 @@
 
 #include "host/drawing/dirty_area.h"
 #include "host/drawing/element_painter.h"
-#include "host/gauge/lit_copies.h"
+#include "host/drawing/lights.h"
 #include "host/loader/element_chain.h"
 
 namespace host {
@@ -27,33 +27,6 @@ bool has_openings(const std::vector<ChainLink>& chain) {
   return std::ranges::any_of(chain, sprite);
 }
 
-// The image flag of lamps and of everything in a lit copy.
-constexpr u32 shines_by_itself = 0x4;
-
-bool shines(const Element& element) { return (element.image_flags & shines_by_itself) != 0; }
-
-// Under what light each element's still picture is seen by night. A lit copy says of all its elements that they
-// shine; the first set knows better which are lamps. What is as large as its face is the lighting itself.
-std::vector<Light> lights_at_night(const std::vector<ChainLink>& chain, const Pictures& pictures) {
-  std::vector<ElementInputs> inputs;
-  for (const ChainLink& link : chain) inputs.emplace_back(*link.element);
-  std::vector<Light> lights;
-  for (const ChainLink& link : chain)
-    lights.push_back(shines(*link.element) ? Light::day : Light::night);
-  const auto size = [&](std::size_t i) {
-    return pictures.size(chain[i].element->resource_id, BitmapUse::image);
-  };
-  const std::vector<Covers> covers = find_covers(inputs);
-  for (std::size_t i = 0; i < chain.size(); ++i) {
-    const std::size_t lit = covers[i].lit;
-    const bool part = lit < chain.size() && chain[i].element->kind == ELEMENT_ICON &&
-                      (size(i).width != size(0).width || size(i).height != size(0).height);
-    if (part && !shines(*chain[i].element) && shines(*chain[lit].element))
-      lights[lit] = Light::among_parts;
-  }
-  return lights;
-}
-
 // The gauge in two layers: the base, kept composed, holds what is drawn up to the first element that
 // moves; the rest is drawn over it straight onto the canvas.
 struct GaugePainter::Layers {
@@ -67,7 +40,7 @@ struct GaugePainter::Layers {
   };
 
   Layers(const GaugeHeader& gauge, const BitmapStore& bitmaps, Rect where);
-  void add_items(const std::vector<ChainLink>& chain);
+  void add_items(const GaugeHeader& gauge);
   void compare(std::span<const ElementState> before, std::span<const ElementState> now, double blend);
   void take_look(std::size_t place_in_order, const Look& look);
   bool covered_by_face(const Rect& part) const;
@@ -95,13 +68,14 @@ GaugePainter::Layers::Layers(const GaugeHeader& gauge, const BitmapStore& bitmap
       whole{0, 0, where.width, where.height},
       pictures(bitmaps, scale_to(where, gauge_size(gauge, bitmaps))) {
   if (is_empty(place)) return;
-  add_items(element_chain(gauge));
+  add_items(gauge);
   base.assign(std::size_t(place.width) * place.height, black);
 }
 
-void GaugePainter::Layers::add_items(const std::vector<ChainLink>& chain) {
+void GaugePainter::Layers::add_items(const GaugeHeader& gauge) {
+  const std::vector<ChainLink> chain = element_chain(gauge);
   open_face = has_openings(chain);
-  const std::vector<Light> at_night = lights_at_night(chain, pictures);
+  const std::vector<Light> at_night = lights_at_night(gauge, chain, pictures);
   for (std::size_t i = 0; i < chain.size(); ++i) {
     const Element& element = *chain[i].element;
     const BitmapUse use = i == 0 && open_face ? BitmapUse::image : BitmapUse::background;

@@ -77,7 +77,7 @@ struct FlowKey {
 
 /// What a guarded knob's position is called, on the right of its guard: 0 to 3 from below.
 constexpr Legend guarded_position(std::string_view knob, int position, std::string_view text) {
-  return {at(knob, 16.5, 23.5 - 9.2 * position), text, 7, Anchor::left};
+  return {at(knob, 16.5, 23.5 - 9.2 * position), text, legend_size, Anchor::left};
 }
 
 struct Screw {

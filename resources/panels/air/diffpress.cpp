@@ -13,7 +13,7 @@ constexpr Print pounds[] = {
     Band{8, 9, palette::range_red},
     Marks{0, 9, 1, 7, 1.6},
     Marks{0, 9, 0.5, 4.5, 1},
-    Figures{{0, 1, 2, 3, 4, 5, 6, 7, 8, {9, -3}}, 8, 10},
+    Figures{{{0, -13}, 1, 2, 3, 4, 5, 6, 7, 8, {9, -3}}, 8, 10},
 };
 constexpr Print thousands[] = {
     Arc{0, 50, 0.7},

@@ -12,6 +12,7 @@ constexpr Item items[] = {
     Legend{at("middle_landing_light_lever", 0, -17), "NOSE", 7},
     Legend{at("right_landing_light_lever", 0, -17), "R", 7},
     Legend{at("middle_landing_light_lever", 0, 21.5), "LANDING"},
+    left_of("recognition_lights_switch", {.reach = 9}, 9),
     below("navigation_lights_switch", "NAV", {0, -1}),
     below("recognition_lights_switch", "RECG", {0, -1}),
 };
