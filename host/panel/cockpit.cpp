@@ -54,14 +54,14 @@ CockpitGauge& Cockpit::gauge_for(const Placement& placement) {
                               std::string(header->name) + " has no background picture"));
   CockpitGauge& gauge =
       *gauges_.emplace_back(std::make_unique<CockpitGauge>(*header, size, names_.of(*header)));
+  by_name_[lower(header->name)] = &gauge;
   gauge.run.set_frame_seconds(1.0 / rate_);
   return gauge;
 }
 
 CockpitGauge* Cockpit::find(std::string_view name) const {
-  const auto found = std::ranges::find_if(
-      gauges_, [&](const auto& gauge) { return same_name(gauge->header().name, name); });
-  return found == gauges_.end() ? nullptr : found->get();
+  const auto found = by_name_.find(lower(name));
+  return found == by_name_.end() ? nullptr : found->second;
 }
 
 bool Cockpit::panel_lights_on() const { return aircraft_.token(token::panel_lights) != 0; }
@@ -100,7 +100,7 @@ void Cockpit::run(CockpitGauge& gauge) {
   if (!gauge.started) gauge.run.start(module_.handle());
   gauge.started = true;
   gauge.run.frame(tokens_);
-  gauge.moving = !std::ranges::equal(gauge.run.before(), gauge.run.now());
+  gauge.moving = gauge.run.changed();
   gauge.changes += gauge.moving;
 }
 

@@ -4,7 +4,9 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "host/drawing/painter.h"
@@ -122,6 +124,7 @@ class Cockpit : private ServiceTarget {
   double rate_;
   std::uint64_t frames_ = 0;
   std::vector<std::unique_ptr<CockpitGauge>> gauges_;
+  std::unordered_map<std::string, CockpitGauge*> by_name_;  // in small letters
   std::vector<CockpitWindow> windows_;
 };
 
