@@ -83,7 +83,7 @@ const Bitmap& Pictures::whole(const Key& key, const Bitmap& source) {
   const auto kept = resampled_.find(key);
   if (kept != resampled_.end()) return kept->second;
   Bitmap bitmap = own_size ? source : resampled(source, width, height);
-  if (light == Light::night) dim(bitmap);
+  if (light != Light::day) dim(bitmap, light == Light::night ? by_night : part_by_night);
   return resampled_.emplace(key, std::move(bitmap)).first->second;
 }
 
