@@ -57,7 +57,9 @@ FlightIdentity identity_for(const std::optional<LeftSession>& left, const Cockpi
 constexpr std::uint32_t start_page = 508;
 
 // A note in the window, and on standard error.
-void tell(const std::string& text) { MessageBoxA(nullptr, text.c_str(), "Journal", MB_OK); }
+void tell(const std::string& text, const char* caption = "Journal") {
+  MessageBoxA(nullptr, text.c_str(), caption, MB_OK);
+}
 
 // A person's session in the cockpit: begun or taken up, flown, and kept.
 class Session {
@@ -90,6 +92,7 @@ class Session {
     deck.on_pause = [&] { identifications_.silence(); };
     deck.on_speed = [&](bool as_life) { move_audio(as_life ? audio_ : PLATFORM_AUDIO_RENDERED); };
     for (const std::string& note : notes_) tell(note);
+    if (silent_) tell("no device answers; the cockpit is silent", "Sound");
     keep_journal();
     deck.ask_to_leave = !journal_;
     if (inputs_.holding()) inputs_.take(input::Release{});  // nobody holds the button any more
@@ -116,7 +119,7 @@ class Session {
     if (options_.mute || platform_has_audio()) return;
     audio_ = PLATFORM_AUDIO_RENDERED;
     platform_choose_audio(audio_);
-    notes_.emplace_back("No sound device answers: the cockpit is silent");
+    silent_ = true;
   }
 
   // A flight that runs faster than life is silent, and its sounds run with it.
@@ -142,7 +145,7 @@ class Session {
   // As a person would, who then opens what had been open.
   void press_on_start_page(const Desk& desk) {
     const auto button = target_of(cockpit_, "Intro", "captain_" + options_.state);
-    if (!button) return tell("The panel has no start page that begins a flight " + options_.state);
+    if (!button) return tell("the panel has no button for the state " + options_.state, "Start page");
     inputs_.frame();
     inputs_.take(input::Press{button->gauge->header().name, button->box.middle(), input::Button::left});
     inputs_.frame();
@@ -215,6 +218,7 @@ class Session {
   PlatformAudio audio_now_ = PLATFORM_AUDIO_DEVICE;
   WavRecorder unheard_;
   Identifications identifications_;
+  bool silent_ = false;  ///< against the person's wish
   bool whole_ = true;
 };
 
