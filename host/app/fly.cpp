@@ -73,6 +73,7 @@ class Session {
         cockpit_(module_, read_panel_config(cockpit_options_.panel), cockpit_options_.rate) {
     say_start_notes(module_);
     say_notes(cockpit_.names());
+    if (!options.watch.empty()) options_.watch = std::filesystem::absolute(find_flow(options.watch)).string();
     if (options.record.empty()) return;
     flow_.emplace(options.record, cockpit_);
     inputs_.tell(*flow_);
@@ -97,7 +98,7 @@ class Session {
     deck.ask_to_leave = !journal_;
     if (inputs_.holding()) inputs_.take(input::Release{});  // nobody holds the button any more
     if (!options_.state.empty()) press_on_start_page(on_deck.desk);
-    if (!options_.watch.empty()) deck.watch(find_flow(options_.watch));
+    if (!options_.watch.empty()) deck.watch(options_.watch);
     const auto next = deck.fly();
     journal_.reset();
     desktop->keep_windows();
