@@ -233,6 +233,8 @@ class CommandLine {
     sub->add_option("--scale", show_.deck.scale, "Scale of the desktop")->check(number(0.5, 8.0));
     add_start(sub, show_.start);
     add_display(sub, show_.display);
+    sub->add_option("--exit-after", show_.deck.exit_after, "Close the window after so many seconds")
+        ->check(number(0, 1e9));
     sub->add_flag("--areas", show_.areas, "Outline the click areas");
     sub->add_flag("--night", show_.night, "With the panel lights on");
     sub->add_option("--set", show_.readings, "token=value, by name or number: hold a token variable");

@@ -59,7 +59,9 @@ FlightIdentity identity_for(const std::optional<LeftSession>& left, const Cockpi
 constexpr std::uint32_t start_page = 508;
 
 // A note in the window, and on standard error.
-void tell(const std::string& text) { MessageBoxA(nullptr, text.c_str(), "Journal", MB_OK); }
+void tell(const std::string& text, const char* caption = "Journal") {
+  MessageBoxA(nullptr, text.c_str(), caption, MB_OK);
+}
 
 // As a window manager asks; twice, for whom the cockpit would ask back.
 void leave_cockpit() {
@@ -83,6 +85,7 @@ class Session {
     say_start_notes(module_);
     say_notes(cockpit_.names());
     say_notes(cockpit_.words());
+    if (!options.watch.empty()) options_.watch = std::filesystem::absolute(find_flow(options.watch)).string();
     if (options.record.empty()) return;
     flow_.emplace(options.record, cockpit_);
     inputs_.tell(*flow_);
@@ -103,11 +106,12 @@ class Session {
     deck.on_pause = [&] { fall_silent(); };
     deck.on_speed = [&](bool as_life) { move_audio(as_life ? audio_ : PLATFORM_AUDIO_RENDERED); };
     for (const std::string& note : notes_) tell(note);
+    if (silent_) tell("no device answers; the cockpit is silent", "Sound");
     keep_journal();
     deck.ask_to_leave = !journal_;
     if (inputs_.holding()) inputs_.take(input::Release{});  // nobody holds the button any more
     if (!options_.state.empty()) press_on_start_page(on_deck.desk);
-    if (!options_.watch.empty()) deck.watch(find_flow(options_.watch));
+    if (!options_.watch.empty()) deck.watch(options_.watch);
     const auto next = deck.fly();
     journal_.reset();
     desktop->keep_windows();
@@ -129,7 +133,7 @@ class Session {
     if (options_.mute || platform_has_audio()) return;
     audio_ = PLATFORM_AUDIO_RENDERED;
     platform_choose_audio(audio_);
-    notes_.emplace_back("No sound device answers: the cockpit is silent");
+    silent_ = true;
   }
 
   // A flight that runs faster than life is silent, and its sounds run with it.
@@ -164,7 +168,7 @@ class Session {
   // As a person would, who then opens what had been open.
   void press_on_start_page(const Desk& desk) {
     const auto button = target_of(cockpit_, "Intro", "captain_" + options_.state);
-    if (!button) return tell("The panel has no start page that begins a flight " + options_.state);
+    if (!button) return tell("the panel has no button for the state " + options_.state, "Start page");
     inputs_.frame();
     inputs_.take(input::Press{button->gauge->header().name, button->box.middle(), input::Button::left});
     inputs_.frame();
@@ -239,6 +243,7 @@ class Session {
   Identifications identifications_;
   CockpitNoise noise_{options_.ambience / 100};
   AmbienceStream ambience_;
+  bool silent_ = false;  ///< against the person's wish
   bool whole_ = true;
 };
 

@@ -192,10 +192,7 @@ void GaugePainter::invalidate() { layers_->canvas_valid = false; }
 PanelSize gauge_size(const GaugeHeader& gauge, const BitmapStore& bitmaps) {
   const Element* root = gauge.element_list[0];
   if (root == nullptr || root->resource_id < 0) return {0, 0};
-  const Bitmap* background =
-      bitmaps.find(static_cast<std::uint32_t>(root->resource_id), BitmapUse::background);
-  if (background == nullptr) return {0, 0};
-  return {background->width, background->height};
+  return bitmaps.size(static_cast<std::uint32_t>(root->resource_id));
 }
 
 }  // namespace host

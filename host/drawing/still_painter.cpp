@@ -59,7 +59,7 @@ class StillPainter final : public ElementPainter {
     if (image.loaded) return image;
     image.loaded = true;
     const std::int64_t id = std::int64_t{element_.resource_id} + index;
-    image.place = scaled_place(element_.position, pictures_.size(id, use_), pictures_.scale());
+    image.place = scaled_place(element_.position, pictures_.size(id), pictures_.scale());
     image.picture = pictures_.at_size(id, use_, image.place.width, image.place.height, light);
     return image;
   }

@@ -259,6 +259,49 @@ TEST_F(InAWindow, TheWindowsStandAsTheyWereLeft) {
   EXPECT_EQ(leave(), 0);
 }
 
+TEST_F(InAWindow, ARightClickOnBareMetalOpensTheMenuAndOneOnAControlDoesNot) {
+  const unsigned plate = look(395, 95), low = look(55, 110);
+  click(385, 85, 3);
+  EXPECT_TRUE(eventually([&] { return look(395, 95) != plate; })) << "no menu";
+  screen->hands("key Down Right sleep 0.1 key Escape Escape");  // to the panels, back, out
+  EXPECT_TRUE(eventually([&] { return look(395, 95) == plate; })) << "the menu stays";
+  click(47, 99, 3);
+  EXPECT_EQ(look(55, 110), low);
+  EXPECT_EQ(leave(), 0);
+}
+
+// What it did is in the journal, and so is what the person did after it.
+TEST_F(InAWindow, AFlowIsWatchedAndTakenOver) {
+  screen->hands("key q");
+  program->wait();
+  const std::string flow = folder.write("lamps.lua", "click('Masterbat', 'battery_switch') wait(600)");
+  const std::string journal = folder / "watched.journal";
+  begin("--watch " + flow + " --journal " + journal);
+  const auto kept = [&](const std::string& text) {
+    return eventually([&] { return file_text(journal).find(text) != std::string::npos; });
+  };
+  ASSERT_TRUE(kept(" press left ")) << file_text(journal);
+  click(240, 35, 4);  // the wheel, while the flow has control
+  screen->hands("key Right sleep 0.2 key Escape sleep 0.2");
+  click(240, 35, 4);
+  EXPECT_TRUE(kept(" wheel 1 40 35 Acdcsw"));
+  EXPECT_EQ(leave(), 0);
+  const std::string lines = file_text(journal);
+  EXPECT_EQ(lines.find("wheel"), lines.rfind("wheel"));
+  EXPECT_EQ(tarnvale("replay " + journal + " --panel " + (folder / "panel.cfg")).exit_code, 0);
+}
+
+TEST_F(InAWindow, AnotherFlightBeginsInTheSameWindow) {
+  const std::string before = screen->hands("search --onlyvisible --name Tarnvale").output;
+  screen->hands("key F10 sleep 0.2 key Down Down Return sleep 0.2 key Down Down Down Return");  // runway
+  EXPECT_TRUE(eventually([&] {
+    return std::distance(std::filesystem::directory_iterator(screen->sessions()), {}) == 2;
+  }));
+  EXPECT_TRUE(eventually([&] { return look(2, 2) != 0; }));
+  EXPECT_EQ(screen->hands("search --onlyvisible --name Tarnvale").output, before);
+  EXPECT_EQ(leave(), 0);
+}
+
 // The captain's panel alone on a screen of a size on which the view has room.
 class CaptainInAWindow : public InAWindow {
  protected:
