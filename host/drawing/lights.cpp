@@ -44,10 +44,10 @@ std::vector<Light> lights_at_night(const GaugeHeader& gauge, const std::vector<C
     inputs.emplace_back(*link.element);
     lights.push_back(shines(*link.element) ? Light::day : Light::night);
   }
-  const PanelSize face = pictures.size(chain.front().element->resource_id, BitmapUse::image);
+  const PanelSize face = pictures.size(chain.front().element->resource_id);
   // What is as large as its face is the lighting itself.
   const auto worked = [&](const Element& element) {
-    const PanelSize size = pictures.size(element.resource_id, BitmapUse::image);
+    const PanelSize size = pictures.size(element.resource_id);
     const Box box{element.position.x, element.position.y, size.width, size.height};
     return element.kind == ELEMENT_ICON && (size.width != face.width || size.height != face.height) &&
            std::ranges::any_of(clicks, [&](const Box& click) { return meet(click, box); });
