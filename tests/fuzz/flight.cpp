@@ -11,8 +11,8 @@ constexpr std::uint64_t longest_pause = 20, longest_flight = 400;  // frames
 class Flight {
  public:
   void enter(const host::JournalEntry& entry) {
-    for (std::uint64_t i = 0; i < longest_pause && cockpit_.frames() < std::min(entry.frames, longest_flight);
-         ++i)
+    for (std::uint64_t i = 0;
+         i < longest_pause && cockpit_.frames() < std::min(entry.frames, longest_flight); ++i)
       inputs_.frame();
     if (!entry.input) return;
     held_ |= std::holds_alternative<host::input::HoldToken>(*entry.input);

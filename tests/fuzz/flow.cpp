@@ -31,7 +31,8 @@ class Flight {
   }
 
   host::Cockpit cockpit_{fuzz::module(), host::parse_panel_config(fuzz::small_panel, "panel.cfg")};
-  host::FlowSession session_{cockpit_, surroundings()};
+  host::CockpitInputs inputs_{cockpit_};
+  host::FlowSession session_{inputs_, surroundings()};
 };
 
 }  // namespace

@@ -157,7 +157,8 @@ class Tokens final : public host::TokenSource {
 const host::MadeBitmaps& bitmaps() {
   static const host::MadeBitmaps* const made = [] {
     auto* all = new host::MadeBitmaps;
-    for (const std::uint32_t id : {0, 10, 30, 40, 41, 50, 60}) all->add(id, id ? 9 : 32, id ? 9 : 32, 0xFF808080);
+    for (const std::uint32_t id : {0, 10, 30, 40, 41, 50, 60})
+      all->add(id, id ? 9 : 32, id ? 9 : 32, 0xFF808080);
     return all;
   }();
   return *made;

@@ -61,7 +61,7 @@ class Storm {
   }
 
   void service(rig::Gauge& gauge) {
-    constexpr u32 known[] = {SERVICE_START, SERVICE_SET_UP, SERVICE_END, SERVICE_TICK};
+    constexpr u32 known[] = {SERVICE_BEGIN, SERVICE_SET_UP, SERVICE_END, SERVICE_TICK};
     if (below(8) == 0) gauge.service(below(8) == 0 ? static_cast<u32>(bits_()) : known[below(4)]);
   }
 
