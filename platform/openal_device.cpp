@@ -16,34 +16,34 @@ Routine alc_routine(const char* name) {
   return reinterpret_cast<Routine>(alcGetProcAddress(nullptr, name));
 }
 
-/// OpenAL offers this one when no sound system answers: it plays, but there is nothing to hear.
-constexpr std::string_view silent_device = "No Output";
-
-/// Sound systems that do not answer say so at length on standard error, which is not for the person: whoever
-/// asked for the device is told.
-class Hush {
+/// OpenAL tries one sound system after the other, and each says on standard error why it is not there. Who has
+/// no sound is told once, by the host.
+class QuietErrors {
  public:
-  Hush() : kept_(fcntl(STDERR_FILENO, F_DUPFD_CLOEXEC, 3)) {
+  QuietErrors() : kept_(fcntl(STDERR_FILENO, F_DUPFD_CLOEXEC, 3)) {
     const int nowhere = open("/dev/null", O_WRONLY | O_CLOEXEC);
     if (kept_ >= 0 && nowhere >= 0) dup2(nowhere, STDERR_FILENO);
-    if (nowhere >= 0) close(nowhere);
+    if (nowhere >= 0) ::close(nowhere);
   }
-  ~Hush() {
+  ~QuietErrors() {
     if (kept_ < 0) return;
     dup2(kept_, STDERR_FILENO);
-    close(kept_);
+    ::close(kept_);
   }
-  Hush(const Hush&) = delete;
-  Hush& operator=(const Hush&) = delete;
+  QuietErrors(const QuietErrors&) = delete;
+  QuietErrors& operator=(const QuietErrors&) = delete;
 
  private:
   int kept_;
 };
 
+/// OpenAL offers this one when no sound system answers: it plays, but there is nothing to hear.
+constexpr std::string_view silent_device = "No Output";
+
 }  // namespace
 
 ALCdevice* open_default_device() {
-  const Hush hush;
+  const QuietErrors quiet;
   ALCdevice* device = alcOpenDevice(nullptr);
   if (device == nullptr) return nullptr;
   const ALCchar* name = alcGetString(device, ALC_ALL_DEVICES_SPECIFIER);
@@ -53,7 +53,7 @@ ALCdevice* open_default_device() {
 }
 
 ALCdevice* open_rendered_device() {
-  const Hush hush;
+  const QuietErrors quiet;
   if (!alcIsExtensionPresent(nullptr, "ALC_SOFT_loopback")) return nullptr;
   const auto open = alc_routine<LPALCLOOPBACKOPENDEVICESOFT>("alcLoopbackOpenDeviceSOFT");
   return open != nullptr ? open(nullptr) : nullptr;

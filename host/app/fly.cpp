@@ -98,8 +98,8 @@ class Session {
     if (!unused.empty()) notes_.push_back(unused);
     find_audio();
     left_ ? take_up() : begin(on_deck.desk);
-    if (!desktop) desktop.emplace();
     const EndSignals end_signals(leave_cockpit);
+    if (!desktop) desktop.emplace();
     FlightDeck deck(inputs_, on_deck);
     desktop->clear();
     deck.after_frame = [&] { after_frame(); };

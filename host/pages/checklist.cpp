@@ -1,6 +1,5 @@
 #include "host/pages/checklist.h"
 
-
 #include "host/files/read_file.h"
 #include "host/files/shortened.h"
 #include "host/panel/config_values.h"
