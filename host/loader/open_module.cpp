@@ -52,7 +52,7 @@ void OpenModule::read_file() {
     const std::string fault = library_file_->fault();
     if (!fault.empty()) note(Finding::Severity::error, "is damaged: " + fault);
     check_exports();
-    read_bitmaps();
+    if (!has_errors(findings_)) read_bitmaps();
   } catch (const LibraryError& error) {
     note(Finding::Severity::error, error.what());
   } catch (const std::system_error& error) {
@@ -64,6 +64,15 @@ void OpenModule::check_exports() {
   const auto& exports = library_file_->exports();
   if (exports.empty()) {
     note(Finding::Severity::error, "has no symbols; a module exports Linkage and ImportTable");
+    return;
+  }
+  const auto lacks = [&](const char* name) {
+    return std::ranges::find(exports, name, &ExportedSymbol::name) == exports.end();
+  };
+  if (lacks(linkage_name) && lacks(imports_name)) {
+    note(Finding::Severity::error, "is no gauge module: it exports neither Linkage nor ImportTable");
+    for (const ExportedSymbol& symbol : exports)
+      note(Finding::Severity::detail, "exports " + symbol.name);
     return;
   }
   check_export(linkage_name, sizeof(LinkageRecord), linkage_ordinal);

@@ -45,8 +45,11 @@ void ResourceSection::add(const ListedBitmap& bitmap) {
   try {
     if (!bitmap.bytes) throw DibError("it lies past the end");
     const Dib dib = parse_dib(*bitmap.bytes);
-    if (bitmap.id == PANEL_RESOURCE_NAMED) return;
-    if (!numbered_.emplace(bitmap.id, dib).second) throw DibError("the number is taken");
+    if (bitmap.id == PANEL_RESOURCE_NAMED) {
+      if (!named_.emplace(bitmap.name, dib).second) throw DibError("the name is taken");
+    } else if (!numbered_.emplace(bitmap.id, dib).second) {
+      throw DibError("the number is taken");
+    }
   } catch (const DibError& error) {
     notes_.push_back(name_of(bitmap) + " is damaged: " + error.what());
   }
@@ -55,6 +58,11 @@ void ResourceSection::add(const ListedBitmap& bitmap) {
 const Dib* ResourceSection::find(std::uint32_t id) const {
   const auto found = numbered_.find(id);
   return found == numbered_.end() ? nullptr : &found->second;
+}
+
+const Dib* ResourceSection::find(std::string_view name) const {
+  const auto found = named_.find(name);
+  return found == named_.end() ? nullptr : &found->second;
 }
 
 }  // namespace host

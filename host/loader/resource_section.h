@@ -1,10 +1,12 @@
 /// The bitmaps of a library, or of a file with the bytes of a `.panelres` section, by number.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "host/loader/dib.h"
@@ -32,11 +34,13 @@ class ResourceSection {
   explicit ResourceSection(const std::vector<ListedBitmap>& listed);
   explicit ResourceSection(Bytes section) : ResourceSection(listed_bitmaps(section)) {}
 
-  /// The numbered bitmap; null if there is none. Drawing never asks for a named one.
+  /// The bitmap of that number or name; null if there is none. Drawing asks for numbers alone.
   const Dib* find(std::uint32_t id) const;
+  const Dib* find(std::string_view name) const;
 
-  /// Numbers of the bitmaps, and how many there are.
+  /// All bitmaps, by their numbers or names.
   const std::map<std::uint32_t, Dib>& numbered() const { return numbered_; }
+  const std::map<std::string, Dib, std::less<>>& named() const { return named_; }
 
   /// What was left out and why, a line for each.
   const std::vector<std::string>& notes() const { return notes_; }
@@ -45,6 +49,7 @@ class ResourceSection {
   void add(const ListedBitmap& bitmap);
 
   std::map<std::uint32_t, Dib> numbered_;
+  std::map<std::string, Dib, std::less<>> named_;
   std::vector<std::string> notes_;
 };
 

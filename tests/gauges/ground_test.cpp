@@ -2,6 +2,8 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <map>
+#include <set>
 #include <numbers>
 
 #include "gauges/controls/pushback_programmes.h"
