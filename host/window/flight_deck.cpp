@@ -133,6 +133,7 @@ void FlightDeck::run_frame() {
 void FlightDeck::run_frames() {
   const double begun = now(), period = 1.0 / (cockpit_.rate() * speed_);
   if (paused_) return;
+  if (flow_ && begun >= rest_due_) rest_the_eye();
   if (begun - frame_due_ > most_late_frames / cockpit_.rate()) frame_due_ = begun;
   for (; now() >= frame_due_ && now() - begun < most_work; frame_due_ += period) {
     if (flow_ && !let_flow_work()) return;

@@ -125,6 +125,7 @@ class FlightDeck {
   // ---- A flow that is watched (flow_hand.cpp) ---------------------------------------------------
   bool let_flow_work();
   bool show_to_the_eye(const Spot& spot);
+  void rest_the_eye();
   void point_at_target();
   void end_flow();
   void take_over();
@@ -184,6 +185,7 @@ class FlightDeck {
   std::unique_ptr<WatchedFlow> flow_;
   std::string flow_name_, stage_;
   std::optional<Target> flow_target_;  ///< what the flow works
+  double rest_due_ = Pointer::never;
   int speed_ = 1;                      ///< times real time
   StripBar strip_;
   bool strip_old_ = true;
