@@ -147,6 +147,7 @@ class Panel {
     Values(int at, int number) : frame(at), gauge(number) {}
     double token(std::uint32_t) const override { return 0; }
     bool failed(std::uint32_t) const override { return false; }
+    bool any_failed() const override { return false; }
     void put(Element& e) const {
       const double swing = frame * 13.0 + gauge * 7;
       if (e.kind == ELEMENT_ICON) e.icon.source.value = e.resource_id >= 100 ? level_ : frame % 2;

@@ -1,5 +1,5 @@
-/// The module's frame against its floor, in one run: service 6, all values, 7 and 10 of every built
-/// gauge, beside the same number of empty calls and of look-ups through the same host table.
+/// The module's frame against its floor, in one run: service 6, all values, 7 and 10 of every gauge, beside
+/// empty routines in their places and the same number of look-ups through the same host table.
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
@@ -38,6 +38,7 @@ struct Call {
 
 struct Panel {
   std::vector<const GaugeHeader*> gauges;
+  std::vector<ServiceRoutine> services;
   std::vector<std::vector<Call>> calls;  ///< by gauge: the values of the set that shows by day
 };
 
@@ -62,6 +63,7 @@ Panel built_gauges() {
       add_calls(calls, e);
     }
     panel.gauges.push_back(*gauge);
+    panel.services.push_back((*gauge)->service);
     panel.calls.push_back(std::move(calls));
   }
   return panel;
@@ -79,42 +81,54 @@ void take_values(const std::vector<Call>& calls) {
 void frame(const Panel& panel) {
   for (std::size_t i = 0; i < panel.gauges.size(); ++i) {
     const GaugeHeader* gauge = panel.gauges[i];
-    gauge->service(gauge, SERVICE_TICK, 0);
+    const ServiceRoutine service = panel.services[i];
+    service(gauge, SERVICE_TICK, 0);
     take_values(panel.calls[i]);
-    gauge->service(gauge, SERVICE_AFTER_VALUES, 0);
-    gauge->service(gauge, SERVICE_BEFORE_DRAW, 0);
+    service(gauge, SERVICE_AFTER_VALUES, 0);
+    service(gauge, SERVICE_BEFORE_DRAW, 0);
   }
 }
 
 f64 empty_value(Element*) { return 0; }
 void empty_service(const GaugeHeader*, u32, uintptr_t) {}
 
+/// The same gauges with nothing behind them.
+Panel emptied(Panel panel) {
+  panel.services.assign(panel.services.size(), empty_service);
+  for (std::vector<Call>& calls : panel.calls) {
+    for (Call& call : calls) {
+      if (call.routine != nullptr) call.routine = empty_value;
+    }
+  }
+  return panel;
+}
+
 struct Floor {
-  std::size_t services, values, lookups;
-  // Through pointers that the compiler cannot see through, as the host calls.
-  ServiceRoutine volatile service = empty_service;
-  ValueRoutine volatile value = empty_value;
-  const PanelServices* volatile table = &::services;
+  Panel empty;
+  std::size_t more_lookups;  ///< those that the gauges' routines make
 };
 
 void floor_frame(const Floor& floor) {
+  // Through a pointer that the compiler cannot see through, as the module calls.
+  static const PanelServices* volatile table = &services;
   TokenVariable variable{604, 0, 0};
-  for (std::size_t i = 0; i < floor.services; ++i) floor.service(nullptr, 0, 0);
-  for (std::size_t i = 0; i < floor.values; ++i) sink += floor.value(nullptr);
-  for (std::size_t i = 0; i < floor.lookups; ++i) floor.table->lookup_var(&variable);
+  frame(floor.empty);
+  for (std::size_t i = 0; i < floor.more_lookups; ++i) table->lookup_var(&variable);
 }
 
 template <typename Work>
 double nanoseconds(Work work) {
-  constexpr int rounds = 500;
+  constexpr int rounds = 100;
   const auto start = Clock::now();
   for (int i = 0; i < rounds; ++i) work();
   return std::chrono::duration<double, std::nano>(Clock::now() - start).count() / rounds;
 }
 
-double median(std::vector<double> values) {
-  std::nth_element(values.begin(), values.begin() + values.size() / 2, values.end());
-  return values[values.size() / 2];
+/// What other programs on the machine disturb least: the fastest tenth.
+double usual(std::vector<double> values) {
+  const auto tenth = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 10);
+  std::nth_element(values.begin(), tenth, values.end());
+  return *tenth;
 }
 
 }  // namespace
@@ -124,23 +138,26 @@ int main() {
   token_values[604] = 100;
   token_values[364] = 1;
   const Panel panel = built_gauges();
-  lookups = 0;
-  frame(panel);
+  const auto lookups_of = [](const Panel& each) {
+    lookups = 0;
+    frame(each);
+    return lookups;
+  };
+  Floor floor{emptied(panel), 0};
+  const std::size_t all = lookups_of(panel);
+  floor.more_lookups = all - lookups_of(floor.empty);
   std::size_t values = 0;
   for (const auto& calls : panel.calls) {
     for (const Call& call : calls) values += call.routine != nullptr;
   }
-  const Floor floor{3 * panel.gauges.size(), values, lookups};
 
-  std::vector<double> frames, floors, ratios;
-  for (int round = 0; round < 101; ++round) {
+  std::vector<double> frames, floors;
+  for (int round = 0; round < 501; ++round) {
     frames.push_back(nanoseconds([&] { frame(panel); }));
     floors.push_back(nanoseconds([&] { floor_frame(floor); }));
-    ratios.push_back(frames.back() / floors.back());
   }
-  std::printf("%zu gauges, %zu values, %zu look-ups a frame\n", panel.gauges.size(), floor.values,
-              floor.lookups);
-  std::printf("frame %.2f us, floor %.2f us, ratio %.2f (aim: at most 1.5)\n", median(frames) / 1000,
-              median(floors) / 1000, median(ratios));
+  std::printf("%zu gauges, %zu values, %zu look-ups a frame\n", panel.gauges.size(), values, all);
+  std::printf("frame %.2f us, floor %.2f us, ratio %.2f (aim: at most 1.25)\n", usual(frames) / 1000,
+              usual(floors) / 1000, usual(frames) / usual(floors));
   return sink != sink;
 }

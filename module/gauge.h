@@ -59,17 +59,18 @@ inline constexpr MouseArea no_areas[] = {detail::entry(MOUSE_GROUP), detail::ent
 /// hands it back.
 struct Gauge {
   GaugeHeader header;
+  // What every frame asks for lies together: a frame of the whole cockpit is mostly a walk through memory.
+  Element* lit = nullptr;  ///< first element of the lit copy, or null
+  Services services;
+  u32 light_token;     ///< hides the lit copy while it reads 0
   Element root;        ///< the background
   Element* next[2]{};  ///< of the root
-  Services services;
-  u32 light_token;                          ///< hides the lit copy while it reads 0
-  Element* lit = nullptr;                   ///< first element of the lit copy, or null
   std::span<const char* const> part_words;  ///< by element of the first set
   std::span<const char* const> area_words;  ///< by click area
 
   /// A plate alone.
   constexpr explicit Gauge(const Face& face)
-      : header{}, root{}, services(face.services), light_token(face.light_token) {
+      : header{}, services(face.services), light_token(face.light_token), root{} {
     header.header_version = GAUGE_HEADER_VERSION;
     header.name = face.name;
     header.element_list[0] = &root;

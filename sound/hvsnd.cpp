@@ -78,7 +78,7 @@ f64 count_frame(Element* readout) {
   if (aircraft.cabin_announcements_on == 1 && a.counts()) ++a.count;
   if (a.starts_anew()) a.count = 0;
   a.shown = a.count;
-  write(a.window, "  ", a.shown / 10);
+  write(a.window, "  ");
   return limited(readout->string.source[0].value, 0, 740);
 }
 

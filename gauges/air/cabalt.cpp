@@ -108,7 +108,7 @@ f64 write_pressure_setting(Element* readout) {
     write(pressure_setting, " QNH");
   } else {
     const i32 setting = whole_i32(readout->string.source[0].value);
-    write(pressure_setting, "%04d", std::clamp(setting, -999, 9999));
+    write_figures(pressure_setting, std::clamp(setting, -999, 9999), 4);
   }
   return 0;
 }

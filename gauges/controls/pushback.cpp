@@ -20,7 +20,7 @@ f64 show(char (&text)[bytes], u32 value) {
   if (tug.manual != 0) {
     write(text, two ? "--" : "---");
   } else {
-    write(text, two ? "%02d" : "%03d", value);
+    write_figures(text, static_cast<i32>(value), two ? 2 : 3);
   }
   return 0;
 }

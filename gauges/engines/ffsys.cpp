@@ -30,20 +30,20 @@ constinit Side right{token::engine_2_fuel_flow, token::right_tank_quantity,
 constinit char weight_text[4] = "   ";
 
 /// A display has three figures: what is beyond them stands at 000 or at 999.
-void write_figures(char (&text)[4], i32 value) { write(text, "%03d", std::clamp(value, 0, 999)); }
+void write_reading(char (&text)[4], i32 value) { write_figures(text, std::clamp(value, 0, 999), 3); }
 
 void write_blank(char (&text)[4]) { write(text, "   "); }
 
 void write_flow(Side& side) {
   constexpr f64 highest = 9999;
   const f64 reading = read(side.flow_token) / 100;
-  if (reading < highest) return write_figures(side.text, whole_i32(reading) / 10);
+  if (reading < highest) return write_reading(side.text, whole_i32(reading) / 10);
   write_blank(side.text);
 }
 
 void write_selected(Side& side) {
   switch (side.selector) {
-    case quantity: return write_figures(side.text, whole_i32(read(side.tank_token) / 10));
+    case quantity: return write_reading(side.text, whole_i32(read(side.tank_token) / 10));
     case flow: return write_flow(side);
     case display_check: return write(side.text, "000");
     default: return write_blank(side.text);
@@ -57,7 +57,7 @@ f64 write_side(Element*) {
   } else if (fuel_used_mode == 0) {
     write_selected(*side);
   } else if (held_readings == 0) {
-    write_figures(side->text, whole_i32(side->datum - read(side->tank_token)) / 10);
+    write_reading(side->text, whole_i32(side->datum - read(side->tank_token)) / 10);
   }
   return 0;
 }
@@ -73,7 +73,7 @@ f64 write_weight(Element* readout) {
   if (aircraft.dc_power_on == 0 || aircraft.fuel_computer_power != 1) {
     write_blank(weight_text);
   } else {
-    write_figures(weight_text, weight_mode == 1 ? weight - without_fuel : weight);
+    write_reading(weight_text, weight_mode == 1 ? weight - without_fuel : weight);
   }
   return 0;
 }

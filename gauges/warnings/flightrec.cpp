@@ -45,7 +45,7 @@ f64 source_of(const Element* field) { return field->string.source[0].value; }
 
 f64 write_number(Element* field) {
   if (readout == number) {
-    write(number_text, "%05d", whole_i32(source_of(field) / 100));
+    write_figures(number_text, whole_i32(source_of(field) / 100), 5);
   } else {
     write(number_text, " ");
   }
@@ -54,7 +54,7 @@ f64 write_number(Element* field) {
 
 f64 write_day(Element* field) {
   if (readout == date) {
-    write(day_text, "%02d", whole_i32(source_of(field)));
+    write_figures(day_text, whole_i32(source_of(field)), 2);
   } else {
     write(day_text, " ");
   }
@@ -67,7 +67,7 @@ f64 write_month(Element* field) {
   constexpr f64 past_december = 13;
   const f64 month = source_of(field) + 1;
   if (readout == date) {
-    write(month_text, "%02d", whole_i32(month));
+    write_figures(month_text, whole_i32(month), 2);
   } else {
     write(month_text, " ");
   }

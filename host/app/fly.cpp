@@ -73,7 +73,9 @@ class Session {
         cockpit_(module_, read_panel_config(cockpit_options_.panel), cockpit_options_.rate) {
     say_start_notes(module_);
     say_notes(cockpit_.names());
-    if (!options.watch.empty()) options_.watch = std::filesystem::absolute(find_flow(options.watch)).string();
+    say_notes(cockpit_.words());
+    if (!options.watch.empty())
+      options_.watch = std::filesystem::absolute(find_flow(options.watch)).string();
     if (options.record.empty()) return;
     flow_.emplace(options.record, cockpit_);
     inputs_.tell(*flow_);

@@ -89,6 +89,7 @@ class FlowRun {
   // Whether all that was asked for has been written.
   bool fly() {
     say_notes(cockpit_.names());
+    say_notes(cockpit_.words());
     LuaRunner runner;
     runner.end_wanted = [] { return interrupted != 0; };
     bind_flow_api(runner, session_);

@@ -17,7 +17,6 @@ struct ElementState {
   std::array<double, 3> values{};  ///< one per value routine of its kind, failures applied
   std::string text;                ///< strings only; printable ASCII
   std::optional<double> reached;   ///< needles with a speed limit: how far the needle has come
-  bool operator==(const ElementState&) const = default;
 };
 
 }  // namespace host

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <utility>
 
 #include "host/gauge/needle_speed.h"
@@ -15,6 +16,14 @@ std::uint32_t failure_action(const FailureEntry* table, const TokenSource& token
   for (; table != nullptr && table->key != 0; ++table)
     if (tokens.failed(table->key)) return table->action;
   return 0;
+}
+
+// What a hidden element last was does not matter; a value that is not a number is the same as itself.
+bool shows_the_same(const ElementState& one, const ElementState& other) {
+  if (one.evaluated != other.evaluated || one.drawn != other.drawn) return false;
+  if (!one.evaluated) return true;
+  return std::memcmp(one.values.data(), other.values.data(), sizeof one.values) == 0 &&
+         one.reached == other.reached && one.text == other.text;
 }
 
 }  // namespace
@@ -45,9 +54,11 @@ const ElementState* GaugeRun::showing(std::size_t index) const {
   return nullptr;
 }
 
+bool GaugeRun::changed() const { return !std::ranges::equal(before_, now_, shows_the_same); }
+
 void GaugeRun::start(std::uintptr_t module_handle) {
   if (gauge_->service == nullptr) return;
-  gauge_->service(gauge_, SERVICE_START, module_handle);
+  gauge_->service(gauge_, SERVICE_BEGIN, module_handle);
   gauge_->service(gauge_, SERVICE_SET_UP, 0);
 }
 
@@ -61,6 +72,7 @@ void GaugeRun::frame(const TokenSource& tokens) {
   };
   std::swap(now_, before_);
   serve(SERVICE_TICK);
+  failing_ = tokens.any_failed();
   std::ranges::fill(hidden_, false);
   for (std::size_t i = 0; i < slots_.size(); ++i) hide_chain(i);
   for (std::size_t i = 0; i < slots_.size(); ++i) take(i, tokens);
@@ -85,7 +97,7 @@ void GaugeRun::take(std::size_t index, const TokenSource& tokens) {
   state.evaluated = state.drawn = !hidden_[index] && !covered(slots_[index]);
   if (!state.evaluated) return;
   inputs_[index].evaluate(tokens, state);
-  fail(index, failure_action(state.element->failures, tokens), state);
+  if (failing_) fail(index, failure_action(state.element->failures, tokens), state);
   if (state.element->kind == ELEMENT_NEEDLE) limit_speed(index, state);
   shown_[slots_[index].group] = state;
 }

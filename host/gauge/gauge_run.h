@@ -34,6 +34,9 @@ class GaugeRun {
   std::span<const ElementState> now() const { return now_; }
   std::span<const ElementState> before() const { return before_; }
 
+  /// Whether the last frame has changed anything that shows.
+  bool changed() const;
+
   /// What the element with that number shows, or the copy that stands in for it now; null while they are
   /// hidden, and for a number that the chain does not have.
   const ElementState* showing(std::size_t index) const;
@@ -55,6 +58,7 @@ class GaugeRun {
 
   const GaugeHeader* gauge_;
   double frame_seconds_ = 1.0 / 18;
+  bool failing_ = false;  // in this frame some system has failed
   std::vector<ElementInputs> inputs_;
   std::vector<Slot> slots_;
   std::vector<char> hidden_;         // by slot

@@ -12,6 +12,8 @@ class TokenSource {
   virtual double token(std::uint32_t number) const = 0;
   /// Whether the system behind a failure key has failed.
   virtual bool failed(std::uint32_t key) const = 0;
+  /// Whether any system has.
+  virtual bool any_failed() const = 0;
 };
 
 }  // namespace host

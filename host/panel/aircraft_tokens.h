@@ -13,6 +13,7 @@ class AircraftTokens final : public TokenSource {
   explicit AircraftTokens(const AircraftModel& aircraft) : aircraft_(aircraft) {}
   double token(std::uint32_t number) const override { return aircraft_.token(number); }
   bool failed(std::uint32_t key) const override { return aircraft_.failed(key); }
+  bool any_failed() const override { return aircraft_.any_failed(); }
 
  private:
   const AircraftModel& aircraft_;

@@ -1,6 +1,7 @@
 /// Small pieces of text handling that the host's readers share. Letters are ASCII.
 #pragma once
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -14,16 +15,19 @@ inline std::string_view trimmed(std::string_view text) {
   return text.substr(first, text.find_last_not_of(" \t\r\n") - first + 1);
 }
 
+inline char lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+
 /// `text` in small letters.
 inline std::string lower(std::string_view text) {
   std::string small(text);
-  for (char& c : small)
-    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+  for (char& c : small) c = lower(c);
   return small;
 }
 
 /// Whether two names are the same, letter case aside.
-inline bool same_name(std::string_view a, std::string_view b) { return lower(a) == lower(b); }
+inline bool same_name(std::string_view a, std::string_view b) {
+  return std::ranges::equal(a, b, [](char one, char other) { return lower(one) == lower(other); });
+}
 
 /// The parts of `text` between the separators; always at least one.
 inline std::vector<std::string_view> split(std::string_view text, char separator) {

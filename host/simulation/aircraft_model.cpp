@@ -95,6 +95,8 @@ bool AircraftModel::set_failed(std::uint32_t key, bool failed) {
 
 bool AircraftModel::failed(std::uint32_t key) const { return systems_->aircraft.failures.failed(key); }
 
+bool AircraftModel::any_failed() const { return systems_->aircraft.failures.any(); }
+
 void AircraftModel::set_failure_rate(double per_hour) {
   systems_->aircraft.failures.per_hour = per_hour;
 }

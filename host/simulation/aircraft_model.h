@@ -82,6 +82,7 @@ class AircraftModel {
   /// Fails or repairs the system behind a failure key. Returns false for a key that no system has.
   bool set_failed(std::uint32_t key, bool failed);
   bool failed(std::uint32_t key) const;
+  bool any_failed() const;
 
   /// How many systems fail by chance in an hour; 0, as at the start: none.
   void set_failure_rate(double per_hour);

@@ -181,12 +181,13 @@ class FlightDeck {
   std::optional<std::size_t> menu_window_;  ///< the panel that it was asked for on
   bool menu_old_ = false;
   bool menu_shown_ = false;
-  std::vector<std::pair<std::filesystem::path, std::string>> flows_;  ///< that the menu offers; in words
+  std::vector<std::pair<std::filesystem::path, std::string>>
+      flows_;  ///< that the menu offers; in words
   std::unique_ptr<WatchedFlow> flow_;
   std::string flow_name_, stage_;
   std::optional<Target> flow_target_;  ///< what the flow works
   double rest_due_ = Pointer::never;
-  int speed_ = 1;                      ///< times real time
+  int speed_ = 1;  ///< times real time
   StripBar strip_;
   bool strip_old_ = true;
   std::optional<NextFlight> next_;

@@ -64,7 +64,7 @@ class MouseHand {
   void press_caption(const ViewHit& hit, int clicks);
   void look(double now);
   void hide_tooltip();
-  void show_tooltip();
+  void show_hint(const Hint& hint);
 
   CockpitInputs& inputs_;
   Views& views_;

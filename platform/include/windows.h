@@ -82,11 +82,6 @@ WINBASEAPI HWND FindWindowA(LPCSTR class_name, LPCSTR title);
 /// Returns IDOK.
 WINBASEAPI int MessageBoxA(HWND owner, LPCSTR text, LPCSTR caption, UINT type);
 
-/// Formats with %d %i %u %x %X %c %s %% (and `l`, which changes nothing: LONG has 32 bits), '-', zero fill
-/// of numbers, a width and a precision. At most 1024 bytes with the final zero. Returns the characters
-/// written.
-WINBASEAPI int wsprintfA(LPSTR text, LPCSTR format, ...);
-
 // ---- Resources: libraries of this system carry none of the kinds asked for here -----------------
 
 WINBASEAPI HRSRC FindResourceA(HMODULE module, LPCSTR name, LPCSTR type);

@@ -89,7 +89,8 @@ INSTANTIATE_TEST_SUITE_P(
         Case{"options_alone_fly", "--mute", 1, "no display to open a window on"},
         Case{"unknown_option_alone", "--sail", 2, "see: tarnvale fly --help"},
         Case{"absent_display", "--display :4095", 1, "nothing answers at DISPLAY=:4095"},
-        Case{"unknown_flow", "fly --watch @gone.lua --display :4095", 1, "gone.lua: there is no such flow"},
+        Case{"unknown_flow", "fly --watch @gone.lua --display :4095", 1,
+             "gone.lua: there is no such flow"},
         Case{"unknown_command", "sail", 2, "there is no command 'sail'"},
         Case{"unknown_option", "run --speed 3", 2, "--speed"},
         Case{"bad_rate", "run --rate 0", 2, "--rate: '0' is not a number from 1 to 240"},
@@ -275,7 +276,8 @@ TEST(Program, ListsWhatTheCockpitHas) {
     const char* row;
   } cases[] = {
       {"gauges", "  2  Masterbat      174     148        15      3  Overhead, Behind the Panels\n"},
-      {"names Acdcsw", "Acdcsw  dc_meter_selector       icon  wheel    DC meter selector\n"},
+      {"names Acdcsw",
+       "Acdcsw  dc_meter_selector       icon  wheel         DC meter selector: whose amperes"},
       {"windows", "  502              Overhead"},
       {"tokens", "   364  0x16C  battery"},
       {"events", " 66374  0x10346  battery_toggle"},

@@ -28,6 +28,7 @@ namespace {
 struct Quiet : TokenSource {
   double token(std::uint32_t) const override { return 1; }
   bool failed(std::uint32_t) const override { return false; }
+  bool any_failed() const override { return false; }
 };
 
 double write_text(Element* element) {

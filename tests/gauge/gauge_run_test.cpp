@@ -17,6 +17,7 @@ namespace {
 struct Tokens : TokenSource {
   double token(std::uint32_t number) const override { return number; }
   bool failed(std::uint32_t key) const override { return failures.contains(key); }
+  bool any_failed() const override { return !failures.empty(); }
   std::set<std::uint32_t> failures;
 };
 

@@ -19,7 +19,7 @@ f64 value_c(Element*) { return 0; }
 
 char line[6];
 f64 write_line(Element* readout) {
-  write(line, "%d", whole_i32(readout->string.source[0].value + readout->string.source[1].value));
+  write_figures(line, whole_i32(readout->string.source[0].value + readout->string.source[1].value), 1);
   return 0;
 }
 
@@ -185,7 +185,8 @@ TEST(Kit, EveryCopyHasItsValuesSourcesAndScales) {
 TEST(Kit, AReadOutIsCutToItsLengthAndHasTwoSources) {
   rig::Host host;
   rig::Gauge gauge(made_up.header);
-  const std::pair<f64, const char*> cases[] = {{40, "42"}, {99997, "99999"}, {1234567, "12345"}};
+  const std::pair<f64, const char*> cases[] = {
+      {40, "42"}, {-5, "-3"}, {-2, "0"}, {99997, "99999"}, {1234567, "12345"}};
   for (const auto& [x, shows] : cases) {
     host.tokens[x_token] = x;
     host.tokens[y_token] = 2;

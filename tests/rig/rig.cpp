@@ -6,7 +6,10 @@
 #include <array>
 #include <cstdlib>
 #include <cstring>
+#include <map>
 #include <stdexcept>
+#include <string>
+#include <string_view>
 
 #include "module/host.h"
 
@@ -30,19 +33,40 @@ void look_up(TokenVariable* variable) {
 enum class Verb { toggle, on, off };
 using Effect = std::pair<u32, Verb>;
 
-const std::map<u32, Effect>& followed() {
-  static const std::map<u32, Effect> all = [] {
-    std::map<std::string, Effect> named;
-    std::map<u32, Effect> found;
-#define TOKEN(number, name, unit)                  \
-  named[#name "_toggle"] = {number, Verb::toggle}; \
-  named[#name "_on"] = {number, Verb::on};         \
-  named[#name "_off"] = {number, Verb::off};
-#define EVENT(number, name) \
-  if (named.contains(#name)) found[number] = named[#name];
+struct Named {
+  u32 number;
+  std::string_view name;
+};
+
+#define TOKEN(number, name, unit) {number, #name},
+#define EVENT(number, name)
+constexpr Named token_names[] = {
 #include "module/tokens.inc"
+};
 #undef TOKEN
 #undef EVENT
+#define TOKEN(number, name, unit)
+#define EVENT(number, name) {number, #name},
+constexpr Named event_names[] = {
+#include "module/tokens.inc"
+};
+#undef TOKEN
+#undef EVENT
+
+const std::map<u32, Effect>& followed() {
+  static const std::map<u32, Effect> all = [] {
+    constexpr std::pair<std::string_view, Verb> verbs[] = {
+        {"_toggle", Verb::toggle}, {"_on", Verb::on}, {"_off", Verb::off}};
+    std::map<std::string, Effect> named;
+    for (const Named& token : token_names) {
+      for (const auto& [ending, verb] : verbs)
+        named[std::string(token.name) + std::string(ending)] = {token.number, verb};
+    }
+    std::map<u32, Effect> found;
+    for (const Named& event : event_names) {
+      const auto effect = named.find(std::string(event.name));
+      if (effect != named.end()) found[event.number] = effect->second;
+    }
     return found;
   }();
   return all;

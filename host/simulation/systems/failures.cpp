@@ -50,6 +50,10 @@ bool Failures::failed(std::uint32_t key) const {
   return row != nullptr && failed_[static_cast<std::size_t>(row - table)];
 }
 
+bool Failures::any() const {
+  return std::ranges::any_of(failed_, [](bool failed) { return failed; });
+}
+
 void Failures::update(double dt_s) {
   if (per_hour <= 0.0) return;
   if (chance_.uniform() >= dt_s / 3600.0 * per_hour) return;

@@ -51,6 +51,7 @@ struct Failures {
   /// False for a key that no system has.
   bool set(std::uint32_t key, bool failed);
   bool failed(std::uint32_t key) const;
+  bool any() const;
 
   /// Chance: in a short time dt one system fails with the probability dt * per_hour, whichever.
   void update(double dt_s);
