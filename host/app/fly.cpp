@@ -85,7 +85,8 @@ class Session {
     say_start_notes(module_);
     say_notes(cockpit_.names());
     say_notes(cockpit_.words());
-    if (!options.watch.empty()) options_.watch = std::filesystem::absolute(find_flow(options.watch)).string();
+    if (!options.watch.empty())
+      options_.watch = std::filesystem::absolute(find_flow(options.watch)).string();
     if (options.record.empty()) return;
     flow_.emplace(options.record, cockpit_);
     inputs_.tell(*flow_);

@@ -40,7 +40,8 @@ class BitmapStore {
 
   /// That one; null if there is none. It is made anew when nobody holds it any more: a cockpit has far more
   /// pixels than a screen.
-  virtual std::shared_ptr<const Bitmap> find(std::uint32_t id, BitmapUse use, int density = 1) const = 0;
+  virtual std::shared_ptr<const Bitmap> find(std::uint32_t id, BitmapUse use,
+                                             int density = 1) const = 0;
 
   /// The densities that are loaded, ascending; the first is always 1.
   virtual std::vector<int> densities() const = 0;

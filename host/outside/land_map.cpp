@@ -90,7 +90,8 @@ class Land {
   std::vector<std::uint32_t> painted() {
     std::vector<std::uint32_t> texels(std::size_t(side) * side);
     for (unsigned y = 0; y < side; ++y) {
-      const auto course = course_.row_between(y / 4.0, side, 4), low = low_.row_between(y / 4.0, side, 4);
+      const auto course = course_.row_between(y / 4.0, side, 4),
+                 low = low_.row_between(y / 4.0, side, 4);
       const auto woods = trees_.row_between(y / 4.0, side, 4);
       for (unsigned x = 0; x < side; ++x) texels[y * side + x] = at(x, y, course[x], low[x], woods[x]);
     }

@@ -27,7 +27,8 @@ std::vector<Between> places(unsigned side, unsigned cells) {
 }
 
 // One octave, row by row: the heights of a row's bumps are the same all along it.
-void add_octave(std::vector<float>& values, unsigned side, unsigned cells, double weight, std::uint32_t seed) {
+void add_octave(std::vector<float>& values, unsigned side, unsigned cells, double weight,
+                std::uint32_t seed) {
   const std::vector<Between> along = places(side, cells);
   std::vector<double> top(cells), bottom(cells);
   for (unsigned y = 0; y < side; ++y) {
@@ -39,8 +40,8 @@ void add_octave(std::vector<float>& values, unsigned side, unsigned cells, doubl
     float* row = &values[std::size_t(y) * side];
     for (unsigned x = 0; x < side; ++x) {
       const auto& [left, right, part] = along[x];
-      row[x] += static_cast<float>(
-          weight * mix(mix(top[left], top[right], part), mix(bottom[left], bottom[right], part), down.part));
+      row[x] += static_cast<float>(weight * mix(mix(top[left], top[right], part),
+                                                mix(bottom[left], bottom[right], part), down.part));
     }
   }
 }

@@ -38,7 +38,8 @@ constexpr std::array cockpit_rows{
     HelpRow{"P", "Pause: look at everything, work nothing"},
     HelpRow{"S  F12", "Save a picture of the window"},
     HelpRow{"H  F1", "This page"},
-    HelpRow{"Esc", "Back: out of a page, out of full screen"},
+    HelpRow{"F10", "Menu; a right click beside the controls, too"},
+    HelpRow{"Esc", "Back: out of a page, out of full screen; then the menu"},
     HelpRow{"Q", "Leave; tarnvale fly --resume goes on with the flight"},
 };
 

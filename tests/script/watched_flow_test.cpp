@@ -25,7 +25,8 @@ class Watched : public testing::Test {
   Watched() { inputs.tell(entries); }
 
   std::unique_ptr<WatchedFlow> watch(const std::string& flow) {
-    return std::make_unique<WatchedFlow>(inputs, folder.write("shown.lua", flow), std::vector<Checklist>{},
+    return std::make_unique<WatchedFlow>(inputs, folder.write("shown.lua", flow),
+                                         std::vector<Checklist>{},
                                          [this](const std::string& text) { said = text; });
   }
 

@@ -92,11 +92,16 @@ TEST(Desk, IsReadAsItWasWrittenAndBadLinesAreTold) {
   const struct {
     const char* line;
     const char* wrong;
-  } cases[] = {{"place = 1,2,3", "needs 4 numbers"},   {"place = 0,0,9,900", "a window is 100 to 16384"},
-               {"zoom = nan", "expected a zoom"}, {"zoom = 1e99", "expected a zoom"},
-               {"full_screen = yes", "'yes'"},    {"torn = 1", "there is no entry 'torn' here"},
-               {"zoom", "expected name = value"}, {"[0]", "0 is outside"},
-               {"[50000000000]", "50000000000"}, {"[settings]\nvolume = 101", "101"},
+  } cases[] = {{"place = 1,2,3", "needs 4 numbers"},
+               {"place = 0,0,9,900", "a window is 100 to 16384"},
+               {"zoom = nan", "expected a zoom"},
+               {"zoom = 1e99", "expected a zoom"},
+               {"full_screen = yes", "'yes'"},
+               {"torn = 1", "there is no entry 'torn' here"},
+               {"zoom", "expected name = value"},
+               {"[0]", "0 is outside"},
+               {"[50000000000]", "50000000000"},
+               {"[settings]\nvolume = 101", "101"},
                {"[settings]\nscale = 0", "expected a scale"}};
   for (const auto& each : cases) {
     std::string told;
@@ -137,7 +142,8 @@ class MenuOfAllKinds : public testing::Test {
 
 TEST_F(MenuOfAllKinds, IsWorkedWithKeys) {
   menu.open(true);
-  keys({SDLK_UP, SDLK_RIGHT, SDLK_RIGHT, SDLK_LEFT});  // the level, from the first row around to the last
+  keys({SDLK_UP, SDLK_RIGHT, SDLK_RIGHT,
+        SDLK_LEFT});  // the level, from the first row around to the last
   EXPECT_EQ(value, 51);
   EXPECT_TRUE(menu.looks_old());
   keys({SDLK_UP, SDLK_RETURN, SDLK_DOWN, SDLK_RETURN});

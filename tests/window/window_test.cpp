@@ -293,10 +293,10 @@ TEST_F(InAWindow, AFlowIsWatchedAndTakenOver) {
 
 TEST_F(InAWindow, AnotherFlightBeginsInTheSameWindow) {
   const std::string before = screen->hands("search --onlyvisible --name Tarnvale").output;
-  screen->hands("key F10 sleep 0.2 key Down Down Return sleep 0.2 key Down Down Down Return");  // runway
-  EXPECT_TRUE(eventually([&] {
-    return std::distance(std::filesystem::directory_iterator(screen->sessions()), {}) == 2;
-  }));
+  screen->hands(
+      "key F10 sleep 0.2 key Down Down Return sleep 0.2 key Down Down Down Return");  // runway
+  EXPECT_TRUE(eventually(
+      [&] { return std::distance(std::filesystem::directory_iterator(screen->sessions()), {}) == 2; }));
   EXPECT_TRUE(eventually([&] { return look(2, 2) != 0; }));
   EXPECT_EQ(screen->hands("search --onlyvisible --name Tarnvale").output, before);
   EXPECT_EQ(leave(), 0);
