@@ -10,7 +10,7 @@ readonly GROUND_VOICE="ked_diphone 1 1"                 # the ground engineer on
 readonly CABIN_VOICE="cmu_us_slt_arctic_hts 1.05 1"     # the purser
 
 readonly SPEECH_LOUDNESS=-18.5 # while speaking
-readonly BREATH=0.03         # seconds left before the first consonant, and after the last
+readonly BREATH=0.04         # seconds left before the first consonant, and after the last
 
 # What the way to the ear does to a voice: low end that cabin noise would cover is left out, the consonants
 # are brought forward.

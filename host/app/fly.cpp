@@ -153,8 +153,8 @@ class Session {
   void after_frame() {
     const AircraftModel& aircraft = cockpit_.aircraft();
     identifications_.update(aircraft.identifications_heard(), cockpit_.seconds());
-    if (audio_now_ == PLATFORM_AUDIO_RENDERED) return unheard_.advance(1.0 / cockpit_.rate());
     noise_.hear(aircraft.sound_sources(), 1.0 / cockpit_.rate());
+    if (audio_now_ == PLATFORM_AUDIO_RENDERED) return unheard_.advance(1.0 / cockpit_.rate());
     ambience_.keep_up(noise_, cockpit_.seconds());
   }
 
