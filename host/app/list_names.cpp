@@ -7,6 +7,7 @@
 #include "host/loader/element_chain.h"
 #include "host/panel/hints.h"
 #include "host/panel/text.h"
+#include "host/panel/wheel.h"
 
 namespace host {
 namespace {
@@ -26,17 +27,17 @@ std::string part_word(const Element& element) {
 // The rows of one gauge: its parts with what works them, then the areas that work something unnamed.
 class GaugeRows {
  public:
-  GaugeRows(const GaugeHeader& gauge, const GaugeNames& names)
-      : gauge_(gauge), names_(names), areas_(gauge.mouse_areas) {}
+  explicit GaugeRows(const CockpitGauge& gauge) : gauge_(gauge), names_(gauge.names) {}
 
   void add_to(Columns& columns) const {
-    const std::vector<ChainLink> chain = element_chain(gauge_);
+    const std::string gauge = gauge_.header().name;
+    const std::vector<ChainLink> chain = element_chain(gauge_.header());
     for (const Named& part : names_.parts)
-      columns.add({gauge_.name, part.name, part_word(*chain[part.index].element),
-                   control_word(part.name), part.words});
+      columns.add({gauge, part.name, part_word(*chain[part.index].element), control_word(part.name),
+                   said_of(part)});
     for (const Named& area : names_.areas)
       if (!names_.part(area.name))
-        columns.add({gauge_.name, area.name, "", control_word(area.name), area.words});
+        columns.add({gauge, area.name, "", control_word(area.name), words_of(gauge_, area_of(area))});
   }
 
  private:
@@ -44,19 +45,22 @@ class GaugeRows {
   std::string control_word(const std::string& name) const {
     if (const Named* area = names_.area(name)) {
       const std::string way = lower(way_to_work(area_of(*area)));
-      return way.empty() ? "click" : way;
+      return (way.empty() ? "click" : way) + (takes_wheel(gauge_, area_of(*area)) ? ", wheel" : "");
     }
     const Named* up = names_.area(name + "_up");
-    const bool turns =
-        up && names_.area(name + "_down") && areas_.wheel(area_of(*up).box.middle(), true);
+    const bool turns = up && names_.area(name + "_down") && takes_wheel(gauge_, area_of(*up));
     return turns ? "wheel" : "";
   }
 
-  const HotArea& area_of(const Named& named) const { return areas_.areas()[named.index]; }
+  std::string said_of(const Named& part) const {
+    const std::string_view text = gauge_.words.part(part.index);
+    return std::string(text.empty() ? std::string_view(part.words) : text);
+  }
 
-  const GaugeHeader& gauge_;
+  const HotArea& area_of(const Named& named) const { return gauge_.areas.areas()[named.index]; }
+
+  const CockpitGauge& gauge_;
   const GaugeNames& names_;
-  HotAreas areas_;
 };
 
 }  // namespace
@@ -64,11 +68,14 @@ class GaugeRows {
 std::string list_names(const GaugeModule& module, const std::string& gauge) {
   const NameBook names = read_names(module);
   say_notes(names);
+  const WordBook words = read_words(module, names);
+  say_notes(words);
   if (!names.missing.empty()) throw std::runtime_error("there are no names: " + names.missing);
   Columns columns({"gauge", "name", "part", "control", "words"});
   const GaugeHeader* only = gauge.empty() ? nullptr : &find_gauge(module, gauge);
   for (const GaugeHeader* each : module.gauges())
-    if (!only || each == only) GaugeRows(*each, names.of(*each)).add_to(columns);
+    if (!only || each == only)
+      GaugeRows(CockpitGauge(*each, {}, names.of(*each), words.of(*each))).add_to(columns);
   return columns.text();
 }
 

@@ -8,6 +8,13 @@
 #include "host/files/shortened.h"
 
 namespace host {
+namespace {
+
+void warn_of(const std::vector<std::string>& notes) {
+  for (const std::string& note : notes) std::fprintf(stderr, "warning: %s\n", note.c_str());
+}
+
+}  // namespace
 
 const GaugeHeader& find_gauge(const GaugeModule& module, const std::string& name) {
   if (const GaugeHeader* gauge = module.find(name)) return *gauge;
@@ -31,8 +38,8 @@ const WindowConfig& find_window(const PanelConfig& panel, const std::string& typ
   throw std::runtime_error("there is no window " + typed + "; there are: " + titles);
 }
 
-void say_notes(const NameBook& names) {
-  for (const std::string& note : names.notes) std::fprintf(stderr, "warning: %s\n", note.c_str());
-}
+void say_notes(const NameBook& names) { warn_of(names.notes); }
+
+void say_notes(const WordBook& words) { warn_of(words.notes); }
 
 }  // namespace host

@@ -71,7 +71,7 @@ class FlowRun {
         flow_(sound_flow(options)),
         module_(cockpit_options_.module),
         cockpit_(module_, read_panel_config(cockpit_options_.panel), cockpit_options_.rate),
-        session_(cockpit_, surroundings()) {
+        session_(inputs_, surroundings()) {
     say_start_notes(module_);
     if (!options.pictures.empty()) prepare_folder(options.pictures);
     if (!options.sound.empty()) sound_ = std::make_unique<WavRecorder>(options.sound.string());
@@ -89,6 +89,7 @@ class FlowRun {
   // Whether all that was asked for has been written.
   bool fly() {
     say_notes(cockpit_.names());
+    say_notes(cockpit_.words());
     LuaRunner runner;
     runner.end_wanted = [] { return interrupted != 0; };
     bind_flow_api(runner, session_);
@@ -172,6 +173,7 @@ class FlowRun {
   SoundBook sound_book_{cockpit_options_.module.parent_path() / "Sound"};
   GaugeModule module_;
   Cockpit cockpit_;
+  CockpitInputs inputs_{cockpit_};
   FlowSession session_;
   bool journal_whole_ = true;
   std::unique_ptr<FlightJournal> journal_;

@@ -155,6 +155,7 @@ int show(const ShowOptions& options) {
   prepare_platform(located_options, window ? PLATFORM_AUDIO_DEVICE : PLATFORM_AUDIO_NONE);
   Cockpit cockpit(module, panel_of(module, options, located_options.panel), located_options.rate);
   say_notes(cockpit.names());
+  say_notes(cockpit.words());
   set_up(cockpit, options);
   if (!window) {
     write_picture(cockpit, options);
@@ -163,6 +164,8 @@ int show(const ShowOptions& options) {
   DeckOptions deck_options = options.deck;
   deck_options.desk.outside = false;
   CockpitInputs inputs(cockpit);
+  use_display(options.display);
+  const Desktop desktop;
   FlightDeck deck(inputs, deck_options);
   deck.mark_areas(options.areas);
   deck.fly();

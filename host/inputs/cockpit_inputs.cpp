@@ -1,5 +1,6 @@
 #include "host/inputs/cockpit_inputs.h"
 
+#include "host/panel/wheel.h"
 #include "host/simulation/places.h"
 
 namespace host {
@@ -44,7 +45,7 @@ Answer CockpitInputs::apply(const input::Release&) {
 
 Answer CockpitInputs::apply(const input::Wheel& wheel) {
   const CockpitGauge* gauge = cockpit_.find(wheel.gauge);
-  return done_if(gauge && Pointer::wheel(gauge->areas, wheel.point, wheel.notches));
+  return done_if(gauge && turn_wheel(*gauge, wheel.point, wheel.notches));
 }
 
 Answer CockpitInputs::apply(const input::OpenWindow& open) {

@@ -5,7 +5,7 @@
 #include <stdexcept>
 
 #include "host/inputs/known_fields.h"
-#include "host/inputs/nearest.h"
+#include "host/panel/nearest.h"
 
 namespace host {
 namespace {

@@ -1,11 +1,6 @@
 #include "host/pages/checklist.h"
 
-#include <algorithm>
-#include <array>
-#include <charconv>
-#include <cmath>
 #include <fstream>
-#include <span>
 #include <sstream>
 
 #include "host/panel/config_values.h"
@@ -13,50 +8,6 @@
 
 namespace host {
 namespace {
-
-constexpr std::array<std::string_view, 5> signs{"=", "<", ">", "<=", ">="};
-
-std::vector<std::string> words_in(std::string_view text) {
-  std::vector<std::string> words;
-  for (const std::string_view word : split(text, ' '))
-    if (!trimmed(word).empty()) words.emplace_back(trimmed(word));
-  return words;
-}
-
-double read_number(const std::string& word) {
-  double number = 0;
-  const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), number);
-  if (error != std::errc{} || end != word.data() + word.size() || !std::isfinite(number))
-    throw LineError("'" + word + "' is no number");
-  return number;
-}
-
-// [gauge] name sign number
-Comparison read_comparison(std::span<const std::string> words) {
-  if (words.size() != 3 && words.size() != 4)
-    throw LineError(
-        "a condition is a token, or a gauge and its part, then = < > <= or >=, and a number");
-  Comparison comparison;
-  if (words.size() == 4) comparison.gauge = words[0];
-  comparison.name = words[words.size() - 3];
-  comparison.sign = words[words.size() - 2];
-  if (std::ranges::find(signs, comparison.sign) == signs.end())
-    throw LineError("'" + comparison.sign + "' is none of = < > <= >=");
-  comparison.number = read_number(words.back());
-  return comparison;
-}
-
-Condition read_condition(std::string_view text) {
-  const std::vector<std::string> words = words_in(text);
-  Condition condition;
-  auto begin = words.begin();
-  for (;;) {
-    const auto end = std::find(begin, words.end(), "and");
-    condition.push_back(read_comparison({begin, end}));
-    if (end == words.end()) return condition;
-    begin = end + 1;
-  }
-}
 
 ChecklistItem read_item(std::string_view line) {
   const std::vector<std::string_view> columns = split(line, '|');
@@ -124,15 +75,6 @@ std::vector<Checklist> read_checklists(const std::filesystem::path& file) {
   std::ostringstream text;
   if (!(text << in.rdbuf())) throw ConfigError(file.string() + ": cannot read the checklists");
   return parse_checklists(text.str(), file);
-}
-
-bool holds(const Comparison& comparison, double reading) {
-  const std::string& sign = comparison.sign;
-  if (sign == "<") return reading < comparison.number;
-  if (sign == ">") return reading > comparison.number;
-  if (sign == "<=") return reading <= comparison.number;
-  if (sign == ">=") return reading >= comparison.number;
-  return reading == comparison.number;
 }
 
 }  // namespace host

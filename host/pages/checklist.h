@@ -8,8 +8,7 @@
 ///     Parking brake  | SET | Thleft parking_brake_lever     | parking_brake > 0
 ///     Duct pressure  | GREEN | Grdpsi                       | Bleedair duct_pressure_lamp = 1
 ///
-/// An item is worked at a click area of a gauge, or looked at on a gauge. A condition is a token by its name,
-/// or a part of a gauge by its own, then =, <, >, <= or >= and a number; several are joined by "and".
+/// An item is worked at a click area of a gauge, or looked at on a gauge.
 #pragma once
 
 #include <filesystem>
@@ -17,18 +16,9 @@
 #include <string_view>
 #include <vector>
 
+#include "host/panel/condition.h"
+
 namespace host {
-
-/// What a reading is held against.
-struct Comparison {
-  std::string gauge;  ///< empty: a token
-  std::string name;   ///< of the token, or of the gauge's part
-  std::string sign;   ///< one of = < > <= >=
-  double number;
-};
-
-/// All of them hold.
-using Condition = std::vector<Comparison>;
 
 struct ChecklistItem {
   std::string what, wanted;
@@ -51,8 +41,5 @@ inline constexpr std::size_t most_checklists = 12, most_items = 26;
 /// Throws ConfigError, which names the line. `file` is named there.
 std::vector<Checklist> parse_checklists(std::string_view text, const std::filesystem::path& file);
 std::vector<Checklist> read_checklists(const std::filesystem::path& file);
-
-/// Whether the comparison holds for a reading; nothing holds for what is not a number.
-bool holds(const Comparison& comparison, double reading);
 
 }  // namespace host

@@ -1,30 +1,12 @@
 #include "host/pages/checklist_progress.h"
 
 #include <algorithm>
-#include <cmath>
 
-#include "host/inputs/nearest.h"
+#include "host/panel/nearest.h"
 #include "host/simulation/table_row.h"
 
 namespace host {
 namespace {
-
-double part_reading(const CockpitGauge& gauge, const std::string& part) {
-  const Named* named = gauge.names.part(part);
-  const ElementState* state = named && gauge.started ? gauge.run.showing(named->index) : nullptr;
-  if (!state || !state->drawn) return -1;
-  const bool icon = state->element->kind == ELEMENT_ICON;
-  return icon ? std::max(-1.0, std::trunc(state->values[0])) : state->values[0];
-}
-
-bool seen(const Comparison& comparison, const Cockpit& cockpit) {
-  if (comparison.gauge.empty()) {
-    const TableRow* row = find_row(AircraftModel::tokens(), comparison.name);
-    return row && holds(comparison, cockpit.aircraft().token(row->number));
-  }
-  const CockpitGauge* gauge = cockpit.find(comparison.gauge);
-  return gauge && gauge->started && holds(comparison, part_reading(*gauge, comparison.name));
-}
 
 std::vector<std::string_view> names_of(const std::vector<Named>& all) {
   std::vector<std::string_view> names;
@@ -91,11 +73,6 @@ std::string fault_for(const std::vector<Checklist>& lists, const Cockpit& cockpi
         return at(item.line, fault);
   }
   return {};
-}
-
-bool holds(const Condition& condition, const Cockpit& cockpit) {
-  return std::ranges::all_of(condition,
-                             [&](const Comparison& comparison) { return seen(comparison, cockpit); });
 }
 
 std::size_t items_done(const Checklist& list, const Cockpit& cockpit) {

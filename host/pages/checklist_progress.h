@@ -15,11 +15,6 @@ std::vector<Checklist> fitted_to(const Cockpit& cockpit, std::vector<Checklist> 
 /// is none.
 std::string fault_for(const std::vector<Checklist>& lists, const Cockpit& cockpit);
 
-/// Whether the cockpit shows it. A part is as it was last seen: while its window is closed a gauge stands
-/// still, and one that was never seen shows nothing. A part that is hidden, or an icon without an image, is
-/// -1.
-bool holds(const Condition& condition, const Cockpit& cockpit);
-
 /// How many items are done.
 std::size_t items_done(const Checklist& list, const Cockpit& cockpit);
 

@@ -5,9 +5,17 @@
 #include "host/panel/text.h"
 
 namespace host {
+
+CockpitGauge::CockpitGauge(const GaugeHeader& gauge, PanelSize background,
+                           const GaugeNames& gauge_names, const GaugeWords& gauge_words)
+    : run(gauge), areas(gauge.mouse_areas), size(background), names(gauge_names), words(gauge_words) {
+  for (std::vector<std::size_t>& control : names.areas_of_one_control()) areas.join(std::move(control));
+}
+
 Cockpit::Cockpit(GaugeModule& module, PanelConfig config, double rate)
     : module_(module),
       names_(read_names(module)),
+      words_(read_words(module, names_)),
       config_(std::move(config)),
       panels_(config_),
       rate_(rate) {
@@ -52,8 +60,8 @@ CockpitGauge& Cockpit::gauge_for(const Placement& placement) {
   if (size.width < 1 || size.height < 1)
     throw ConfigError(at_line(config_.file, placement.line,
                               std::string(header->name) + " has no background picture"));
-  CockpitGauge& gauge =
-      *gauges_.emplace_back(std::make_unique<CockpitGauge>(*header, size, names_.of(*header)));
+  CockpitGauge& gauge = *gauges_.emplace_back(
+      std::make_unique<CockpitGauge>(*header, size, names_.of(*header), words_.of(*header)));
   by_name_[lower(header->name)] = &gauge;
   gauge.run.set_frame_seconds(1.0 / rate_);
   return gauge;

@@ -18,13 +18,14 @@
 #include "host/panel/panel_config.h"
 #include "host/panel/panel_set.h"
 #include "host/panel/services.h"
+#include "host/panel/word_book.h"
 
 namespace host {
 
 /// One gauge of the cockpit. It runs once a frame, in however many open windows it stands.
 struct CockpitGauge {
-  CockpitGauge(const GaugeHeader& gauge, PanelSize background, const GaugeNames& gauge_names)
-      : run(gauge), areas(gauge.mouse_areas), size(background), names(gauge_names) {}
+  CockpitGauge(const GaugeHeader& gauge, PanelSize background, const GaugeNames& gauge_names,
+               const GaugeWords& gauge_words);
 
   const GaugeHeader& header() const { return run.gauge(); }
 
@@ -32,6 +33,7 @@ struct CockpitGauge {
   HotAreas areas;
   PanelSize size;  ///< of its background
   const GaugeNames& names;
+  const GaugeWords& words;
   bool started = false;
   std::uint64_t frame = 0;    ///< the cockpit's frame that it last ran in
   bool moving = false;        ///< something it shows has changed with that frame
@@ -86,6 +88,7 @@ class Cockpit : private ServiceTarget {
   const PanelSet& panels() const { return panels_; }
   const PanelConfig& config() const { return config_; }
   const NameBook& names() const { return names_; }
+  const WordBook& words() const { return words_; }
   const GaugeModule& module() const { return module_; }
   const std::vector<CockpitWindow>& windows() const { return windows_; }
 
@@ -117,6 +120,7 @@ class Cockpit : private ServiceTarget {
 
   GaugeModule& module_;
   NameBook names_;
+  WordBook words_;
   PanelConfig config_;
   PanelSet panels_;
   AircraftModel aircraft_;

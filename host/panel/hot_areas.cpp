@@ -44,13 +44,32 @@ std::int64_t distance(const Box& a, const Box& b) {
   return (dx + dy) * 1000 + skew;
 }
 
+// The halves of a knob stand side by side, the ends of a lever apart.
+bool stand_together(const Box& a, const Box& b) {
+  const std::int64_t across = std::min(a.width, b.width), along = std::min(a.height, b.height);
+  return 2 * gap(a.x, a.width, b.x, b.width) < across && 2 * gap(a.y, a.height, b.y, b.height) < along;
+}
+
 Box around(const Box& a, const Box& b) {
   const std::int64_t x = std::min(a.x, b.x), y = std::min(a.y, b.y);
   return {x, y, std::max(a.x + a.width, b.x + b.width) - x,
           std::max(a.y + a.height, b.y + b.height) - y};
 }
 
+std::int64_t square_of_distance(const Box& box, PanelPoint point) {
+  const PanelPoint inside = box.nearest(point);
+  const std::int64_t dx = std::int64_t{inside.x} - point.x, dy = std::int64_t{inside.y} - point.y;
+  return dx * dx + dy * dy;
+}
+
 }  // namespace
+
+PanelPoint Box::nearest(PanelPoint point) const {
+  const auto within = [](std::int64_t at, std::int64_t low, std::int64_t size) {
+    return static_cast<i32>(std::max(low, std::min(at, low + size - 1)));
+  };
+  return {within(point.x, x, width), within(point.y, y, height)};
+}
 
 void HotArea::fire(PanelPoint point, std::uint32_t fired) const {
   if (routine) routine({static_cast<i32>(point.x - box.x), static_cast<i32>(point.y - box.y)}, fired);
@@ -89,7 +108,19 @@ const HotArea* HotAreas::at(PanelPoint point, std::uint32_t actions) const {
   for (const HotArea& area : areas_)
     if ((area.flags & actions) && area.box.contains(point) && (!found || !is_inside(*found, area)))
       found = &area;
-  return found;
+  return found ? found : between(point, actions);
+}
+
+const HotArea* HotAreas::between(PanelPoint point, std::uint32_t actions) const {
+  for (const std::vector<std::size_t>& control : controls_) {
+    Box all = areas_[control.front()].box;
+    for (const std::size_t i : control) all = around(all, areas_[i].box);
+    if (!all.contains(point)) continue;
+    const auto nearest = std::ranges::min_element(
+        control, {}, [&](std::size_t i) { return square_of_distance(areas_[i].box, point); });
+    if (areas_[*nearest].flags & actions) return &areas_[*nearest];
+  }
+  return nullptr;
 }
 
 std::string_view HotAreas::tooltip(PanelPoint point) const {
@@ -107,7 +138,8 @@ void HotAreas::find_pairs() {
   for (std::size_t up = 0; up < areas_.size(); ++up)
     for (std::size_t down = 0; down < areas_.size(); ++down)
       if (areas_[up].cursor == CURSOR_INCREASE && areas_[down].cursor == CURSOR_DECREASE &&
-          (areas_[up].flags & areas_[down].flags & MOUSE_LEFT))
+          (areas_[up].flags & areas_[down].flags & MOUSE_LEFT) &&
+          stand_together(areas_[up].box, areas_[down].box))
         candidates.push_back({up, down});
   std::ranges::stable_sort(candidates, {}, [&](const Pair& pair) {
     return distance(areas_[pair.increase].box, areas_[pair.decrease].box);

@@ -26,6 +26,9 @@ struct Box {
     return {static_cast<i32>(x + width / 2), static_cast<i32>(y + height / 2)};
   }
 
+  /// The point itself, or the nearest one inside.
+  PanelPoint nearest(PanelPoint point) const;
+
   bool operator==(const Box&) const = default;
 };
 
@@ -55,15 +58,19 @@ class HotAreas {
 
   const std::vector<HotArea>& areas() const { return areas_; }
 
-  /// The innermost area under the point that answers any of the `actions`; null if there is none.
+  /// Makes these areas the parts of one control, so that it has no dead strip between them.
+  void join(std::vector<std::size_t> areas) { controls_.push_back(std::move(areas)); }
+
+  /// The innermost area under the point that answers any of the `actions`; between the areas of one control
+  /// the nearest of them. Null if there is none.
   const HotArea* at(PanelPoint point, std::uint32_t actions) const;
 
   /// The text of the innermost tooltip under the point; empty if there is none.
   std::string_view tooltip(PanelPoint point) const;
 
-  /// What a notch of the wheel does. Only a pair of an increase and a decrease area and a knob
+  /// What a notch of the wheel does. Only an increase and a decrease area side by side and a knob
   /// that repeats on both buttons can be wheeled, also between the two areas of a pair: a switch
-  /// or a guard never moves because someone scrolled over it.
+  /// or a guard never moves because someone scrolled over it, nor a lever, whose ends stand apart.
   std::optional<WheelStep> wheel(PanelPoint point, bool up) const;
 
  private:
@@ -80,6 +87,7 @@ class HotAreas {
 
   void read(const MouseArea* table);
   void add_tooltip(const Box& group, int depth, std::string text);
+  const HotArea* between(PanelPoint point, std::uint32_t actions) const;
   void find_pairs();
   const Pair* pair_of(const HotArea* area) const;
   const Pair* pair_around(PanelPoint point) const;
@@ -87,6 +95,7 @@ class HotAreas {
   std::vector<HotArea> areas_;
   std::vector<Tooltip> tooltips_;
   std::vector<Pair> pairs_;
+  std::vector<std::vector<std::size_t>> controls_;
 };
 
 }  // namespace host

@@ -1,6 +1,7 @@
 #include "host/panel/name_book.h"
 
 #include <algorithm>
+#include <set>
 
 #include "host/files/read_file.h"
 #include "host/loader/element_chain.h"
@@ -148,6 +149,24 @@ const Named* GaugeNames::area(std::string_view name) const { return find(areas, 
 std::string_view GaugeNames::area_words(std::size_t index) const {
   const auto found = std::ranges::find(areas, index, &Named::index);
   return found == areas.end() ? std::string_view() : std::string_view(found->words);
+}
+
+std::vector<std::vector<std::size_t>> GaugeNames::areas_of_one_control() const {
+  std::set<std::string, std::less<>> controls;
+  for (const Named& part : parts) controls.insert(part.name);
+  for (const Named& each : areas) {
+    if (!each.name.ends_with("_up")) continue;
+    const std::string control = each.name.substr(0, each.name.size() - 3);
+    if (area(control + "_down")) controls.insert(control);
+  }
+  std::vector<std::vector<std::size_t>> found;
+  for (const std::string& control : controls) {
+    std::vector<std::size_t> of_it;
+    for (const Named& each : areas)
+      if (each.name.starts_with(control + "_")) of_it.push_back(each.index);
+    if (of_it.size() > 1) found.push_back(std::move(of_it));
+  }
+  return found;
 }
 
 const GaugeNames& NameBook::of(const GaugeHeader& gauge) const {

@@ -39,6 +39,10 @@ struct GaugeNames {
 
   /// The words of the area with that index; empty if it has none.
   std::string_view area_words(std::size_t index) const;
+
+  /// The areas that are parts of one control, which have their names from it: "start_selector_off" and
+  /// "start_selector_engine_1" where a part is called start_selector, "..._up" and "..._down".
+  std::vector<std::vector<std::size_t>> areas_of_one_control() const;
 };
 
 /// The names of a module's gauges.

@@ -9,10 +9,11 @@ const HotArea* Pointer::press(const HotAreas& areas, PanelPoint point, std::uint
   release();
   held_ = areas.at(point, button);
   if (!held_) return nullptr;
+  areas_ = &areas;
   button_ = button;
   point_ = point;
   if (held_->flags & MOUSE_REPEAT) next_repeat_ = now + repeat_delay;
-  held_->fire(point, button);
+  held_->fire(held_->box.nearest(point), button);
   return held_;
 }
 
@@ -27,7 +28,11 @@ bool Pointer::move(PanelPoint point) {
 void Pointer::tick(double now) {
   if (now < next_repeat_) return;
   next_repeat_ = now + repeat_interval;
-  if (held_->box.contains(point_)) held_->fire(point_, button_ | MOUSE_REPEAT);
+  if (is_on_held()) held_->fire(held_->box.nearest(point_), button_ | MOUSE_REPEAT);
+}
+
+bool Pointer::is_on_held() const {
+  return held_->box.contains(point_) || areas_->at(point_, button_) == held_;
 }
 
 void Pointer::release() {

@@ -36,6 +36,9 @@ class Pointer {
   static bool wheel(const HotAreas& areas, PanelPoint point, int notches);
 
  private:
+  bool is_on_held() const;
+
+  const HotAreas* areas_ = nullptr;
   const HotArea* held_ = nullptr;
   std::uint32_t button_ = 0;
   PanelPoint point_{};

@@ -1,6 +1,6 @@
 #include <algorithm>
 
-#include "host/inputs/nearest.h"
+#include "host/panel/nearest.h"
 #include "host/script/flow_api.h"
 #include "host/simulation/places.h"
 

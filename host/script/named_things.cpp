@@ -2,7 +2,7 @@
 
 #include <stdexcept>
 
-#include "host/inputs/nearest.h"
+#include "host/panel/nearest.h"
 
 namespace host {
 namespace {

@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "host/inputs/nearest.h"
+#include "host/panel/nearest.h"
 #include "host/pages/checklist_progress.h"
 #include "host/script/flow_api.h"
 

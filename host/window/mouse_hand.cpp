@@ -31,12 +31,13 @@ int cursor_at(const std::optional<ViewHit>& hit) {
   return area ? area->cursor : CURSOR_ARROW;
 }
 
-Hint tooltip_at(const std::optional<ViewHit>& hit) {
+Hint tooltip_at(const std::optional<ViewHit>& hit, const Cockpit& cockpit) {
   if (!hit) return {};
   if (hit->caption == CaptionPart::tear) return {"Tear off into its own window", {}};
   if (hit->caption == CaptionPart::close) return {"Close", {}};
   if (hit->on_caption) return {"Show it alone", "with Shift beside the others"};
-  return hit->gauge ? hint_at(*hit->gauge->gauge, hit->gauge->point) : Hint{};
+  if (!hit->gauge) return {};
+  return hint_at(*hit->gauge->gauge, cockpit.module().bitmaps(), hit->gauge->point);
 }
 
 }  // namespace
@@ -96,7 +97,7 @@ void MouseHand::move(int dx, int dy, double now) {
 void MouseHand::look(double now) {
   const auto under = hit();
   cursors_.show(cursor_at(under));
-  Hint hint = tooltip_at(under);
+  Hint hint = tooltip_at(under, inputs_.cockpit());
   if (hint != tooltip_) hide_tooltip();
   tooltip_ = std::move(hint);
   if (!tooltip_.words.empty() && !tooltip_shown_) tooltip_due_ = now + tooltip_delay;
@@ -108,11 +109,11 @@ void MouseHand::hide_tooltip() {
   tooltip_due_ = Pointer::never;
 }
 
-void MouseHand::show_tooltip() {
+void MouseHand::show_hint(const Hint& hint) {
   View* view = views_.find(view_id_);
   tooltip_due_ = Pointer::never;
-  if (!view || tooltip_.words.empty()) return;
-  Overlay overlay = draw_tooltip(tooltip_.words, tooltip_.how, view->scale());
+  if (!view || hint.words.empty()) return;
+  Overlay overlay = draw_tooltip(hint, view->scale());
   const PanelSize size = view->screen().size();
   const int below = static_cast<int>(22 * view->scale());
   overlay.x = std::clamp(x_ + below / 2, 0, std::max(0, size.width - overlay.width));
@@ -134,8 +135,10 @@ void MouseHand::press_control(const ViewHit& hit, std::uint32_t button) {
   let_go();
   if (look_only_) return;
   CockpitGauge& gauge = *hit.gauge->gauge;
+  const Hint refusal = refusal_at(inputs_.cockpit(), gauge, hit.gauge->point, button);
   const input::Press press{gauge.header().name, hit.gauge->point, input::Button{button}};
   if (inputs_.take(press) != Answer::nothing) held_ = Held{&gauge, hit.window, button};
+  show_hint(refusal);
 }
 
 void MouseHand::press_caption(const ViewHit& hit, int clicks) {
@@ -192,7 +195,7 @@ std::optional<PanelPoint> MouseHand::place_in(const View& view) const {
 }
 
 void MouseHand::tick(double now) {
-  if (now >= tooltip_due_) show_tooltip();
+  if (now >= tooltip_due_) show_hint(tooltip_);
 }
 
 double MouseHand::next_tick() const { return tooltip_due_; }

@@ -20,6 +20,8 @@ class MouseHand {
   void take(const SDL_Event& event, double now);
 
   /// Shows the hand: under the pointer is something to click that is no panel's.
+  void set_scale(double scale) { cursors_.set_scale(scale); }
+
   void show_hand() { cursors_.show(CURSOR_HAND); }
 
   /// Turns the wheel of an event into zoom, about the pointer.
@@ -62,7 +64,7 @@ class MouseHand {
   void press_caption(const ViewHit& hit, int clicks);
   void look(double now);
   void hide_tooltip();
-  void show_tooltip();
+  void show_hint(const Hint& hint);
 
   CockpitInputs& inputs_;
   Views& views_;

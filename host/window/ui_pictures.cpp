@@ -103,9 +103,19 @@ CaptionPart caption_part(int x, int width, double scale) {
   return CaptionPart::none;
 }
 
-Overlay draw_tooltip(const std::string& text, const std::string& below, double scale) {
-  std::vector<Line> lines{{text, 16 * scale, ink}};
-  if (!below.empty()) lines.push_back({below, 14 * scale, soft_ink});
+Overlay draw_tooltip(const Hint& hint, double scale) {
+  const double heading = 16 * scale, small = 14 * scale;
+  const std::size_t colon = hint.words.find(": ");
+  std::vector<Line> lines;
+  if (hint.refused) {
+    lines.push_back({hint.words, heading, accent});
+  } else if (colon == std::string::npos) {
+    lines.push_back({hint.words, heading, ink});
+  } else {
+    lines.push_back({hint.words.substr(0, colon), heading, ink, true});
+    lines.push_back({hint.words.substr(colon + 2), heading, ink});
+  }
+  if (!hint.how.empty()) lines.push_back({hint.how, small, soft_ink});
   return draw_card(lines, 8 * scale, scale);
 }
 

@@ -6,6 +6,7 @@
 
 #include "host/drawing/painter.h"
 #include "host/hands/sticks.h"
+#include "host/panel/hints.h"
 #include "host/sketch/sketch.h"
 
 namespace host {
@@ -27,8 +28,8 @@ double caption_width(const std::string& title, const std::string& key, double sc
 /// The button under a point of a caption of that width.
 CaptionPart caption_part(int x, int width, double scale);
 
-/// A short text beside the pointer, and below it another one in a smaller letter unless that is empty.
-Overlay draw_tooltip(const std::string& text, const std::string& below, double scale);
+/// A hint beside the pointer: what stands before a colon is its heading. A refusal is in amber.
+Overlay draw_tooltip(const Hint& hint, double scale);
 
 /// Messages, one a line, wrapped to at most `width` pixels; a badge is larger and stands alone.
 Overlay draw_note(const std::string& text, int width, double scale);

@@ -34,6 +34,12 @@ const std::vector<MouseArea> areas = {
     entry(MOUSE_END),
 };
 
+class NoBitmaps final : public BitmapStore {
+ public:
+  const Bitmap* find(std::uint32_t, BitmapUse, int) const override { return nullptr; }
+  std::vector<int> densities() const override { return {1}; }
+};
+
 class NamesFile : public testing::Test {
  protected:
   NamesFile() {
@@ -108,11 +114,12 @@ TEST_F(NamesFile, AFileFullOfNonsenseIsToldOnOneScreen) {
 }
 
 TEST_F(NamesFile, HintsSayWhatAControlIsAndWhichClickItTakes) {
+  const GaugeWords unsaid;
   const NameBook names = book(
       "Panel\tswitch\tbox 10,10,20,20\tSwitch\nPanel\ttest\tbox 10,10,20,20\tLamp test\n"
       "Panel\tlabelled\tbox 60,10,20,20\tNot shown\nPanel\tknob\tbox 110,10,20,20\tKnob\n"
       "Panel\tlight_test\tbox 160,10,20,20\tLight test\n");
-  const CockpitGauge panel(gauge, {300, 100}, names.of(gauge));
+  const CockpitGauge panel(gauge, {300, 100}, names.of(gauge), unsaid);
   const std::pair<i32, Hint> cases[] = {
       {15, {"Switch", "Right click: Lamp test"}},
       {65, {"Own text", ""}},
@@ -122,7 +129,7 @@ TEST_F(NamesFile, HintsSayWhatAControlIsAndWhichClickItTakes) {
       {280, {"", ""}},
   };
   for (const auto& [x, expected] : cases) {
-    const Hint hint = hint_at(panel, {x, 15});
+    const Hint hint = hint_at(panel, NoBitmaps(), {x, 15});
     EXPECT_EQ(hint.words, expected.words) << x;
     EXPECT_EQ(hint.how, expected.how) << x;
   }

@@ -166,6 +166,29 @@ TEST_F(OnAGauge, TheWheelTurnsKnobsAndNeverASwitch) {
   }
 }
 
+TEST_F(OnAGauge, TheNearerHalfOfALeverTakesAClickBetweenThem) {
+  const std::vector<MouseArea> rows = {area(10, 10, 20, 20, CURSOR_INCREASE, MOUSE_LEFT, answer<'u'>),
+                                       area(12, 44, 20, 20, CURSOR_DECREASE, MOUSE_LEFT, answer<'d'>),
+                                       area(10, 34, 4, 4, CURSOR_HAND, MOUSE_LEFT, answer<'b'>),
+                                       row_of(MOUSE_END)};
+  HotAreas lever(rows.data());
+  EXPECT_EQ(lever.at({20, 36}, MOUSE_LEFT), nullptr) << "nobody says that they belong together";
+  EXPECT_FALSE(lever.wheel({20, 20}, true)) << "its ends stand apart";
+  lever.join({0, 1});
+  const std::tuple<i32, i32, u32, const char*> cases[] = {
+      {20, 36, MOUSE_LEFT, "u 10,19 L"}, {20, 37, MOUSE_LEFT, "d 8,0 L"},
+      {31, 12, MOUSE_LEFT, "u 19,2 L"},  {12, 36, MOUSE_LEFT, "b 2,2 L"},
+      {20, 36, MOUSE_RIGHT, nullptr},    {20, 64, MOUSE_LEFT, nullptr},
+  };
+  for (const auto& [x, y, button, call] : cases) {
+    calls.clear();
+    pointer.press(lever, {x, y}, button, 0);
+    EXPECT_EQ(calls, call ? std::vector<std::string>{call} : std::vector<std::string>{})
+        << x << "," << y;
+    pointer.release();
+  }
+}
+
 TEST_F(OnAGauge, TooltipsBelongToTheirGroups) {
   EXPECT_EQ(areas.tooltip({115, 85}), "Set the height");
   EXPECT_EQ(areas.tooltip({105, 65}), "Outer");

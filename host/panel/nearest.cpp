@@ -1,4 +1,4 @@
-#include "host/inputs/nearest.h"
+#include "host/panel/nearest.h"
 
 #include <algorithm>
 #include <numeric>
