@@ -40,6 +40,7 @@ struct FlyOptions {
   bool fresh = false;    ///< without what is remembered of earlier flights
   bool no_view = false;  ///< without the view out of the window
   bool mute = false;
+  double ambience = 100;          ///< loudness of the aircraft's own sound, percent
   std::filesystem::path record;   ///< a flow to write the person's inputs to; empty: none
   std::filesystem::path journal;  ///< empty: one in the folder of sessions
   bool keep_journal = true;
@@ -51,6 +52,7 @@ struct RunOptions {
   std::string flow = "gate_to_gate";
   std::filesystem::path pictures;  ///< empty: none
   std::filesystem::path sound;     ///< empty: none
+  double ambience = 100;           ///< in that sound, percent
   std::filesystem::path journal;   ///< empty: none
   bool realtime = false;
 };
@@ -61,6 +63,7 @@ struct ReplayOptions {
   std::filesystem::path pictures;  ///< folder; empty: none
   double picture_every = 60;       ///< seconds of flight
   std::filesystem::path sound;     ///< empty: none
+  double ambience = 100;           ///< in that sound, percent
   std::filesystem::path flow;      ///< empty: none
   bool digest = false;
 };

@@ -5,7 +5,7 @@
 #include <set>
 #include <sstream>
 
-#include "tests/aircraft/listening.h"
+#include "tests/listening/listening.h"
 
 namespace {
 
@@ -25,7 +25,7 @@ constexpr struct {
     {-25, -22, -8},      // chime
     {-29, -24, -10},     // tone
     {-24, -20, -3.5},    // warning
-    {-28, -25, -10},     // machinery
+    {-33, -30, -10},     // machinery
     {-19.5, -16.5, -4},  // word
     {-19.5, -16.5, -4},  // take-off call
     {-19.5, -16.5, -4},  // announcement
