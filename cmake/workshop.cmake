@@ -9,7 +9,7 @@ if(TARNVALE_WORKSHOP)
   # Asked with every build; the workshop knows what is up to date.
   add_custom_target(workshop ALL
     COMMAND ${CMAKE_COMMAND} --build ${TARNVALE_WORKSHOP} --target pictures sounds
-    BYPRODUCTS ${TARNVALE_WORKSHOP}/resources/panelres.bin
+    BYPRODUCTS ${TARNVALE_WORKSHOP}/resources/panelres.bin ${TARNVALE_WORKSHOP}/resources/panelres.res
     COMMENT "Asking the workshop for pictures and sounds")
 endif()
 

@@ -1,4 +1,4 @@
--- By the kneeboard: every list from before start to shut down. What an item points at is clicked once, and
+-- Every list of the kneeboard, from before start to shut down. What an item points at is clicked once, and
 -- the kneeboard has to tick it; what more it takes is said below. In the air the aircraft is put where the
 -- lists for the air belong.
 

@@ -78,19 +78,19 @@ typedef f64 (*ValueRoutine)(Element* element);
 typedef i32 (*MouseRoutine)(PanelPoint point, u32 mouse_flags);
 
 /* Called by the host with an id of enum ServiceId. `extra_data` is the module's handle for
- * SERVICE_START and 0 otherwise. */
+ * SERVICE_BEGIN and 0 otherwise. */
 typedef void (*ServiceRoutine)(const GaugeHeader* gauge, u32 service_id, uintptr_t extra_data);
 
 typedef void (*HeaderRoutine)(void);
 typedef void (*HeaderArgumentRoutine)(uintptr_t argument);
 
 enum ServiceId {
-  SERVICE_START = 3,        /* once, before the gauge's first frame */
+  SERVICE_BEGIN = 3,        /* once, before the gauge's first frame */
   SERVICE_TICK = 6,         /* every frame, before the element values are taken */
   SERVICE_AFTER_VALUES = 7, /* every frame, after the element values are taken */
   SERVICE_BEFORE_DRAW = 10, /* every frame, before drawing */
   SERVICE_END = 12,         /* once, when the gauge's window is destroyed for good */
-  SERVICE_SET_UP = 14       /* once, after SERVICE_START */
+  SERVICE_SET_UP = 14       /* once, after SERVICE_BEGIN */
 };
 
 /* ---- Elements ------------------------------------------------------------------------------ */
@@ -341,84 +341,91 @@ typedef struct PanelResourceEntry {
 
 /* ---- Layout -------------------------------------------------------------------------------- */
 
-#define PANEL_OFFSET(record, field, offset) \
-  PANEL_STATIC_ASSERT(offsetof(record, field) == (offset), #record "." #field)
-#define PANEL_SIZE(record, size) PANEL_STATIC_ASSERT(sizeof(record) == (size), #record)
-
-PANEL_SIZE(PanelPoint, 8);
-PANEL_SIZE(PanelSize, 8);
-PANEL_SIZE(TokenVariable, 16);
-PANEL_OFFSET(TokenVariable, value, 8);
-PANEL_SIZE(FailureEntry, 12);
-PANEL_SIZE(NonlinearityPoint, 16);
-PANEL_SIZE(PanelResourceHeader, 16);
-PANEL_SIZE(PanelResourceEntry, 64);
-
-#if UINTPTR_MAX == 0xFFFFFFFFFFFFFFFFu /* the layout where pointers have eight bytes */
-PANEL_SIZE(IconPart, 40);
-PANEL_OFFSET(IconPart, value, 16);
-PANEL_OFFSET(IconPart, switch_mode, 24);
-PANEL_OFFSET(IconPart, image_count, 28);
-PANEL_OFFSET(IconPart, switch_scale, 32);
-PANEL_SIZE(NeedlePart, 56);
-PANEL_OFFSET(NeedlePart, source, 8);
-PANEL_OFFSET(NeedlePart, value, 24);
-PANEL_OFFSET(NeedlePart, table, 32);
-PANEL_OFFSET(NeedlePart, table_length, 40);
-PANEL_OFFSET(NeedlePart, turn, 44);
-PANEL_OFFSET(NeedlePart, rate_limit, 48);
-PANEL_SIZE(StringPart, 88);
-PANEL_OFFSET(StringPart, source, 8);
-PANEL_OFFSET(StringPart, value, 40);
-PANEL_OFFSET(StringPart, foreground, 48);
-PANEL_OFFSET(StringPart, weight, 60);
-PANEL_OFFSET(StringPart, max_characters, 68);
-PANEL_OFFSET(StringPart, font, 72);
-PANEL_OFFSET(StringPart, text, 80);
-PANEL_SIZE(SliderPart, 64);
-PANEL_OFFSET(SliderPart, x_value, 16);
-PANEL_OFFSET(SliderPart, x_scale, 24);
-PANEL_OFFSET(SliderPart, y_source, 32);
-PANEL_SIZE(MovingAxis, 40);
-PANEL_SIZE(MovingImagePart, 88);
-PANEL_OFFSET(MovingImagePart, x, 8);
-PANEL_OFFSET(MovingImagePart, y, 48);
-PANEL_SIZE(SpriteAxis, 32);
-PANEL_SIZE(SpritePart, 104);
-PANEL_OFFSET(SpritePart, x, 8);
-PANEL_OFFSET(SpritePart, rotation, 72);
-PANEL_SIZE(Element, 152);
-PANEL_OFFSET(Element, resource_id, 4);
-PANEL_OFFSET(Element, position, 8);
-PANEL_OFFSET(Element, gauge, 16);
-PANEL_OFFSET(Element, next, 24);
-PANEL_OFFSET(Element, failures, 32);
-PANEL_OFFSET(Element, image_flags, 40);
-PANEL_OFFSET(Element, icon, 48);
-PANEL_SIZE(MouseArea, 56);
-PANEL_OFFSET(MouseArea, cursor, 20);
-PANEL_OFFSET(MouseArea, mouse_flags, 28);
-PANEL_OFFSET(MouseArea, routine, 40);
-PANEL_OFFSET(MouseArea, extra_data, 48);
-PANEL_SIZE(GaugeHeader, 120);
-PANEL_OFFSET(GaugeHeader, name, 8);
-PANEL_OFFSET(GaugeHeader, element_list, 16);
-PANEL_OFFSET(GaugeHeader, query, 32);
-PANEL_OFFSET(GaugeHeader, kill, 80);
-PANEL_OFFSET(GaugeHeader, width_mm, 88);
-PANEL_OFFSET(GaugeHeader, mouse_areas, 96);
-PANEL_OFFSET(GaugeHeader, service, 104);
-PANEL_OFFSET(GaugeHeader, user_data, 112);
-PANEL_SIZE(PanelServices, 96);
-PANEL_SIZE(ImportEntry, 16);
-PANEL_OFFSET(ImportEntry, pointer, 8);
-PANEL_OFFSET(LinkageRecord, init, 8);
-PANEL_OFFSET(LinkageRecord, flags, 24);
-PANEL_OFFSET(LinkageRecord, version, 32);
-PANEL_OFFSET(LinkageRecord, gauges, 40);
-PANEL_SIZE(LinkageRecord, 40 + 121 * 8);
+/* Each record's size and each field's offset, first where pointers have eight bytes, then where they have
+ * four. A double lies at a multiple of eight on both. */
+#if UINTPTR_MAX == 0xFFFFFFFFFFFFFFFFu
+#define PANEL_BYTES(wide, narrow) (wide)
+#else
+#define PANEL_BYTES(wide, narrow) (narrow)
 #endif
+#define PANEL_OFFSET(record, field, wide, narrow) \
+  PANEL_STATIC_ASSERT(offsetof(record, field) == PANEL_BYTES(wide, narrow), #record "." #field)
+#define PANEL_SIZE(record, wide, narrow) \
+  PANEL_STATIC_ASSERT(sizeof(record) == PANEL_BYTES(wide, narrow), #record)
 
+PANEL_SIZE(PanelPoint, 8, 8);
+PANEL_SIZE(PanelSize, 8, 8);
+PANEL_SIZE(TokenVariable, 16, 16);
+PANEL_OFFSET(TokenVariable, value, 8, 8);
+PANEL_SIZE(FailureEntry, 12, 12);
+PANEL_SIZE(NonlinearityPoint, 16, 16);
+PANEL_SIZE(PanelResourceHeader, 16, 16);
+PANEL_SIZE(PanelResourceEntry, 64, 64);
+
+PANEL_SIZE(IconPart, 40, 40);
+PANEL_OFFSET(IconPart, value, 16, 16);
+PANEL_OFFSET(IconPart, switch_mode, 24, 20);
+PANEL_OFFSET(IconPart, image_count, 28, 24);
+PANEL_OFFSET(IconPart, switch_scale, 32, 32);
+PANEL_SIZE(NeedlePart, 56, 48);
+PANEL_OFFSET(NeedlePart, source, 8, 8);
+PANEL_OFFSET(NeedlePart, value, 24, 24);
+PANEL_OFFSET(NeedlePart, table, 32, 28);
+PANEL_OFFSET(NeedlePart, table_length, 40, 32);
+PANEL_OFFSET(NeedlePart, turn, 44, 36);
+PANEL_OFFSET(NeedlePart, rate_limit, 48, 40);
+PANEL_SIZE(StringPart, 88, 80);
+PANEL_OFFSET(StringPart, source, 8, 8);
+PANEL_OFFSET(StringPart, value, 40, 40);
+PANEL_OFFSET(StringPart, foreground, 48, 44);
+PANEL_OFFSET(StringPart, weight, 60, 56);
+PANEL_OFFSET(StringPart, max_characters, 68, 64);
+PANEL_OFFSET(StringPart, font, 72, 68);
+PANEL_OFFSET(StringPart, text, 80, 72);
+PANEL_SIZE(SliderPart, 64, 64);
+PANEL_OFFSET(SliderPart, x_value, 16, 16);
+PANEL_OFFSET(SliderPart, x_scale, 24, 24);
+PANEL_OFFSET(SliderPart, y_source, 32, 32);
+PANEL_SIZE(MovingAxis, 40, 40);
+PANEL_SIZE(MovingImagePart, 88, 88);
+PANEL_OFFSET(MovingImagePart, x, 8, 8);
+PANEL_OFFSET(MovingImagePart, y, 48, 48);
+PANEL_SIZE(SpriteAxis, 32, 32);
+PANEL_SIZE(SpritePart, 104, 104);
+PANEL_OFFSET(SpritePart, x, 8, 8);
+PANEL_OFFSET(SpritePart, rotation, 72, 72);
+PANEL_SIZE(Element, 152, 144);
+PANEL_OFFSET(Element, resource_id, 4, 4);
+PANEL_OFFSET(Element, position, 8, 8);
+PANEL_OFFSET(Element, gauge, 16, 16);
+PANEL_OFFSET(Element, next, 24, 20);
+PANEL_OFFSET(Element, failures, 32, 24);
+PANEL_OFFSET(Element, image_flags, 40, 28);
+PANEL_OFFSET(Element, icon, 48, 40);
+PANEL_SIZE(MouseArea, 56, 48);
+PANEL_OFFSET(MouseArea, cursor, 20, 20);
+PANEL_OFFSET(MouseArea, mouse_flags, 28, 28);
+PANEL_OFFSET(MouseArea, routine, 40, 40);
+PANEL_OFFSET(MouseArea, extra_data, 48, 44);
+PANEL_SIZE(GaugeHeader, 120, 72);
+PANEL_OFFSET(GaugeHeader, name, 8, 8);
+PANEL_OFFSET(GaugeHeader, element_list, 16, 12);
+PANEL_OFFSET(GaugeHeader, query, 32, 20);
+PANEL_OFFSET(GaugeHeader, kill, 80, 44);
+PANEL_OFFSET(GaugeHeader, width_mm, 88, 48);
+PANEL_OFFSET(GaugeHeader, mouse_areas, 96, 56);
+PANEL_OFFSET(GaugeHeader, service, 104, 60);
+PANEL_OFFSET(GaugeHeader, user_data, 112, 64);
+PANEL_SIZE(PanelServices, 96, 48);
+PANEL_SIZE(ImportEntry, 16, 8);
+PANEL_OFFSET(ImportEntry, pointer, 8, 4);
+PANEL_OFFSET(LinkageRecord, init, 8, 8);
+PANEL_OFFSET(LinkageRecord, flags, 24, 16);
+PANEL_OFFSET(LinkageRecord, version, 32, 24);
+PANEL_OFFSET(LinkageRecord, gauges, 40, 32);
+PANEL_SIZE(LinkageRecord, 40 + 121 * 8, 32 + 121 * 4);
+
+#undef PANEL_BYTES
 #undef PANEL_OFFSET
 #undef PANEL_SIZE
 #undef PANEL_STATIC_ASSERT

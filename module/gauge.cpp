@@ -26,7 +26,7 @@ void call(void (*routine)()) {
 void serve(const GaugeHeader* header, u32 service_id, uintptr_t extra_data) {
   const Gauge& gauge = gauge_of(*header);
   switch (service_id) {
-    case SERVICE_START:
+    case SERVICE_BEGIN:
       if (gauge.services.start != nullptr) gauge.services.start(extra_data);
       break;
     case SERVICE_SET_UP: return call(gauge.services.set_up);

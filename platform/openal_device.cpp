@@ -1,6 +1,8 @@
 #include "platform/openal_device.h"
 
 #include <AL/alext.h>
+#include <fcntl.h>
+#include <unistd.h>
 
 #include <string_view>
 
@@ -14,12 +16,34 @@ Routine alc_routine(const char* name) {
   return reinterpret_cast<Routine>(alcGetProcAddress(nullptr, name));
 }
 
+/// OpenAL tries one sound system after the other, and each says on standard error why it is not there. Who has
+/// no sound is told once, by the host.
+class QuietErrors {
+ public:
+  QuietErrors() : kept_(dup(STDERR_FILENO)) {
+    const int nowhere = open("/dev/null", O_WRONLY | O_CLOEXEC);
+    if (kept_ >= 0 && nowhere >= 0) dup2(nowhere, STDERR_FILENO);
+    if (nowhere >= 0) ::close(nowhere);
+  }
+  ~QuietErrors() {
+    if (kept_ < 0) return;
+    dup2(kept_, STDERR_FILENO);
+    ::close(kept_);
+  }
+  QuietErrors(const QuietErrors&) = delete;
+  QuietErrors& operator=(const QuietErrors&) = delete;
+
+ private:
+  int kept_;
+};
+
 /// OpenAL offers this one when no sound system answers: it plays, but there is nothing to hear.
 constexpr std::string_view silent_device = "No Output";
 
 }  // namespace
 
 ALCdevice* open_default_device() {
+  const QuietErrors quiet;
   ALCdevice* device = alcOpenDevice(nullptr);
   if (device == nullptr) return nullptr;
   const ALCchar* name = alcGetString(device, ALC_ALL_DEVICES_SPECIFIER);

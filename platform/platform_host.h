@@ -29,6 +29,12 @@ void platform_choose_audio(enum PlatformAudio audio);
 /// it is restored, as when a device goes away.
 void platform_move_audio(enum PlatformAudio audio);
 
+/// Whether the chosen audio can be had now: 0 where no device answers.
+int platform_has_audio(void);
+
+/// How loud the device plays, 0 to 1 of what the module asks for; 1 at first. A rendered mix is always whole.
+void platform_set_volume(float volume);
+
 /// The format of the rendered mix.
 #define PLATFORM_AUDIO_RATE     44100
 #define PLATFORM_AUDIO_CHANNELS 2

@@ -1,5 +1,7 @@
 #include "platform/sound_device.h"
 
+#include <AL/al.h>
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -68,9 +70,18 @@ bool SoundDevice::open() {
   device_ = rendered ? open_rendered_device() : open_default_device();
   if (device_ == nullptr) return false;
   context_ = create_context(device_, rendered);
-  if (context_ != nullptr && alcMakeContextCurrent(context_)) return true;
+  if (context_ != nullptr && alcMakeContextCurrent(context_)) return apply_volume(), true;
   close();
   return false;
+}
+
+void SoundDevice::set_volume(float volume) {
+  volume_ = std::clamp(volume, 0.0f, 1.0f);
+  apply_volume();
+}
+
+void SoundDevice::apply_volume() const {
+  if (device_ != nullptr) alListenerf(AL_GAIN, audio_ == PLATFORM_AUDIO_DEVICE ? volume_ : 1.0f);
 }
 
 void SoundDevice::close() {
@@ -97,6 +108,14 @@ PLATFORM_EXPORT void platform_choose_audio(enum PlatformAudio audio) {
 PLATFORM_EXPORT void platform_move_audio(enum PlatformAudio audio) {
   platform::sound_device().move_to(audio);
 }
+
+PLATFORM_EXPORT int platform_has_audio(void) {
+  if (!platform::sound_device().acquire()) return 0;
+  platform::sound_device().release();
+  return 1;
+}
+
+PLATFORM_EXPORT void platform_set_volume(float volume) { platform::sound_device().set_volume(volume); }
 
 PLATFORM_EXPORT void platform_render_audio(int16_t* samples, size_t frames) {
   platform::sound_device().render(samples, frames);

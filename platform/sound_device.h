@@ -31,6 +31,9 @@ class SoundDevice {
   /// Gives the device up, with everything on it.
   void lose();
 
+  /// 0 to 1, of the machine's device alone.
+  void set_volume(float volume);
+
   unsigned generation() const { return generation_; }
   /// Whether what was made in `generation` is still there. Notices a device that went away.
   bool holds(unsigned generation);
@@ -41,6 +44,7 @@ class SoundDevice {
  private:
   bool open();
   void close();
+  void apply_volume() const;
 
   PlatformAudio chosen_ = PLATFORM_AUDIO_DEVICE;
   PlatformAudio audio_ = PLATFORM_AUDIO_DEVICE;
@@ -48,6 +52,7 @@ class SoundDevice {
   ALCcontext* context_ = nullptr;
   std::size_t users_ = 0;
   unsigned generation_ = 0;
+  float volume_ = 1;
 };
 
 /// The process's one device.

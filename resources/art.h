@@ -32,16 +32,30 @@ using Picture = std::variant<Plate, Lamp, LensStack, RoundLight, Lever, Knob, Fl
 /// Which bitmaps a row draws: those of a part of the unit's gauge, or a run that gauges share.
 struct Of {
   constexpr Of() = default;
-  constexpr Of(const char* name) : part(name) {}
+  constexpr Of(const char* of_part) : part(of_part) {}
   constexpr Of(tarnvale::Bitmaps run) : bitmaps(run) {}
   std::string_view part = {};
   tarnvale::Bitmaps bitmaps = {0, 0};
+  std::string_view name = {};  ///< of a bitmap that has a name in place of a number
 };
 
 struct Art {
   Of of;
   Size size;  ///< in gauge pixels; a side of 0 follows from the record
   Picture picture;
+  int bits = 8;  ///< a pixel; of a plate, not of its lighting
+
+  /// In every colour that it was drawn in, for what has long gradients; nothing in it is half clear.
+  constexpr Art in_full_colour() const { return with_bits(24); }
+  /// With a palette of sixteen.
+  constexpr Art in_16_colours() const { return with_bits(4); }
+
+ private:
+  constexpr Art with_bits(int count) const {
+    Art art = *this;
+    art.bits = count;
+    return art;
+  }
 };
 
 /// The rows of one gauge, or of what gauges share.
@@ -115,6 +129,18 @@ constexpr Art ball_art(Of of, Size size, Ball ball) { return {of, size, ball}; }
 /// Pictures that are one of their kind.
 constexpr Art drawn_art(Of of, Size size, DrawRoutine draw, Point hub = {}) {
   return {of, size, Drawing{draw, hub}};
+}
+
+// ---- To spare: for panels with a plate of their own. No element shows them.
+
+/// A run of so many images from that number on.
+constexpr Of spare(int id, unsigned images = 1) { return tarnvale::Bitmaps{id, images}; }
+
+/// A picture that goes by its name.
+constexpr Art named_art(std::string_view name, Size size, DrawRoutine draw) {
+  Of of;
+  of.name = name;
+  return {of, size, Drawing{draw}};
 }
 
 }  // namespace artwork

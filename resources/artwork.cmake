@@ -55,7 +55,7 @@ if(NOT TARNVALE_SANITIZE)
 endif()
 
 # All of it, for the tool and its tests.
-add_library(artwork_units OBJECT units.cpp)
+add_library(artwork_units OBJECT tool/windows_resources.cpp units.cpp)
 target_include_directories(artwork_units PRIVATE ${CMAKE_CURRENT_BINARY_DIR}/units)
 target_link_libraries(artwork_units PUBLIC project_options PkgConfig::PANGOCAIRO)
 add_library(artwork_library INTERFACE)

@@ -1,6 +1,7 @@
 #include "resources/bitmap_table.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "resources/kit/records.h"
 #include "resources/rows/draw.h"
@@ -34,6 +35,7 @@ Size size_of(const Element& element, const Art& art) {
 }
 
 std::string name_of(const Unit& unit, const Art& art) {
+  if (!art.of.name.empty()) return std::string(art.of.name);
   if (art.of.part.empty()) return "bitmap " + std::to_string(art.of.bitmaps.id);
   return std::string(unit.gauge) + ' ' + std::string(art.of.part);
 }
@@ -42,6 +44,7 @@ class Table {
  public:
   void add(const Unit& unit, const Art& art) {
     if (std::holds_alternative<Plate>(art.picture)) return add_plate(unit, art);
+    if (!art.of.name.empty()) return add(unit, art, {Bitmap::named, 1}, art.size);
     if (art.of.part.empty()) {
       return add(unit, art, {art.of.bitmaps.id, static_cast<int>(art.of.bitmaps.images)}, art.size);
     }
@@ -50,9 +53,11 @@ class Table {
   }
 
   std::vector<Bitmap> ascending() {
-    std::sort(all_.begin(), all_.end(), [](const Bitmap& a, const Bitmap& b) { return a.id < b.id; });
+    const auto key = [](const Bitmap& bitmap) { return std::pair(bitmap.id, bitmap.art->of.name); };
+    std::sort(all_.begin(), all_.end(),
+              [&](const Bitmap& a, const Bitmap& b) { return key(a) < key(b); });
     for (std::size_t i = 1; i < all_.size(); ++i) {
-      if (all_[i].id == all_[i - 1].id) wrong("two rows draw bitmap " + std::to_string(all_[i].id));
+      if (key(all_[i]) == key(all_[i - 1])) wrong("two rows draw " + subject(all_[i]));
     }
     return std::move(all_);
   }
@@ -107,15 +112,18 @@ const Bitmap* find_bitmap(int id) {
 }
 
 std::string subject(const Bitmap& bitmap) {
-  if (bitmap.unit == nullptr) return "plain plate";
+  const Of& of = bitmap.art->of;
+  if (!of.name.empty()) return std::string(of.name);
   const std::string gauge(bitmap.unit->gauge.empty() ? "shared" : bitmap.unit->gauge);
   if (bitmap.background) return gauge + " plate";
-  const std::string_view part = bitmap.overlay ? lighting_part : bitmap.art->of.part;
-  return gauge + ' ' + std::string(part) + " image " + std::to_string(bitmap.image);
+  const std::string part(bitmap.overlay    ? lighting_part
+                         : of.part.empty() ? "bitmap " + std::to_string(of.bitmaps.id)
+                                           : std::string(of.part));
+  return gauge + ' ' + part + " image " + std::to_string(bitmap.image);
 }
 
 bool has_openings(const Bitmap& bitmap) {
-  const auto* plate = bitmap.art == nullptr ? nullptr : std::get_if<Plate>(&bitmap.art->picture);
+  const auto* plate = std::get_if<Plate>(&bitmap.art->picture);
   if (plate == nullptr) return false;
   return std::any_of(plate->items.begin(), plate->items.end(),
                      [](const Item& item) { return std::holds_alternative<Opening>(item); });

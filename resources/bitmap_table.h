@@ -1,6 +1,7 @@
 /// Every bitmap of the module: its number, its size, and the row that draws it.
 #pragma once
 
+#include <limits>
 #include <string>
 #include <vector>
 
@@ -11,16 +12,22 @@
 namespace artwork {
 
 struct Bitmap {
+  /// Of those that have a name: greater than any number.
+  static constexpr int named = std::numeric_limits<int>::max();
+
   int id;
   int image;  ///< of its run
   Size size;
-  const Unit* unit;      ///< null for a plate whose art is still to come
-  const Art* art;        ///< likewise
+  const Unit* unit;
+  const Art* art;
   bool background;       ///< all others have transparent parts
   bool overlay = false;  ///< of the plate's instrument lighting
+
+  int bits() const { return overlay ? 8 : art->bits; }  ///< a pixel
 };
 
-/// All bitmaps, ascending by id. Ends the program where rows and records do not agree.
+/// All bitmaps, ascending by number, then those with names. Ends the program where rows and records do
+/// not agree.
 const std::vector<Bitmap>& bitmap_table();
 
 /// The bitmap of that number; null if there is none.

@@ -15,7 +15,7 @@ bar() {
 sign_chime() {
   bar tone $LOW 3.2 -4
   tidy clean tone
-  finish_at -6 clean 0.003 0.02
+  finish_loud -24 clean 0.003 0.02
 }
 
 # The crew called: high, low.
@@ -24,7 +24,7 @@ call_chime() {
   bar second $LOW 3.2 -7
   mix chime first second@0.5
   tidy clean chime
-  finish_at -6 clean 0.003 0.02
+  finish_loud -24 clean 0.003 0.02
 }
 
 # announcement_chime NAME: low, high, softly, ahead of the crew's voice.
@@ -44,7 +44,7 @@ altitude_alert() {
   part shine synth 1 sine 2093.00 synth 1 sine mix 2637.02 synth 1 sine mix 3135.96 gain -14
   mix alert chord shine
   shape swell alert fade t 0.006 "$span" 0.09
-  finish_at -4 swell
+  finish_loud -28 swell
 }
 
 # The radio altimeter's self-test: the decision-height tone, growing as the ground comes up, then cut.
@@ -55,5 +55,5 @@ altimeter_test() {
   mix test tone edge
   shape grown test fade h 1.7
   mix whole grown floor
-  finish_at -8 whole
+  finish_loud -25 whole
 }

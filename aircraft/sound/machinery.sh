@@ -1,17 +1,15 @@
 # Machinery heard through the structure.
 
-# The APU started from the cockpit: the starter takes the load, the igniter ticks, the turbine spools up
-# and settles; then it falls behind the other noises aboard.
+# The APU started from the cockpit: the starter takes the load, the igniter ticks, the burner lights and its
+# roar swells; then it falls behind the other noises aboard. Low and soft: the hands' clicks go on.
 apu_start() {
-  part starter synth 6.6 sawtooth 48/235 gain -14 lowpass 900 fade h 0.12 6.6 2.6
-  part spool synth 6.6 sine 170/2950 gain -12 fade h 2.4
-  part blades synth 6.6 sine 340/5900 gain -19 fade h 3.6
-  part shaft synth 6.6 triangle 85/1475 gain -17 fade h 1.2
-  part rumble synth 6.6 brownnoise gain -6 highpass 60 lowpass 350 fade h 3
-  part roar synth 6.6 pinknoise gain -9 highpass 400 lowpass 3200 fade h 5.5
-  burst tick 1800 6500 0.02 -20
-  shape igniter tick pad 0 0.26 repeat 11
-  mix run starter spool blades shaft rumble roar igniter@0.9
-  shape away run fade t 0.02 6.6 0.9
-  finish_at -4 away
+  part starter synth 5 sawtooth 48/150 gain -14 lowpass 600 lowpass 600 fade h 0.12 5 2.2
+  part whirr synth 6.6 brownnoise gain -6 sinc 180-900 fade h 0.4
+  part light synth 4.2 brownnoise gain -3 highpass 45 lowpass 260 fade h 0.5
+  part roar synth 5.2 pinknoise gain -12 sinc 250-1400 fade h 4
+  burst tick 1500 3500 0.02 -26
+  shape igniter tick pad 0 0.26 repeat 8
+  mix run starter whirr light@2.4 roar@1.4 igniter@0.9
+  shape away run trim 0 6.6 fade t 0.02 6.6 1.6
+  finish_loud -26 away
 }

@@ -51,6 +51,19 @@ hammer() {
   shape "$1" "$1.train" trim "$span" "$5"
 }
 
+# loudness NAME: mean loudness while it sounds, in dB below full scale, as the ear weighs it (ITU-R BS.1770: a
+# shelf for the head, little for the low end).
+loudness() {
+  local level
+  level=$(sox_steady "$1.sox" -n biquad 1.5308412 -2.6509800 1.1690791 1 -1.6636551 0.7125954 \
+    biquad 1 -2 1 1 -1.9891697 0.9891990 silence 1 0.02 0.6% -1 0.02 0.6% stats 2>&1 |
+    awk '/^RMS lev dB/ { print $4 }')
+  calc "$level - 0.691"
+}
+
+# to_loudness NAME FROM LOUDNESS
+to_loudness() { shape "$1" "$2" gain "$(calc "$3 - ($(loudness "$2"))")"; }
+
 # tidy NAME FROM: silence cut from both ends.
 tidy() { shape "$1" "$2" silence 1 0.002 0.5% reverse silence 1 0.002 0.5% reverse; }
 
@@ -72,6 +85,12 @@ cut_to_repeat() { shape "$1" "$2" trim 0 "$(repeating_seconds "$3")"; }
 # finish FROM [FADE_IN FADE_OUT]: the sound as it is delivered, its ends faded so that nothing clicks.
 finish() {
   sox_steady "$1.sox" -b 16 -e signed-integer finished.wav fade t "${2:-0.004}" "$(soxi -D "$1.sox")" "${3:-0.005}"
+}
+
+# finish_loud LOUDNESS FROM [FADE_IN FADE_OUT]: the same, brought to a loudness first.
+finish_loud() {
+  to_loudness "$2.final" "$2" "$1"
+  finish "$2.final" "${@:3}"
 }
 
 # finish_at PEAK FROM [FADE_IN FADE_OUT]: the same, brought to a peak level in dBFS first.

@@ -8,7 +8,7 @@ push_click() {
   ring body 410 0.06 -12
   mix click tick cap body
   shape short click trim 0 0.040
-  finish_at -9 short 0.0005 0.008
+  finish_at -7 short 0.0005 0.008
 }
 
 # A toggle going over its spring: the lever leaves its detent, then the bat strikes the other side.
@@ -34,7 +34,7 @@ parking_brake() {
   ring floor 235 0.42 -11
   mix clunk pull lock@0.12 latch@0.12 handle@0.12 pedestal@0.12 floor@0.12
   tidy clean clunk
-  finish_at -4 clean
+  finish_at -8 clean
 }
 
 # The speed-brake lever: drawn over the rollers of its quadrant, against the end stop.
@@ -48,5 +48,5 @@ lever_slide() {
   ring quadrant 186 0.36 -10
   mix slide rub rolling stop@0.5 lever@0.5 quadrant@0.5
   tidy clean slide
-  finish_at -5 clean
+  finish_at -9 clean
 }

@@ -19,7 +19,7 @@ class CommandLine {
     app_.require_subcommand(0, 1);
     app_.set_version_flag("--version", "tarnvale " TARNVALE_VERSION);
     command_ = [this] { return fly(fly_); };
-    app_.footer("Without a command it flies.");
+    app_.footer("Without a command it flies, with the options of fly.");
     app_.failure_message(CLI::FailureMessage::help);
     add_fly();
     add_run();
@@ -36,8 +36,10 @@ class CommandLine {
                    shortened(argv[1]).c_str());
       return exit_usage;
     }
+    std::vector<char*> words(argv, argv + argc);
+    if (begins_with_an_option_of_fly(words)) words.insert(words.begin() + 1, fly_word_.data());
     try {
-      app_.parse(argc, argv);
+      app_.parse(static_cast<int>(words.size()), words.data());
     } catch (const CLI::ParseError& error) {
       if (error.get_exit_code() == 0) return app_.exit(error);  // asked for help
       std::fprintf(stderr, "tarnvale: %s; see: %s --help\n", shortened(error.what(), 300).c_str(),
@@ -52,6 +54,13 @@ class CommandLine {
     const auto commands =
         app_.get_subcommands([&](const CLI::App* app) { return app->check_name(name); });
     return !commands.empty();
+  }
+
+  // Without a command one flies, with options too; help and version are the program's own.
+  static bool begins_with_an_option_of_fly(const std::vector<char*>& words) {
+    if (words.size() < 2 || words[1][0] != '-') return false;
+    const std::string_view first = words[1];
+    return first != "-h" && first != "--help" && first != "--version";
   }
 
   // "tarnvale run", as far as it has been read.
@@ -115,6 +124,8 @@ class CommandLine {
                     "Size of the panels, 1 is their own; else what fits the screen")
         ->check(number(0.1, 8.0));
     add_start(sub, fly_.start);
+    add_what_is_flown(sub);
+    add_display(sub, fly_.display);
     sub->add_flag("--no-view", fly_.no_view, "Without the view out of the window (key V)");
     add_windows(sub);
     sub->add_option("--controls", fly_.deck.controls,
@@ -129,6 +140,20 @@ class CommandLine {
         ->check(number(0, 1e9));
     sub->add_flag("--mute", fly_.mute, "Fly without sound");
     add_journal(sub);
+  }
+
+  void add_what_is_flown(CLI::App* sub) {
+    CLI::Option* at = sub->get_option("--at");
+    CLI::Option* state = sub->add_option("--state", fly_.state, "Press this on the start page")
+                             ->check(CLI::IsMember({"cold_and_dark", "ready_to_start", "running"}))
+                             ->excludes(at);
+    sub->add_option("--watch", fly_.watch, "Let this flow fly before your eyes; Esc takes over")
+        ->excludes(at)
+        ->excludes(state);
+  }
+
+  static void add_display(CLI::App* sub, std::string& display) {
+    sub->add_option("--display", display, "The X display to open windows on; else that of DISPLAY");
   }
 
   void add_windows(CLI::App* sub) {
@@ -146,7 +171,7 @@ class CommandLine {
   void add_journal(CLI::App* sub) {
     CLI::Option* resume = sub->add_flag("--resume", fly_.resume,
                                         "Take up the last session where it was left, or --journal's");
-    for (const char* of_a_beginning : {"--rate", "--at", "--time", "--open"})
+    for (const char* of_a_beginning : {"--rate", "--at", "--time", "--open", "--state", "--watch"})
       resume->excludes(sub->get_option(of_a_beginning));
     CLI::Option* none =
         sub->add_flag("!--no-journal", fly_.keep_journal, "Keep no journal of the session");
@@ -194,6 +219,7 @@ class CommandLine {
     sub->add_option("--zoom", show_.deck.zoom, "Size, 1 is the gauges' own")->check(number(0.1, 8.0));
     sub->add_option("--scale", show_.deck.scale, "Scale of the desktop")->check(number(0.5, 8.0));
     add_start(sub, show_.start);
+    add_display(sub, show_.display);
     sub->add_flag("--areas", show_.areas, "Outline the click areas");
     sub->add_flag("--night", show_.night, "With the panel lights on");
     sub->add_option("--set", show_.readings, "token=value, by name or number: hold a token variable");
@@ -215,7 +241,8 @@ class CommandLine {
 
   void add_check() {
     CLI::App* sub = add("check", "Check every record of a module", check_, check);
-    sub->add_option("module", check_.module, "The gauge module; else the one beside this program");
+    sub->add_option("module", check_.cockpit.module, "The gauge module; else the one beside this program");
+    sub->add_flag("--details", check_.details, "Also what a file is that is no module");
   }
 
   void add_bench() {
@@ -229,9 +256,10 @@ class CommandLine {
   ReplayOptions replay_;
   ShowOptions show_;
   ListOptions list_;
-  CockpitOptions check_;
+  CheckOptions check_;
   CockpitOptions bench_;
   std::function<int()> command_;
+  std::string fly_word_ = "fly";
 };
 
 }  // namespace

@@ -15,7 +15,7 @@ int run_flow(const RunOptions& options);
 int replay(const ReplayOptions& options);
 int show(const ShowOptions& options);
 int list(const ListOptions& options);
-int check(const CockpitOptions& options);
+int check(const CheckOptions& options);
 int bench(const CockpitOptions& options);
 
 /// Reads the command line, runs the command and reports errors on standard error.

@@ -45,7 +45,11 @@ DeckOptions deck_options(const FlyOptions& options, const PanelConfig& panel, st
   if (deck.controls.empty()) deck.controls = program_folder() / "controls.cfg";
   if (deck.checklists.empty()) deck.checklists = program_folder() / "checklists.txt";
   deck.desk_file = desk_file();
-  if (!options.fresh) deck.desk = read_desk(deck.desk_file, notes);
+  if (deck.flows.empty()) deck.flows = program_folder() / "flows";
+  if (options.desk)
+    deck.desk = *options.desk;
+  else if (!options.fresh)
+    deck.desk = read_desk(deck.desk_file, notes);
   if (!options.open.empty()) open_only(deck.desk, options, panel);
   if (options.open.empty() && options.start.at != "stand") open_captains_panel(deck.desk);
   for (const std::string& typed : options.torn) {

@@ -16,7 +16,9 @@
 #include "host/journal/flow_writer.h"
 #include "host/journal/replay.h"
 #include "host/journal/session_files.h"
+#include "host/pages/checklist_progress.h"
 #include "host/sound/identifications.h"
+#include "host/sound/wav_recorder.h"
 #include "host/window/flight_deck.h"
 
 namespace host {
@@ -52,6 +54,8 @@ FlightIdentity identity_for(const std::optional<LeftSession>& left, const Cockpi
   return here;
 }
 
+constexpr std::uint32_t start_page = 508;
+
 // A note in the window, and on standard error.
 void tell(const std::string& text) { MessageBoxA(nullptr, text.c_str(), "Journal", MB_OK); }
 
@@ -73,50 +77,92 @@ class Session {
     inputs_.tell(*flow_);
   }
 
-  // Whether all that the session should leave has been written.
-  bool fly() {
+  // Until the person leaves, and what is wanted instead, if anything. The desktop is opened unless it is.
+  std::optional<NextFlight> fly(std::optional<Desktop>& desktop) {
     std::string unused;
     const DeckOptions on_deck = deck_options(options_, cockpit_.config(), unused);
     if (!unused.empty()) notes_.push_back(unused);
+    find_audio();
     left_ ? take_up() : begin(on_deck.desk);
+    if (!desktop) desktop.emplace();
     FlightDeck deck(inputs_, on_deck);
-    Identifications identifications;
-    deck.after_frame = [&] {
-      identifications.update(cockpit_.aircraft().identifications_heard(), cockpit_.seconds());
-    };
-    deck.on_pause = [&] { identifications.silence(); };
+    desktop->clear();
+    deck.after_frame = [&] { after_frame(); };
+    deck.on_pause = [&] { identifications_.silence(); };
+    deck.on_speed = [&](bool as_life) { move_audio(as_life ? audio_ : PLATFORM_AUDIO_RENDERED); };
     for (const std::string& note : notes_) tell(note);
     keep_journal();
     deck.ask_to_leave = !journal_;
     if (inputs_.holding()) inputs_.take(input::Release{});  // nobody holds the button any more
-    deck.fly();
+    if (!options_.state.empty()) press_on_start_page(on_deck.desk);
+    if (!options_.watch.empty()) deck.watch(find_flow(options_.watch));
+    const auto next = deck.fly();
     journal_.reset();
+    desktop->keep_windows();
+    return next;
+  }
+
+  // Whether all that the session should leave has been written.
+  bool whole() const {
     if (!flow_ || flow_->fault().empty()) return whole_;
     std::fprintf(stderr, "%s\n", flow_->fault().c_str());
     return false;
   }
 
  private:
-  // A muted cockpit plays into a mix that nobody takes, so that its sound engine finds all well.
-  PlatformAudio audio() const {
-    return options_.mute ? PLATFORM_AUDIO_RENDERED : PLATFORM_AUDIO_DEVICE;
+  // A cockpit that is not heard plays into a mix that nobody hears, so that its sound engine finds all well.
+  void find_audio() {
+    audio_ = options_.mute ? PLATFORM_AUDIO_RENDERED : PLATFORM_AUDIO_DEVICE;
+    prepare_platform(cockpit_options_, audio_);
+    if (options_.mute || platform_has_audio()) return;
+    audio_ = PLATFORM_AUDIO_RENDERED;
+    platform_choose_audio(audio_);
+    notes_.emplace_back("No sound device answers: the cockpit is silent");
+  }
+
+  // A flight that runs faster than life is silent, and its sounds run with it.
+  void move_audio(PlatformAudio audio) {
+    identifications_.silence();
+    if (audio != audio_now_) platform_move_audio(audio);
+    audio_now_ = audio;
+  }
+
+  void after_frame() {
+    identifications_.update(cockpit_.aircraft().identifications_heard(), cockpit_.seconds());
+    if (audio_now_ == PLATFORM_AUDIO_RENDERED) unheard_.advance(1.0 / cockpit_.rate());
   }
 
   void begin(const Desk& desk) {
-    prepare_platform(cockpit_options_, audio());
-    beginning_ = beginning(cockpit_, options_.start, desk);
+    audio_now_ = audio_;
+    if (!options_.watch.empty()) return;  // a flow finds the cockpit as the panel has it
+    beginning_ = options_.state.empty() ? beginning(cockpit_, options_.start, desk)
+                                        : std::vector<Input>{input::BeginWithStartPage{}};
     for (const Input& input : beginning_) inputs_.take(input);
+  }
+
+  // As a person would, who then opens what had been open.
+  void press_on_start_page(const Desk& desk) {
+    const auto button = target_of(cockpit_, "Intro", "captain_" + options_.state);
+    if (!button) return tell("The panel has no start page that begins a flight " + options_.state);
+    inputs_.frame();
+    inputs_.take(input::Press{button->gauge->header().name, button->box.middle(), input::Button::left});
+    inputs_.frame();
+    inputs_.take(input::Release{});
+    for (const auto& [ident, panel] : desk.panels)
+      if (panel.open && ident != start_page && cockpit_.panels().find(ident))
+        inputs_.take(input::OpenWindow{ident});
   }
 
   // Unseen and unheard, as fast as it goes.
   void take_up() {
-    prepare_platform(cockpit_options_, PLATFORM_AUDIO_RENDERED);
+    audio_now_ = PLATFORM_AUDIO_RENDERED;
+    platform_choose_audio(audio_now_);
     Progress progress("taking up " + left_->record.file.string());
     const std::string departed =
         fly_again(inputs_, left_->record, [&] { progress.tick(cockpit_.seconds()); });
     for (const std::string& note : {left_->record.damage, departed})
       if (!note.empty()) notes_.push_back(note);
-    platform_move_audio(audio());
+    move_audio(audio_);
   }
 
   void keep_journal() {
@@ -166,11 +212,45 @@ class Session {
   std::optional<FlightJournal> journal_;
   std::vector<Input> beginning_;
   std::vector<std::string> notes_;
+  PlatformAudio audio_ = PLATFORM_AUDIO_DEVICE;  ///< at the pace of life
+  PlatformAudio audio_now_ = PLATFORM_AUDIO_DEVICE;
+  WavRecorder unheard_;
+  Identifications identifications_;
   bool whole_ = true;
 };
 
+// What another flight takes from the one before: everything but how that one began and what it wrote.
+FlyOptions following(const FlyOptions& before, const NextFlight& next) {
+  FlyOptions options = before;
+  options.start.at = next.at;
+  options.state = next.state ? name_of(*next.state) : "";
+  options.watch = next.flow.string();
+  options.desk = next.desk;
+  options.open.clear();
+  options.torn.clear();
+  options.places.clear();
+  options.record.clear();
+  options.journal.clear();
+  options.resume = options.full_screen = options.no_view = false;
+  options.deck.scale.reset();
+  options.deck.zoom.reset();
+  return options;
+}
+
 }  // namespace
 
-int fly(const FlyOptions& options) { return Session(options).fly() ? exit_fine : exit_failed; }
+int fly(const FlyOptions& options) {
+  use_display(options.display);
+  std::optional<Desktop> desktop;
+  std::optional<FlyOptions> now = options;
+  bool whole = true;
+  while (now) {
+    Session session(*now);
+    const auto next = session.fly(desktop);
+    whole = session.whole() && whole;
+    now = next ? std::optional(following(*now, *next)) : std::nullopt;
+  }
+  return whole ? exit_fine : exit_failed;
+}
 
 }  // namespace host

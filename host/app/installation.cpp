@@ -32,6 +32,12 @@ fs::path find_flow(const std::string& typed) {
   throw std::runtime_error(typed + ": there is no such flow");
 }
 
+void use_display(const std::string& name) {
+  if (name.empty()) return;
+  setenv("DISPLAY", name.c_str(), 1);
+  unsetenv("WAYLAND_DISPLAY");
+}
+
 void prepare_folder(const fs::path& folder) {
   std::error_code error;
   fs::create_directories(folder, error);

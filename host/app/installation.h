@@ -18,6 +18,9 @@ CockpitOptions located(CockpitOptions options);
 /// The flow file for what a person typed: a file, or the name of a flow beside the program.
 std::filesystem::path find_flow(const std::string& typed);
 
+/// Windows open on that X display; on the environment's where `name` is empty.
+void use_display(const std::string& name);
+
 /// Makes a folder for output if there is none. Throws std::runtime_error if it cannot be written to.
 void prepare_folder(const std::filesystem::path& folder);
 

@@ -29,10 +29,14 @@ struct FlyOptions {
   CockpitOptions cockpit;
   StartOptions start;
   DeckOptions deck;                 ///< its controls empty: those beside this program; its desk is made
+  std::string display;              ///< the X display; empty: as the environment names it
   std::vector<std::string> open;    ///< windows to open instead of those that were open last
   std::vector<std::string> torn;    ///< windows to open, each in a window of its own
   std::vector<std::string> places;  ///< WINDOW=x,y,width,height; "main" is the main one
   bool full_screen = false;
+  std::string state;     ///< of the start page, pressed for the person; empty: it is asked for
+  std::string watch;     ///< a flow to watch; empty: none
+  std::optional<Desk> desk{};  ///< how the windows stand; empty: as they were left
   bool fresh = false;    ///< without what is remembered of earlier flights
   bool no_view = false;  ///< without the view out of the window
   bool mute = false;
@@ -63,6 +67,7 @@ struct ReplayOptions {
 
 struct ShowOptions {
   CockpitOptions cockpit;
+  std::string display;  ///< as for FlyOptions
   std::vector<std::string> gauges;  ///< or the ident of one window, or "outside"
   DeckOptions deck;                 ///< its zoom also for the file
   StartOptions start;               ///< for the view
@@ -71,6 +76,11 @@ struct ShowOptions {
   bool night = false;
   std::vector<std::string> readings;  ///< token=value
   std::filesystem::path picture;      ///< empty: a window
+};
+
+struct CheckOptions {
+  CockpitOptions cockpit;
+  bool details = false;
 };
 
 struct ListOptions {

@@ -71,7 +71,7 @@ class FlowRun {
         flow_(sound_flow(options)),
         module_(cockpit_options_.module),
         cockpit_(module_, read_panel_config(cockpit_options_.panel), cockpit_options_.rate),
-        session_(cockpit_, surroundings()) {
+        session_(inputs_, surroundings()) {
     say_start_notes(module_);
     if (!options.pictures.empty()) prepare_folder(options.pictures);
     if (!options.sound.empty()) sound_ = std::make_unique<WavRecorder>(options.sound.string());
@@ -173,6 +173,7 @@ class FlowRun {
   SoundBook sound_book_{cockpit_options_.module.parent_path() / "Sound"};
   GaugeModule module_;
   Cockpit cockpit_;
+  CockpitInputs inputs_{cockpit_};
   FlowSession session_;
   bool journal_whole_ = true;
   std::unique_ptr<FlightJournal> journal_;

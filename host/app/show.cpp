@@ -164,6 +164,8 @@ int show(const ShowOptions& options) {
   DeckOptions deck_options = options.deck;
   deck_options.desk.outside = false;
   CockpitInputs inputs(cockpit);
+  use_display(options.display);
+  const Desktop desktop;
   FlightDeck deck(inputs, deck_options);
   deck.mark_areas(options.areas);
   deck.fly();

@@ -58,7 +58,7 @@ bool GaugeRun::changed() const { return !std::ranges::equal(before_, now_, shows
 
 void GaugeRun::start(std::uintptr_t module_handle) {
   if (gauge_->service == nullptr) return;
-  gauge_->service(gauge_, SERVICE_START, module_handle);
+  gauge_->service(gauge_, SERVICE_BEGIN, module_handle);
   gauge_->service(gauge_, SERVICE_SET_UP, 0);
 }
 

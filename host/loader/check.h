@@ -10,6 +10,7 @@ namespace host {
 /// Something about a module that is not as it should be.
 struct Finding {
   enum class Severity {
+    detail,   ///< for who wants to know more of what is wrong
     warning,  ///< the cockpit runs, but shows or does something less
     error,    ///< running the module would be unsafe or impossible
   };

@@ -6,6 +6,10 @@
 #include <bit>
 #include <cstring>
 
+#include "host/loader/dynamic_checks.h"
+#include "host/loader/resource_section.h"
+#include "interface/panel_interface.h"
+
 namespace host {
 namespace {
 
@@ -23,22 +27,25 @@ static_assert(sizeof(void*) == 8, "32-bit libraries have other records");
 
 constexpr int own_order = std::endian::native == std::endian::little ? ELFDATA2LSB : ELFDATA2MSB;
 
-[[noreturn]] void cut_short() { throw ElfError("is cut short: parts that it names lie past its end"); }
+[[noreturn]] void cut_short() {
+  throw LibraryError("is cut short: parts that it names lie past its end");
+}
 
 void check_identity(const Elf64_Ehdr& header) {
   if (header.e_ident[EI_CLASS] != ELFCLASS64 || header.e_ident[EI_DATA] != own_order)
-    throw ElfError("is a library for another kind of processor");
+    throw LibraryError("is a library for another kind of processor");
   if (own_machine != EM_NONE && header.e_machine != own_machine)
-    throw ElfError("is a library for another kind of processor (number " +
-                   std::to_string(header.e_machine) + ")");
-  if (header.e_type != ET_DYN) throw ElfError("is a program or an object file, not a shared library");
+    throw LibraryError("is a library for another kind of processor (number " +
+                       std::to_string(header.e_machine) + ")");
+  if (header.e_type != ET_DYN)
+    throw LibraryError("is a program or an object file, not a shared library");
 }
 
 Elf64_Ehdr header_of(Bytes bytes) {
-  if (bytes.empty()) throw ElfError("is empty");
+  if (bytes.empty()) throw LibraryError("is empty");
   char magic[SELFMAG]{};
   std::memcpy(magic, bytes.data(), std::min<std::size_t>(SELFMAG, bytes.size()));
-  if (std::memcmp(magic, ELFMAG, SELFMAG) != 0) throw ElfError("is not a shared library");
+  if (std::memcmp(magic, ELFMAG, SELFMAG) != 0) throw LibraryError("is not a shared library");
   const auto header = read<Elf64_Ehdr>(bytes, 0);
   if (!header) cut_short();
   check_identity(*header);
@@ -91,6 +98,15 @@ std::optional<Bytes> ElfFile::section(std::string_view name) const {
   return found->bytes;
 }
 
+std::string ElfFile::bitmap_place() const { return "section " PANEL_RESOURCE_SECTION; }
+
+std::optional<std::vector<ListedBitmap>> ElfFile::bitmaps() const {
+  const auto bytes = section(PANEL_RESOURCE_SECTION);
+  return bytes ? std::optional(listed_bitmaps(*bytes)) : std::nullopt;
+}
+
+std::string ElfFile::fault() const { return fault_of_dynamic_tables(bytes_); }
+
 void ElfFile::read_exports() {
   const auto table = std::ranges::find(sections_, std::uint32_t{SHT_DYNSYM}, &Section::type);
   if (table == sections_.end() || table->link >= sections_.size()) return;
@@ -100,7 +116,7 @@ void ElfFile::read_exports() {
     const int visibility = ELF64_ST_VISIBILITY(symbol->st_other);
     if (symbol->st_shndx == SHN_UNDEF || (binding != STB_GLOBAL && binding != STB_WEAK)) continue;
     if (visibility != STV_DEFAULT && visibility != STV_PROTECTED) continue;
-    exports_.push_back({std::string(text_at(names, symbol->st_name)), symbol->st_size});
+    exports_.push_back({std::string(text_at(names, symbol->st_name)), symbol->st_size, 0});
   }
 }
 

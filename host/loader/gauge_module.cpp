@@ -29,6 +29,9 @@ struct GaugeModule::Library : OpenModule {
 GaugeModule::GaugeModule(const std::filesystem::path& file)
     : library_(std::make_unique<Library>(file)) {
   if (has_errors(library_->findings())) throw LoadError(first_error(library_->findings()));
+  if (!library_->loaded())
+    throw LoadError(file.string() +
+                    ": is a library for Windows, which can be checked here, but not run");
 }
 
 GaugeModule::~GaugeModule() = default;

@@ -52,7 +52,7 @@ class GaugeModule {
   /// module.
   void connect(const PanelServices& services);
 
-  /// What goes into the extra data of SERVICE_START.
+  /// What goes into the extra data of SERVICE_BEGIN.
   std::uintptr_t handle() const;
 
  private:

@@ -16,6 +16,10 @@ MemoryMap::MemoryMap() {
   if (ranges_.empty()) throw std::runtime_error("the system does not list this program's memory");
 }
 
+MemoryMap::MemoryMap(std::vector<Range> ranges) : ranges_(std::move(ranges)) {
+  std::ranges::sort(ranges_, {}, &Range::begin);
+}
+
 void MemoryMap::add_line(const char* line) {
   std::uintptr_t begin = 0, end = 0;
   char marks[5] = {};

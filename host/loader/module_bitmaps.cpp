@@ -5,8 +5,9 @@
 
 namespace host {
 
-ModuleBitmaps::ModuleBitmaps(Bytes section, const std::filesystem::path& module) {
-  sets_.push_back({1, std::nullopt, ResourceSection(section), {}});
+ModuleBitmaps::ModuleBitmaps(const std::vector<ListedBitmap>& own,
+                             const std::filesystem::path& module) {
+  sets_.push_back({1, std::nullopt, ResourceSection(own), {}});
   for (const auto& [density, ending] : {std::pair{2, ".2x"}, std::pair{3, ".3x"}}) {
     std::filesystem::path file = module;
     file += ending;

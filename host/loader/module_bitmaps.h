@@ -13,9 +13,11 @@ namespace host {
 
 class ModuleBitmaps final : public BitmapStore {
  public:
-  /// Takes the module's own section, which must outlive the store, and looks for the files
-  /// `module` + ".2x" and ".3x". Throws ResourceError for a section without a directory.
-  ModuleBitmaps(Bytes section, const std::filesystem::path& module);
+  /// Takes the module's own bitmaps, whose bytes must outlive the store, and looks for the files `module` +
+  /// ".2x" and ".3x".
+  ModuleBitmaps(const std::vector<ListedBitmap>& own, const std::filesystem::path& module);
+  ModuleBitmaps(Bytes own_section, const std::filesystem::path& module)
+      : ModuleBitmaps(listed_bitmaps(own_section), module) {}
 
   /// Bitmaps are converted when they are first asked for, and kept.
   const Bitmap* find(std::uint32_t id, BitmapUse use, int density = 1) const override;

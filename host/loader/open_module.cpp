@@ -15,6 +15,7 @@ namespace {
 
 constexpr const char* linkage_name = "Linkage";
 constexpr const char* imports_name = "ImportTable";
+constexpr unsigned imports_ordinal = 1, linkage_ordinal = 2;  // on systems that have them
 
 /// Whether a record can lie there: a damaged symbol points anywhere.
 template <typename Record>
@@ -37,7 +38,7 @@ void OpenModule::note(Finding::Severity severity, const std::string& text) {
 
 void OpenModule::open() {
   using Step = void (OpenModule::*)();
-  for (const Step step : {&OpenModule::read_file, &OpenModule::load_library,
+  for (const Step step : {&OpenModule::read_file, &OpenModule::find_records,
                           &OpenModule::look_at_records, &OpenModule::look_at_artwork}) {
     (this->*step)();
     if (has_errors(findings_)) return;
@@ -47,54 +48,76 @@ void OpenModule::open() {
 void OpenModule::read_file() {
   try {
     mapped_ = std::make_unique<MappedFile>(file_);
-    const ElfFile elf(mapped_->bytes());
-    const std::string fault = fault_of_dynamic_tables(mapped_->bytes());
+    library_file_ = read_library(mapped_->bytes());
+    const std::string fault = library_file_->fault();
     if (!fault.empty()) note(Finding::Severity::error, "is damaged: " + fault);
-    check_exports(elf);
-    read_bitmaps(elf);
-  } catch (const ElfError& error) {
+    check_exports();
+    if (!has_errors(findings_)) read_bitmaps();
+  } catch (const LibraryError& error) {
     note(Finding::Severity::error, error.what());
   } catch (const std::system_error& error) {
     note(Finding::Severity::error, MappedFile::fault(error.code()));
   }
 }
 
-void OpenModule::check_exports(const ElfFile& elf) {
-  if (elf.exports().empty()) {
+void OpenModule::check_exports() {
+  const auto& exports = library_file_->exports();
+  if (exports.empty()) {
     note(Finding::Severity::error, "has no symbols; a module exports Linkage and ImportTable");
     return;
   }
-  check_export(elf, linkage_name, sizeof(LinkageRecord));
-  check_export(elf, imports_name, sizeof(ImportTableRecord));
-  for (const ExportedSymbol& symbol : elf.exports())
+  const auto lacks = [&](const char* name) {
+    return std::ranges::find(exports, name, &ExportedSymbol::name) == exports.end();
+  };
+  if (lacks(linkage_name) && lacks(imports_name)) {
+    note(Finding::Severity::error, "is no gauge module: it exports neither Linkage nor ImportTable");
+    for (const ExportedSymbol& symbol : exports)
+      note(Finding::Severity::detail, "exports " + symbol.name);
+    return;
+  }
+  check_export(linkage_name, sizeof(LinkageRecord), linkage_ordinal);
+  check_export(imports_name, sizeof(ImportTableRecord), imports_ordinal);
+  for (const ExportedSymbol& symbol : exports)
     if (symbol.name != linkage_name && symbol.name != imports_name)
       note(Finding::Severity::warning, "exports " + symbol.name + " beside Linkage and ImportTable");
 }
 
-void OpenModule::check_export(const ElfFile& elf, const char* name, std::size_t size) {
-  const auto symbol = std::ranges::find(elf.exports(), name, &ExportedSymbol::name);
-  if (symbol == elf.exports().end()) {
+void OpenModule::check_export(const char* name, std::size_t size, unsigned ordinal) {
+  const auto symbol = std::ranges::find(library_file_->exports(), name, &ExportedSymbol::name);
+  if (symbol == library_file_->exports().end()) {
     note(Finding::Severity::error, std::string("does not export ") + name);
   } else if (symbol->size != 0 && symbol->size < size) {
     note(Finding::Severity::error, std::string(name) + " has " + std::to_string(symbol->size) +
                                        " bytes, not " + std::to_string(size));
+  } else if (symbol->ordinal != 0 && symbol->ordinal != ordinal) {
+    note(Finding::Severity::error, std::string(name) + " has the ordinal " +
+                                       std::to_string(symbol->ordinal) + ", not " +
+                                       std::to_string(ordinal));
   }
 }
 
-void OpenModule::read_bitmaps(const ElfFile& elf) {
-  const auto section = elf.section(PANEL_RESOURCE_SECTION);
-  if (!section) {
-    note(Finding::Severity::error, "has no section " PANEL_RESOURCE_SECTION " and so no bitmaps");
-    return;
-  }
+void OpenModule::read_bitmaps() {
   try {
-    bitmaps_ = std::make_unique<ModuleBitmaps>(*section, file_);
+    const auto listed = library_file_->bitmaps();
+    if (!listed)
+      return note(Finding::Severity::error,
+                  "has no " + library_file_->bitmap_place() + " and so no bitmaps");
+    bitmaps_ = std::make_unique<ModuleBitmaps>(*listed, file_);
     for (const std::string& line : bitmaps_->notes()) note(Finding::Severity::warning, line);
     for (const std::string& line : bitmaps_->dense_faults())
       findings_.push_back({Finding::Severity::warning, line});
   } catch (const ResourceError& error) {
-    note(Finding::Severity::error, std::string("section " PANEL_RESOURCE_SECTION " ") + error.what());
+    note(Finding::Severity::error, library_file_->bitmap_place() + " " + error.what());
   }
+}
+
+void OpenModule::find_records() {
+  foreign_ = library_file_->foreign_records();
+  if (foreign_ == nullptr) return load_library();
+  linkage_ = foreign_->linkage();
+  imports_ = foreign_->imports();
+  if (linkage_ == nullptr || imports_ == nullptr)
+    note(Finding::Severity::error, "is damaged: its symbols lie outside of it");
 }
 
 void OpenModule::load_library() {
@@ -118,13 +141,15 @@ void OpenModule::load_library() {
     note(Finding::Severity::error, "is damaged: its symbols lie outside of it");
 }
 
+MemoryMap OpenModule::memory() const { return foreign_ ? foreign_->memory() : MemoryMap(); }
+
 void OpenModule::look_at_records() {
-  const MemoryMap memory;
+  const MemoryMap memory = this->memory();
   check_records(*linkage_, *imports_, Inspector(memory, findings_, file_.string()));
 }
 
 void OpenModule::look_at_artwork() {
-  const MemoryMap memory;
+  const MemoryMap memory = this->memory();
   const Inspector file(memory, findings_, file_.string());
   for (std::size_t i = 0; linkage_->gauges[i] != nullptr; ++i) {
     const GaugeHeader& gauge = *linkage_->gauges[i];

@@ -5,15 +5,17 @@
 #include <vector>
 
 #include "host/loader/check.h"
-#include "host/loader/elf_file.h"
+#include "host/loader/foreign_records.h"
 #include "host/loader/inspector.h"
+#include "host/loader/library_file.h"
 #include "host/loader/module_bitmaps.h"
 #include "interface/panel_interface.h"
 
 namespace host {
 
 /// Opens and checks step by step, and stops at the first step that finds an error, so that nothing
-/// is loaded from a broken file and nothing is run of a broken library.
+/// is loaded from a broken file and nothing is run of a broken library. A library for Windows is checked like
+/// any other, but not loaded.
 class OpenModule {
  public:
   explicit OpenModule(const std::filesystem::path& file);
@@ -30,15 +32,20 @@ class OpenModule {
   const ModuleBitmaps& bitmaps() const { return *bitmaps_; }
   std::uintptr_t handle() const { return reinterpret_cast<std::uintptr_t>(library_); }
 
+  /// Whether the system has loaded it: else it can be looked at, but not connected and run.
+  bool loaded() const { return library_ != nullptr; }
+
   void connect(const PanelServices& services);
 
  private:
   void open();
   void read_file();
-  void check_exports(const ElfFile& elf);
-  void check_export(const ElfFile& elf, const char* name, std::size_t size);
-  void read_bitmaps(const ElfFile& elf);
+  void check_exports();
+  void check_export(const char* name, std::size_t size, unsigned ordinal);
+  void read_bitmaps();
+  void find_records();
   void load_library();
+  MemoryMap memory() const;
   void look_at_records();
   void look_at_artwork();
   void note(Finding::Severity severity, const std::string& text);
@@ -46,7 +53,9 @@ class OpenModule {
   std::filesystem::path file_;
   std::vector<Finding> findings_;
   std::unique_ptr<MappedFile> mapped_;
+  std::unique_ptr<LibraryFile> library_file_;
   std::unique_ptr<ModuleBitmaps> bitmaps_;
+  std::unique_ptr<ForeignRecords> foreign_;
   void* library_ = nullptr;
   LinkageRecord* linkage_ = nullptr;
   ImportTableRecord* imports_ = nullptr;

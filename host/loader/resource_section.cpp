@@ -18,35 +18,51 @@ std::uint32_t directory_length(Bytes bytes) {
   return header->count;
 }
 
-std::string name_of(const PanelResourceEntry& entry) {
-  if (entry.id != PANEL_RESOURCE_NAMED) return "bitmap " + std::to_string(entry.id);
-  return "bitmap \"" + std::string(entry.name, strnlen(entry.name, sizeof entry.name)) + "\"";
+std::string name_of(const ListedBitmap& bitmap) {
+  if (bitmap.id != PANEL_RESOURCE_NAMED) return "bitmap " + std::to_string(bitmap.id);
+  return "bitmap \"" + bitmap.name + "\"";
 }
 
 }  // namespace
 
-ResourceSection::ResourceSection(Bytes bytes) {
-  const std::uint32_t count = directory_length(bytes);
-  for (std::uint32_t i = 0; i < count; ++i)
-    add(bytes, sizeof(PanelResourceHeader) + std::uint64_t{i} * sizeof(PanelResourceEntry));
+std::vector<ListedBitmap> listed_bitmaps(Bytes section) {
+  std::vector<ListedBitmap> listed(directory_length(section));
+  std::uint64_t place = sizeof(PanelResourceHeader);
+  for (ListedBitmap& bitmap : listed) {
+    const auto entry = *read<PanelResourceEntry>(section, place);
+    const std::string name(entry.name, strnlen(entry.name, sizeof entry.name));
+    bitmap = {entry.id, name, slice(section, entry.offset, entry.size)};
+    place += sizeof entry;
+  }
+  return listed;
 }
 
-void ResourceSection::add(Bytes bytes, std::uint64_t place) {
-  const auto entry = *read<PanelResourceEntry>(bytes, place);
+ResourceSection::ResourceSection(const std::vector<ListedBitmap>& listed) {
+  for (const ListedBitmap& bitmap : listed) add(bitmap);
+}
+
+void ResourceSection::add(const ListedBitmap& bitmap) {
   try {
-    const auto packed = slice(bytes, entry.offset, entry.size);
-    if (!packed) throw DibError("it lies past the end");
-    const Dib dib = parse_dib(*packed);
-    if (entry.id == PANEL_RESOURCE_NAMED) return;
-    if (!numbered_.emplace(entry.id, dib).second) throw DibError("the number is taken");
+    if (!bitmap.bytes) throw DibError("it lies past the end");
+    const Dib dib = parse_dib(*bitmap.bytes);
+    if (bitmap.id == PANEL_RESOURCE_NAMED) {
+      if (!named_.emplace(bitmap.name, dib).second) throw DibError("the name is taken");
+    } else if (!numbered_.emplace(bitmap.id, dib).second) {
+      throw DibError("the number is taken");
+    }
   } catch (const DibError& error) {
-    notes_.push_back(name_of(entry) + " is damaged: " + error.what());
+    notes_.push_back(name_of(bitmap) + " is damaged: " + error.what());
   }
 }
 
 const Dib* ResourceSection::find(std::uint32_t id) const {
   const auto found = numbered_.find(id);
   return found == numbered_.end() ? nullptr : &found->second;
+}
+
+const Dib* ResourceSection::find(std::string_view name) const {
+  const auto found = named_.find(name);
+  return found == named_.end() ? nullptr : &found->second;
 }
 
 }  // namespace host

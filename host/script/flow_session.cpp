@@ -21,13 +21,15 @@ bool is_reached(const CockpitGauge& gauge, const Spot& spot, std::uint32_t butto
 
 }  // namespace
 
-FlowSession::FlowSession(Cockpit& cockpit, FlowSurroundings surroundings)
-    : cockpit_(cockpit), surroundings_(std::move(surroundings)) {
+FlowSession::FlowSession(CockpitInputs& inputs, FlowSurroundings surroundings)
+    : inputs_(inputs), cockpit_(inputs.cockpit()), surroundings_(std::move(surroundings)) {
   cockpit_.on_event = [this](const SentEvent& event) { events_.push_back(event); };
 }
 
+FlowSession::~FlowSession() { cockpit_.on_event = nullptr; }
+
 void FlowSession::frame() {
-  inputs_.frame();
+  surroundings_.pass_frame ? surroundings_.pass_frame() : inputs_.frame();
   if (surroundings_.after_frame) surroundings_.after_frame(1.0 / cockpit_.rate());
   if (time_moved) time_moved();
 }
@@ -48,6 +50,7 @@ CockpitGauge& FlowSession::shown_gauge(const std::string& name) {
 
 // A gauge that has never run shows nothing yet: nobody clicks before the first frame.
 CockpitGauge& FlowSession::begin_gesture(const Spot& spot) {
+  if (surroundings_.before_gesture) surroundings_.before_gesture(spot);
   CockpitGauge& gauge = shown_gauge(spot.gauge);
   if (!gauge.started) frame();
   events_.clear();

@@ -32,17 +32,23 @@ struct HeardSound {
 struct FlowSurroundings {
   std::filesystem::path pictures;             ///< folder for pictures; empty: none are made
   std::function<void(double)> after_frame;    ///< gets the frame's time in seconds
-  std::function<double(double)> sound_level;  ///< of the last so many seconds, 0 to 1; may be empty
+  std::function<double(double)> sound_level;  ///< of the last so many seconds, 0 to 1; empty: unknown
   std::function<void(const std::string&)> say;
   std::function<void(const Canvas&)> after_picture = {};  ///< gets each picture that is made
   std::vector<Checklist> checklists{};  ///< of the kneeboard
+  std::function<void()> pass_frame = {};  ///< where another one keeps the pace; empty: the flow does
+  std::function<void(const Spot&)> before_gesture = {};  ///< gets what is going to be worked
 };
 
 /// A cockpit under the hands of a flow. Times are simulated seconds. Whatever cannot be done, such as
 /// a click on a gauge that no open window shows, throws std::runtime_error with the reason.
 class FlowSession {
  public:
-  FlowSession(Cockpit& cockpit, FlowSurroundings surroundings);
+  /// The inputs must outlive it.
+  FlowSession(CockpitInputs& inputs, FlowSurroundings surroundings);
+  ~FlowSession();
+  FlowSession(const FlowSession&) = delete;
+  FlowSession& operator=(const FlowSession&) = delete;
 
   Cockpit& cockpit() { return cockpit_; }
   CockpitInputs& inputs() { return inputs_; }
@@ -83,8 +89,8 @@ class FlowSession {
   CockpitGauge& begin_gesture(const Spot& spot);
   void press(const CockpitGauge& gauge, const Spot& spot, std::uint32_t button);
 
+  CockpitInputs& inputs_;
   Cockpit& cockpit_;
-  CockpitInputs inputs_{cockpit_};
   FlowSurroundings surroundings_;
   std::vector<SentEvent> events_;
 };

@@ -115,6 +115,12 @@ const simulation::ProgramWindows& AircraftModel::program_windows() const {
   return systems_->aircraft.windows;
 }
 
+std::vector<std::uint32_t> AircraftModel::held_tokens() const {
+  std::vector<std::uint32_t> tokens;
+  for (const auto& [token, value] : systems_->held) tokens.push_back(token);
+  return tokens;
+}
+
 void AircraftModel::hold_token(std::uint32_t number, std::optional<double> value) {
   if (value) {
     systems_->held[number] = *value;

@@ -7,6 +7,7 @@
 #include <optional>
 #include <span>
 #include <string_view>
+#include <vector>
 
 #include "host/simulation/failure_row.h"
 #include "host/simulation/flight/air_data.h"
@@ -100,6 +101,7 @@ class AircraftModel {
   /// Puts a token to a value by its name or number, for scripts and tests: a held reading that
   /// the models no longer change. An empty value lets it go again.
   void hold_token(std::uint32_t number, std::optional<double> value);
+  std::vector<std::uint32_t> held_tokens() const;
 
   static std::span<const TableRow> tokens();
   static std::span<const TableRow> events();

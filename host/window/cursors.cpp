@@ -27,4 +27,10 @@ void Cursors::show(int cursor) {
   if (entry->second) SDL_SetCursor(entry->second.get());
 }
 
+// The one that is shown stays until another is.
+void Cursors::set_scale(double scale) {
+  scale_ = scale;
+  std::erase_if(made_, [this](const auto& entry) { return entry.first != shown_; });
+}
+
 }  // namespace host

@@ -16,6 +16,8 @@ class Cursors {
   /// One of enum MouseCursor; anything else shows the arrow.
   void show(int cursor);
 
+  void set_scale(double scale);
+
  private:
   struct Free {
     void operator()(SDL_Cursor* cursor) const { SDL_FreeCursor(cursor); }

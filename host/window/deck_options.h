@@ -15,6 +15,7 @@ struct DeckOptions {
   std::filesystem::path desk_file;   ///< where it is kept when the person leaves; empty: nowhere
   std::filesystem::path controls;    ///< the file of keys and sticks; empty: hands off
   std::filesystem::path checklists;  ///< the kneeboard's file; empty: none
+  std::filesystem::path flows;       ///< the folder of flows that the menu offers; empty: none
   std::filesystem::path pictures;    ///< where pictures go; empty: the desktop's folder for them
   std::optional<double> exit_after;  ///< seconds
 };

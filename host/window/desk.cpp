@@ -17,17 +17,19 @@ constexpr int least_side = 100, greatest_side = 16384;
 
 bool read_flag(std::string_view value) { return whole_number(value, 0, 1) == 1; }
 
-double read_zoom(std::string_view value) {
-  double zoom = 0;
-  const auto [end, error] = std::from_chars(value.data(), value.data() + value.size(), zoom);
-  if (error != std::errc{} || end != value.data() + value.size() || !(zoom >= 0.1 && zoom <= 16))
-    throw LineError("expected a zoom from 0.1 to 16, not '" + std::string(value) + "'");
-  return zoom;
+double read_factor(const char* what, std::string_view value, double least, double most) {
+  double factor = 0;
+  const auto [end, error] = std::from_chars(value.data(), value.data() + value.size(), factor);
+  if (error == std::errc{} && end == value.data() + value.size() && factor >= least && factor <= most)
+    return factor;
+  char wanted[64];
+  std::snprintf(wanted, sizeof wanted, "expected a %s from %g to %g, not '", what, least, most);
+  throw LineError(wanted + std::string(value) + "'");
 }
 
 bool read_window(WindowSettings& window, std::string_view key, std::string_view value) {
   if (key == "place") return window.place = parse_place(value), true;
-  if (key == "zoom") return window.zoom = read_zoom(value), true;
+  if (key == "zoom") return window.zoom = read_factor("zoom", value, 0.1, 16), true;
   if (key == "full_screen") return window.full_screen = read_flag(value), true;
   return false;
 }
@@ -37,6 +39,13 @@ bool read_panel(PanelSettings& panel, std::string_view key, std::string_view val
   if (key == "in_work") return panel.in_work = read_flag(value), true;
   if (key == "torn") return panel.torn = read_flag(value), true;
   return read_window(panel, key, value);
+}
+
+bool read_setting(Settings& settings, std::string_view key, std::string_view value) {
+  if (key == "help_seen") return settings.help_seen = read_flag(value), true;
+  if (key == "volume") return settings.volume = whole_number(value, 0, 100), true;
+  if (key == "scale") return settings.scale = read_factor("scale", value, least_scale, most_scale), true;
+  return false;
 }
 
 class Reader {
@@ -57,11 +66,13 @@ class Reader {
   void begin(std::string_view section) {
     panel_ = nullptr;
     in_main_ = section == "window";
-    if (!in_main_) panel_ = &desk_.panels[read_ident(section)];
+    in_settings_ = section == "settings";
+    if (!in_main_ && !in_settings_) panel_ = &desk_.panels[read_ident(section)];
   }
 
   bool read_entry(std::string_view key, std::string_view value) {
     if (panel_) return read_panel(*panel_, key, value);
+    if (in_settings_) return read_setting(desk_.settings, key, value);
     if (!in_main_) return false;
     if (key == "outside") return desk_.outside = read_flag(value), true;
     return read_window(desk_.main, key, value);
@@ -70,7 +81,20 @@ class Reader {
   Desk& desk_;
   PanelSettings* panel_ = nullptr;
   bool in_main_ = false;
+  bool in_settings_ = false;
 };
+
+std::string factor_line(const char* name, const std::optional<double>& factor) {
+  if (!factor) return {};
+  char digits[32];
+  const auto end = std::to_chars(digits, digits + sizeof digits, *factor).ptr;
+  return name + (" = " + std::string(digits, end) + "\n");
+}
+
+std::string text_of(const Settings& settings) {
+  return "\n[settings]\nhelp_seen = " + std::string(settings.help_seen ? "1" : "0") +
+         "\nvolume = " + std::to_string(settings.volume) + "\n" + factor_line("scale", settings.scale);
+}
 
 std::string text_of(const WindowSettings& window) {
   std::string text;
@@ -78,11 +102,7 @@ std::string text_of(const WindowSettings& window) {
     text += "place = " + std::to_string(*window.place->x) + "," + std::to_string(*window.place->y) +
             "," + std::to_string(window.place->width) + "," + std::to_string(window.place->height) +
             "\n";
-  if (window.zoom) {
-    char zoom[32];
-    const auto end = std::to_chars(zoom, zoom + sizeof zoom, *window.zoom).ptr;
-    text += "zoom = " + std::string(zoom, end) + "\n";
-  }
+  text += factor_line("zoom", window.zoom);
   if (window.full_screen) text += "full_screen = 1\n";
   return text;
 }
@@ -138,6 +158,7 @@ std::string text_of(const Desk& desk) {
   std::string text = "# How the windows of tarnvale stood when it was left.\n\n[window]\n";
   text += text_of(desk.main);
   if (!desk.outside) text += "outside = 0\n";
+  text += text_of(desk.settings);
   for (const auto& [ident, panel] : desk.panels) {
     text += "\n[" + std::to_string(ident) + "]\n";
     if (panel.open) text += "open = 1\n";

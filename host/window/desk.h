@@ -10,6 +10,10 @@
 ///     place = 1920,0,1280,1024
 ///     zoom = 1.5                      # screen pixels per panel pixel; without: what fits
 ///     full_screen = 1
+///     [settings]                      # what the menu and the keys have set once and for all
+///     help_seen = 1
+///     volume = 80                     # per cent
+///     scale = 1.25                    # of texts and borders; without: the desktop's
 #pragma once
 
 #include <cstdint>
@@ -43,8 +47,19 @@ struct PanelSettings : WindowSettings {
   bool operator==(const PanelSettings&) const = default;
 };
 
+/// What texts and borders may be scaled by.
+inline constexpr double least_scale = 0.5, most_scale = 8;
+
+struct Settings {
+  bool help_seen = false;
+  int volume = 100;
+  std::optional<double> scale;
+  bool operator==(const Settings&) const = default;
+};
+
 struct Desk {
   WindowSettings main;
+  Settings settings;
   bool outside = true;  ///< the view out of the window is wanted
   std::map<std::uint32_t, PanelSettings> panels;
   bool operator==(const Desk&) const = default;

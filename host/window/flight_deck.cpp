@@ -13,6 +13,7 @@ namespace {
 
 constexpr double picture_time = 1.0 / 60;  // seconds between two pictures of something that moves
 constexpr int most_late_frames = 4;        // a machine that slept does not fly the time it missed
+constexpr double most_work = 0.05;         // seconds of frames between two looks at hands and screen
 
 // Ends a wait for events, from any thread.
 void wake() {
@@ -27,20 +28,21 @@ FlightDeck::FlightDeck(CockpitInputs& inputs, const DeckOptions& options)
     : inputs_(inputs),
       cockpit_(inputs.cockpit()),
       options_(options),
-      scale_(options.scale.value_or(Desktop::scale())),
+      settings_(options.desk.settings),
+      scale_(options.scale ? *options.scale : settings_.scale ? *settings_.scale : Desktop::scale()),
       views_(cockpit_, scale_, options.zoom ? std::optional(*options.zoom * scale_) : std::nullopt,
              options.desk),
       notices_(views_.main()),
       pictures_(options.pictures.empty() ? pictures_folder() : options.pictures, wake),
       hand_(inputs_, views_, scale_),
-      pages_(
-          inputs_,
-          options.checklists.empty() ? std::vector<Checklist>{} : read_checklists(options.checklists),
-          options.checklists) {
+      lists_(options.checklists.empty() ? std::vector<Checklist>{} : read_checklists(options.checklists)),
+      pages_(inputs_, lists_, options.checklists) {
   if (!options.controls.empty()) {
     controls_ = read_control_map(options.controls);
     sticks_.emplace(controls_, hands_);
   }
+  if (!options.flows.empty()) find_flows();
+  apply_volume();
   platform_on_message(take_message, this);
 }
 
@@ -56,9 +58,10 @@ void FlightDeck::take_message(const char* text, const char* caption, void* conte
   auto* deck = static_cast<FlightDeck*>(context);
   std::fprintf(stderr, "%s: %s\n", caption, text);
   deck->notices_.add(text, deck->now());
+  if (deck->flow_) deck->flow_->add_message(text);
 }
 
-void FlightDeck::fly() {
+std::optional<NextFlight> FlightDeck::fly() {
   frame_due_ = now();
   while (!leaving_) {
     run_frames();
@@ -73,7 +76,10 @@ void FlightDeck::fly() {
     wait_for_event();
     if (options_.exit_after && now() >= *options_.exit_after) leaving_ = true;
   }
+  flow_.reset();
   keep_desk();
+  if (next_) next_->desk = kept_desk();
+  return next_;
 }
 
 void FlightDeck::settle() {
@@ -81,8 +87,16 @@ void FlightDeck::settle() {
   if (settled.main_resized) {
     notices_.place();
     show_page();
+    show_controls_page();
+    strip_old_ = true;
+    menu_old_ = true;
     views_.settle();  // the page may have taken another share of the window
   }
+  if (strip_old_) {
+    show_strip();
+    views_.settle();
+  }
+  show_menu();
   show_zoom();
   if (!settled.panels) return;
   hand_.reset();
@@ -99,10 +113,16 @@ void FlightDeck::show_what_opened_in_a_pause() {
 void FlightDeck::keep_desk() {
   if (options_.desk_file.empty()) return;
   try {
-    write_desk(options_.desk_file, views_.desk());
+    write_desk(options_.desk_file, kept_desk());
   } catch (const std::exception& error) {
     std::fprintf(stderr, "%s\n", error.what());
   }
+}
+
+Desk FlightDeck::kept_desk() const {
+  Desk desk = views_.desk();
+  desk.settings = settings_;
+  return desk;
 }
 
 void FlightDeck::run_frame() {
@@ -111,10 +131,11 @@ void FlightDeck::run_frame() {
 }
 
 void FlightDeck::run_frames() {
-  const double period = 1.0 / cockpit_.rate();
+  const double begun = now(), period = 1.0 / (cockpit_.rate() * speed_);
   if (paused_) return;
-  if (now() - frame_due_ > most_late_frames * period) frame_due_ = now();
-  for (; now() >= frame_due_; frame_due_ += period) {
+  if (begun - frame_due_ > most_late_frames / cockpit_.rate()) frame_due_ = begun;
+  for (; now() >= frame_due_ && now() - begun < most_work; frame_due_ += period) {
+    if (flow_ && !let_flow_work()) return;
     apply_hands();
     run_frame();
     last_frame_ = frame_due_;
@@ -127,7 +148,7 @@ void FlightDeck::refresh() {
   const double time = now();
   const bool moving = views_.moving() && !paused_;
   if (moving && time < picture_due_) return;
-  const double blend = moving ? std::clamp((time - last_frame_) * cockpit_.rate(), 0.0, 1.0) : 1.0;
+  const double blend = moving ? std::clamp((time - last_frame_) * cockpit_.rate() * speed_, 0.0, 1.0) : 1.0;
   turn_head(time - std::exchange(looked_, time));
   const auto sight = paused_ ? std::nullopt : std::optional(sight_at(time));
   views_.each([&](View& view) { view.refresh(blend, sight); });
@@ -136,7 +157,7 @@ void FlightDeck::refresh() {
 
 outside::Sight FlightDeck::sight_at(double time) const {
   outside::Sight sight = outside::captains_sight(
-      cockpit_.aircraft(), std::clamp(time - last_frame_, 0.0, 1.0 / cockpit_.rate()));
+      cockpit_.aircraft(), std::clamp((time - last_frame_) * speed_, 0.0, 1.0 / cockpit_.rate()));
   sight.look = look_;
   return sight;
 }
@@ -160,13 +181,18 @@ void FlightDeck::wait_for_event() {
 
 void FlightDeck::take(const SDL_Event& event) {
   if (sticks_) sticks_->take(event);
-  if (take_yoke(event) || take_page_event(event)) return;
+  if (take_menu_mouse(event) || take_yoke(event)) return;
+  if (event.type == SDL_MOUSEBUTTONDOWN && (take_menu_ask(event.button) || take_strip_press(event.button)))
+    return;
+  if (take_page_event(event)) return;
+  if (event.type == SDL_MOUSEBUTTONDOWN && refuses_press(event.button)) return;
   switch (event.type) {
     case SDL_QUIT: leave(); break;
     case SDL_WINDOWEVENT: take_window(event.window); break;
     case SDL_KEYUP: take_flying_key(event.key); break;
     case SDL_KEYDOWN:
-      if (!take_flying_key(event.key)) take_key(event.key);
+      if (!take_menu_key(event.key) && !take_flow_key(event.key) && !take_flying_key(event.key))
+        take_key(event.key);
       break;
     case SDL_MOUSEWHEEL:
       if (View* view = views_.find(event.wheel.windowID); view && (SDL_GetModState() & KMOD_CTRL)) {
@@ -188,10 +214,12 @@ void FlightDeck::take_window(const SDL_WindowEvent& event) {
   } else if (event.event == SDL_WINDOWEVENT_EXPOSED) {
     view->invalidate();
   } else if (event.event == SDL_WINDOWEVENT_CLOSE) {
-    if (const auto torn = views_.torn_window(event.windowID))
-      inputs_.take(input::CloseWindow{cockpit_.config().windows[*torn].ident});
-    else
+    if (const auto torn = views_.torn_window(event.windowID)) {
+      if (!flow_has_control())
+        inputs_.take(input::CloseWindow{cockpit_.config().windows[*torn].ident});
+    } else {
       leave();
+    }
   }
 }
 

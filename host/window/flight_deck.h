@@ -5,22 +5,29 @@
 #include <filesystem>
 #include <functional>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "host/hands/sticks.h"
 #include "host/pages/pages.h"
+#include "host/script/watched_flow.h"
 #include "host/window/deck_options.h"
+#include "host/window/menu.h"
 #include "host/window/mouse_hand.h"
+#include "host/window/next_flight.h"
 #include "host/window/notices.h"
 #include "host/window/picture_writer.h"
+#include "host/window/strip_bar.h"
 #include "host/window/views.h"
 
 namespace host {
 
 class FlightDeck {
  public:
-  /// Opens the windows. Throws std::runtime_error when there is no display. The inputs must outlive it.
+  /// Opens the windows. The inputs must outlive it, and so must the desktop.
   FlightDeck(CockpitInputs& inputs, const DeckOptions& options);
   ~FlightDeck();
   FlightDeck(const FlightDeck&) = delete;
@@ -34,9 +41,14 @@ class FlightDeck {
   std::function<void()> on_pause;
   /// Whether leaving loses the flight: then it takes two asks.
   bool ask_to_leave = false;
+  /// Called when the flight begins to run as fast as life, or faster.
+  std::function<void(bool as_life)> on_speed;
 
-  /// Flies until the person leaves.
-  void fly();
+  /// Lets a flow fly, before the person's eyes, until it ends or is taken over.
+  void watch(const std::filesystem::path& flow);
+
+  /// Flies until the person leaves. Returns what the person wants to fly instead, if anything.
+  std::optional<NextFlight> fly();
 
  private:
   using Clock = std::chrono::steady_clock;
@@ -55,6 +67,7 @@ class FlightDeck {
   void settle();
   void show_what_opened_in_a_pause();
   void keep_desk();
+  Desk kept_desk() const;
   void refresh();
   /// What the captain sees now: the aircraft of the last frame, flown on to this moment.
   outside::Sight sight_at(double time) const;
@@ -81,6 +94,50 @@ class FlightDeck {
   bool over_page(Uint32 window, int x, int y) const;
   const PageSpot* page_spot(int x, int y) const;
 
+  // ---- The menu (menu_hand.cpp) -----------------------------------------------------------------
+  MenuSheet menu_sheet(MenuPage page);
+  std::vector<MenuRow> top_rows();
+  std::vector<MenuRow> panel_rows();
+  std::vector<MenuRow> page_rows();
+  std::vector<MenuRow> flight_rows();
+  std::vector<MenuRow> flow_rows();
+  std::vector<MenuRow> setting_rows();
+  void find_flows();
+  void set_volume(double volume);
+  void apply_volume() const;
+  void step_scale(int by);
+  void set_scale(double scale);
+  void begin_another(NextFlight next);
+  View& menu_view();
+  void open_menu(View& view, PanelPoint at, bool for_keyboard);
+  void open_menu_for_keyboard(View& view);
+  void close_menu();
+  void show_menu();
+  bool take_menu_key(const SDL_KeyboardEvent& event);
+  bool take_menu_mouse(const SDL_Event& event);
+  bool take_menu_ask(const SDL_MouseButtonEvent& event);
+  static bool is_modifier(SDL_Keycode key);
+  /// A place that an event tells, in pixels of the view; what lies there; whether that is a control.
+  static PanelPoint pixel_of(const View& view, int x, int y);
+  std::optional<ViewHit> hit_at(Uint32 window, int x, int y);
+  static bool takes_click(const ViewHit& hit);
+
+  // ---- A flow that is watched (flow_hand.cpp) ---------------------------------------------------
+  bool let_flow_work();
+  bool show_to_the_eye(const Spot& spot);
+  void point_at_target();
+  void end_flow();
+  void take_over();
+  void stop_flow(const std::string& note);
+  void set_speed(int speed);
+  bool flow_has_control();
+  void look_or_work();
+  bool take_flow_key(const SDL_KeyboardEvent& key);
+  bool refuses_press(const SDL_MouseButtonEvent& event);
+  void show_strip();
+  bool take_strip_press(const SDL_MouseButtonEvent& event);
+
+  void toggle_help();
   void toggle_window(std::uint32_t ident, bool beside);
   void toggle_torn();
   /// Sends a key event of the aircraft past the panel, as a keyboard command does.
@@ -98,13 +155,14 @@ class FlightDeck {
   CockpitInputs& inputs_;  ///< whatever the person does goes through here
   Cockpit& cockpit_;
   DeckOptions options_;
-  Desktop desktop_;
+  Settings settings_;
   double scale_;
   Clock::time_point start_ = Clock::now();
   Views views_;
   Notices notices_;
   PictureWriter pictures_;
   MouseHand hand_;
+  std::vector<Checklist> lists_;
   Pages pages_;
   DrawnPage page_;  ///< as it stands in the main window
   double page_due_ = 0;
@@ -116,6 +174,20 @@ class FlightDeck {
   double looked_ = 0;  ///< when the head was last turned
   bool yoke_ = false;
   bool controls_shown_ = false;
+  Menu menu_{[this](MenuPage page) { return menu_sheet(page); }};
+  Uint32 menu_view_ = 0;
+  PanelPoint menu_at_{};                    ///< where it was asked for
+  std::optional<std::size_t> menu_window_;  ///< the panel that it was asked for on
+  bool menu_old_ = false;
+  bool menu_shown_ = false;
+  std::vector<std::pair<std::filesystem::path, std::string>> flows_;  ///< that the menu offers; in words
+  std::unique_ptr<WatchedFlow> flow_;
+  std::string flow_name_, stage_;
+  std::optional<Target> flow_target_;  ///< what the flow works
+  int speed_ = 1;                      ///< times real time
+  StripBar strip_;
+  bool strip_old_ = true;
+  std::optional<NextFlight> next_;
   double frame_due_ = 0;
   double last_frame_ = 0;
   double picture_due_ = 0;

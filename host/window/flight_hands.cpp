@@ -24,7 +24,8 @@ void FlightDeck::apply(const FlightInputs& inputs) {
 }
 
 void FlightDeck::apply_hands() {
-  apply(hands_.frame(1.0 / cockpit_.rate(), cockpit_.aircraft().controls()));
+  const FlightInputs inputs = hands_.frame(1.0 / cockpit_.rate(), cockpit_.aircraft().controls());
+  if (!flow_) apply(inputs);  // a joystick that trembles takes nothing over
   if (controls_shown_) show_controls_page();
 }
 
@@ -39,7 +40,9 @@ bool FlightDeck::take_flying_key(const SDL_KeyboardEvent& key) {
   if (key.repeat != 0) return held != held_keys_.end();
   const auto action = controls_.action_of(key.keysym);
   if (!action) return false;
-  if (paused_ && action_table()[*action].window == WindowAction::none) return true;
+  const bool flies = action_table()[*action].window == WindowAction::none ||
+                     action_table()[*action].window == WindowAction::mouse_yoke;
+  if (flies && (paused_ || flow_has_control())) return true;
   if (held == held_keys_.end()) hands_.press(held_keys_[key.keysym.sym] = *action);
   return true;
 }

@@ -7,7 +7,6 @@
 namespace host {
 namespace {
 
-constexpr std::uint32_t first_panel_ident = 500;  // the panels stand on the keys in their idents' order
 
 constexpr double zoom_step = 1.125;
 constexpr double zoom_shown_s = 1.5;
@@ -30,7 +29,7 @@ void FlightDeck::take_key(const SDL_KeyboardEvent& event) {
     case SDLK_s:
     case SDLK_F12: pictures_.write(view.picture()); break;
     case SDLK_h:
-    case SDLK_F1: notices_.toggle_help(); break;
+    case SDLK_F1: toggle_help(); break;
     case SDLK_F11: view.screen().set_full_screen(!view.screen().is_full_screen()); break;
     case SDLK_ESCAPE: go_back(view); break;
     case SDLK_q: leave(); break;
@@ -73,7 +72,7 @@ bool FlightDeck::take_panel_key(const SDL_Keysym& keysym) {
   SDL_Keycode key = keysym.sym;
   if (key >= SDLK_KP_1 && key <= SDLK_KP_9) key = SDLK_1 + (key - SDLK_KP_1);
   if (key < SDLK_1 || key > SDLK_9) return false;
-  toggle_window(first_panel_ident + static_cast<std::uint32_t>(key - SDLK_1), keysym.mod & KMOD_SHIFT);
+  toggle_window(captains_panel + static_cast<std::uint32_t>(key - SDLK_1), keysym.mod & KMOD_SHIFT);
   return true;
 }
 
@@ -83,7 +82,7 @@ void FlightDeck::toggle_window(std::uint32_t ident, bool beside) {
   if (!window) return;
   const bool open = cockpit_.panels().shows(ident);
   if (open && !views_.waits(*window)) {
-    inputs_.take(input::CloseWindow{ident});
+    if (!flow_has_control()) inputs_.take(input::CloseWindow{ident});
     return;
   }
   if (!open) inputs_.take(input::OpenWindow{ident});
@@ -100,7 +99,7 @@ void FlightDeck::send(std::uint32_t event) { inputs_.take(input::KeyEvent{event,
 
 // The main panels' faces follow, as they do for the switch on the panel.
 void FlightDeck::toggle_panel_lights() {
-  if (paused_) return;
+  if (paused_ || flow_has_control()) return;
   send(event::panel_lights_toggle);
   const bool night = cockpit_.panel_lights_on();
   for (const WindowConfig& window : cockpit_.config().windows) {
@@ -120,8 +119,9 @@ void FlightDeck::toggle_outside() {
 void FlightDeck::toggle_pause() {
   paused_ = !paused_;
   if (paused_) let_go_of_keys();
-  hand_.look_only(paused_);
+  look_or_work();
   frame_due_ = now();
+  strip_old_ = true;
   if (paused_ && on_pause) on_pause();
   show_badge();
 }
@@ -155,6 +155,8 @@ void FlightDeck::go_back(View& view) {
     controls_shown_ = false, show_controls_page();
   else if (notices_.help_shown())
     notices_.toggle_help();
+  else if (flow_)
+    take_over();
   else if (pages_.shown())
     pages_.close();
   else if (yoke_)
@@ -162,7 +164,14 @@ void FlightDeck::go_back(View& view) {
   else if (view.screen().is_full_screen())
     view.screen().set_full_screen(false);
   else
-    notices_.add("Q leaves the cockpit", now());
+    open_menu_for_keyboard(view);
+}
+
+void FlightDeck::toggle_help() {
+  notices_.toggle_help();
+  if (std::exchange(settings_.help_seen, true)) return;
+  strip_old_ = true;
+  keep_desk();
 }
 
 // The journal keeps a flight, and --resume takes it up: leaving loses nothing then, and needs no question.

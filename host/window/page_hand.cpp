@@ -25,7 +25,7 @@ void FlightDeck::follow_pages() {
 void FlightDeck::show_page() {
   View& view = views_.main();
   page_due_ = now() + page_time;
-  views_.each([&](View& each) { each.point_at(pages_.pointed()); });
+  point_at_target();
   if (!pages_.shown()) {
     view.keep_free(0);
     return view.set_layer(Layer::page, std::nullopt);

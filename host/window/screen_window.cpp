@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <stdexcept>
 #include <string_view>
+#include <utility>
 
 #include "host/window/ui_pictures.h"
 #include "host/window/x11_desktop.h"
@@ -14,6 +15,18 @@ namespace {
 bool is_set(const char* variable) {
   const char* value = std::getenv(variable);
   return value && *value;
+}
+
+// Who names a driver gets it, even one that shows nothing.
+bool shows_something() {
+  const std::string_view driver = SDL_GetCurrentVideoDriver();
+  return is_set("SDL_VIDEODRIVER") || (driver != "offscreen" && driver != "dummy" && driver != "evdev");
+}
+
+std::string named_display() {
+  for (const char* variable : {"WAYLAND_DISPLAY", "DISPLAY"})
+    if (is_set(variable)) return std::string(variable) + "=" + std::getenv(variable);
+  return "SDL_VIDEODRIVER=" + std::string(std::getenv("SDL_VIDEODRIVER"));
 }
 
 [[noreturn]] void no_display(const std::string& reason) {
@@ -60,6 +73,8 @@ SDL_Rect on_a_screen(const WindowPlace& place) {
   return rect;
 }
 
+Desktop* open_desktop = nullptr;
+
 SDL_Window* open_window(const std::string& title, const SDL_Rect& rect) {
   return SDL_CreateWindow(title.c_str(), rect.x, rect.y, rect.w, rect.h,
                           SDL_WINDOW_RESIZABLE | SDL_WINDOW_ALLOW_HIGHDPI);
@@ -77,20 +92,35 @@ Desktop::Desktop() {
   if (!is_set("DISPLAY") && !is_set("WAYLAND_DISPLAY") && !is_set("SDL_VIDEODRIVER"))
     no_display("neither DISPLAY nor WAYLAND_DISPLAY is set");
   SDL_SetMainReady();
+  // No other driver is tried where an X display is all there is: each would complain on standard error.
+  if (!is_set("WAYLAND_DISPLAY")) SDL_SetHint(SDL_HINT_VIDEODRIVER, "x11");
   SDL_SetHint(SDL_HINT_VIDEO_HIGHDPI_DISABLED, "0");
   SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
   SDL_SetHint(SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1");  // a switch on another window works at once
   x11_forgive_late_events();
-  if (SDL_Init(SDL_INIT_VIDEO) != 0) no_display(SDL_GetError());
+  if (SDL_Init(SDL_INIT_VIDEO) != 0 || !shows_something()) {
+    SDL_Quit();
+    no_display("nothing answers at " + named_display());
+  }
   // Without joysticks one still flies; they are heard while another window has the keyboard, too.
   SDL_SetHint(SDL_HINT_JOYSTICK_ALLOW_BACKGROUND_EVENTS, "1");
   SDL_InitSubSystem(SDL_INIT_GAMECONTROLLER);
   SDL_EnableScreenSaver();
   // Plain copies of changed rectangles: a picture in a texture would go to the screen as a whole.
   if (on_x11()) SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
+  open_desktop = this;
 }
 
-Desktop::~Desktop() { SDL_Quit(); }
+Desktop::~Desktop() {
+  open_desktop = nullptr;
+  clear();
+  SDL_Quit();
+}
+
+void Desktop::clear() {
+  keeping_ = false;
+  for (SDL_Window* window : std::exchange(kept_, {})) SDL_DestroyWindow(window);
+}
 
 double Desktop::scale() { return on_x11() ? x11_scale() : 1.0; }
 
@@ -100,8 +130,23 @@ PanelSize Desktop::usable_size() {
   return {bounds.w, bounds.h};
 }
 
-ScreenWindow::ScreenWindow(const std::string& title, const WindowPlace& place)
-    : window_(open_window(title, on_a_screen(place))) {
+void ScreenWindow::Close::operator()(SDL_Window* window) const {
+  if (open_desktop && open_desktop->keeping_)
+    open_desktop->kept_.push_back(window);
+  else
+    SDL_DestroyWindow(window);
+}
+
+ScreenWindow::ScreenWindow(const std::string& title, const WindowPlace& place) {
+  auto& kept = open_desktop->kept_;
+  const auto same = [&](SDL_Window* window) { return title == SDL_GetWindowTitle(window); };
+  if (const auto found = std::ranges::find_if(kept, same); found != kept.end()) {
+    window_.reset(*found);
+    kept.erase(found);
+    before_full_ = place;
+  } else {
+    window_.reset(open_window(title, on_a_screen(place)));
+  }
   if (!window_) throw std::runtime_error(std::string("cannot open a window: ") + SDL_GetError());
   SDL_SetWindowMinimumSize(window_.get(), 160, 120);
   set_icon(window_.get());

@@ -21,17 +21,28 @@ class Desktop {
   Desktop(const Desktop&) = delete;
   Desktop& operator=(const Desktop&) = delete;
 
+  /// Windows that close from now on stay in sight until others of the same titles take their place: between
+  /// two flights nothing flickers. clear() closes those that none has taken.
+  void keep_windows() { keeping_ = true; }
+  void clear();
+
   /// What texts and borders are scaled by on this desktop, pixel density of its windows aside.
   static double scale();
 
   /// The room for a window on the first screen, in the desktop's units.
   static PanelSize usable_size();
+
+ private:
+  friend class ScreenWindow;
+  bool keeping_ = false;
+  std::vector<SDL_Window*> kept_;
 };
 
 /// One window. All sizes and places are pixels.
 class ScreenWindow {
  public:
-  /// Opens it there, moved and made smaller where no screen has room for it.
+  /// Opens it there, moved and made smaller where no screen has room for it; or takes a kept one of that title
+  /// as it stands. Only while the desktop is open.
   ScreenWindow(const std::string& title, const WindowPlace& place);
 
   Uint32 id() const { return SDL_GetWindowID(window_.get()); }
@@ -59,7 +70,7 @@ class ScreenWindow {
 
  private:
   struct Close {
-    void operator()(SDL_Window* window) const { SDL_DestroyWindow(window); }
+    void operator()(SDL_Window* window) const;
   };
 
   std::unique_ptr<SDL_Window, Close> window_;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "host/drawing/pixels.h"
 #include "host/panel/area_marks.h"
@@ -12,14 +13,15 @@
 namespace host {
 namespace {
 
-std::string key_hint(const WindowConfig& window) {
-  if (window.ident >= 500 && window.ident <= 508) return std::to_string(window.ident - 499);
-  return {};
-}
-
 constexpr double most_zoom = 3.0;  // of a small panel that has the window for itself, at scale 1
 
 }  // namespace
+
+// They stand on the keys in their idents' order.
+std::string panel_key(const WindowConfig& window) {
+  const std::uint32_t place = window.ident - captains_panel;
+  return window.ident >= captains_panel && place < 9 ? std::to_string(place + 1) : std::string();
+}
 
 View::View(const Cockpit& cockpit, Kind kind, const std::string& title, const WindowPlace& place,
            double scale)
@@ -64,6 +66,10 @@ void View::zoom_by(double factor, std::optional<PanelPoint> at) {
 }
 
 bool View::settle() {
+  if (std::exchange(strip_old_, false) && !layout_old_) {
+    place_tabs();
+    change(strip());
+  }
   if (!layout_old_) return false;
   const bool resized = screen_.take_size();
   relayout();  // even at the same size: the screen may have lost the picture
@@ -82,6 +88,26 @@ void View::point_at(const std::optional<Target>& target) {
   target_ = target;
   marked_ = {};
   if (!target_) set_layer(Layer::mark, std::nullopt);
+}
+
+void View::set_scale(double scale) {
+  layout_old_ = layout_old_ || scale != scale_;
+  scale_ = scale;
+}
+
+void View::set_strip_end(std::optional<Overlay> picture) {
+  strip_end_ = std::move(picture);
+  strip_old_ = true;
+}
+
+std::optional<PanelPoint> View::on_strip_end(int x, int y) const {
+  if (!strip_end_ || !overlap({strip_end_->x, strip_end_->y, strip_end_->width, strip_end_->height}, {x, y, 1, 1}))
+    return std::nullopt;
+  return PanelPoint{x - strip_end_->x, y - strip_end_->y};
+}
+
+Rect View::strip() const {
+  return {0, outside_.height, screen_.size().width, kind_ == Kind::main ? caption_height(scale()) : 0};
 }
 
 void View::keep_free(int width) {
@@ -164,16 +190,18 @@ void View::place_tabs() {
   tabs_.clear();
   double wanted = 0;
   const auto width_of = [&](const WindowConfig& window) {
-    return caption_width(window.title, key_hint(window), scale());
+    return caption_width(window.title, panel_key(window), scale());
   };
   for (std::size_t window : tab_windows_) wanted += width_of(cockpit_.config().windows[window]);
-  const double share = std::min(1.0, (screen_.size().width - kept_free_) / std::max(wanted, 1.0));
+  const int end = strip_end_ ? strip_end_->width + caption_height(scale()) / 2 : 0;
+  if (strip_end_) strip_end_->x = strip_width() - strip_end_->width, strip_end_->y = outside_.height;
+  const double share = std::clamp((strip_width() - end) / std::max(wanted, 1.0), 0.0, 1.0);
   int x = 0;
   for (std::size_t i : tab_windows_) {
     const WindowConfig& window = cockpit_.config().windows[i];
     const bool in_work = std::ranges::find(windows_, i) != windows_.end();
     Tab& tab = tabs_.emplace_back(
-        Tab{i, draw_caption(window.title, key_hint(window), static_cast<int>(width_of(window) * share),
+        Tab{i, draw_caption(window.title, panel_key(window), static_cast<int>(width_of(window) * share),
                             scale(), in_work)});
     tab.picture.x = x;
     tab.picture.y = outside_.height;
@@ -267,10 +295,11 @@ void View::compose(Canvas& canvas, const Rect& rect) const {
     copy_within(canvas, panel.picture.canvas(), place.x, place.y, rect);
   }
   if (shows_outside()) copy_within(canvas, outside_picture_, outside_.x, outside_.y, rect);
-  if (tabs_.empty()) return;
-  const Rect strip{0, outside_.height, canvas.width, tabs_[0].picture.height};
-  fill(canvas, intersection(strip, rect), surround_color);
+  const Rect bar = intersection(strip(), rect);
+  if (is_empty(bar)) return;
+  fill(canvas, bar, surround_color);
   for (const Tab& tab : tabs_) blend_within(canvas, tab.picture, tab.picture.x, tab.picture.y, rect);
+  if (strip_end_) blend_within(canvas, *strip_end_, strip_end_->x, strip_end_->y, rect);
 }
 
 Canvas View::picture() const {
@@ -280,7 +309,7 @@ Canvas View::picture() const {
 }
 
 bool View::is_covered(int x, int y) const {
-  for (const Layer layer : {Layer::badge, Layer::note, Layer::controls, Layer::help})
+  for (const Layer layer : {Layer::badge, Layer::note, Layer::controls, Layer::help, Layer::menu})
     if (const auto& over = layers_[static_cast<std::size_t>(layer)])
       if (overlap({over->x, over->y, over->width, over->height}, {x, y, 1, 1})) return true;
   return false;
@@ -290,11 +319,11 @@ std::optional<ViewHit> View::hit(int x, int y) const {
   const Rect pixel{x, y, 1, 1};
   if (x >= screen_.size().width - kept_free_) return std::nullopt;
   if (is_covered(x, y) || overlap(outside_, pixel)) return std::nullopt;
+  if (on_strip_end(x, y)) return std::nullopt;
   for (const auto& [window, tab] : tabs_)
     if (overlap({tab.x, tab.y, tab.width, tab.height}, pixel))
       return ViewHit{window, caption_part(x - tab.x, tab.width, scale()), true, {}};
-  if (!tabs_.empty() && y >= outside_.height && y < outside_.height + tabs_[0].picture.height)
-    return {};
+  if (overlap(strip(), pixel)) return {};
   for (const Panel& panel : panels_) {
     const Rect place = on_screen(panel.place);
     if (overlap(place, pixel))

@@ -16,7 +16,10 @@
 namespace host {
 
 /// What the program lays over the panels, from the lowest to the topmost.
-enum class Layer { mark, page, badge, zoom, note, tooltip, controls, help, count };
+enum class Layer { mark, page, badge, zoom, note, tooltip, controls, help, menu, count };
+
+/// The key that shows a panel; empty for none.
+std::string panel_key(const WindowConfig& window);
 
 /// What lies under a pixel of a view.
 struct ViewHit {
@@ -77,6 +80,13 @@ class View {
   /// Keeps so many pixels at the right end free of panels.
   void keep_free(int width);
 
+  void set_scale(double scale);
+
+  /// A picture at the right end of the strip of tabs; what of it lies at a pixel; the strip's width.
+  void set_strip_end(std::optional<Overlay> picture);
+  std::optional<PanelPoint> on_strip_end(int x, int y) const;
+  int strip_width() const { return screen_.size().width - kept_free_; }
+
   /// Lays a picture over the panels, or takes it away.
   void set_layer(Layer layer, std::optional<Overlay> overlay);
 
@@ -120,6 +130,7 @@ class View {
   };
 
   void relayout();
+  Rect strip() const;
   void place_tabs();
   void keep_anchor();
   LayoutArea area() const;
@@ -144,6 +155,7 @@ class View {
   PanelPoint scroll_{};
   std::vector<Panel> panels_;
   std::vector<Tab> tabs_;
+  std::optional<Overlay> strip_end_;
   std::optional<Anchor> anchor_;  ///< of a change of zoom
   bool outside_wanted_ = false;
   Rect outside_;  ///< of the screen; empty where the view does not stand
@@ -156,6 +168,7 @@ class View {
   int kept_free_ = 0;
   std::vector<Rect> changed_;
   bool layout_old_ = true;
+  bool strip_old_ = false;
   bool all_changed_ = true;
   bool areas_marked_ = false;
 };

@@ -34,6 +34,12 @@ class Views {
   /// Shows a panel that stands in the main view: alone, or `beside` those that are shown.
   void bring(std::size_t window, bool beside);
 
+  /// Of the views that open from now on.
+  void set_scale(double scale) { scale_ = scale; }
+
+  /// Whether a panel has a window of its own, open or not.
+  bool is_torn(std::size_t window) const { return torn_off_.contains(window); }
+
   /// Whether a panel is open and just a tab.
   bool waits(std::size_t window) const;
 

@@ -47,7 +47,7 @@ Point hub_of(const GaugeHeader& gauge, std::string_view name) {
   }
   const Bitmap* bitmap = find_bitmap(element->resource_id);
   const bool strip = element->kind == ELEMENT_MOVING_IMAGE;
-  if (strip || bitmap == nullptr || bitmap->art == nullptr) return box_of(*element).centre();
+  if (strip || bitmap == nullptr) return box_of(*element).centre();
   return place(*element) + hub_in(bitmap->art->picture, bitmap->size);
 }
 

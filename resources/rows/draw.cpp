@@ -1,6 +1,5 @@
 #include "resources/rows/draw.h"
 
-#include "resources/kit/metal.h"
 #include "resources/kit/records.h"
 #include "resources/rows/overloaded.h"
 
@@ -33,7 +32,6 @@ void draw_plate(Canvas& canvas, const Bitmap& bitmap, const Plate& plate) {
 }  // namespace
 
 void draw(Canvas& canvas, const Bitmap& bitmap) {
-  if (bitmap.art == nullptr) return painted_plate(canvas);
   std::visit(overloaded{
                  [&](const Plate& plate) { draw_plate(canvas, bitmap, plate); },
                  [&](const Needle& row) { draw_needle(canvas, row, element_of(bitmap).needle.center); },

@@ -14,7 +14,7 @@ namespace {
 void fit_parts(const Board& board) {
   for (const Element* element : parts(board.gauge)) {
     const Bitmap* bitmap = find_bitmap(element->resource_id);
-    if (bitmap == nullptr || bitmap->art == nullptr) continue;
+    if (bitmap == nullptr) continue;
     const Point at = place(*element);
     fit(board.canvas, bitmap->art->picture,
         {at.x, at.y, static_cast<double>(bitmap->size.width),
@@ -25,9 +25,7 @@ void fit_parts(const Board& board) {
 double clear_of(const Board& board, std::string_view name) {
   const Element& element = part(board.gauge, name);
   const Bitmap* bitmap = find_bitmap(element.resource_id);
-  return bitmap == nullptr || bitmap->art == nullptr
-             ? 0
-             : words_distance(bitmap->art->picture, bitmap->size);
+  return bitmap == nullptr ? 0 : words_distance(bitmap->art->picture, bitmap->size);
 }
 
 /// Draws one item of a plate.

@@ -13,9 +13,7 @@ namespace {
 void lay(const Canvas& canvas, int id) {
   const Bitmap* bitmap = find_bitmap(id);
   if (bitmap == nullptr) return;
-  Indexed picture = indexed(*bitmap, canvas.density());
-  if (bitmap->background) make_opaque(picture);
-  const Canvas image = shown(picture, canvas.density());
+  const Canvas image = shown(*bitmap, canvas.density());
   cairo_surface_t* surface = cairo_get_target(image.cr());
   cairo_surface_flush(surface);
   cairo_scale(canvas.cr(), canvas.hairline(), canvas.hairline());

@@ -8,7 +8,6 @@
 namespace artwork {
 namespace {
 
-constexpr std::size_t most_colours = 256;
 constexpr std::uint32_t least_opacity = 3;   // fainter than this is nothing
 constexpr std::uint32_t full_opacity = 251;  // stronger than this is everything
 constexpr int refinements = 3;
@@ -208,7 +207,7 @@ void make_opaque(Indexed& picture) {
   }
 }
 
-Indexed indexed(const Canvas& canvas, Ground ground) {
+Indexed indexed(const Canvas& canvas, Ground ground, std::size_t most_colours) {
   const std::vector<std::uint32_t> pixels = settled_pixels(canvas, ground);
   std::vector<Colour32> colours = counted(pixels);
   const Pixels from = canvas.pixels();
@@ -224,6 +223,21 @@ Indexed indexed(const Canvas& canvas, Ground ground) {
     picture.pixels.push_back(pixel == 0 ? std::uint8_t{0} : index[rank(colours, pixel)]);
   }
   return picture;
+}
+
+Canvas full_colour(const Canvas& canvas, Ground ground) {
+  // Without a palette nothing can be half clear: what is not a background is drawn or it is not.
+  const Ground edges = ground == Ground::none ? ground : Ground::sprites;
+  Canvas copy(canvas.size(), canvas.density(), canvas.seed());
+  const Pixels from = canvas.pixels(), to = copy.pixels();
+  for (int y = 0; y < from.height; ++y) {
+    for (int x = 0; x < from.width; ++x) {
+      const std::uint32_t pixel = settled(from.at(x, y), edges);
+      to.at(x, y) = pixel == 0xFF000000u && edges != Ground::none ? 0xFF010000u : pixel;
+    }
+  }
+  copy.touched();
+  return copy;
 }
 
 }  // namespace artwork

@@ -106,9 +106,7 @@ Keys::Keys(const DrawingCode& code) {
   base_ = base.value();
 }
 
-std::uint64_t Keys::unit_digest(const Unit* unit) const {
-  return unit == nullptr ? 0 : units_.at(unit);
-}
+std::uint64_t Keys::unit_digest(const Unit* unit) const { return units_.at(unit); }
 
 std::uint64_t Keys::gauge_digest(const GaugeHeader& gauge) const {
   Digest digest;
@@ -129,11 +127,13 @@ std::uint64_t Keys::gauge_digest(const GaugeHeader& gauge) const {
 std::string Keys::key(const Bitmap& bitmap, int density) const {
   Digest digest;
   digest.add(base_);
-  for (const int number : {bitmap.id, bitmap.image, bitmap.size.width, bitmap.size.height, density}) {
+  digest.add(bitmap.art->of.name);
+  for (const int number :
+       {bitmap.id, bitmap.image, bitmap.size.width, bitmap.size.height, bitmap.bits(), density}) {
     digest.add(number);
   }
   digest.add(unit_digest(bitmap.unit));
-  const GaugeHeader* gauge = bitmap.unit == nullptr ? nullptr : gauge_of(*bitmap.unit);
+  const GaugeHeader* gauge = gauge_of(*bitmap.unit);
   if (gauge != nullptr) digest.add(gauge_digest(*gauge));
   char text[32];
   std::snprintf(text, sizeof text, "%016llx", static_cast<unsigned long long>(digest.value()));

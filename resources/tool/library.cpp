@@ -26,9 +26,28 @@ Ground ground_of(const Bitmap& bitmap) {
   return has_openings(bitmap) ? Ground::sprites : Ground::none;
 }
 
+Indexed indexed(const Bitmap& bitmap, int density) {
+  return indexed(drawn(bitmap, density), ground_of(bitmap), std::size_t{1} << bitmap.bits());
+}
+
+Canvas full_colour(const Bitmap& bitmap, int density) {
+  return full_colour(drawn(bitmap, density), ground_of(bitmap));
+}
+
+Bytes packed(const Bitmap& bitmap, int density) {
+  if (bitmap.bits() == 24) return packed(full_colour(bitmap, density));
+  return packed(indexed(bitmap, density), bitmap.bits());
+}
+
 std::uint32_t premultiplied(const PaletteEntry& c) {
   const auto part = [&](std::uint32_t value) { return (value * c.opacity + 127) / 255; };
   return std::uint32_t{c.opacity} << 24 | part(c.red) << 16 | part(c.green) << 8 | part(c.blue);
+}
+
+SectionEntry entry(const Bitmap& bitmap, Bytes bytes) {
+  const std::string name(bitmap.art->of.name);
+  const auto id = name.empty() ? static_cast<std::uint32_t>(bitmap.id) : PANEL_RESOURCE_NAMED;
+  return {id, name, std::move(bytes)};
 }
 
 }  // namespace
@@ -49,7 +68,7 @@ Bytes Cache::packed_bitmap(const Bitmap& bitmap, int density) {
     return {std::istreambuf_iterator<char>(found), {}};
   }
   ++drawn_;
-  const Bytes bytes = packed(indexed(bitmap, density));
+  const Bytes bytes = packed(bitmap, density);
   // A run that is broken off leaves no half a picture under the key.
   const std::filesystem::path part = folder_ / (key + ".part");
   write_file(part, bytes);
@@ -70,8 +89,7 @@ std::vector<Bytes> drawn_sections(Cache& cache, int densities) {
   // The densest pictures take longest and come first.
   in_parallel(table.size() * count, [&](std::size_t job) {
     const std::size_t i = job % table.size(), density = count - job / table.size();
-    entries[density - 1][i] = {static_cast<std::uint32_t>(table[i].id), "",
-                               cache.packed_bitmap(table[i], static_cast<int>(density))};
+    entries[density - 1][i] = entry(table[i], cache.packed_bitmap(table[i], static_cast<int>(density)));
   });
   std::vector<Bytes> sections;
   for (const auto& each : entries) sections.push_back(section(each));
@@ -85,8 +103,11 @@ void write_file(const std::filesystem::path& path, const Bytes& bytes) {
   if (!file) wrong("cannot write " + path.string());
 }
 
-Indexed indexed(const Bitmap& bitmap, int density) {
-  return indexed(drawn(bitmap, density), ground_of(bitmap));
+Canvas shown(const Bitmap& bitmap, int density) {
+  if (bitmap.bits() == 24) return full_colour(bitmap, density);
+  Indexed picture = indexed(bitmap, density);
+  if (bitmap.background) make_opaque(picture);
+  return shown(picture, density);
 }
 
 Canvas shown(const Indexed& picture, int density) {

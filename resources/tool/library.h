@@ -43,11 +43,11 @@ std::vector<Bytes> drawn_sections(Cache& cache, int densities);
 
 void write_file(const std::filesystem::path& path, const Bytes& bytes);
 
-/// The picture of one bitmap in its best colours.
-Indexed indexed(const Bitmap& bitmap, int density);
-
 /// A host's view of an indexed picture.
 Canvas shown(const Indexed& picture, int density);
+
+/// A host's view of a bitmap, with as many colours as it has.
+Canvas shown(const Bitmap& bitmap, int density);
 
 /// Writes a canvas to `path`.
 void write_png(const Canvas& canvas, const std::string& path);

@@ -1,11 +1,11 @@
 /// artwork: draws the module's bitmaps.
 ///
 ///   artwork --out DIRECTORY --dense DIRECTORY --cache DIRECTORY --kit FILE --objects FILE
-///       the sections at all three densities; draws what is not in the cache. The kit is the library of
-///       the drawing code, the other file lists the objects of the units
-///   artwork --png DIRECTORY [--scale N] [ID...]              bitmaps as hosts see them
+///       the sections at all three densities, the first also as resources for Windows; draws what is not in
+///       the cache. The kit is the library of the drawing code, the other file lists the objects of the units
+///   artwork --png DIRECTORY [--scale N] [ID or NAME...]      bitmaps as hosts see them
 ///   artwork --compose DIRECTORY [--scale N] [--boxes] [GAUGE...]  gauges, each in three poses
-///   artwork --list                                           number, size, subject of every bitmap
+///   artwork --list                                           number, size, bits, subject of every bitmap
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
@@ -19,6 +19,7 @@
 #include "resources/kit/legend.h"
 #include "resources/kit/records.h"
 #include "resources/tool/library.h"
+#include "resources/tool/windows_resources.h"
 
 namespace {
 
@@ -60,6 +61,10 @@ bool holds(const std::filesystem::path& path, const Bytes& bytes) {
 }
 
 /// What is the same stays untouched, so that nothing is built again because of it.
+void write_anew(const std::filesystem::path& file, const Bytes& bytes) {
+  if (!holds(file, bytes)) write_file(file, bytes);
+}
+
 void write_sections(const Arguments& arguments) {
   const std::filesystem::path out = arguments.out, dense = arguments.dense;
   const std::vector<std::filesystem::path> files{out / "panelres.bin", dense / "Tarnvale.GAU.2x",
@@ -67,8 +72,9 @@ void write_sections(const Arguments& arguments) {
   Cache cache(arguments.cache, {arguments.kit, arguments.objects});
   const std::vector<Bytes> sections = drawn_sections(cache, static_cast<int>(files.size()));
   for (std::size_t i = 0; i < files.size(); ++i) {
-    if (!holds(files[i], sections[i])) write_file(files[i], sections[i]);
+    write_anew(files[i], sections[i]);
   }
+  write_anew(out / "panelres.res", windows_resources(sections.front()));
   cache.sweep();
   std::printf("artwork: %d pictures drawn\n", cache.drawn());
 }
@@ -78,13 +84,16 @@ bool chosen(const Arguments& arguments, const std::string& name) {
          std::find(arguments.names.begin(), arguments.names.end(), name) != arguments.names.end();
 }
 
+/// Its number or its name.
+std::string title(const Bitmap& bitmap) {
+  return bitmap.id == Bitmap::named ? std::string(bitmap.art->of.name) : std::to_string(bitmap.id);
+}
+
 void write_pictures(const Arguments& arguments, const std::vector<Bitmap>& table) {
   for (const Bitmap& bitmap : table) {
-    const std::string name = std::to_string(bitmap.id);
+    const std::string name = title(bitmap);
     if (!chosen(arguments, name)) continue;
-    Indexed picture = indexed(bitmap, arguments.scale);
-    if (bitmap.background) make_opaque(picture);
-    write_png(shown(picture, arguments.scale), arguments.png + "/" + name + ".png");
+    write_png(shown(bitmap, arguments.scale), arguments.png + "/" + name + ".png");
   }
 }
 
@@ -120,7 +129,8 @@ int main(int count, char** words) {
   }
   if (arguments.list) {
     for (const Bitmap& b : table) {
-      std::printf("%6d %4d x %-4d %s\n", b.id, b.size.width, b.size.height, subject(b).c_str());
+      std::printf("%6s %4d x %-4d %2d %s\n", b.id == Bitmap::named ? "" : title(b).c_str(),
+                  b.size.width, b.size.height, b.bits(), subject(b).c_str());
     }
   }
   return 0;

@@ -1,6 +1,6 @@
 #include "resources/tool/section.h"
 
-#include <algorithm>
+#include <span>
 #include <string_view>
 
 #include "interface/panel_interface.h"
@@ -16,18 +16,38 @@ void put(Bytes& bytes, std::uint32_t value, int count) {
   for (int i = 0; i < count; ++i) bytes.push_back(static_cast<std::uint8_t>(value >> (8 * i)));
 }
 
-void put_header(Bytes& bytes, const Indexed& picture, std::uint32_t stride) {
+/// What a packed bitmap is made of; `bits` is that of a pixel.
+struct Format {
+  int width, height, bits;
+  std::size_t colours;
+
+  std::size_t row() const { return static_cast<std::size_t>(width * bits + 31) / 32 * 4; }
+  std::size_t rows() const { return row() * static_cast<std::size_t>(height); }
+};
+
+Bytes begun(const Format& format) {
+  Bytes bytes;
+  bytes.reserve(header_size + 4 * format.colours + format.rows());
   put(bytes, header_size, 4);
-  put(bytes, static_cast<std::uint32_t>(picture.width), 4);
-  put(bytes, static_cast<std::uint32_t>(picture.height), 4);
+  put(bytes, static_cast<std::uint32_t>(format.width), 4);
+  put(bytes, static_cast<std::uint32_t>(format.height), 4);
   put(bytes, 1, 2);  // planes
-  put(bytes, 8, 2);  // bits a pixel
+  put(bytes, static_cast<std::uint32_t>(format.bits), 2);
   put(bytes, 0, 4);  // no compression
-  put(bytes, stride * static_cast<std::uint32_t>(picture.height), 4);
+  put(bytes, static_cast<std::uint32_t>(format.rows()), 4);
   put(bytes, dots_a_metre, 4);
   put(bytes, dots_a_metre, 4);
-  put(bytes, static_cast<std::uint32_t>(picture.palette.size()), 4);
+  put(bytes, static_cast<std::uint32_t>(format.colours), 4);
   put(bytes, 0, 4);  // all colours are important
+  return bytes;
+}
+
+/// Two pixels a byte, the left one in its upper half.
+void put_halves(Bytes& bytes, std::span<const std::uint8_t> row) {
+  for (std::size_t x = 0; x < row.size(); x += 2) {
+    const int right = x + 1 < row.size() ? row[x + 1] : 0;
+    bytes.push_back(static_cast<std::uint8_t>(row[x] << 4 | right));
+  }
 }
 
 void pad(Bytes& bytes, std::size_t to) {
@@ -51,20 +71,30 @@ std::size_t aligned(std::size_t offset) { return (offset + alignment - 1) / alig
 
 }  // namespace
 
-Bytes packed(const Indexed& picture) {
-  const auto width = static_cast<std::size_t>(picture.width);
-  const std::size_t stride = (width + 3) / 4 * 4;
-  Bytes bytes;
-  bytes.reserve(header_size + picture.palette.size() * 4 +
-                stride * static_cast<std::size_t>(picture.height));
-  put_header(bytes, picture, static_cast<std::uint32_t>(stride));
+Bytes packed(const Indexed& picture, int bits) {
+  Bytes bytes = begun({picture.width, picture.height, bits, picture.palette.size()});
   for (const PaletteEntry& c : picture.palette) {
     for (const std::uint8_t part : {c.blue, c.green, c.red, c.opacity}) bytes.push_back(part);
   }
+  const auto width = static_cast<std::size_t>(picture.width);
   for (int y = picture.height - 1; y >= 0; --y) {
-    const auto row = picture.pixels.begin() + static_cast<std::ptrdiff_t>(width) * y;
-    bytes.insert(bytes.end(), row, row + picture.width);
-    bytes.resize(bytes.size() + stride - width);
+    const auto row = std::span(picture.pixels).subspan(width * static_cast<std::size_t>(y), width);
+    if (bits == 4) {
+      put_halves(bytes, row);
+    } else {
+      bytes.insert(bytes.end(), row.begin(), row.end());
+    }
+    pad(bytes, 4);
+  }
+  return bytes;
+}
+
+Bytes packed(const Canvas& picture) {
+  const Pixels pixels = picture.pixels();
+  Bytes bytes = begun({pixels.width, pixels.height, 24, 0});
+  for (int y = pixels.height - 1; y >= 0; --y) {
+    for (int x = 0; x < pixels.width; ++x) put(bytes, pixels.at(x, y), 3);
+    pad(bytes, 4);
   }
   return bytes;
 }

@@ -11,12 +11,16 @@ namespace artwork {
 
 using Bytes = std::vector<std::uint8_t>;
 
-/// A packed bitmap of eight bits a pixel: header, palette, rows from the bottom up.
-Bytes packed(const Indexed& picture);
+/// A packed bitmap of eight bits a pixel, or of four where it has at most sixteen colours: header, palette,
+/// rows from the bottom up.
+Bytes packed(const Indexed& picture, int bits = 8);
 
-/// A bitmap of the section. A named one has an empty number.
+/// One of 24 bits a pixel, of a picture whose pixels are opaque or pure black.
+Bytes packed(const Canvas& picture);
+
+/// A bitmap of the section.
 struct SectionEntry {
-  std::uint32_t id;
+  std::uint32_t id;  ///< PANEL_RESOURCE_NAMED where it has a name
   std::string name;
   Bytes bitmap;
 };

@@ -269,7 +269,8 @@ TEST(Program, ListsWhatTheCockpitHas) {
     const char* row;
   } cases[] = {
       {"gauges", "  2  Masterbat      174     148        15      3  Overhead, Behind the Panels\n"},
-      {"names Acdcsw", "Acdcsw  dc_meter_selector       icon  wheel    DC meter selector\n"},
+      {"names Acdcsw",
+       "Acdcsw  dc_meter_selector       icon  wheel         DC meter selector: whose amperes"},
       {"windows", "  502              Overhead"},
       {"tokens", "   364  0x16C  battery"},
       {"events", " 66374  0x10346  battery_toggle"},

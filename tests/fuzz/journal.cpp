@@ -13,11 +13,6 @@ static void take(std::string_view line) {
 }
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  std::string_view text = fuzz::text_of(data, size);
-  while (!text.empty()) {
-    const std::string_view line = text.substr(0, text.find('\n'));
-    take(line);
-    text.remove_prefix(std::min(text.size(), line.size() + 1));
-  }
+  fuzz::each_line(fuzz::text_of(data, size), take);
   return 0;
 }

@@ -9,7 +9,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const host::ElfFile file(bytes);
     file.section(PANEL_RESOURCE_SECTION);
     host::fault_of_dynamic_tables(bytes);
-  } catch (const host::ElfError&) {
+  } catch (const host::LibraryError&) {
   }
   return 0;
 }

@@ -105,7 +105,7 @@ TEST_F(AirData, EachHeightIsCalledOnceOnTheWayDown) {
     f64& height = host.tokens[token::radio_altitude];
     f64& speed = host.tokens[token::vertical_speed];
     height = call.metres + 1.9;
-    altimeter.service(SERVICE_START);
+    altimeter.service(SERVICE_BEGIN);
     const auto called = [&](f64 at, f64 moving) {
       height = at, speed = moving;
       altimeter.frame();

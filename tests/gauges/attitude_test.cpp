@@ -1,6 +1,8 @@
 /// Attitude, heading and navigation instruments.
 #include <gtest/gtest.h>
 
+#include <map>
+
 #include "module/tokens.h"
 #include "tests/rig/rig.h"
 

@@ -2,6 +2,9 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <map>
+#include <set>
+#include <numbers>
 
 #include "gauges/controls/pushback_programmes.h"
 #include "host/simulation/aircraft.h"
@@ -20,7 +23,7 @@ void expect_calls(const char* gauge, u32 token, f64 from, f64 to, std::set<Sound
     rig::Host host;
     rig::Gauge panel(gauge);
     host.tokens[token] = from;
-    panel.service(SERVICE_START);
+    panel.service(SERVICE_BEGIN);
     aircraft.fo_callouts_enabled = enabled;
     host.tokens[token] = to;
     panel.frame();
@@ -375,7 +378,7 @@ TEST_F(Apron, ATurnProgrammePushesWaitsTurnsStraightensAndStops) {
     EXPECT_EQ(tug.turning + tug.left.armed + tug.right.armed, 0u);
     EXPECT_NEAR(nose(), 70 + turn.sign * 40, 1.0);
     // On a circle of 32 m, then 9.5 m and the way to a stop in the new direction.
-    const double angle = M_PI * 40 / 180;
+    const double angle = std::numbers::pi * 40 / 180;
     EXPECT_NEAR(back_m() - straight_m, 32.1 * std::sin(angle) + 10.9 * std::cos(angle), 1.0);
     EXPECT_LT(turn.sign * right_m(), -7.0) << "the tail's side";
   }

@@ -1,6 +1,8 @@
 /// Warning panels, standby compass and recorder.
 #include <gtest/gtest.h>
 
+#include <unordered_map>
+
 #include "module/tokens.h"
 #include "tests/rig/rig.h"
 
@@ -267,7 +269,7 @@ class Recorder : public testing::Test {
   rig::Host host;
   rig::Gauge panel{"Flightrec"};
 
-  std::string texts(std::map<u32, f64> tokens) {
+  std::string texts(std::unordered_map<u32, f64> tokens) {
     host.tokens = std::move(tokens);
     panel.frame();
     return panel.text("number_field") + '|' + panel.text("month_field") + '|' + panel.text("day_field");

@@ -1,6 +1,8 @@
 /// Start page, window buttons, cabin signs and announcements.
 #include <gtest/gtest.h>
 
+#include <unordered_map>
+
 #include "module/tokens.h"
 #include "tests/rig/rig.h"
 
@@ -166,7 +168,7 @@ TEST_F(Announcements, EachIsMadeAfterItsFramesAndOnceACount) {
   struct Row {
     SoundRequest sound;
     u32 door, sign;
-    std::map<u32, f64> tokens;
+    std::unordered_map<u32, f64> tokens;
     int frames;
   };
   const Row rows[] = {

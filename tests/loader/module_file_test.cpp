@@ -170,7 +170,7 @@ TEST(ModuleFile, NoDamageToTheHeadersCrashes) {
       try {
         const ElfFile elf(bytes);
         elf.section(PANEL_RESOURCE_SECTION);
-      } catch (const ElfError&) {
+      } catch (const LibraryError&) {
       }
     }
   }

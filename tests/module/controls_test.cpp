@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <map>
+#include <set>
 
 #include "module/tokens.h"
 #include "tests/module/sides.h"
@@ -22,7 +24,7 @@ std::vector<const Stimulus*> controls() {
 }
 
 const rig::Gauge& gauge_of(const Stimulus& s) { return walk::result().gauges[s.gauge]; }
-const rig::NamedPart* part_of(const Stimulus& s) { return walk::part_of(gauge_of(s), s.name); }
+const rig::NamedPart* part_of(const Stimulus& s) { return s.part; }
 
 bool ends_with_one_of(std::string_view name, std::initializer_list<std::string_view> ends) {
   return std::ranges::any_of(ends, [&](std::string_view end) { return name.ends_with(end); });
@@ -98,7 +100,7 @@ TEST(Controls, EachMovesThePartItIsNamedAfter) {
     } else if (answered_by_the_host.contains(control->text())) {
       EXPECT_TRUE(control->heeded) << control->text() << " asks for nothing";
     } else {
-      EXPECT_TRUE(control->changed.contains({gauge_of(*control).header().name, part->name}))
+      EXPECT_TRUE(walk::comes_to_change(*control, {gauge_of(*control).header().name, part->name}))
           << control->text() << " leaves " << part->name;
     }
   }
@@ -155,7 +157,7 @@ TEST(Controls, ASideAnswersToItsOwnControlsAndTokens) {
       if (!stimulus.area && place != gauge) continue;
       const std::string other_part = sides::mirrored(part);
       EXPECT_TRUE(other == nullptr || other_part.empty() ||
-                  other->changed.contains({place, other_part}))
+                  walk::comes_to_change(*other, {place, other_part}))
           << stimulus.text() << " moves " << place << ' ' << part << ", but " << other->name << " not "
           << other_part;
     }
@@ -235,7 +237,7 @@ TEST(Controls, EachClickIsHeardOnce) {
   }
 }
 
-using Moves = std::set<std::pair<f64, f64>>;
+using walk::Moves;
 
 /// What the moves of a control are by its kind, from image to image of `last + 1`.
 Moves moves_of(std::string_view control, std::string_view part, f64 last) {
@@ -316,7 +318,7 @@ TEST(Controls, EachHasTheMovesOfItsKind) {
     const bool guarded = guard != part->name && walk::part_of(gauge_of(*control), guard) != nullptr &&
                          walk::part_of(gauge_of(*control), guard)->name == guard;
     if (guarded) expected.emplace(0, 0);
-    Moves seen = control->moves;
+    Moves seen = walk::moves(*control, expected);
     // The right button tests a light; a button of this panel engages only where it can; a push that is
     // at its target sets the automatic mode again.
     const bool may_stay = (control->area->area->mouse_flags & MOUSE_RIGHT) != 0 ||
@@ -394,13 +396,15 @@ TEST(Controls, EveryImageOfAnIconIsShownAndNoOther) {
   // What these show hangs on where the aircraft is, or cannot be seen; each has its stories.
   const std::set<std::string> of_the_flight{"Adi",   "Altimeter", "Dhgpws",   "Hsi",
                                             "Hvsnd", "Markers",   "Pushback", "Radalt"};
-  for (const rig::Gauge& gauge : walk::result().gauges) {
-    for (const rig::NamedPart& part : gauge.parts()) {
-      const walk::Place place{gauge.header().name, part.name};
-      if (part.element->kind != ELEMENT_ICON || of_the_flight.contains(place.first)) continue;
+  const std::vector<rig::Gauge>& gauges = walk::result().gauges;
+  for (std::size_t g = 0; g < gauges.size(); ++g) {
+    if (of_the_flight.contains(gauges[g].header().name)) continue;
+    for (std::size_t i = 0; i < gauges[g].parts().size(); ++i) {
+      const rig::NamedPart& part = gauges[g].parts()[i];
+      if (part.element->kind != ELEMENT_ICON) continue;
       std::set<f64> images;
       for (f64 image = 0; image < part.element->icon.image_count; ++image) images.insert(image);
-      EXPECT_EQ(walk::result().shown.at(place), images) << place.first << ' ' << place.second;
+      EXPECT_EQ(walk::shown(g, i, images.size()), images) << gauges[g].header().name << ' ' << part.name;
     }
   }
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <map>
 #include <random>
 
 #include "module/tokens.h"
@@ -57,49 +58,123 @@ std::string sounds_of_click() {
 
 class Walk {
   static constexpr int rounds = 75, steps_a_stimulus = 6;
+  static constexpr int patience = 8;  // visits to a gauge that teach nothing new until it is known
+  static constexpr int longest_search = 60'000;
 
  public:
-  Result run() {
-    host_.follows = true;
+  Walk() {
+    host_->follows = true;
     result_.gauges = rig::built_gauges();
     list_stimuli();
+    for (const rig::Gauge& gauge : result_.gauges) {
+      everything_.push_back(everything_.size());
+      shown_.emplace_back(gauge.parts().size());
+    }
+    dull_visits_.resize(result_.gauges.size());
     for (const Token& token : tokens) randomize(token);
     for (int round = 0; round < rounds; ++round) {
       for (std::size_t g = 0; g < result_.gauges.size(); ++g) visit(g);
     }
     press_the_rest();
-    result_.tokens = host_.looked_up;
-    return std::move(result_);
+    result_.tokens = {host_->looked_up.begin(), host_->looked_up.end()};
+  }
+
+  const Result& result() const { return result_; }
+
+  bool comes_to_change(const Stimulus& of, const Place& place) {
+    Stimulus& stimulus = result_.stimuli[static_cast<std::size_t>(&of - result_.stimuli.data())];
+    const Indices watched{stimulus.gauge, gauge_named(place.first)};
+    return search([&] { return stimulus.changed.contains(place); }, watched,
+                  [&]() -> Stimulus& { return stimulus; });
+  }
+
+  const Moves& moves(const Stimulus& of, const Moves& wanted) {
+    Stimulus& stimulus = result_.stimuli[static_cast<std::size_t>(&of - result_.stimuli.data())];
+    search([&] { return std::ranges::includes(stimulus.moves, wanted); }, {stimulus.gauge},
+           [&]() -> Stimulus& { return stimulus; });
+    return stimulus.moves;
+  }
+
+  const std::set<f64>& shown(std::size_t gauge, std::size_t part, std::size_t images) {
+    const std::set<f64>& seen = shown_[gauge][part];
+    search([&] { return seen.size() >= images; }, {gauge}, [&]() -> Stimulus& { return any(); });
+    return seen;
   }
 
  private:
+  using Indices = std::vector<std::size_t>;
+
+  /// What the walk has not met is looked for with the eyes on it alone, in whatever state the cockpit gets to.
+  template <typename Met, typename Pick>
+  bool search(Met met, const Indices& watched, Pick pick) {
+    if (!met()) resume();
+    for (int step = 0; !met() && step < longest_search; ++step) {
+      for (int other = 0; other < 4; ++other) work(any());
+      stimulate(pick(), watched);
+    }
+    return met();
+  }
+
+  /// Other tests have had hosts of their own since.
+  void resume() {
+    const auto readings = host_->tokens;
+    host_.emplace();
+    host_->tokens = readings;
+    host_->follows = true;
+  }
+
+  Stimulus& any() { return result_.stimuli[random(result_.stimuli.size())]; }
+
+  std::size_t gauge_named(std::string_view name) const {
+    const auto found = std::ranges::find(
+        result_.gauges, name, [](const rig::Gauge& gauge) { return gauge.header().name; });
+    return static_cast<std::size_t>(found - result_.gauges.begin());
+  }
+
   /// In a dead cockpit with the cabin crew on duty: the start page, the windows, the announcements.
   void press_the_rest() {
-    for (auto& [token, value] : host_.tokens) value = 0;
+    for (auto& [token, value] : host_->tokens) value = 0;
     aircraft.cabin_announcements_on = 1;
-    host_.events.clear();
+    host_->events.clear();
     for (rig::Gauge& gauge : result_.gauges) {
       gauge.frame();
       for (const rig::NamedArea& area : gauge.areas()) {
         if (!is_control(gauge, area)) gauge.click(area.name);
       }
     }
-    for (const auto& [event, value] : host_.events) result_.events.insert(event);
+    for (const auto& [event, value] : host_->events) result_.events.insert(event);
   }
 
   std::size_t random(std::size_t below) { return static_cast<std::size_t>(bits_() % below); }
 
-  /// Stays with a gauge long enough for its guards to be opened and its selectors to be turned far.
-  void visit(std::size_t gauge) {
+  std::vector<Stimulus*> stimuli_of(std::size_t gauge) {
     std::vector<Stimulus*> own;
     for (Stimulus& stimulus : result_.stimuli) {
       if (stimulus.gauge == gauge) own.push_back(&stimulus);
     }
-    for (std::size_t step = 0; step < own.size() * steps_a_stimulus; ++step) {
-      whole_cockpit_ = random(14) == 0;
-      change_surroundings();
-      stimulate(*own[random(own.size())]);
+    return own;
+  }
+
+  /// Stays with a gauge long enough for its guards to be opened and its selectors to be turned far. One that
+  /// is known is only worked, for what the others make of it.
+  void visit(std::size_t gauge) {
+    const std::vector<Stimulus*> own = stimuli_of(gauge);
+    if (dull_visits_[gauge] == patience) {
+      for (std::size_t step = 0; step < own.size(); ++step) work(*own[random(own.size())]);
+      return;
     }
+    const std::size_t known = news_;
+    for (std::size_t step = 0; step < own.size() * steps_a_stimulus; ++step) {
+      const bool whole_cockpit = random(40) == 0;
+      stimulate(*own[random(own.size())], whole_cockpit ? everything_ : Indices{gauge});
+    }
+    dull_visits_[gauge] = news_ == known ? dull_visits_[gauge] + 1 : 0;
+  }
+
+  void work(Stimulus& stimulus) {
+    change_surroundings();
+    act(stimulus);
+    result_.gauges[stimulus.gauge].frame();
   }
 
   void randomize(const Token& token) {
@@ -108,7 +183,7 @@ class Walk {
                               11000, 13000, 14500, 15500, 16300, 22000};
     if (token.number == token::clock_seconds) return;
     const auto pick = [&](auto& of) { return of[random(token.on_off() ? 2 : std::size(of))]; };
-    host_.tokens[token.number] = token.lever() ? pick(travel) : pick(values);
+    host_->tokens[token.number] = token.lever() ? pick(travel) : pick(values);
   }
 
   /// The start page and the buttons for windows are no part of the aircraft.
@@ -121,12 +196,13 @@ class Walk {
       rig::Gauge& gauge = result_.gauges[g];
       for (const rig::NamedArea& area : gauge.areas()) {
         if (!is_control(gauge, area)) continue;
-        result_.stimuli.push_back({.gauge = g, .area = area, .name = area.name});
+        result_.stimuli.push_back(
+            {.gauge = g, .area = area, .part = part_of(gauge, area.name), .name = area.name});
       }
-      host_.looked_up.clear();
+      host_->looked_up.clear();
       gauge.frame();
       for (const Token& token : tokens) {
-        if (!host_.looked_up.contains(token.number) || token.number == token::clock_seconds) continue;
+        if (!host_->looked_up.contains(token.number) || token.number == token::clock_seconds) continue;
         result_.stimuli.push_back({.gauge = g, .token = token.number, .name = token.name});
       }
     }
@@ -134,41 +210,36 @@ class Walk {
 
   /// Time passes, so that what was held is over, and now and then something else has happened.
   void change_surroundings() {
-    host_.tokens[token::clock_seconds] += 10;
+    host_->tokens[token::clock_seconds] += 10;
     aircraft.start_air_available = 0;  // a start would move its switches by itself
     if (random(4) == 0) randomize(tokens[random(std::size(tokens))]);
-    if (random(2) == 0) host_.tokens[token::battery] = 1;
+    if (random(2) == 0) host_->tokens[token::battery] = 1;
     if (random(16) == 0) aircraft.ground_power_connected = static_cast<u32>(random(2));
     if (random(16) == 0) aircraft.pedestal_selector_switch = static_cast<u32>(random(3));
     if (random(16) == 0) aircraft.duct_pressure_light = static_cast<u32>(random(3));
   }
 
-  /// The stimulus's own gauge, and now and then all.
-  std::vector<rig::Gauge*> watched(std::size_t own) {
-    if (!whole_cockpit_) return {&result_.gauges[own]};
-    std::vector<rig::Gauge*> all;
-    for (rig::Gauge& gauge : result_.gauges) all.push_back(&gauge);
-    return all;
-  }
-
-  void stimulate(Stimulus& stimulus) {
+  /// Works it, and notes what the watched gauges make of it.
+  void stimulate(Stimulus& stimulus, const Indices& watched) {
     constexpr int settling = 2;  // frames until what one gauge has changed is seen on all others
-    const std::vector<rig::Gauge*> gauges = watched(stimulus.gauge);
+    change_surroundings();
     std::vector<Picture> idle, before;
-    run(gauges, settling);
-    for (const rig::Gauge* gauge : gauges) idle.push_back(picture(*gauge));
-    run(gauges, settling);
-    for (const rig::Gauge* gauge : gauges) before.push_back(picture(*gauge));
+    run(watched, settling);
+    for (const std::size_t gauge : watched) idle.push_back(picture(result_.gauges[gauge]));
+    run(watched, settling);
+    for (const std::size_t gauge : watched) before.push_back(picture(result_.gauges[gauge]));
+    const rig::NamedPart* own = stimulus.part;
+    const f64 own_before = own ? result_.gauges[stimulus.gauge].value(*own) : 0;
     act(stimulus);
-    run(gauges, 1);
-    note_move(stimulus, before[gauges.size() > 1 ? stimulus.gauge : 0]);
-    run(gauges, settling);
-    for (std::size_t g = 0; g < gauges.size(); ++g) compare(stimulus, *gauges[g], idle[g], before[g]);
+    run(watched, 1);
+    if (own) learn(stimulus.moves, {own_before, result_.gauges[stimulus.gauge].value(*own)});
+    run(watched, settling);
+    for (std::size_t i = 0; i < watched.size(); ++i) compare(stimulus, watched[i], idle[i], before[i]);
   }
 
-  static void run(const std::vector<rig::Gauge*>& gauges, int frames) {
+  void run(const Indices& gauges, int frames) {
     for (; frames > 0; --frames) {
-      for (rig::Gauge* gauge : gauges) gauge->frame();
+      for (const std::size_t gauge : gauges) result_.gauges[gauge].frame();
     }
   }
 
@@ -183,8 +254,8 @@ class Walk {
     note_events();      // and sent
     const Aircraft was = aircraft;
     result_.gauges[stimulus.gauge].click(stimulus.name, right ? MOUSE_RIGHT : MOUSE_LEFT);
-    stimulus.sounds.insert(sounds_of_click());
-    stimulus.heeded |= !host_.events.empty();
+    learn(stimulus.sounds, sounds_of_click());
+    stimulus.heeded |= !host_->events.empty();
     note_events();
     Aircraft now = aircraft;
     std::ranges::copy(was.sound_requests, now.sound_requests);
@@ -192,32 +263,33 @@ class Walk {
   }
 
   void note_events() {
-    for (const auto& [event, value] : host_.events) result_.events.insert(event);
-    host_.events.clear();
-  }
-
-  void note_move(Stimulus& stimulus, const Picture& before) {
-    const rig::Gauge& gauge = result_.gauges[stimulus.gauge];
-    const rig::NamedPart* part = stimulus.area ? part_of(gauge, stimulus.name) : nullptr;
-    if (part == nullptr) return;
-    stimulus.moves.emplace(before[part->index - 1], gauge.value(*part));
+    for (const auto& [event, value] : host_->events) result_.events.insert(event);
+    host_->events.clear();
   }
 
   /// Notes what the stimulus changed; what moves by itself says nothing.
-  void compare(Stimulus& stimulus, const rig::Gauge& gauge, const Picture& idle,
-               const Picture& before) {
+  void compare(Stimulus& stimulus, std::size_t at, const Picture& idle, const Picture& before) {
+    const rig::Gauge& gauge = result_.gauges[at];
     const Picture after = picture(gauge);
     for (std::size_t i = 0; i < after.size(); ++i) {
       const rig::NamedPart& part = gauge.parts()[i];
-      const Place place{gauge.header().name, part.name};
-      if (part.element->kind == ELEMENT_ICON) result_.shown[place].insert(after[i]);
-      if (idle[i] == before[i] && before[i] != after[i]) stimulus.changed.insert(place);
+      if (part.element->kind == ELEMENT_ICON) learn(shown_[at][i], after[i]);
+      if (idle[i] == before[i] && before[i] != after[i])
+        learn(stimulus.changed, {gauge.header().name, part.name});
     }
   }
 
-  rig::Host host_;
+  template <typename Known>
+  void learn(Known& known, const typename Known::value_type& fact) {
+    if (known.insert(fact).second) ++news_;
+  }
+
+  std::optional<rig::Host> host_{std::in_place};
   std::mt19937_64 bits_{1};
-  bool whole_cockpit_ = true;
+  Indices everything_;
+  std::vector<std::vector<std::set<f64>>> shown_;  ///< by each gauge's parts
+  std::vector<int> dull_visits_;                   ///< of each gauge, one after the other
+  std::size_t news_ = 0;
   Result result_;
 };
 
@@ -234,9 +306,23 @@ const Stimulus* Result::find(std::string_view gauge, std::string_view name) cons
   return found != stimuli.end() ? &*found : nullptr;
 }
 
-const Result& result() {
-  static const Result all = Walk().run();
+static Walk& walk() {
+  static Walk all;
   return all;
+}
+
+const Result& result() { return walk().result(); }
+
+bool comes_to_change(const Stimulus& stimulus, const Place& place) {
+  return walk().comes_to_change(stimulus, place);
+}
+
+const Moves& moves(const Stimulus& stimulus, const Moves& wanted) {
+  return walk().moves(stimulus, wanted);
+}
+
+const std::set<f64>& shown(std::size_t gauge, std::size_t part, std::size_t images) {
+  return walk().shown(gauge, part, images);
 }
 
 const rig::NamedPart* part_of(const rig::Gauge& gauge, std::string_view control) {

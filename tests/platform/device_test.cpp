@@ -58,6 +58,12 @@ TEST_F(Device, PlaysByItselfAndIsOpenedAgainAfterItWasLostOrLeft) {
   EXPECT_TRUE(heard(5000));
   EXPECT_EQ(render(100), silence(100)) << "only a rendered mix can be taken";
 
+  platform_set_volume(0.25f);
+  fill(*buffer, std::vector<std::int16_t>(2000, 12000));
+  play_to_the_end(*buffer);
+  EXPECT_TRUE(heard(3000)) << "a quarter of it";
+  platform_set_volume(1);
+
   platform_move_audio(PLATFORM_AUDIO_RENDERED);
   EXPECT_EQ(status(*buffer), DSBSTATUS_BUFFERLOST);
   ASSERT_EQ(buffer->Restore(), DS_OK);

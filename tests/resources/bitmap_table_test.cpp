@@ -2,6 +2,8 @@
 /// and everything that a gauge places lies on its plate.
 #include <gtest/gtest.h>
 
+#include <map>
+
 #include "resources/names/gauge_names.h"
 #include "resources/rows/board.h"
 #include "tests/resources/picture.h"
@@ -25,12 +27,22 @@ void for_each_part(Check check) {
   }
 }
 
-TEST(BitmapTable, SizesAreWithinBounds) {
-  for (const Bitmap& bitmap : bitmap_table()) {
-    EXPECT_GE(std::min(bitmap.size.width, bitmap.size.height), 2) << subject(bitmap);
-    EXPECT_LE(bitmap.size.width, 1280) << subject(bitmap);
-    EXPECT_LE(bitmap.size.height, 817) << subject(bitmap);
-  }
+/// What other panels' gauges may count on: the numbers, the names, the depths, and the range of sizes.
+TEST(BitmapTable, HoldsAllOfTheModulesBitmaps) {
+  const std::vector<Bitmap>& all = bitmap_table();
+  std::map<int, int> of_depth;
+  for (const Bitmap& each : all) ++of_depth[each.bits()];
+  EXPECT_EQ(of_depth, (std::map<int, int>{{4, 1}, {8, 789}, {24, 18}}));
+  ASSERT_EQ(all.size(), 808u);
+  EXPECT_EQ(all[0].id, 10);
+  EXPECT_EQ(all[804].id, 24260) << "the last of 805 with a number";
+  constexpr std::string_view names[] = {"IDB_FOFLT_DISPLAY_BRT", "IDB_PB_PBRAKE_OFF",
+                                        "IDB_PB_PBRAKE_ON"};
+  for (std::size_t i = 0; i < 3; ++i) EXPECT_EQ(subject(all[805 + i]), names[i]);
+  const auto area = [](const Bitmap& each) { return each.size.width * each.size.height; };
+  const auto [least, most] = std::ranges::minmax(all, {}, area);
+  EXPECT_EQ(least.size, (Size{2, 2}));
+  EXPECT_EQ(most.size, (Size{1280, 497})) << subject(most);
 }
 
 TEST(BitmapTable, EveryGaugeHasAPlateOfItsWidth) {

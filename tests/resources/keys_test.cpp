@@ -43,7 +43,7 @@ class DrawnAgain : public ::testing::Test {
     std::set<std::string_view> gauges;
     for (const Bitmap& each : bitmap_table()) {
       if (before.key(each, 1) == after.key(each, 1)) continue;
-      gauges.insert(each.unit == nullptr ? "none" : each.unit->gauge);
+      gauges.insert(each.unit->gauge);
     }
     return gauges;
   }

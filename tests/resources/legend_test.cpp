@@ -90,7 +90,7 @@ TEST(Words, FitTheirPictures) {
     if (bitmap.background) continue;
     // The figures of a drum fill it from seam to seam, and so does a figure its own window; those of a ball
     // and a card go on behind the face.
-    const Picture* picture = bitmap.art == nullptr ? nullptr : &bitmap.art->picture;
+    const Picture* picture = &bitmap.art->picture;
     if (picture != nullptr && std::holds_alternative<Ball>(*picture)) continue;
     const bool drum = picture != nullptr && std::holds_alternative<Drum>(*picture);
     const double edge = drum || bitmap.size.width <= 10 ? 0.4 : 2;

@@ -20,9 +20,8 @@ TEST(Pictures, NeighbouringImagesOfARunDiffer) {
 
 TEST(Pictures, DrawSomethingUnlessTheyRestOnThePlate) {
   for (const Bitmap& each : bitmap_table()) {
-    const bool guarded =
-        each.art != nullptr && (std::holds_alternative<GuardedLever>(each.art->picture) ||
-                                std::holds_alternative<GuardedKnob>(each.art->picture));
+    const bool guarded = std::holds_alternative<GuardedLever>(each.art->picture) ||
+                         std::holds_alternative<GuardedKnob>(each.art->picture);
     const bool nothing = same(drawn(each, 1), Canvas(each.size, 1, 0));
     EXPECT_EQ(nothing, each.image == 0 && (guarded || each.overlay)) << subject(each);
   }
@@ -43,7 +42,7 @@ TEST(Pictures, DensitiesAgree) {
       }
     }
     // Where figures fill a small picture or a drum they keep to its own pixels.
-    const bool drum = each.art != nullptr && std::holds_alternative<Drum>(each.art->picture);
+    const bool drum = std::holds_alternative<Drum>(each.art->picture);
     const double most = drum || one.width * one.height < 1500 ? 20 : 14;
     EXPECT_LT(sum / (one.width * one.height), most) << subject(each);
   }

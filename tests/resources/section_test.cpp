@@ -10,8 +10,12 @@
 namespace artwork_test {
 namespace {
 
-/// Opacity in the palette: backgrounds have none, other pictures are clear only where black.
+/// Opacity in the palette: backgrounds have none, other pictures are clear only where black. Without a palette
+/// nothing is clear.
 void expect_only_black_is_clear(const host::Dib& dib, const Bitmap& bitmap) {
+  if (dib.bits == 24 && !bitmap.background) {
+    EXPECT_TRUE(host::decode(dib, host::BitmapUse::image).opaque) << subject(bitmap);
+  }
   for (std::size_t i = 0; i < dib.palette.size(); i += 4) {
     const auto part = [&](std::size_t k) { return std::to_integer<int>(dib.palette[i + k]); };
     const bool black = part(0) + part(1) + part(2) == 0;
@@ -23,6 +27,9 @@ void expect_only_black_is_clear(const host::Dib& dib, const Bitmap& bitmap) {
   }
 }
 
+/// The loader's reading of bytes that are only in memory.
+host::Bytes view(const Bytes& bytes) { return std::as_bytes(std::span(bytes)); }
+
 Indexed tiny() { return {3, 2, {{0, 0, 0, 0}, {30, 20, 10, 255}, {3, 2, 1, 128}}, {0, 1, 2, 2, 1, 0}}; }
 
 TEST(PackedBitmap, HasHeaderPaletteAndRowsFromTheBottomUp) {
@@ -33,8 +40,21 @@ TEST(PackedBitmap, HasHeaderPaletteAndRowsFromTheBottomUp) {
   EXPECT_EQ(rows, (Bytes{2, 1, 0, 0, 0, 1, 2, 0})) << "each row padded to four bytes";
 }
 
-/// The loader's reading of a section that is only in memory.
-host::Bytes view(const Bytes& bytes) { return std::as_bytes(std::span(bytes)); }
+/// Two rows in each depth, as a host reads them.
+TEST(PackedBitmap, IsTheSamePictureInEveryDepth) {
+  const Canvas canvas({3, 2}, 1, 1);
+  fill(canvas, rounded({0, 0, 2, 1}, 0), rgb(0x0A141E));
+  fill(canvas, rounded({1, 1, 2, 1}, 0), rgb(0xFF8000));
+  const Bytes depths[] = {packed(indexed(canvas, Ground::plate, 16), 4),
+                          packed(indexed(canvas, Ground::plate)),
+                          packed(full_colour(canvas, Ground::plate))};
+  for (const Bytes& bytes : depths) {
+    const host::Dib dib = host::parse_dib(view(bytes));
+    EXPECT_EQ(host::decode(dib, host::BitmapUse::image).pixels,
+              (std::vector<std::uint32_t>{0xFF0A141E, 0xFF0A141E, 0, 0, 0xFFFF8000, 0xFFFF8000}))
+        << dib.bits;
+  }
+}
 
 TEST(Section, ListsNumberedBitmapsThenNamedOnes) {
   const Bytes bitmap = packed(tiny());
@@ -60,12 +80,15 @@ TEST(Files, HoldEveryBitmapOfTheTable) {
   for (int times = 1; times <= 3; ++times) {
     const host::ResourceSection read(sections[times - 1]);
     EXPECT_TRUE(read.notes().empty());
-    EXPECT_EQ(read.numbered().size(), bitmap_table().size()) << times;
+    EXPECT_EQ(read.numbered().size() + read.named().size(), bitmap_table().size()) << times;
     for (const Bitmap& bitmap : bitmap_table()) {
-      const host::Dib* found = read.find(static_cast<std::uint32_t>(bitmap.id));
+      const host::Dib* found = bitmap.id == Bitmap::named
+                                   ? read.find(bitmap.art->of.name)
+                                   : read.find(static_cast<std::uint32_t>(bitmap.id));
       ASSERT_NE(found, nullptr) << subject(bitmap);
       EXPECT_EQ(found->width, times * bitmap.size.width) << subject(bitmap);
       EXPECT_EQ(found->height, times * bitmap.size.height) << subject(bitmap);
+      EXPECT_EQ(found->bits, bitmap.bits()) << subject(bitmap);
       expect_only_black_is_clear(*found, bitmap);
     }
   }

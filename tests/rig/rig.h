@@ -3,10 +3,10 @@
 /// ("battery_switch"). One rig at a time; a new one puts the shared state back to its start.
 #pragma once
 
-#include <map>
-#include <set>
 #include <string>
 #include <string_view>
+#include <unordered_map>
+#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -31,12 +31,12 @@ class Host {
   Host& operator=(const Host&) = delete;
 
   /// Host token variables; the others read 0.
-  std::map<u32, f64> tokens;
+  std::unordered_map<u32, f64> tokens;
   Events events;
   WindowCalls windows;
 
   /// The tokens that the module has looked up so far.
-  std::set<u32> looked_up;
+  std::unordered_set<u32> looked_up;
 
   /// Whether each key event named after a token ("battery_toggle", "altitude_hold_on") flips or sets it,
   /// as the aircraft does.

@@ -1,7 +1,6 @@
 /// A folder of a test's own, gone when the test ends.
 #pragma once
 
-#include <gtest/gtest.h>
 #include <stdlib.h>
 
 #include <filesystem>
@@ -13,7 +12,7 @@
 class TempFolder {
  public:
   TempFolder() {
-    std::string pattern = testing::TempDir() + "cockpit-" + std::string(6, 'X');
+    std::string pattern = std::filesystem::temp_directory_path() / ("cockpit-" + std::string(6, 'X'));
     path_ = mkdtemp(pattern.data());
   }
   ~TempFolder() {

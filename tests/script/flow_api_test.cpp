@@ -38,7 +38,8 @@ class FlowApi : public testing::Test {
   static GaugeModule* module;
   std::vector<std::string> said;
   Cockpit cockpit{*module, parse_panel_config(panel, "panel.cfg")};
-  FlowSession session{cockpit,
+  CockpitInputs inputs{cockpit};
+  FlowSession session{inputs,
                       {{},
                        {},
                        [](double seconds) { return seconds / 2; },

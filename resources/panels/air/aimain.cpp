@@ -25,7 +25,7 @@ constexpr Item items[] = {
 };
 
 constexpr Art art[] = {
-    plate(240, items),
+    plate(240, items).in_full_colour(),
     lever_art("left_wing_anti_ice_switch", {13, 42}, {Throw::down, Throw::up}, {.ball = 3.2}),
 };
 

@@ -24,9 +24,11 @@ constexpr Item items[] = {
 };
 
 constexpr Art art[] = {
-    plate(172, items),
+    plate(172, items).in_full_colour(),
     lamp_art("duct_pressure_lamp", {29, 23}, {lens::green, lens::amber}, "PSI"),
     knob_art("manifold_1_knob", {26, 26}, {90, 0}, {.radius = 11.6, .seat = 1.2, .hub = {12.5, 12.5}}),
+    // Where a valve that stands open is to be seen.
+    round_light_art(spare(140, 2), {26, 26}, {.colour = lens::green, .radius = 9.6, .centre = 12.5}),
 };
 
 constinit Unit unit{"Bleedair", art};

@@ -1,5 +1,6 @@
 /// Cabin altitude controller: the selected altitude's dial and knob, and the two displays.
 #include "resources/art.h"
+#include "resources/kit/needle.h"
 
 namespace artwork::panels::cabalt {
 
@@ -28,9 +29,17 @@ constexpr Item items[] = {
     Legend{at("standard_pressure_button", 0, -12.5), "STD"},
 };
 
+void draw_cabin_pointer(const Canvas& canvas, int) {
+  blade(canvas,
+        {.pivot = {11.5, 2.5}, .length = 33, .tail = 6, .half_width = 1.1, .colour = palette::bug});
+}
+
 constexpr Art art[] = {
     plate(112, items),
     needle_art("selected_cabin_altitude", {.length = 29, .tail = 11, .half_width = 1.7}),
+    // A second pointer for the altitude that the cabin has, and a lamp in the button.
+    drawn_art(spare(1480), {48, 5}, draw_cabin_pointer),
+    flush_lamp_art(spare(1490, 2), {20, 12}, lens::green, "STD", 6),
 };
 
 constinit Unit unit{"Cabalt", art};

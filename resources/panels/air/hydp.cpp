@@ -26,7 +26,7 @@ constexpr Item items[] = {
 };
 
 constexpr Art art[] = {
-    plate(196, items),
+    plate(196, items).in_full_colour(),
     lamp_art("system_1_engine_1_pump_lamp", {38, 22}, lens::green, "ENG 1", 7.5),
     lamp_art("system_1_engine_2_pump_lamp", {38, 22}, lens::green, "ENG 2", 7.5),
     lamp_art("system_1_electric_pump_lamp", {38, 22}, lens::green, "ELEC", 7.5),

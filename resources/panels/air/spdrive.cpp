@@ -20,6 +20,7 @@ constexpr Item items[] = {
 constexpr Art art[] = {
     plate(160, items),
     lamp_art("drive_a_lamp", {25, 20}, lens::green, "ON", 7.5),
+    lamp_art(spare(1420, 2), {25, 20}, lens::amber, "OFF", 7),
 };
 
 constinit Unit unit{"Spdrive", art};

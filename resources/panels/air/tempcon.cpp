@@ -26,7 +26,7 @@ constexpr Item items[] = {
 
 // A selector springs back after each step; its ticks show which way is warmer.
 constexpr Art art[] = {
-    plate(208, items),
+    plate(208, items).in_full_colour(),
     lever_art("left_automatic_control_switch", {13, 34}, {Throw::down, Throw::up},
               {.reach = 10.5, .ball = 3, .polish = 16}),
     knob_art("left_temperature_selector", {52, 52}, {0, -40, 40},

@@ -38,7 +38,7 @@ constexpr Lever trim_lever{
     .hub = {5, 16}, .reach = 10, .ball = 2.8, .polish = 13, .mount = 7.2, .nut = 4.8};
 
 constexpr Art art[] = {
-    plate(156, items),
+    plate(156, items).in_full_colour(),
     knob_art("test_switch", {48, 48}, {0, -45, 45}, {.radius = 18, .seat = 1.8, .ticks = {3.2, 6}}),
     lever_art("channel_switch", {20, 30}, {Throw::down, Throw::up}, small_lever),
     lever_art("stabiliser_trim_switch", {10, 32}, {Throw::down, Throw::up}, trim_lever),

@@ -1,5 +1,7 @@
 /// Autopilot modes: selected speed on the left, the mode selector, altitude hold on the right.
 #include "resources/art.h"
+#include "resources/kit/paint.h"
+#include "resources/rows/draw.h"
 
 namespace artwork::panels::apmode {
 
@@ -25,9 +27,23 @@ constexpr Item items[] = {
     below(altitude, "ALT HOLD"),
 };
 
+void draw_mach_drum(const Canvas& canvas, int) {
+  const Drum drum{.figure_size = 11.5, .ink = palette::well, .ground = palette::mark};
+  MovingAxis tenths{};
+  tenths.maximum = 9;
+  draw_drum(canvas, drum, tenths, 16);
+}
+
+void draw_point(const Canvas& canvas, int) {
+  fill(canvas, rounded(whole(canvas.size()), 0), palette::mark);
+}
+
 constexpr Art art[] = {
     plate(98, items),
     drum_art("selected_speed_hundreds", {9, 16}, {.figure_size = 11.5}),
+    // A selected Mach number: the drum behind the point, and the point.
+    drawn_art(spare(13480), {9, 160}, draw_mach_drum),
+    drawn_art(spare(14160), {2, 2}, draw_point).in_16_colours(),
     knob_art("mode_selector", {40, 43}, {-125, -75, -25, 25, 75, 125},
              {.radius = 16, .seat = 1.5, .ticks = {2.6, 5.4}}),
 };

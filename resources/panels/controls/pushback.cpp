@@ -172,8 +172,15 @@ void draw_status(const Canvas& canvas, int image) {
   print(canvas, glass.centre(), message.text, lettering);
 }
 
+/// A lamp for tug crews that the aircraft tells whether its wheels are held.
+void draw_parking_brake(const Canvas& canvas, bool on) {
+  lamp(canvas, whole(canvas.size()), {lens::amber, "PARK\nBRAKE", 7.5}, on);
+}
+void draw_brake_off(const Canvas& canvas, int) { draw_parking_brake(canvas, false); }
+void draw_brake_on(const Canvas& canvas, int) { draw_parking_brake(canvas, true); }
+
 constexpr Art art[] = {
-    plate(178, items),
+    plate(178, items).in_full_colour(),
     drawn_art("left_programme_light", {23, 15}, draw_left),
     drawn_art("back_programme_light", {19, 15}, draw_back),
     drawn_art("right_programme_light", {23, 15}, draw_right),
@@ -186,6 +193,8 @@ constexpr Art art[] = {
     drawn_art("status_light", {63, 22}, draw_status),
     flush_lamp_art("manual_light", {31, 13}, lens::white, "MANUAL", 6),
     flush_lamp_art("automatic_light", {31, 13}, lens::green, "AUTO", 6.5),
+    named_art("IDB_PB_PBRAKE_OFF", {46, 30}, draw_brake_off),
+    named_art("IDB_PB_PBRAKE_ON", {46, 30}, draw_brake_on),
 };
 
 constinit Unit unit{"Pushback", art};

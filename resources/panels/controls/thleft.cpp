@@ -119,7 +119,7 @@ constexpr Item items[] = {
 };
 
 constexpr Art art[] = {
-    plate(292, items),
+    plate(292, items).in_full_colour(),
     needle_art("upper_left_brake_pressure", {.length = 19.5, .half_width = 1.3}),
     drawn_art("throttle_1_lever", {142, 164}, draw_throttle),
     drawn_art("speed_brake_switch", {26, 144}, draw_speed_brake),

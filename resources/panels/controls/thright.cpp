@@ -87,7 +87,7 @@ constexpr Item items[] = {
 };
 
 constexpr Art art[] = {
-    plate(236, items),
+    plate(236, items).in_full_colour(),
     drawn_art("throttle_2_lever", {154, 178}, draw_throttle),
     lever_art("pedestal_selector_switch", {37, 16}, {Throw::centre, Throw::down, Throw::up},
               {.reach = 11, .ball = 3, .sideways = true, .mount = 7.6}),

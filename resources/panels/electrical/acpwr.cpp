@@ -20,7 +20,7 @@ constexpr Item items[] = {
 };
 
 constexpr Art art[] = {
-    plate(200, items),
+    plate(200, items).in_full_colour(),
     lamp_art("bus_1_lamp", {49, 24}, lens::green, "BUS 1"),
     lamp_art("bus_2_lamp", {49, 24}, lens::green, "BUS 2"),
     lamp_art("apu_generator_lamp", {46, 24}, lens::blue, "APU"),

@@ -16,7 +16,7 @@ constexpr Item items[] = {
     beginning(at("bus_transfer_guard", 21, 22), "AUTO"),
 };
 
-constexpr Art art[] = {plate(150, items)};
+constexpr Art art[] = {plate(150, items).in_full_colour()};
 
 constinit Unit unit{"Ctr", art};
 

@@ -98,7 +98,7 @@ constexpr Item items[] = {
 };
 
 constexpr Art art[] = {
-    plate(148, items),
+    plate(148, items).in_full_colour(),
     drawn_art("engine_1_fuel_lever", {39, 43}, draw_fuel_lever),
     flush_lamp_art("pump_1_left_low_pressure_light", {22, 14}, lens::amber, "LP", 7.5),
     drawn_art("crossfeed_switch", {12, 16}, draw_crossfeed, crossfeed_hub),

@@ -128,10 +128,11 @@ void draw_slip_lighting(const Canvas& canvas, int image) {
 }
 
 constexpr Art art[] = {
-    plate(222, items),
+    plate(222, items).in_full_colour(),
     flag_art("attitude_flag", {50, 16}, {"ATT", InView::second, 9}),
     ball_art("horizon", {187, 272},
-             {.per_degree = 2, .ladder = 42, .figure_size = 7.5, .mark_step = 2.5}),
+             {.per_degree = 2, .ladder = 42, .figure_size = 7.5, .mark_step = 2.5})
+        .in_full_colour(),
     drawn_art("flight_director_pitch_bar", {55, 3}, draw_command_bar),
     drawn_art("flight_director_bank_bar", {3, 75}, draw_command_bar),
     drawn_art("glide_slope_pointer", {13, 8}, draw_slope_pointer),

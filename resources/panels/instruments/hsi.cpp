@@ -118,6 +118,17 @@ void draw_slope_pointer(const Canvas& canvas, int) {
   side_pointer(canvas, whole(canvas.size()), 1, palette::command);
 }
 
+void draw_bearing_head(const Canvas& canvas, int) {
+  edged(canvas, {{116, 5.5}, {104, 0.5}, {104, 4}, {88, 4}, {88, 7}, {104, 7}, {104, 10.5}},
+        palette::lamp_green);
+}
+
+void draw_bearing_tail(const Canvas& canvas, int) {
+  edged(canvas,
+        {{2, 4}, {14, 4}, {14, 1}, {26, 1}, {30, 4}, {30, 7}, {26, 10}, {14, 10}, {14, 7}, {2, 7}},
+        palette::lamp_green);
+}
+
 struct Word {
   std::string_view text;
   Colour colour;
@@ -137,7 +148,7 @@ void draw_annunciator(const Canvas& canvas, int image) {
 }
 
 constexpr Art art[] = {
-    plate(186, items),
+    plate(186, items).in_full_colour(),
     drawn_art("test_switch", {13, 26}, draw_test_switch),
     drawn_art("course_knob", {25, 25}, draw_course_knob),
     compass_card_art("compass_card", {185, 191}, {.radius = 57.2, .figure_size = 9.5}),
@@ -152,6 +163,9 @@ constexpr Art art[] = {
     drawn_art("annunciator", {21, 12}, draw_annunciator),
     drawn_art("course_deviation_bar", {185, 187}, draw_deviation_bar),
     drum_art("course_hundreds", {9, 14}, {.figure_size = 10.5}),
+    // The bearing of a beacon, about the card's middle.
+    drawn_art(spare(11130), {118, 11}, draw_bearing_head),
+    drawn_art(spare(11140), {118, 11}, draw_bearing_tail),
 };
 
 constinit Unit unit{"Hsi", art};

@@ -30,6 +30,7 @@ constexpr Art art[] = {
     plate(104, items),
     needle_art("vertical_speed", {.length = 36, .tail = 2, .half_width = 2}),
     flag_art("power_flag", {18, 9}, {"OFF", InView::first, 5.8}),
+    flush_lamp_art(spare(14480, 2), {24, 14}, lens::red, "TFC", 6.5),
 };
 
 constinit Unit unit{"Vsitcas", art};

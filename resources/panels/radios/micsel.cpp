@@ -59,10 +59,12 @@ constexpr Item items[] = {
 };
 
 constexpr Art art[] = {
-    plate(166, items),
+    plate(166, items).in_full_colour(),
     flush_lamp_art("vhf_1_microphone_button", {16, 16}, lens::green, "MIC", 5.5),
     flush_lamp_art("nav_1_audio_button", {16, 16}, lens::white, "ID", 6.5),
     flush_lamp_art("adf_audio_button", {16, 16}, lens::white, "ID", 6.5),
+    flush_lamp_art(spare(3130, 2), {16, 16}, lens::blue, "MKR", 4.9),
+    flush_lamp_art(spare(3140, 2), {16, 16}, lens::white, "DME", 4.9),
 };
 
 constinit Unit unit{"Micsel", art};

@@ -30,6 +30,7 @@ constexpr Art art[] = {
     plate(112, items),
     button_art("taxi_announcement_button", {24, 24}, lens::blue, ""),
     button_art("ground_power_button", {16, 16}, lens::green, ""),
+    button_art(spare(2490, 2), {24, 24}, lens::amber, "CALL", 6),
 };
 
 constinit Unit unit{"Selcall", art};

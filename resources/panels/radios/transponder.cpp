@@ -46,6 +46,18 @@ constexpr Item items[] = {
 /// It points to the right; the needle's record turns it.
 void draw_code_knob(const Canvas& canvas, int) { pointer_knob(canvas, {13.5, 13.5}, knob_radius, 90); }
 
+/// Caps for those who tell the knobs apart by touch: with a grip, with a flat, and small.
+void draw_grip_cap(const Canvas& canvas, int) { bar_knob(canvas, {13.5, 13.5}, knob_radius, 90); }
+
+void draw_flat_cap(const Canvas& canvas, int) {
+  plain_knob(canvas, {13.5, 13.5}, knob_radius);
+  fill(canvas, capsule({16.5, 13.5}, {23.5, 13.5}, 1.4, 0.7), palette::legend);
+}
+
+void draw_small_cap(const Canvas& canvas, int) {
+  pointer_knob(canvas, {13.5, 13.5}, knob_radius * 0.72, 90);
+}
+
 void draw_ident_light(const Canvas& canvas, int image) {
   const Box box = whole(canvas.size());
   fill(canvas, rounded(box, 0.8), palette::well);
@@ -61,6 +73,9 @@ void draw_ident_button(const Canvas& canvas, int image) {
 constexpr Art art[] = {
     plate(106, items),
     drawn_art("first_code_knob", {27, 27}, draw_code_knob),
+    drawn_art(spare(2420), {27, 27}, draw_grip_cap),
+    drawn_art(spare(2430), {27, 27}, draw_flat_cap),
+    drawn_art(spare(2440), {27, 27}, draw_small_cap),
     drawn_art("ident_light", {41, 8}, draw_ident_light),
     drawn_art("ident_button", {18, 10}, draw_ident_button),
     knob_art("transponder_selector", {19, 21}, {-120, -40, 40, 120},

@@ -16,11 +16,21 @@ void draw_light(const Canvas& canvas, int image) {
   draw_annunciator_rim(canvas, lens);
 }
 
+void draw_below_slope(const Canvas& canvas, int image) {
+  draw_annunciator(canvas, {lens::amber, "BLW\nG/S", 7}, image == 1);
+}
+
+void draw_wind_shear(const Canvas& canvas, int image) {
+  draw_annunciator(canvas, {lens::red, "WIND\nSHR", 7}, image == 1);
+}
+
 constexpr Item items[] = {Ornament{draw_dark_lens}};
 
 constexpr Art art[] = {
     plate(picture.height, items),
     drawn_art("warning_light", picture, draw_light),
+    drawn_art(spare(14020, 2), picture, draw_below_slope),
+    drawn_art(spare(14030, 2), picture, draw_wind_shear),
 };
 
 constinit Unit unit{"Pullup", art};

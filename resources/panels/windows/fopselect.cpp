@@ -3,18 +3,26 @@
 
 namespace artwork::panels::fopselect {
 
-void draw_key(const Board& board) {
-  const Box box = part_box(board.gauge, "open_captains_panel").grown(-6);
-  label_key(board.canvas, box);
+/// By night its words shine.
+void draw_key(const Canvas& canvas, Box box, Colour ink) {
+  label_key(canvas, box);
   const Point c = box.centre();
-  line(board.canvas, {box.x + 8, c.y}, {box.x + 15, c.y - 6}, 1.6, palette::legend);
-  line(board.canvas, {box.x + 8, c.y}, {box.x + 15, c.y + 6}, 1.6, palette::legend);
-  print(board.canvas, {c.x + 6, c.y}, "CAPT\nPANEL", {.size = 10});
+  line(canvas, {box.x + 8, c.y}, {box.x + 15, c.y - 6}, 1.6, ink);
+  line(canvas, {box.x + 8, c.y}, {box.x + 15, c.y + 6}, 1.6, ink);
+  print(canvas, {c.x + 6, c.y}, "CAPT\nPANEL", {.size = 10, .colour = ink});
 }
 
-constexpr Item items[] = {Ornament{draw_key}};
+void draw_fixed(const Board& board) {
+  draw_key(board.canvas, part_box(board.gauge, "open_captains_panel").grown(-6), palette::legend);
+}
 
-constexpr Art art[] = {plate(50, items)};
+void draw_lighting(const Canvas& canvas, int image) {
+  draw_key(canvas, whole(canvas.size()).grown(-2), image == 1 ? palette::filament : palette::legend);
+}
+
+constexpr Item items[] = {Ornament{draw_fixed}};
+
+constexpr Art art[] = {plate(50, items), drawn_art(spare(20250, 2), {84, 38}, draw_lighting)};
 
 constinit Unit unit{"Fopselect", art};
 

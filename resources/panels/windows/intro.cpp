@@ -225,7 +225,7 @@ void draw_page(const Board& board) {
 
 constexpr Item items[] = {Ornament{draw_page}};
 
-constexpr Art art[] = {plate(497, items)};
+constexpr Art art[] = {plate(497, items).in_full_colour()};
 
 constinit Unit unit{"Intro", art};
 

@@ -21,13 +21,14 @@ inline void label_key(const Canvas& canvas, Box box, double corner = 4) {
 }
 
 /// A chevron: down where the panel goes away, up where one comes.
-inline void chevron(const Canvas& canvas, Point centre, double reach, bool down) {
+inline void chevron(const Canvas& canvas, Point centre, double reach, bool down,
+                    Colour ink = palette::legend) {
   const double rise = down ? reach * 0.55 : -reach * 0.55;
   const Point corners[] = {{centre.x - reach, centre.y - rise / 2},
                            {centre.x, centre.y + rise / 2},
                            {centre.x + reach, centre.y - rise / 2}};
-  line(canvas, corners[0], corners[1], 1.6, palette::legend);
-  line(canvas, corners[1], corners[2], 1.6, palette::legend);
+  line(canvas, corners[0], corners[1], 1.6, ink);
+  line(canvas, corners[1], corners[2], 1.6, ink);
 }
 
 }  // namespace artwork::panels

@@ -45,7 +45,7 @@ void draw_key(const Board& board) {
 
 constexpr Item items[] = {Ornament{draw_key}};
 
-constexpr Art art[] = {plate(210, items)};
+constexpr Art art[] = {plate(210, items).in_full_colour()};
 
 constinit Unit unit{"Ovhtoggle", art};
 

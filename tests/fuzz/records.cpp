@@ -1,0 +1,186 @@
+// The records of a module whose bytes someone has changed: where the checks find no error, the gauge runs, is
+// drawn and clicked.
+#include <sys/mman.h>
+
+#include <cmath>
+#include <cstring>
+
+#include "host/drawing/painter.h"
+#include "host/gauge/gauge_run.h"
+#include "host/gauge/token_source.h"
+#include "host/loader/record_checks.h"
+#include "host/panel/hot_areas.h"
+#include "tests/drawing/made_bitmaps.h"
+#include "tests/fuzz/harness.h"
+
+namespace {
+
+double give_value(Element* e) { return e->kind == ELEMENT_ICON ? e->icon.source.value : 1; }
+i32 press(PanelPoint, u32) { return 0; }
+void nothing() {}
+void nothing_of(std::uintptr_t) {}
+void serve(const GaugeHeader*, u32, std::uintptr_t) {}
+
+// A sound gauge with an element of every kind, in one piece of memory that pointers can point about in.
+struct Records {
+  static constexpr int count = 7;
+  LinkageRecord linkage;
+  ImportTableRecord imports;
+  GaugeHeader gauge;
+  Element elements[count];
+  Element* lists[count][2];
+  FailureEntry failures[3];
+  NonlinearityPoint table[4];
+  MouseArea areas[8];
+  char text[8];
+  char words[8];
+
+  void make() {
+    std::memset(static_cast<void*>(this), 0, sizeof *this);
+    for (int i = 0; i < count; ++i) {
+      elements[i].kind = static_cast<u32>(i);
+      elements[i].resource_id = i == ELEMENT_STRING ? -1 : 10 * i;
+      elements[i].gauge = &gauge;
+      elements[i].next = lists[i];
+      if (i > 0) lists[i - 1][0] = &elements[i];
+    }
+    for (int i = 0; i < 4; ++i) table[i] = {{9 - 3 * i, 3 * i}, 10.0 * i};
+    failures[0] = {20, FAILURE_HIDE, 0}, failures[1] = {21, FAILURE_FREEZE, 0};
+    std::strcpy(text, "12345"), std::strcpy(words, "Arial");
+    make_parts();
+    make_areas();
+    make_module();
+  }
+
+ private:
+  void make_parts() {
+    elements[ELEMENT_ICON].failures = failures;
+    elements[ELEMENT_ICON].icon = {{364, 0, 0}, give_value, 1, 2, 1};
+    elements[ELEMENT_NEEDLE].needle = {{4, 4}, {100, 0, 0}, nullptr, table, 4, 0, 1};
+    elements[ELEMENT_STRING].string = {{30, 10}, {}, give_value, 0, 0, 0, 400, 0, 5, words, text};
+    elements[ELEMENT_SLIDER].slider = {{101, 0, 0}, nullptr, 2, {102, 0, 0}, give_value, 1};
+    elements[ELEMENT_MOVING_IMAGE].moving_image = {
+        60, 0, {{103, 0, 0}, nullptr, 0, 10}, {{104, 0, 0}, nullptr, -5, 5}};
+    elements[ELEMENT_SPRITE].sprite = {
+        {3, 3}, {{105, 0, 0}, nullptr, 1}, {{106, 0, 0}, nullptr, 1}, {{107, 0, 0}, nullptr, 1}};
+  }
+
+  void make_areas() {
+    areas[0] = {MOUSE_GROUP, 1, 1, 30, 30, CURSOR_ARROW, 0, 0, 0, 0, {nullptr}, nullptr};
+    areas[1] = {MOUSE_CLICK_AREA, 0, 0, 5, 5, CURSOR_INCREASE, 0, MOUSE_LEFT, 0, 0, {press}, nullptr};
+    areas[2] = {MOUSE_CLICK_AREA, 5, 0, 5, 5, CURSOR_DECREASE, 0, MOUSE_LEFT, 0, 0, {press}, nullptr};
+    areas[3] = {MOUSE_TOOLTIP, 0, 0, 0, 0, CURSOR_ARROW, 0, 0, 0, 0, {nullptr}, nullptr};
+    areas[3].tooltip = words;
+    areas[4] = {MOUSE_GROUP_END, 0, 0, 0, 0, CURSOR_ARROW, 0, 0, 0, 0, {nullptr}, nullptr};
+  }
+
+  void make_module() {
+    gauge.header_version = GAUGE_HEADER_VERSION;
+    gauge.name = words;
+    gauge.element_list[0] = elements;
+    gauge.query = gauge.initialize = gauge.update = gauge.draw = gauge.kill = nothing;
+    gauge.install = gauge.generate = nothing_of;
+    gauge.width_mm = 40;
+    gauge.mouse_areas = areas;
+    gauge.service = serve;
+    linkage.module_id = LINKAGE_MODULE_ID;
+    linkage.version = LINKAGE_VERSION;
+    linkage.gauges[0] = &gauge;
+    imports.entries[0].identifier = IMPORT_PANEL_SERVICES;
+  }
+};
+
+// Where the records lie, with nothing behind them: one page too many is seen at once.
+Records& records() {
+  static Records* const at = [] {
+    constexpr std::size_t page = 4096, size = (sizeof(Records) + page - 1) / page * page;
+    auto* room = static_cast<char*>(
+        mmap(nullptr, size + page, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0));
+    mprotect(room + size, page, PROT_NONE);
+    return reinterpret_cast<Records*>(room + (size - sizeof(Records)) / 16 * 16);
+  }();
+  return *at;
+}
+
+// Nine bytes change a place: what the first two say, as the third says, to what the others say.
+void change(Records& made, const std::uint8_t* bytes) {
+  std::uint16_t place;
+  std::uint64_t value = 0;
+  std::memcpy(&place, bytes, sizeof place);
+  std::memcpy(&value, bytes + 3, 6);
+  char* const base = reinterpret_cast<char*>(&made);
+  const auto put = [&](auto what) {
+    std::memcpy(base + place % (sizeof(Records) / sizeof what) * sizeof what, &what, sizeof what);
+  };
+  constexpr double numbers[] = {HUGE_VAL, -HUGE_VAL, NAN, 1e300, -1e9, 1e-300, 4e9, -0.5};
+  switch (bytes[2] % 8) {
+    case 0: return put(static_cast<std::uint8_t>(value));
+    case 1: return put(static_cast<std::uint32_t>(value));
+    case 2: return put(base + value % sizeof(Records) / 8 * 8);
+    case 3: return put(base + value % (2 * sizeof(Records)));
+    case 4: return put(static_cast<const char*>(nullptr));
+    case 5: return put(reinterpret_cast<const char*>(value % 4096));
+    case 6: return put(numbers[value % std::size(numbers)]);
+    default: return put(static_cast<std::int32_t>(value % 64) - 8);
+  }
+}
+
+class Tokens final : public host::TokenSource {
+ public:
+  double token(std::uint32_t number) const override {
+    constexpr double values[] = {0, 1, -3, 7.5, 1e30, -1e300, NAN, HUGE_VAL};
+    return values[(number + turn) % std::size(values)];
+  }
+  bool failed(std::uint32_t key) const override { return (key + turn) % 3 == 0; }
+  bool any_failed() const override { return true; }
+  std::uint32_t turn = 0;
+};
+
+const host::MadeBitmaps& bitmaps() {
+  static const host::MadeBitmaps* const made = [] {
+    auto* all = new host::MadeBitmaps;
+    for (const std::uint32_t id : {0, 10, 30, 40, 41, 50, 60})
+      all->add(id, id ? 9 : 32, id ? 9 : 32, 0xFF808080);
+    return all;
+  }();
+  return *made;
+}
+
+void use(const GaugeHeader& gauge) {
+  host::GaugeRun run(gauge);
+  host::GaugePainter painter(gauge, bitmaps(), {0, 0, 40, 40});
+  host::Canvas canvas(40, 40);
+  Tokens tokens;
+  run.start(1);
+  for (; tokens.turn < 4; ++tokens.turn) {
+    run.frame(tokens);
+    painter.draw(canvas, run.before(), run.now(), 0.5);
+  }
+  const host::HotAreas areas(gauge.mouse_areas);
+  for (const PanelPoint point : {PanelPoint{3, 3}, {8, 3}, {-1, INT32_MIN}, {INT32_MAX, 3}}) {
+    if (const host::HotArea* area = areas.at(point, MOUSE_LEFT)) area->fire(point, MOUSE_LEFT);
+    areas.wheel(point, true);
+    areas.tooltip(point);
+  }
+  run.end();
+}
+
+}  // namespace
+
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  Records& made = records();
+  static const host::MemoryMap memory;
+  made.make();
+  for (; size >= 9 && size < 9 * 64; data += 9, size -= 9) change(made, data);
+  std::vector<host::Finding> findings;
+  host::check_records(made.linkage, made.imports, host::Inspector(memory, findings, "T.GAU"));
+  for (const host::Finding& finding : findings) {
+    fuzz::must(finding.message.size() < 500);
+    if (finding.severity == host::Finding::Severity::error) return 0;
+  }
+  for (std::size_t i = 0; made.linkage.gauges[i] != nullptr; ++i) {
+    const GaugeHeader& gauge = *made.linkage.gauges[i];
+    if (host::gauge_size(gauge, bitmaps()).width > 0) use(gauge);
+  }
+  return 0;
+}
