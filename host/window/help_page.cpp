@@ -31,7 +31,6 @@ constexpr std::array cockpit_rows{
     HelpRow{"Right click", "The other way, or the test of a button"},
     HelpRow{"Wheel", "Turn a knob or selector; elsewhere scroll"},
     HelpRow{"Drag", "Move a throttle; elsewhere move the view"},
-    HelpRow{"Rest", "What is under the pointer, and what it does"},
     HelpRow{"Flight", ""},
     HelpRow{"V", "View out of the window, above the captain's panel"},
     HelpRow{"D", "Panel lights: day and night"},
