@@ -243,7 +243,8 @@ class CommandLine {
 
   void add_check() {
     CLI::App* sub = add("check", "Check every record of a module", check_, check);
-    sub->add_option("module", check_.cockpit.module, "The gauge module; else the one beside this program");
+    sub->add_option("module", check_.cockpit.module,
+                    "The gauge module; else the one beside this program");
     sub->add_flag("--details", check_.details, "Also what a file is that is no module");
   }
 
