@@ -75,8 +75,8 @@ inline Channels two_pixels(const std::uint32_t* pixels) {
   std::uint64_t two;
   std::memcpy(&two, pixels, sizeof two);
   const Bytes packed = reinterpret_cast<Bytes>(Words{two, 0});
-  return reinterpret_cast<Channels>(__builtin_shufflevector(packed, Bytes{}, 0, 16, 1, 17, 2, 18, 3, 19,
-                                                            4, 20, 5, 21, 6, 22, 7, 23));
+  return reinterpret_cast<Channels>(
+      __builtin_shufflevector(packed, Bytes{}, 0, 16, 1, 17, 2, 18, 3, 19, 4, 20, 5, 21, 6, 22, 7, 23));
 }
 
 // From `a` towards `b` by so many parts of 128.

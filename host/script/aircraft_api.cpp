@@ -57,8 +57,7 @@ static std::uint32_t failure_argument(const LuaCall& call, int index) {
   if (found != table.end()) return found->key;
   std::vector<std::string_view> names;
   for (const FailureRow& row : table) names.push_back(row.name);
-  throw std::invalid_argument("the aircraft has no failure '" + name + "'" +
-                              did_you_mean(name, names));
+  throw std::invalid_argument("the aircraft has no failure '" + name + "'" + did_you_mean(name, names));
 }
 
 std::string event_name(std::uint32_t number) {

@@ -75,7 +75,9 @@ class Crew {
     const auto places = start_places();
     inputs_.take(StartAt{std::string(places[below(places.size())].name)});
     inputs_.take(SetTimeOfDay{between(0, 24)});
-    if (below(2)) inputs_.take(PlaceInFlight{{{"altitude", between(1500, 35000)}, {"airspeed", between(130, 300)}}});
+    if (below(2))
+      inputs_.take(
+          PlaceInFlight{{{"altitude", between(1500, 35000)}, {"airspeed", between(130, 300)}}});
     if (below(2)) inputs_.take(OpenWindow{500});
   }
 
@@ -100,7 +102,8 @@ class Crew {
     if (below(3) == 0) return (void)inputs_.take(input::Wheel{name, middle, below(2) ? 3 : -3});
     const auto button = below(2) ? input::Button::left : input::Button::right;
     inputs_.take(input::Press{name, middle, button});
-    if (below(2)) inputs_.take(input::Move{{middle.x + i32(below(80)) - 40, middle.y + i32(below(80)) - 40}});
+    if (below(2))
+      inputs_.take(input::Move{{middle.x + i32(below(80)) - 40, middle.y + i32(below(80)) - 40}});
   }
 
   void fly() {
@@ -176,7 +179,8 @@ TEST_F(Endurance, NothingGrowsNothingIsNoNumberAndItFliesAgain) {
     }
     const double grown = resident_mebibytes() - warm;
     std::printf("%.1f hours: %.1f MiB, %.2f more than after a quarter; journal %.1f MiB\n",
-                flight_seconds() / 3600, warm + grown, grown, double(std::filesystem::file_size(file)) / (1 << 20));
+                flight_seconds() / 3600, warm + grown, grown,
+                double(std::filesystem::file_size(file)) / (1 << 20));
     if (flight_seconds() >= 3600) {
       EXPECT_LT(grown, 4);
     }
@@ -185,7 +189,8 @@ TEST_F(Endurance, NothingGrowsNothingIsNoNumberAndItFliesAgain) {
   const FlightRecord record = read_journal(file);
   EXPECT_EQ(record.damage, "");
   Flight again(COCKPIT_DIR "/panel.cfg");
-  EXPECT_EQ(fly_again(again.inputs, record, [&] { again.sound.advance(1.0 / again.cockpit.rate()); }), "");
+  EXPECT_EQ(fly_again(again.inputs, record, [&] { again.sound.advance(1.0 / again.cockpit.rate()); }),
+            "");
   EXPECT_TRUE(again.picture() == last);
 }
 

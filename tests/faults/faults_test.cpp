@@ -20,7 +20,8 @@ class Faults : public testing::Test {
   /// Without a display, its own state and settings in the folder.
   std::string surroundings() const {
     return "env -u DISPLAY -u WAYLAND_DISPLAY -u SDL_VIDEODRIVER HOME=" + folder.path().string() +
-           " XDG_STATE_HOME=" + folder.path().string() + " XDG_CONFIG_HOME=" + folder.path().string() + " ";
+           " XDG_STATE_HOME=" + folder.path().string() + " XDG_CONFIG_HOME=" + folder.path().string() +
+           " ";
   }
 
   /// `limits` are the shell's: "ulimit -f 100;".
@@ -91,9 +92,10 @@ TEST_F(Faults, TheSoundsAreDeletedInFlight) {
        {"Tarnvale.GAU", "Tarnvale.GAU.2x", "Tarnvale.GAU.3x", "Tarnvale.GAU.names", "Sound"})
     fs::create_symlink(cockpit_dir / name, fs::path(folder / "c") / name);
   const std::string flow = folder.write(
-      "f.lua", "for i = 1, 3 do click('Masterbat', 'battery_switch') wait(0.7) end\nexpect(#sounds() > 1)");
-  const std::string command =
-      "run " + flow + " --realtime --module " + (folder / "c/Tarnvale.GAU") + " --journal " + (folder / "j");
+      "f.lua",
+      "for i = 1, 3 do click('Masterbat', 'battery_switch') wait(0.7) end\nexpect(#sounds() > 1)");
+  const std::string command = "run " + flow + " --realtime --module " + (folder / "c/Tarnvale.GAU") +
+                              " --journal " + (folder / "j");
   std::thread deleting([&] {
     eventually([&] { return file_text(folder / "j").find("release") != std::string::npos; });
     fs::remove(folder / "c/Sound");
@@ -150,7 +152,8 @@ TEST_F(Faults, ADisplayThatIsNotThereIsTold) {
   const Outcome outcome =
       run_command(surroundings() + "DISPLAY=:7777 timeout 20 " + program() + " fly 2>&1");
   EXPECT_EQ(outcome.exit_code, 1);
-  EXPECT_NE(outcome.output.find("no display to open a window on ("), std::string::npos) << outcome.output;
+  EXPECT_NE(outcome.output.find("no display to open a window on ("), std::string::npos)
+      << outcome.output;
   EXPECT_EQ(lines(outcome.output), 1) << outcome.output;
 }
 

@@ -12,8 +12,9 @@ struct Gauges {
   Gauges() {
     left.name = "Apu", right.name = "Cafire";
     for (GaugeHeader* gauge : {&left, &right})
-      names.gauges[gauge] = {{{"lamp", "Lamp", 1}, {"selector", "Selector", 2}},
-                             {{"selector_up", "Selector", 0}, {"selector_down", "Selector", 1}, {"button", "Button", 2}}};
+      names.gauges[gauge] = {
+          {{"lamp", "Lamp", 1}, {"selector", "Selector", 2}},
+          {{"selector_up", "Selector", 0}, {"selector_down", "Selector", 1}, {"button", "Button", 2}}};
   }
 };
 
@@ -30,9 +31,11 @@ void look_up(const host::GaugeWords& words) {
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   static const Gauges gauges;
   const std::string text(fuzz::text_of(data, size));
-  const host::WordBook book = host::parse_words({{"a.txt", text}, {"b.txt", text}}, {gauges.all, 2}, gauges.names);
+  const host::WordBook book =
+      host::parse_words({{"a.txt", text}, {"b.txt", text}}, {gauges.all, 2}, gauges.names);
   for (const GaugeHeader* gauge : gauges.all) look_up(book.of(*gauge));
   fuzz::must(book.notes.size() <= 42);
-  for (const std::string& note : book.notes) fuzz::must(note.size() < 300 && note.find('\n') == std::string::npos);
+  for (const std::string& note : book.notes)
+    fuzz::must(note.size() < 300 && note.find('\n') == std::string::npos);
   return 0;
 }
