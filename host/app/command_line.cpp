@@ -116,6 +116,14 @@ class CommandLine {
         ->check(number(0.0, 24.0));
   }
 
+  CLI::Option* add_ambience(CLI::App* sub, double& percent) {
+    return sub
+        ->add_option("--ambience", percent,
+                     "Loudness of the aircraft's own sound in percent: 100 as it is meant, 0 none")
+        ->check(number(0, 200))
+        ->capture_default_str();
+  }
+
   void add_fly() {
     CLI::App* sub = add("fly", "Sit in the cockpit: opens a window", fly_, fly);
     add_cockpit(sub, fly_.cockpit);
@@ -141,6 +149,7 @@ class CommandLine {
     sub->add_option("--exit-after", fly_.deck.exit_after, "Leave after so many seconds")
         ->check(number(0, 1e9));
     sub->add_flag("--mute", fly_.mute, "Fly without sound");
+    add_ambience(sub, fly_.ambience);
     add_journal(sub);
   }
 
@@ -189,7 +198,8 @@ class CommandLine {
     sub->add_option("flow", run_.flow, "A flow file, or the name of one beside this program")
         ->capture_default_str();
     sub->add_option("--png", run_.pictures, "Folder for the flow's pictures");
-    sub->add_option("--wav", run_.sound, "File for the flow's sound");
+    CLI::Option* sound = sub->add_option("--wav", run_.sound, "File for the flow's sound");
+    add_ambience(sub, run_.ambience)->needs(sound);
     sub->add_option("--journal", run_.journal, "Keep a journal of the flight, for replay");
     sub->add_flag("--realtime", run_.realtime, "As slow as a clock, not as fast as possible");
   }
@@ -205,7 +215,8 @@ class CommandLine {
         ->check(number(0.01, 1e6))
         ->capture_default_str()
         ->needs(pictures);
-    sub->add_option("--wav", replay_.sound, "File for the flight's sound");
+    CLI::Option* sound = sub->add_option("--wav", replay_.sound, "File for the flight's sound");
+    add_ambience(sub, replay_.ambience)->needs(sound);
     sub->add_option("--flow", replay_.flow, "Write the inputs to this file, as a flow");
     sub->add_flag("--digest", replay_.digest,
                   "Print a number that two flights share only if they are the same to the bit");
@@ -222,6 +233,8 @@ class CommandLine {
     sub->add_option("--scale", show_.deck.scale, "Scale of the desktop")->check(number(0.5, 8.0));
     add_start(sub, show_.start);
     add_display(sub, show_.display);
+    sub->add_option("--exit-after", show_.deck.exit_after, "Close the window after so many seconds")
+        ->check(number(0, 1e9));
     sub->add_flag("--areas", show_.areas, "Outline the click areas");
     sub->add_flag("--night", show_.night, "With the panel lights on");
     sub->add_option("--set", show_.readings, "token=value, by name or number: hold a token variable");

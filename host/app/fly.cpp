@@ -4,6 +4,7 @@
 #include <optional>
 #include <stdexcept>
 
+#include "host/ambience/ambience_stream.h"
 #include "host/app/commands.h"
 #include "host/app/desk_options.h"
 #include "host/app/end_signals.h"
@@ -58,7 +59,9 @@ FlightIdentity identity_for(const std::optional<LeftSession>& left, const Cockpi
 constexpr std::uint32_t start_page = 508;
 
 // A note in the window, and on standard error.
-void tell(const std::string& text) { MessageBoxA(nullptr, text.c_str(), "Journal", MB_OK); }
+void tell(const std::string& text, const char* caption = "Journal") {
+  MessageBoxA(nullptr, text.c_str(), caption, MB_OK);
+}
 
 // As a window manager asks; twice, for whom the cockpit would ask back.
 void leave_cockpit() {
@@ -82,6 +85,8 @@ class Session {
     say_start_notes(module_);
     say_notes(cockpit_.names());
     say_notes(cockpit_.words());
+    if (!options.watch.empty())
+      options_.watch = std::filesystem::absolute(find_flow(options.watch)).string();
     if (options.record.empty()) return;
     flow_.emplace(options.record, cockpit_);
     inputs_.tell(*flow_);
@@ -99,14 +104,15 @@ class Session {
     FlightDeck deck(inputs_, on_deck);
     desktop->clear();
     deck.after_frame = [&] { after_frame(); };
-    deck.on_pause = [&] { identifications_.silence(); };
+    deck.on_pause = [&] { fall_silent(); };
     deck.on_speed = [&](bool as_life) { move_audio(as_life ? audio_ : PLATFORM_AUDIO_RENDERED); };
     for (const std::string& note : notes_) tell(note);
+    if (silent_) tell("no device answers; the cockpit is silent", "Sound");
     keep_journal();
     deck.ask_to_leave = !journal_;
     if (inputs_.holding()) inputs_.take(input::Release{});  // nobody holds the button any more
     if (!options_.state.empty()) press_on_start_page(on_deck.desk);
-    if (!options_.watch.empty()) deck.watch(find_flow(options_.watch));
+    if (!options_.watch.empty()) deck.watch(options_.watch);
     const auto next = deck.fly();
     journal_.reset();
     desktop->keep_windows();
@@ -128,19 +134,28 @@ class Session {
     if (options_.mute || platform_has_audio()) return;
     audio_ = PLATFORM_AUDIO_RENDERED;
     platform_choose_audio(audio_);
-    notes_.emplace_back("No sound device answers: the cockpit is silent");
+    silent_ = true;
   }
 
   // A flight that runs faster than life is silent, and its sounds run with it.
   void move_audio(PlatformAudio audio) {
-    identifications_.silence();
+    fall_silent();
     if (audio != audio_now_) platform_move_audio(audio);
     audio_now_ = audio;
   }
 
+  // What would go on sounding by itself.
+  void fall_silent() {
+    identifications_.silence();
+    ambience_.pause(noise_);
+  }
+
   void after_frame() {
-    identifications_.update(cockpit_.aircraft().identifications_heard(), cockpit_.seconds());
-    if (audio_now_ == PLATFORM_AUDIO_RENDERED) unheard_.advance(1.0 / cockpit_.rate());
+    const AircraftModel& aircraft = cockpit_.aircraft();
+    identifications_.update(aircraft.identifications_heard(), cockpit_.seconds());
+    noise_.hear(aircraft.sound_sources(), 1.0 / cockpit_.rate());
+    if (audio_now_ == PLATFORM_AUDIO_RENDERED) return unheard_.advance(1.0 / cockpit_.rate());
+    ambience_.keep_up(noise_, cockpit_.seconds());
   }
 
   void begin(const Desk& desk) {
@@ -154,7 +169,7 @@ class Session {
   // As a person would, who then opens what had been open.
   void press_on_start_page(const Desk& desk) {
     const auto button = target_of(cockpit_, "Intro", "captain_" + options_.state);
-    if (!button) return tell("The panel has no start page that begins a flight " + options_.state);
+    if (!button) return tell("the panel has no button for the state " + options_.state, "Start page");
     inputs_.frame();
     inputs_.take(input::Press{button->gauge->header().name, button->box.middle(), input::Button::left});
     inputs_.frame();
@@ -227,6 +242,9 @@ class Session {
   PlatformAudio audio_now_ = PLATFORM_AUDIO_DEVICE;
   WavRecorder unheard_;
   Identifications identifications_;
+  CockpitNoise noise_{options_.ambience / 100};
+  AmbienceStream ambience_;
+  bool silent_ = false;  ///< against the person's wish
   bool whole_ = true;
 };
 

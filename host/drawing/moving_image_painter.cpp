@@ -104,16 +104,16 @@ class MovingImagePainter final : public ElementPainter {
 
 // The mask's size, or the image's width and a tenth of its height.
 PanelSize window_size(const Element& element, const Pictures& pictures) {
-  const PanelSize mask = pictures.size(element.moving_image.mask_resource_id, BitmapUse::image);
+  const PanelSize mask = pictures.size(element.moving_image.mask_resource_id);
   if (mask.width > 0) return mask;
-  const PanelSize strip = pictures.size(element.resource_id, BitmapUse::image);
+  const PanelSize strip = pictures.size(element.resource_id);
   return {strip.width, std::max(1, strip.height / 10)};
 }
 
 // A mask without a hole.
 bool hidden_by_mask(const Element& element, const Rect& window, Pictures& pictures) {
   const i32 mask = element.moving_image.mask_resource_id;
-  return pictures.size(mask, BitmapUse::image).width > 0 &&
+  return pictures.size(mask).width > 0 &&
          pictures.at_size(mask, BitmapUse::image, window.width, window.height) == nullptr;
 }
 

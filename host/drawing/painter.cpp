@@ -4,6 +4,7 @@
 
 #include "host/drawing/dirty_area.h"
 #include "host/drawing/element_painter.h"
+#include "host/drawing/lights.h"
 #include "host/loader/element_chain.h"
 
 namespace host {
@@ -39,7 +40,7 @@ struct GaugePainter::Layers {
   };
 
   Layers(const GaugeHeader& gauge, const BitmapStore& bitmaps, Rect where);
-  void add_items(const std::vector<ChainLink>& chain);
+  void add_items(const GaugeHeader& gauge);
   void compare(std::span<const ElementState> before, std::span<const ElementState> now, double blend);
   void take_look(std::size_t place_in_order, const Look& look);
   bool covered_by_face(const Rect& part) const;
@@ -67,16 +68,19 @@ GaugePainter::Layers::Layers(const GaugeHeader& gauge, const BitmapStore& bitmap
       whole{0, 0, where.width, where.height},
       pictures(bitmaps, scale_to(where, gauge_size(gauge, bitmaps))) {
   if (is_empty(place)) return;
-  add_items(element_chain(gauge));
+  add_items(gauge);
   base.assign(std::size_t(place.width) * place.height, black);
 }
 
-void GaugePainter::Layers::add_items(const std::vector<ChainLink>& chain) {
+void GaugePainter::Layers::add_items(const GaugeHeader& gauge) {
+  const std::vector<ChainLink> chain = element_chain(gauge);
   open_face = has_openings(chain);
+  const std::vector<Light> at_night = lights_at_night(gauge, chain, pictures);
   for (std::size_t i = 0; i < chain.size(); ++i) {
     const Element& element = *chain[i].element;
     const BitmapUse use = i == 0 && open_face ? BitmapUse::image : BitmapUse::background;
-    items.push_back({i, &element, make_element_painter(element, pictures, use), whole, {}, {}});
+    items.push_back(
+        {i, &element, make_element_painter(element, pictures, use, at_night[i]), whole, {}, {}});
   }
   if (!open_face) return;
   const Rect openings = intersection(pictures.openings(*chain.front().element), whole);
@@ -188,10 +192,7 @@ void GaugePainter::invalidate() { layers_->canvas_valid = false; }
 PanelSize gauge_size(const GaugeHeader& gauge, const BitmapStore& bitmaps) {
   const Element* root = gauge.element_list[0];
   if (root == nullptr || root->resource_id < 0) return {0, 0};
-  const Bitmap* background =
-      bitmaps.find(static_cast<std::uint32_t>(root->resource_id), BitmapUse::background);
-  if (background == nullptr) return {0, 0};
-  return {background->width, background->height};
+  return bitmaps.size(static_cast<std::uint32_t>(root->resource_id));
 }
 
 }  // namespace host

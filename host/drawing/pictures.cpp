@@ -39,6 +39,17 @@ PixelView part_of(const Bitmap& bitmap, const Rect& part) {
           bitmap.width};
 }
 
+// Most of a needle's picture is clear.
+Bitmap cut_out(Bitmap bitmap, const Rect& part) {
+  if (part.width == bitmap.width && part.height == bitmap.height) return bitmap;
+  Bitmap cut{part.width, part.height, bitmap.opaque, bitmap.empty, {}};
+  for (int y = 0; y < part.height; ++y) {
+    const std::uint32_t* row = bitmap.pixels.data() + std::size_t(part.y + y) * bitmap.width + part.x;
+    cut.pixels.insert(cut.pixels.end(), row, row + part.width);
+  }
+  return cut;
+}
+
 Bitmap with_clear_edges(const PixelView& source) {
   Bitmap padded{source.width + 2, source.height + 2, false, false, {}};
   padded.pixels.resize(std::size_t(padded.width) * padded.height);
@@ -60,45 +71,47 @@ Rect scaled_place(PanelPoint position, PanelSize size, Scale scale) {
   return {left, top, std::max(1, right - left), std::max(1, bottom - top)};
 }
 
-PanelSize Pictures::size(std::int64_t id, BitmapUse use) const {
-  const Bitmap* bitmap = id < 0 ? nullptr : bitmaps_.find(static_cast<std::uint32_t>(id), use);
-  if (bitmap == nullptr) return {0, 0};
-  return {bitmap->width, bitmap->height};
+PanelSize Pictures::size(std::int64_t id) const {
+  return id < 0 ? PanelSize{0, 0} : bitmaps_.size(static_cast<std::uint32_t>(id));
 }
 
-// The smallest that need not be enlarged, else the largest there is.
-const Bitmap* Pictures::best(std::uint32_t id, BitmapUse use, double needed) const {
-  const Bitmap* found = nullptr;
+// The smallest that need not be enlarged, else the largest there is; a coarser one where its file has gone.
+std::shared_ptr<const Bitmap> Pictures::best(std::uint32_t id, BitmapUse use, double needed) const {
+  std::vector<int> candidates;
   for (const int density : bitmaps_.densities()) {
-    if (const Bitmap* bitmap = bitmaps_.find(id, use, density)) found = bitmap;
-    if (found != nullptr && density >= needed - 0.01) break;
+    if (bitmaps_.has(id, density)) candidates.push_back(density);
+    if (!candidates.empty() && density >= needed - 0.01) break;
   }
-  return found;
+  for (; !candidates.empty(); candidates.pop_back())
+    if (auto found = bitmaps_.find(id, use, candidates.back())) return found;
+  return nullptr;
 }
 
-const Bitmap& Pictures::whole(const Key& key, const Bitmap& source) {
+Picture Pictures::made(const Key& key) const {
   const auto [id, use, width, height, light] = key;
-  const bool own_size = source.width == width && source.height == height;
-  if (own_size && light == Light::day) return source;
-  const auto kept = resampled_.find(key);
-  if (kept != resampled_.end()) return kept->second;
-  Bitmap bitmap = own_size ? source : resampled(source, width, height);
-  if (light == Light::night) dim(bitmap);
-  return resampled_.emplace(key, std::move(bitmap)).first->second;
+  const PanelSize own = size(id);
+  const double needed = std::max(1.0 * width / own.width, 1.0 * height / own.height);
+  std::shared_ptr<const Bitmap> bitmap = best(id, use, needed);
+  if (!bitmap) return {};
+  const bool own_size = bitmap->width == width && bitmap->height == height;
+  if (own_size && light == Light::day) {
+    const Rect visible = visible_part(*bitmap);
+    return {visible, bitmap->opaque, part_of(*bitmap, visible), bitmap};
+  }
+  Bitmap changed = own_size ? *bitmap : resampled(*bitmap, width, height);
+  if (light != Light::day) dim(changed, light == Light::night ? by_night : part_by_night);
+  const Rect visible = visible_part(changed);
+  const auto kept = std::make_shared<const Bitmap>(cut_out(std::move(changed), visible));
+  return {visible, kept->opaque, part_of(*kept, {0, 0, visible.width, visible.height}), kept};
 }
 
 const Picture* Pictures::at_size(std::int64_t id, BitmapUse use, int width, int height, Light light) {
-  const PanelSize own = size(id, use);
+  const PanelSize own = size(id);
   if (own.width <= 0 || own.height <= 0) return nullptr;
   const Key key{static_cast<std::uint32_t>(id), use, std::clamp(width, 1, greatest_side),
                 std::clamp(height, 1, greatest_side), light};
   auto kept = pictures_.find(key);
-  if (kept == pictures_.end()) {
-    const double needed = std::max(1.0 * width / own.width, 1.0 * height / own.height);
-    const Bitmap& bitmap = whole(key, *best(std::get<0>(key), use, needed));
-    const Rect visible = visible_part(bitmap);
-    kept = pictures_.emplace(key, Picture{visible, bitmap.opaque, part_of(bitmap, visible)}).first;
-  }
+  if (kept == pictures_.end()) kept = pictures_.emplace(key, made(key)).first;
   return is_empty(kept->second.visible) ? nullptr : &kept->second;
 }
 
@@ -106,7 +119,7 @@ Rect Pictures::openings(const Element& face) {
   constexpr int everywhere = static_cast<int>(farthest);
   const Rect unlimited{-everywhere, -everywhere, 2 * everywhere, 2 * everywhere};
   if (face.kind != ELEMENT_STATIC_IMAGE) return unlimited;
-  const Rect place = scaled_place(face.position, size(face.resource_id, BitmapUse::image), scale_);
+  const Rect place = scaled_place(face.position, size(face.resource_id), scale_);
   const Picture* picture = at_size(face.resource_id, BitmapUse::image, place.width, place.height);
   if (picture == nullptr || picture->visible != Rect{0, 0, place.width, place.height}) return unlimited;
   Rect openings;
@@ -122,16 +135,19 @@ Rect Pictures::openings(const Element& face) {
 }
 
 const TurningPicture* Pictures::turning(std::int64_t id) {
-  const PanelSize own = size(id, BitmapUse::image);
-  const Rect place = scaled_place({0, 0}, own, scale_);
-  const Picture* picture = at_size(id, BitmapUse::image, place.width, place.height);
-  if (picture == nullptr) return nullptr;
+  const PanelSize own = size(id);
+  if (own.width <= 0 || own.height <= 0) return nullptr;
   const auto kept = turning_.find(static_cast<std::uint32_t>(id));
   if (kept != turning_.end()) return &kept->second;
-  const Affine to_whole = shifted_by(picture->visible.x - 1, picture->visible.y - 1);
+  const Rect place = scaled_place({0, 0}, own, scale_);
+  const Picture picture =
+      made({static_cast<std::uint32_t>(id), BitmapUse::image, std::min(place.width, greatest_side),
+            std::min(place.height, greatest_side), Light::day});
+  if (is_empty(picture.visible)) return nullptr;
+  const Affine to_whole = shifted_by(picture.visible.x - 1, picture.visible.y - 1);
   const Affine to_image = scaled_by(1.0 * own.width / place.width, 1.0 * own.height / place.height);
   return &turning_
-              .emplace(static_cast<std::uint32_t>(id), TurningPicture{with_clear_edges(picture->pixels),
+              .emplace(static_cast<std::uint32_t>(id), TurningPicture{with_clear_edges(picture.pixels),
                                                                       {place.width, place.height},
                                                                       to_whole,
                                                                       to_image * to_whole})

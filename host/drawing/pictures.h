@@ -2,6 +2,7 @@
 #pragma once
 
 #include <map>
+#include <memory>
 #include <tuple>
 
 #include "host/drawing/affine.h"
@@ -17,14 +18,18 @@ struct Scale {
 };
 
 /// Under what light a picture is seen. At night the paint recedes and the panel lighting shines
-/// through the legends; parts that shine by themselves are always seen by day.
-enum class Light { day, night };
+/// through the legends; parts that shine by themselves are always seen by day. Among parts is what stands on
+/// a plate whose lit copy says that all of it shines: levers and guards are as dark as the plate, and
+/// only what is bright on them, a lens or a word, shines.
+enum class Light { day, night, among_parts };
+inline constexpr std::size_t kinds_of_light = 3;
 
 /// A picture at its final size, without the clear pixels around it.
 struct Picture {
   Rect visible;  ///< what is left, in pixels of the whole picture
   bool opaque = false;
-  PixelView pixels;  ///< of the visible part
+  PixelView pixels;                      ///< of the visible part
+  std::shared_ptr<const Bitmap> bitmap;  ///< that they belong to
 };
 
 /// The visible part of a picture with a clear edge around it, ready to be turned or shifted by
@@ -53,7 +58,7 @@ class Pictures {
   Scale scale() const { return scale_; }
 
   /// The module's own size of a bitmap; {0, 0} if there is none.
-  PanelSize size(std::int64_t id, BitmapUse use) const;
+  PanelSize size(std::int64_t id) const;
 
   /// The bitmap at the size of `width` x `height` canvas pixels; null if there is none or if
   /// nothing of it can be seen. Stays valid as long as the pictures.
@@ -70,12 +75,11 @@ class Pictures {
  private:
   using Key = std::tuple<std::uint32_t, BitmapUse, int, int, Light>;
 
-  const Bitmap* best(std::uint32_t id, BitmapUse use, double needed) const;
-  const Bitmap& whole(const Key& key, const Bitmap& source);
+  std::shared_ptr<const Bitmap> best(std::uint32_t id, BitmapUse use, double needed) const;
+  Picture made(const Key& key) const;
 
   const BitmapStore& bitmaps_;
   Scale scale_;
-  std::map<Key, Bitmap> resampled_;
   std::map<Key, Picture> pictures_;
   std::map<std::uint32_t, TurningPicture> turning_;
 };

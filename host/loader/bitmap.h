@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+#include "interface/panel_interface.h"
+
 namespace host {
 
 /// A picture in memory: premultiplied ARGB32 in native byte order, top row first, no row padding.
@@ -30,9 +32,16 @@ class BitmapStore {
  public:
   virtual ~BitmapStore() = default;
 
-  /// The bitmap `id` at `density` times the module's own pixels (1, 2 or 3); null if there is none.
-  /// The pointer stays valid as long as the store.
-  virtual const Bitmap* find(std::uint32_t id, BitmapUse use, int density = 1) const = 0;
+  /// The module's own size of the bitmap `id`; {0, 0} if there is none.
+  virtual PanelSize size(std::uint32_t id) const = 0;
+
+  /// Whether there is one at `density` times the module's own pixels (1, 2 or 3).
+  virtual bool has(std::uint32_t id, int density) const = 0;
+
+  /// That one; null if there is none. It is made anew when nobody holds it any more: a cockpit has far more
+  /// pixels than a screen.
+  virtual std::shared_ptr<const Bitmap> find(std::uint32_t id, BitmapUse use,
+                                             int density = 1) const = 0;
 
   /// The densities that are loaded, ascending; the first is always 1.
   virtual std::vector<int> densities() const = 0;

@@ -54,6 +54,10 @@ std::optional<std::vector<std::byte>> MappedFile::copy(std::span<const std::byte
   return bytes;
 }
 
+void MappedFile::forget() const {
+  if (!bytes_.empty()) ::madvise(const_cast<std::byte*>(bytes_.data()), bytes_.size(), MADV_DONTNEED);
+}
+
 std::string MappedFile::fault(const std::error_code& error) {
   if (error.value() == EINVAL) return "is no regular file";
   if (error.value() == EFBIG) return "is larger than " + std::to_string(largest >> 20) + " MiB";

@@ -26,6 +26,9 @@ class MappedFile {
   /// does not have it any more.
   std::optional<std::vector<std::byte>> copy(std::span<const std::byte> part) const;
 
+  /// Gives back the memory of what has been looked at; a further look reads it again.
+  void forget() const;
+
   /// What a failure to map a file means, without the file's name.
   static std::string fault(const std::error_code& error);
 

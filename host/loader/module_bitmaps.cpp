@@ -23,6 +23,7 @@ void ModuleBitmaps::add_dense(int density, const std::filesystem::path& file) {
     ResourceSection section(mapped.bytes());
     sets_.push_back({density, std::move(mapped), std::move(section), {}});
     const std::vector<std::string> faults = faults_of(sets_.back());
+    sets_.back().file->forget();
     if (faults.empty()) return;
     const std::string more =
         faults.size() == 1 ? "" : ", and " + std::to_string(faults.size() - 1) + " more";
@@ -63,17 +64,28 @@ const Dib* ModuleBitmaps::dib(const DensitySet& set, std::uint32_t id) const {
   return fits ? found : nullptr;
 }
 
-const Bitmap* ModuleBitmaps::find(std::uint32_t id, BitmapUse use, int density) const {
+PanelSize ModuleBitmaps::size(std::uint32_t id) const {
+  const Dib* found = own(id);
+  return found ? PanelSize{found->width, found->height} : PanelSize{0, 0};
+}
+
+bool ModuleBitmaps::has(std::uint32_t id, int density) const {
   const DensitySet* set = set_of(density);
-  if (set == nullptr) return nullptr;
-  const auto kept = set->pictures.find({id, use});
-  if (kept != set->pictures.end()) return &kept->second;
-  const Dib* source = dib(*set, id);
+  return set != nullptr && dib(*set, id) != nullptr;
+}
+
+std::shared_ptr<const Bitmap> ModuleBitmaps::find(std::uint32_t id, BitmapUse use, int density) const {
+  const DensitySet* set = set_of(density);
+  const Dib* source = set == nullptr ? nullptr : dib(*set, id);
   if (source == nullptr) return nullptr;
+  std::weak_ptr<const Bitmap>& known = set->pictures[{id, use}];
+  if (auto held = known.lock()) return held;
   std::optional<Bitmap> bitmap =
       set->file ? decode_from(*set->file, *source, use) : decode(*source, use);
-  return bitmap ? &set->pictures.emplace(std::pair{id, use}, *std::move(bitmap)).first->second
-                : nullptr;
+  if (!bitmap) return nullptr;
+  auto made = std::make_shared<const Bitmap>(*std::move(bitmap));
+  known = made;
+  return made;
 }
 
 // A file that has been cut short since it was opened has no pages where it was mapped: whoever touches them is

@@ -19,8 +19,9 @@ class ModuleBitmaps final : public BitmapStore {
   ModuleBitmaps(Bytes own_section, const std::filesystem::path& module)
       : ModuleBitmaps(listed_bitmaps(own_section), module) {}
 
-  /// Bitmaps are converted when they are first asked for, and kept.
-  const Bitmap* find(std::uint32_t id, BitmapUse use, int density = 1) const override;
+  PanelSize size(std::uint32_t id) const override;
+  bool has(std::uint32_t id, int density) const override;
+  std::shared_ptr<const Bitmap> find(std::uint32_t id, BitmapUse use, int density = 1) const override;
 
   std::vector<int> densities() const override;
 
@@ -42,7 +43,7 @@ class ModuleBitmaps final : public BitmapStore {
     int density;
     std::optional<MappedFile> file;  // none for the module's own
     ResourceSection section;
-    mutable std::map<std::pair<std::uint32_t, BitmapUse>, Bitmap> pictures;
+    mutable std::map<std::pair<std::uint32_t, BitmapUse>, std::weak_ptr<const Bitmap>> pictures;
   };
 
   static std::optional<Bitmap> decode_from(const MappedFile& file, const Dib& source, BitmapUse use);

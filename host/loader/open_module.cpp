@@ -43,6 +43,7 @@ void OpenModule::open() {
     (this->*step)();
     if (has_errors(findings_)) return;
   }
+  mapped_->forget();
 }
 
 void OpenModule::read_file() {

@@ -89,17 +89,21 @@ class Land {
  public:
   std::vector<std::uint32_t> painted() {
     std::vector<std::uint32_t> texels(std::size_t(side) * side);
-    for (unsigned y = 0; y < side; ++y)
-      for (unsigned x = 0; x < side; ++x) texels[y * side + x] = at(x, y);
+    for (unsigned y = 0; y < side; ++y) {
+      const auto course = course_.row_between(y / 4.0, side, 4),
+                 low = low_.row_between(y / 4.0, side, 4);
+      const auto woods = trees_.row_between(y / 4.0, side, 4);
+      for (unsigned x = 0; x < side; ++x) texels[y * side + x] = at(x, y, course[x], low[x], woods[x]);
+    }
     for (const Village& village : villages()) build(texels, village);
     return texels;
   }
 
  private:
-  std::uint32_t at(unsigned x, unsigned y) const {
-    const double river = std::abs(course_.between(x / 4.0, y / 4.0) - 0.5);
-    if (river < 0.0035 || low_.between(x / 4.0, y / 4.0) < 0.205) return water;
-    const double trees = trees_.between(x / 4.0, y / 4.0) + 0.05 * (scattered(x, y, 8) - 0.5);
+  std::uint32_t at(unsigned x, unsigned y, double course, double low, double woods) const {
+    const double river = std::abs(course - 0.5);
+    if (river < 0.0035 || low < 0.205) return water;
+    const double trees = woods + 0.05 * (scattered(x, y, 8) - 0.5);
     if (trees > 0.60 || river < 0.0065) return shaded(wood, 0.84 + 0.36 * scattered(x / 2, y / 2, 9));
     const std::uint16_t mark =
         fields_.at(x + slow_bend_[y] + fast_bend_[x], y + slow_bend_[x] + fast_bend_[y]);

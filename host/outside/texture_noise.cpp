@@ -7,14 +7,43 @@ namespace {
 
 double eased(double t) { return t * t * (3.0 - 2.0 * t); }
 
-double lattice(double x, double y, unsigned cells, std::uint32_t seed) {
-  const double column = std::floor(x), row = std::floor(y);
-  const auto left = static_cast<unsigned>(column) % cells, top = static_cast<unsigned>(row) % cells;
-  const unsigned right = (left + 1) % cells, bottom = (top + 1) % cells;
-  const double tx = eased(x - column), ty = eased(y - row);
-  const auto mix = [](double a, double b, double t) { return a + (b - a) * t; };
-  return mix(mix(scattered(left, top, seed), scattered(right, top, seed), tx),
-             mix(scattered(left, bottom, seed), scattered(right, bottom, seed), tx), ty);
+double mix(double a, double b, double t) { return a + (b - a) * t; }
+
+// Where a value lies among the bumps of an octave.
+struct Between {
+  unsigned low, high;
+  double part;
+};
+
+std::vector<Between> places(unsigned side, unsigned cells) {
+  const double step = static_cast<double>(cells) / side;
+  std::vector<Between> all(side);
+  for (unsigned i = 0; i < side; ++i) {
+    const double at = i * step, floor = std::floor(at);
+    const unsigned low = static_cast<unsigned>(floor) % cells;
+    all[i] = {low, (low + 1) % cells, eased(at - floor)};
+  }
+  return all;
+}
+
+// One octave, row by row: the heights of a row's bumps are the same all along it.
+void add_octave(std::vector<float>& values, unsigned side, unsigned cells, double weight,
+                std::uint32_t seed) {
+  const std::vector<Between> along = places(side, cells);
+  std::vector<double> top(cells), bottom(cells);
+  for (unsigned y = 0; y < side; ++y) {
+    const Between& down = along[y];
+    for (unsigned i = 0; i < cells; ++i) {
+      top[i] = scattered(i, down.low, seed);
+      bottom[i] = scattered(i, down.high, seed);
+    }
+    float* row = &values[std::size_t(y) * side];
+    for (unsigned x = 0; x < side; ++x) {
+      const auto& [left, right, part] = along[x];
+      row[x] += static_cast<float>(weight * mix(mix(top[left], top[right], part),
+                                                mix(bottom[left], bottom[right], part), down.part));
+    }
+  }
 }
 
 }  // namespace
@@ -24,23 +53,23 @@ SoftNoise::SoftNoise(unsigned bits, unsigned cells, int octaves, double fade, st
   double total = 0.0, weight = 1.0;
   for (int octave = 0; octave < octaves; ++octave, weight *= fade, cells *= 2) {
     total += weight;
-    const double step = static_cast<double>(cells) / (mask_ + 1.0);
-    for (unsigned y = 0; y <= mask_; ++y)
-      for (unsigned x = 0; x <= mask_; ++x)
-        values_[y << bits_ | x] += static_cast<float>(
-            weight * lattice(x * step, y * step, cells, seed + static_cast<std::uint32_t>(octave)));
+    add_octave(values_, mask_ + 1, cells, weight, seed + static_cast<std::uint32_t>(octave));
   }
   for (float& value : values_) value /= static_cast<float>(total);
 }
 
-double SoftNoise::between(double x, double y) const {
-  const double column = std::floor(x), row = std::floor(y);
-  const auto left = static_cast<unsigned>(static_cast<long>(column));
+std::vector<double> SoftNoise::row_between(double y, unsigned count, unsigned steps) const {
+  const double row = std::floor(y), ty = y - row;
   const auto top = static_cast<unsigned>(static_cast<long>(row));
-  const double tx = x - column, ty = y - row;
-  const auto mix = [](double a, double b, double t) { return a + (b - a) * t; };
-  return mix(mix(at(left, top), at(left + 1, top), tx),
-             mix(at(left, top + 1), at(left + 1, top + 1), tx), ty);
+  const float* above = &values_[std::size_t(top & mask_) << bits_];
+  const float* below = &values_[std::size_t((top + 1) & mask_) << bits_];
+  std::vector<double> values(count);
+  for (unsigned x = 0; x < count; ++x) {
+    const unsigned left = x / steps & mask_, right = (left + 1) & mask_;
+    const double tx = static_cast<double>(x % steps) / steps;
+    values[x] = mix(mix(above[left], above[right], tx), mix(below[left], below[right], tx), ty);
+  }
+  return values;
 }
 
 }  // namespace host::outside

@@ -29,13 +29,16 @@ FlightDeck::FlightDeck(CockpitInputs& inputs, const DeckOptions& options)
       cockpit_(inputs.cockpit()),
       options_(options),
       settings_(options.desk.settings),
-      scale_(options.scale ? *options.scale : settings_.scale ? *settings_.scale : Desktop::scale()),
+      scale_(options.scale     ? *options.scale
+             : settings_.scale ? *settings_.scale
+                               : Desktop::scale()),
       views_(cockpit_, scale_, options.zoom ? std::optional(*options.zoom * scale_) : std::nullopt,
              options.desk),
       notices_(views_.main()),
       pictures_(options.pictures.empty() ? pictures_folder() : options.pictures, wake),
       hand_(inputs_, views_, scale_),
-      lists_(options.checklists.empty() ? std::vector<Checklist>{} : read_checklists(options.checklists)),
+      lists_(options.checklists.empty() ? std::vector<Checklist>{}
+                                        : read_checklists(options.checklists)),
       pages_(inputs_, lists_, options.checklists) {
   if (!options.controls.empty()) {
     controls_ = read_control_map(options.controls);
@@ -133,6 +136,7 @@ void FlightDeck::run_frame() {
 void FlightDeck::run_frames() {
   const double begun = now(), period = 1.0 / (cockpit_.rate() * speed_);
   if (paused_) return;
+  if (flow_ && begun >= rest_due_) rest_the_eye();
   if (begun - frame_due_ > most_late_frames / cockpit_.rate()) frame_due_ = begun;
   for (; now() >= frame_due_ && now() - begun < most_work; frame_due_ += period) {
     if (flow_ && !let_flow_work()) return;
@@ -148,7 +152,8 @@ void FlightDeck::refresh() {
   const double time = now();
   const bool moving = views_.moving() && !paused_;
   if (moving && time < picture_due_) return;
-  const double blend = moving ? std::clamp((time - last_frame_) * cockpit_.rate() * speed_, 0.0, 1.0) : 1.0;
+  const double blend =
+      moving ? std::clamp((time - last_frame_) * cockpit_.rate() * speed_, 0.0, 1.0) : 1.0;
   turn_head(time - std::exchange(looked_, time));
   const auto sight = paused_ ? std::nullopt : std::optional(sight_at(time));
   views_.each([&](View& view) { view.refresh(blend, sight); });
@@ -182,7 +187,8 @@ void FlightDeck::wait_for_event() {
 void FlightDeck::take(const SDL_Event& event) {
   if (sticks_) sticks_->take(event);
   if (take_menu_mouse(event) || take_yoke(event)) return;
-  if (event.type == SDL_MOUSEBUTTONDOWN && (take_menu_ask(event.button) || take_strip_press(event.button)))
+  if (event.type == SDL_MOUSEBUTTONDOWN &&
+      (take_menu_ask(event.button) || take_strip_press(event.button)))
     return;
   if (take_page_event(event)) return;
   if (event.type == SDL_MOUSEBUTTONDOWN && refuses_press(event.button)) return;
@@ -215,8 +221,7 @@ void FlightDeck::take_window(const SDL_WindowEvent& event) {
     view->invalidate();
   } else if (event.event == SDL_WINDOWEVENT_CLOSE) {
     if (const auto torn = views_.torn_window(event.windowID)) {
-      if (!flow_has_control())
-        inputs_.take(input::CloseWindow{cockpit_.config().windows[*torn].ident});
+      if (!flow_has_control()) inputs_.take(input::CloseWindow{cockpit_.config().windows[*torn].ident});
     } else {
       leave();
     }

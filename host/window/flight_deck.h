@@ -125,6 +125,7 @@ class FlightDeck {
   // ---- A flow that is watched (flow_hand.cpp) ---------------------------------------------------
   bool let_flow_work();
   bool show_to_the_eye(const Spot& spot);
+  void rest_the_eye();
   void point_at_target();
   void end_flow();
   void take_over();
@@ -180,11 +181,13 @@ class FlightDeck {
   std::optional<std::size_t> menu_window_;  ///< the panel that it was asked for on
   bool menu_old_ = false;
   bool menu_shown_ = false;
-  std::vector<std::pair<std::filesystem::path, std::string>> flows_;  ///< that the menu offers; in words
+  std::vector<std::pair<std::filesystem::path, std::string>>
+      flows_;  ///< that the menu offers; in words
   std::unique_ptr<WatchedFlow> flow_;
   std::string flow_name_, stage_;
   std::optional<Target> flow_target_;  ///< what the flow works
-  int speed_ = 1;                      ///< times real time
+  double rest_due_ = Pointer::never;
+  int speed_ = 1;  ///< times real time
   StripBar strip_;
   bool strip_old_ = true;
   std::optional<NextFlight> next_;

@@ -7,6 +7,7 @@ namespace host {
 namespace {
 
 constexpr double eye_s = 0.7;  // for the eye to find a control before a flow works it
+constexpr double rest_s = 4;   // after its last work, until the eye goes back to the captain's panel
 constexpr int most_speed = 16;
 constexpr double bar_share = 0.6;  // of the strip's width, for a flow that says much
 
@@ -57,7 +58,17 @@ bool FlightDeck::show_to_the_eye(const Spot& spot) {
   const bool known = flow_target_ && flow_target_->gauge == gauge && flow_target_->box == target.box;
   flow_target_ = target;
   point_at_target();
+  rest_due_ = now() + rest_s;
   return !known;
+}
+
+// Between two works one looks where a pilot looks.
+void FlightDeck::rest_the_eye() {
+  rest_due_ = Pointer::never;
+  flow_target_.reset();
+  point_at_target();
+  const auto captain = cockpit_.panels().find(captains_panel);
+  if (captain && views_.waits(*captain)) views_.bring(*captain, false);
 }
 
 void FlightDeck::point_at_target() {

@@ -51,7 +51,7 @@ struct DrawnMenu {
 };
 
 /// Of a row's width: where the bar of a level stands, and where its minus and its plus meet.
-inline constexpr double menu_bar_left = 0.38, menu_bar_right = 0.74, menu_steps_middle = 0.82;
+inline constexpr double menu_bar_left = 0.38, menu_bar_right = 0.74, menu_steps_middle = 0.79;
 
 /// Smaller than `scale` where it would not fit the room.
 DrawnMenu draw_menu(const MenuSheet& sheet, std::optional<std::size_t> selected, PanelSize room,

@@ -21,7 +21,7 @@ class MadeBitmaps : public BitmapStore {
       for (int x = 0; x < bitmap.width; ++x) bitmap.pixels.push_back(pixel(x, y));
     bitmap.opaque = std::ranges::all_of(bitmap.pixels, [](auto p) { return p >> 24 == 255; });
     bitmap.empty = std::ranges::all_of(bitmap.pixels, [](auto p) { return p >> 24 == 0; });
-    bitmaps_[{id, density}] = std::move(bitmap);
+    bitmaps_[{id, density}] = std::make_shared<const Bitmap>(std::move(bitmap));
     if (std::ranges::find(densities_, density) == densities_.end()) densities_.push_back(density);
     std::ranges::sort(densities_);
   }
@@ -31,15 +31,22 @@ class MadeBitmaps : public BitmapStore {
         id, width, height, [colour](int, int) { return colour; }, density);
   }
 
-  const Bitmap* find(std::uint32_t id, BitmapUse, int density = 1) const override {
+  PanelSize size(std::uint32_t id) const override {
+    const auto found = find(id, BitmapUse::image);
+    return found ? PanelSize{found->width, found->height} : PanelSize{0, 0};
+  }
+
+  bool has(std::uint32_t id, int density) const override { return bitmaps_.contains({id, density}); }
+
+  std::shared_ptr<const Bitmap> find(std::uint32_t id, BitmapUse, int density = 1) const override {
     const auto found = bitmaps_.find({id, density});
-    return found == bitmaps_.end() ? nullptr : &found->second;
+    return found == bitmaps_.end() ? nullptr : found->second;
   }
 
   std::vector<int> densities() const override { return densities_; }
 
  private:
-  std::map<std::pair<std::uint32_t, int>, Bitmap> bitmaps_;
+  std::map<std::pair<std::uint32_t, int>, std::shared_ptr<const Bitmap>> bitmaps_;
   std::vector<int> densities_{1};
 };
 

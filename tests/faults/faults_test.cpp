@@ -125,7 +125,7 @@ TEST_F(Faults, TwoHundredMebibytesAreEnoughOrToldToBeTooFew) {
     std::string arguments;
     const char* said;
   } cases[] = {
-      {"ulimit -d 204800; ", "show 500 --zoom 6 --png " + (folder / "large.png"),
+      {"ulimit -d 204800; ", "show 500 --zoom 8 --png " + (folder / "large.png"),
        "tarnvale: there is not enough memory\n"},
       {"ulimit -v 204800; ", run,
        "tarnvale: only 200 MiB of memory may be used here (ulimit -v); it takes 256\n"},

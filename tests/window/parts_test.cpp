@@ -4,6 +4,8 @@
 #include "host/window/compose.h"
 #include "host/window/desk.h"
 #include "host/window/height_above.h"
+#include "host/window/menu.h"
+#include "host/window/strip_bar.h"
 #include "host/window/ui_pictures.h"
 #include "host/window/x11_desktop.h"
 #include "tests/app/program.h"
@@ -90,16 +92,105 @@ TEST(Desk, IsReadAsItWasWrittenAndBadLinesAreTold) {
   const struct {
     const char* line;
     const char* wrong;
-  } cases[] = {{"place = 1,2,3", "needs 4 numbers"},   {"place = 0,0,9,900", "a window is 100 to 16384"},
-               {"zoom = nan", "expected a zoom"}, {"zoom = 1e99", "expected a zoom"},
-               {"full_screen = yes", "'yes'"},    {"torn = 1", "there is no entry 'torn' here"},
-               {"zoom", "expected name = value"}, {"[0]", "0 is outside"},
-               {"[50000000000]", "50000000000"}, {"[settings]\nvolume = 101", "101"},
+  } cases[] = {{"place = 1,2,3", "needs 4 numbers"},
+               {"place = 0,0,9,900", "a window is 100 to 16384"},
+               {"zoom = nan", "expected a zoom"},
+               {"zoom = 1e99", "expected a zoom"},
+               {"full_screen = yes", "'yes'"},
+               {"torn = 1", "there is no entry 'torn' here"},
+               {"zoom", "expected name = value"},
+               {"[0]", "0 is outside"},
+               {"[50000000000]", "50000000000"},
+               {"[settings]\nvolume = 101", "101"},
                {"[settings]\nscale = 0", "expected a scale"}};
   for (const auto& each : cases) {
     std::string told;
     EXPECT_EQ(parse_desk("[window]\n" + std::string(each.line), "w.cfg", told), Desk{}) << each.line;
     EXPECT_TRUE(told.starts_with("w.cfg:") && told.find(each.wrong) != std::string::npos) << told;
+  }
+}
+
+// A card with a row of each kind, and one behind it.
+class MenuOfAllKinds : public testing::Test {
+ protected:
+  MenuSheet build(MenuPage page) {
+    if (page == MenuPage::flows) return {"Behind", {{.words = "Deep"}, {.words = "Deeper"}}};
+    MenuRow act{.words = "Act"}, leads{.words = "Leads", .kind = MenuRow::Kind::page},
+        level{.words = "Level", .key = std::to_string(value), .kind = MenuRow::Kind::level};
+    act.act = [this] { ++acted; };
+    leads.page = MenuPage::flows;
+    level.step = [this](int by) { value += by; };
+    level.reach = [this](double to) { value = static_cast<int>(100 * to); };
+    return {"", {act, leads, level}};
+  }
+  void keys(std::initializer_list<SDL_Keycode> all) {
+    for (const SDL_Keycode key : all) EXPECT_TRUE(menu.take_key(key));
+  }
+  // Where a row of the first card stands, at a part of its width.
+  PanelPoint spot(std::size_t row, double along) {
+    const MenuSheet sheet = build(MenuPage::top);
+    const DrawnMenu drawn = draw_menu(sheet, {}, room, 1, sheet_colors(false));
+    const Overlay& picture = menu.draw({700, 100}, room, 1, sheet_colors(false));
+    const Rect place = drawn.rows[row];
+    return {picture.x + place.x + static_cast<int>(place.width * along), picture.y + place.y + 9};
+  }
+
+  static constexpr PanelSize room{1000, 600};
+  int acted = 0, value = 50;
+  Menu menu{[this](MenuPage page) { return build(page); }};
+};
+
+TEST_F(MenuOfAllKinds, IsWorkedWithKeys) {
+  menu.open(true);
+  keys({SDLK_UP, SDLK_RIGHT, SDLK_RIGHT,
+        SDLK_LEFT});  // the level, from the first row around to the last
+  EXPECT_EQ(value, 51);
+  EXPECT_TRUE(menu.looks_old());
+  keys({SDLK_UP, SDLK_RETURN, SDLK_DOWN, SDLK_RETURN});
+  EXPECT_FALSE(menu.is_open()) << "a row of the card behind does nothing and ends the menu";
+  menu.open(true);
+  keys({SDLK_DOWN, SDLK_RIGHT, SDLK_ESCAPE, SDLK_UP, SDLK_RETURN});  // there, back, and the row above
+  EXPECT_EQ(acted, 1);
+  EXPECT_FALSE(menu.is_open());
+  menu.open(true);
+  EXPECT_FALSE(menu.take_key(SDLK_p)) << "keys of the program are not the menu's";
+}
+
+TEST_F(MenuOfAllKinds, IsWorkedWithTheMouse) {
+  menu.open(false);
+  const PanelPoint low = spot(2, menu_bar_left), high = spot(2, 0.99), act = spot(0, 0.5);
+  EXPECT_TRUE(menu.press(low.x, low.y));
+  EXPECT_LE(value, 1);
+  EXPECT_TRUE(menu.press(high.x, high.y));
+  EXPECT_EQ(value, 100);
+  menu.wheel(-3);
+  EXPECT_EQ(value, 97);
+  EXPECT_FALSE(menu.press(5, 5)) << "beside the card";
+  EXPECT_TRUE(menu.press(act.x, act.y));
+  EXPECT_EQ(acted, 1);
+}
+
+TEST_F(MenuOfAllKinds, StandsInsideOfAnyWindow) {
+  menu.open(false);
+  for (const PanelSize size : {PanelSize{160, 120}, {1366, 768}, {3840, 2160}})
+    for (const PanelPoint at : {PanelPoint{0, 0}, {size.width, size.height}, {-50, 99999}})
+      for (const double scale : {1.0, 2.0}) {
+        const Overlay& picture = menu.draw(at, size, scale, sheet_colors(true));
+        EXPECT_GE(picture.x, 0);
+        EXPECT_GE(picture.y, 0);
+        EXPECT_LE(picture.x + picture.width, size.width + 1) << size.width;
+        EXPECT_LE(picture.y + picture.height, size.height + 1) << size.height;
+      }
+}
+
+TEST(FlowBar, CutsWhatTheFlowSaysAndNeverItsButtons) {
+  const FlowState flow{"engine start", std::string(200, 'w'), 4, false};
+  for (const int width : {100, 500, 1500}) {
+    const StripBar bar = draw_flow_bar(flow, width, 1);
+    EXPECT_EQ(bar.spots.size(), 4u);
+    EXPECT_LE(bar.picture.width, std::max(width, 460));
+    EXPECT_EQ(bar.at(bar.picture.width - 10, 5), StripAct::take_over);
+    EXPECT_EQ(bar.at(5, 5), std::nullopt);
   }
 }
 

@@ -188,6 +188,17 @@ TEST_F(InAWindow, ARestOnAControlSaysWhatItIs) {
   EXPECT_EQ(leave(), 0);
 }
 
+TEST_F(InAWindow, ARefusedClickSaysAtOnceWhatItLacked) {
+  const PanelPoint paper{132, 124};  // of the words beside the pointer
+  const int plate = green(look(paper.x, paper.y));
+  click(117, 93);  // external power, with no ground unit there
+  EXPECT_TRUE(eventually([&] { return green(look(paper.x, paper.y)) < plate / 2; }))
+      << "nothing is said";
+  screen->hands(move_to(385, 85));
+  EXPECT_TRUE(eventually([&] { return green(look(paper.x, paper.y)) == plate; })) << "it stays";
+  EXPECT_EQ(leave(), 0);
+}
+
 TEST_F(InAWindow, TheWheelTurnsASelectorAndLeavesASwitchAlone) {
   click(47, 99, 4);   // the wheel over the battery switch
   click(240, 35, 4);  // and over the DC selector
@@ -197,9 +208,9 @@ TEST_F(InAWindow, TheWheelTurnsASelectorAndLeavesASwitchAlone) {
 }
 
 TEST_F(InAWindow, ThePanelLightsComeOnAndTheHelpLiesOverThePanel) {
-  const int day = green(look(385, 85));  // bare plate, and paper without text while the help is shown
+  const int day = green(look(385, 85));  // bare plate
   screen->hands("key h");
-  EXPECT_TRUE(eventually([&] { return green(look(385, 85)) < day / 2; })) << "no help page";
+  EXPECT_TRUE(eventually([&] { return green(look(385, 85)) != day; })) << "no help page";
   screen->hands("key Escape");
   EXPECT_TRUE(eventually([&] { return green(look(385, 85)) == day; })) << "the help page stays";
   screen->hands("key d");
@@ -245,6 +256,49 @@ TEST_F(InAWindow, TheWindowsStandAsTheyWereLeft) {
     return geometry.find("Position: 33,44") != std::string::npos &&
            geometry.find("Geometry: 500x290") != std::string::npos;
   })) << screen->hands("search --name Overhead getwindowgeometry").output;
+  EXPECT_EQ(leave(), 0);
+}
+
+TEST_F(InAWindow, ARightClickOnBareMetalOpensTheMenuAndOneOnAControlDoesNot) {
+  const unsigned plate = look(395, 95), low = look(55, 110);
+  click(385, 85, 3);
+  EXPECT_TRUE(eventually([&] { return look(395, 95) != plate; })) << "no menu";
+  screen->hands("key Down Right sleep 0.1 key Escape Escape");  // to the panels, back, out
+  EXPECT_TRUE(eventually([&] { return look(395, 95) == plate; })) << "the menu stays";
+  click(47, 99, 3);
+  EXPECT_EQ(look(55, 110), low);
+  EXPECT_EQ(leave(), 0);
+}
+
+// What it did is in the journal, and so is what the person did after it.
+TEST_F(InAWindow, AFlowIsWatchedAndTakenOver) {
+  screen->hands("key q");
+  program->wait();
+  const std::string flow = folder.write("lamps.lua", "click('Masterbat', 'battery_switch') wait(600)");
+  const std::string journal = folder / "watched.journal";
+  begin("--watch " + flow + " --journal " + journal);
+  const auto kept = [&](const std::string& text) {
+    return eventually([&] { return file_text(journal).find(text) != std::string::npos; });
+  };
+  ASSERT_TRUE(kept(" press left ")) << file_text(journal);
+  click(240, 35, 4);  // the wheel, while the flow has control
+  screen->hands("key Right sleep 0.2 key Escape sleep 0.2");
+  click(240, 35, 4);
+  EXPECT_TRUE(kept(" wheel 1 40 35 Acdcsw"));
+  EXPECT_EQ(leave(), 0);
+  const std::string lines = file_text(journal);
+  EXPECT_EQ(lines.find("wheel"), lines.rfind("wheel"));
+  EXPECT_EQ(tarnvale("replay " + journal + " --panel " + (folder / "panel.cfg")).exit_code, 0);
+}
+
+TEST_F(InAWindow, AnotherFlightBeginsInTheSameWindow) {
+  const std::string before = screen->hands("search --onlyvisible --name Tarnvale").output;
+  screen->hands(
+      "key F10 sleep 0.2 key Down Down Return sleep 0.2 key Down Down Down Return");  // runway
+  EXPECT_TRUE(eventually(
+      [&] { return std::distance(std::filesystem::directory_iterator(screen->sessions()), {}) == 2; }));
+  EXPECT_TRUE(eventually([&] { return look(2, 2) != 0; }));
+  EXPECT_EQ(screen->hands("search --onlyvisible --name Tarnvale").output, before);
   EXPECT_EQ(leave(), 0);
 }
 
@@ -386,7 +440,7 @@ TEST(Fly, FollowsTheScaleOfTheDesktop) {
                                                  {"Xft.dpi: 192\n", "--scale 1", 560 + 12}}) {
     ASSERT_TRUE(set_x11_resources(screen.display(), resources));
     const Child program(screen.environment() + (cockpit_dir / "tarnvale").string() +
-                            " fly --mute --zoom 1 " + option + " --exit-after 20 --panel " + config,
+                            " fly --fresh --mute --zoom 1 " + option + " --exit-after 20 --panel " + config,
                         -1);
     const std::string wanted = "Geometry: " + std::to_string(width) + "x";
     EXPECT_TRUE(eventually([&] {
