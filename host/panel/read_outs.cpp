@@ -51,13 +51,13 @@ class Under {
     return {1.0 * point_.x - element.position.x, 1.0 * point_.y - element.position.y};
   }
 
-  const Bitmap* bitmap(double id) const {
+  std::shared_ptr<const Bitmap> bitmap(double id) const {
     if (!(id >= 0 && id < 4e9)) return nullptr;
     return bitmaps_.find(static_cast<std::uint32_t>(id), BitmapUse::image);
   }
 
   // Whether the image has paint at a spot, or right beside it: a needle is a thin thing to point at.
-  static bool has_paint(const Bitmap* image, Spot at) {
+  static bool has_paint(const std::shared_ptr<const Bitmap>& image, Spot at) {
     if (!image) return false;
     for (int dy = -1; dy <= 1; ++dy)
       for (int dx = -1; dx <= 1; ++dx) {
@@ -132,19 +132,19 @@ class Under {
   }
 
   double image_box(const Element& e) const {
-    const Bitmap* image = bitmap(e.resource_id);
+    const auto image = bitmap(e.resource_id);
     return image ? box(from(e), image->width, image->height) : INFINITY;
   }
 
   double window(const Element& e) const {
-    if (const Bitmap* mask = bitmap(e.moving_image.mask_resource_id))
+    if (const auto mask = bitmap(e.moving_image.mask_resource_id))
       return box(from(e), mask->width, mask->height);
-    const Bitmap* strip = bitmap(e.resource_id);
+    const auto strip = bitmap(e.resource_id);
     return strip ? box(from(e), strip->width, strip->height / 10.0) : INFINITY;
   }
 
   double travel(const Element& e) const {
-    const Bitmap* image = bitmap(e.resource_id);
+    const auto image = bitmap(e.resource_id);
     if (!image) return INFINITY;
     const double x = e.slider.x_scale != 0 ? slider_travel : 0;
     const double y = e.slider.y_scale != 0 ? slider_travel : 0;
@@ -165,7 +165,7 @@ class Under {
 
   double opening() const {
     const Element& face = *chain_.front().element;
-    const Bitmap* image = bitmap(face.resource_id);
+    const auto image = bitmap(face.resource_id);
     const Spot at = from(face);
     if (!image || box(at, image->width, image->height) == INFINITY) return INFINITY;
     const auto pixel = static_cast<std::size_t>(at.y) * image->width + static_cast<std::size_t>(at.x);

@@ -44,7 +44,8 @@ bool read_panel(PanelSettings& panel, std::string_view key, std::string_view val
 bool read_setting(Settings& settings, std::string_view key, std::string_view value) {
   if (key == "help_seen") return settings.help_seen = read_flag(value), true;
   if (key == "volume") return settings.volume = whole_number(value, 0, 100), true;
-  if (key == "scale") return settings.scale = read_factor("scale", value, least_scale, most_scale), true;
+  if (key == "scale")
+    return settings.scale = read_factor("scale", value, least_scale, most_scale), true;
   return false;
 }
 

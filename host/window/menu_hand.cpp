@@ -23,7 +23,8 @@ std::string per_cent(double ratio) {
 }
 
 std::string capitalised(std::string words) {
-  if (!words.empty() && words[0] >= 'a' && words[0] <= 'z') words[0] = static_cast<char>(words[0] - 'a' + 'A');
+  if (!words.empty() && words[0] >= 'a' && words[0] <= 'z')
+    words[0] = static_cast<char>(words[0] - 'a' + 'A');
   std::ranges::replace(words, '_', ' ');
   return words;
 }
@@ -92,7 +93,8 @@ std::vector<MenuRow> FlightDeck::top_rows() {
     rows.push_back(leads("Watch a flight", MenuPage::flows));
   }
   rows.push_back(row("Failures", "F", [this] { pages_.toggle(PageKind::failures); }));
-  MenuRow sound{.words = "Sound", .key = per_cent(settings_.volume / 100.0), .kind = MenuRow::Kind::level};
+  MenuRow sound{
+      .words = "Sound", .key = per_cent(settings_.volume / 100.0), .kind = MenuRow::Kind::level};
   sound.level = settings_.volume / 100.0;
   sound.step = [this](int by) { set_volume(settings_.volume / 100.0 + by * volume_step); };
   sound.reach = [this](double volume) { set_volume(volume); };
@@ -112,9 +114,8 @@ std::vector<MenuRow> FlightDeck::panel_rows() {
   for (std::size_t i = 0; i < cockpit_.windows().size(); ++i) {
     const WindowConfig& window = cockpit_.config().windows[i];
     if (!window.drawn || window.ident == 0) continue;
-    rows.push_back(row(window.title, panel_key(window), [this, ident = window.ident] {
-      toggle_window(ident, false);
-    }));
+    rows.push_back(row(window.title, panel_key(window),
+                       [this, ident = window.ident] { toggle_window(ident, false); }));
     rows.back().ticked = cockpit_.panels().is_open(i);
   }
   if (menu_window_)
@@ -145,7 +146,8 @@ std::vector<MenuRow> FlightDeck::flight_rows() {
   };
   std::vector<MenuRow> rows;
   for (const auto& each : states) {
-    rows.push_back(row(each.words, "", [this, state = each.state] { begin_another({.state = state}); }));
+    rows.push_back(
+        row(each.words, "", [this, state = each.state] { begin_another({.state = state}); }));
     rows.back().note = each.note;
   }
   for (const StartPlace& place : start_places().subspan(1)) {
@@ -159,8 +161,8 @@ std::vector<MenuRow> FlightDeck::flight_rows() {
 std::vector<MenuRow> FlightDeck::flow_rows() {
   std::vector<MenuRow> rows;
   for (const auto& [file, words] : flows_) {
-    rows.push_back(
-        row(capitalised(file.stem().string()), "", [this, flow = file] { begin_another({.flow = flow}); }));
+    rows.push_back(row(capitalised(file.stem().string()), "",
+                       [this, flow = file] { begin_another({.flow = flow}); }));
     rows.back().note = words;
   }
   return rows;
@@ -169,15 +171,19 @@ std::vector<MenuRow> FlightDeck::flow_rows() {
 std::vector<MenuRow> FlightDeck::setting_rows() {
   std::vector<MenuRow> rows;
   View& view = menu_view();
-  rows.push_back(tick("View out of the window", "V", views_.main().wants_outside(), [this] { toggle_outside(); }));
-  rows.push_back(tick("Panel lights", "D", cockpit_.panel_lights_on(), [this] { toggle_panel_lights(); }));
+  rows.push_back(
+      tick("View out of the window", "V", views_.main().wants_outside(), [this] { toggle_outside(); }));
+  rows.push_back(
+      tick("Panel lights", "D", cockpit_.panel_lights_on(), [this] { toggle_panel_lights(); }));
   rows.push_back(tick("Full screen", "F11", view.screen().is_full_screen(),
                       [&view] { view.screen().set_full_screen(!view.screen().is_full_screen()); }));
-  rows.push_back(steps("Size of the panels", per_cent(view.zoom() / view.scale()), [this, &view](int by) {
-    view.zoom_by(std::pow(zoom_notch, by), std::nullopt);
-    menu_old_ = true;
-  }));
-  rows.push_back(tick("Panels as large as they fit", "0", !view.chosen_zoom(), [&view] { view.set_zoom(std::nullopt); }));
+  rows.push_back(
+      steps("Size of the panels", per_cent(view.zoom() / view.scale()), [this, &view](int by) {
+        view.zoom_by(std::pow(zoom_notch, by), std::nullopt);
+        menu_old_ = true;
+      }));
+  rows.push_back(tick("Panels as large as they fit", "0", !view.chosen_zoom(),
+                      [&view] { view.set_zoom(std::nullopt); }));
   rows.push_back(steps("Size of letters", per_cent(scale_), [this](int by) { step_scale(by); }));
   rows.push_back(tick("Letters as the desktop has them", "", !settings_.scale, [this] {
     settings_.scale.reset();
@@ -242,6 +248,7 @@ View& FlightDeck::menu_view() {
 void FlightDeck::open_menu(View& view, PanelPoint at, bool for_keyboard) {
   close_menu();
   hand_.reset();
+  hand_.show_arrow();
   if (yoke_) toggle_yoke();
   const auto hit = view.hit(at.x, at.y);
   menu_window_ = hit ? std::optional(hit->window) : std::nullopt;
@@ -306,7 +313,8 @@ bool FlightDeck::take_menu_mouse(const SDL_Event& event) {
     return true;
   }
   if (event.type == SDL_MOUSEWHEEL) return menu_.wheel(event.wheel.y), true;
-  if (event.type != SDL_MOUSEBUTTONDOWN) return event.type == SDL_MOUSEBUTTONUP;
+  if (event.type == SDL_MOUSEBUTTONUP) return menu_.release(), true;
+  if (event.type != SDL_MOUSEBUTTONDOWN) return false;
   const PanelPoint at = pixel_of(menu_view(), event.button.x, event.button.y);
   if (event.button.windowID == menu_view_ && menu_.press(at.x, at.y)) return true;
   close_menu();

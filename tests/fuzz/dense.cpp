@@ -14,7 +14,7 @@ using Uses = std::initializer_list<host::BitmapUse>;
 void find_all(const host::ModuleBitmaps& bitmaps, int density) {
   for (const std::uint32_t id : {10u, 11u, 12u})
     for (const host::BitmapUse use : Uses{host::BitmapUse::background, host::BitmapUse::image}) {
-      const host::Bitmap* found = bitmaps.find(id, use, density);
+      const auto found = bitmaps.find(id, use, density);
       fuzz::must(!found || (found->width == 4 * density && found->height == 2 * density));
     }
 }

@@ -36,7 +36,9 @@ const std::vector<MouseArea> areas = {
 
 class NoBitmaps final : public BitmapStore {
  public:
-  const Bitmap* find(std::uint32_t, BitmapUse, int) const override { return nullptr; }
+  PanelSize size(std::uint32_t) const override { return {0, 0}; }
+  bool has(std::uint32_t, int) const override { return false; }
+  std::shared_ptr<const Bitmap> find(std::uint32_t, BitmapUse, int) const override { return nullptr; }
   std::vector<int> densities() const override { return {1}; }
 };
 
