@@ -85,7 +85,17 @@ std::shared_ptr<const Bitmap> ModuleBitmaps::find(std::uint32_t id, BitmapUse us
   if (!bitmap) return nullptr;
   auto made = std::make_shared<const Bitmap>(*std::move(bitmap));
   known = made;
+  if (density == 1) keep_for_a_while(made);
   return made;
+}
+
+// Who moves the pointer over a gauge asks for the same ones again and again.
+void ModuleBitmaps::keep_for_a_while(const std::shared_ptr<const Bitmap>& bitmap) const {
+  constexpr std::size_t most_pixels = std::size_t{1} << 20;
+  recent_.push_back(bitmap);
+  recent_pixels_ += bitmap->pixels.size();
+  for (; recent_pixels_ > most_pixels; recent_.pop_front())
+    recent_pixels_ -= recent_.front()->pixels.size();
 }
 
 // A file that has been cut short since it was opened has no pages where it was mapped: whoever touches them is

@@ -1,6 +1,8 @@
 /// The bitmaps that a module carries, and the denser ones in the files beside it.
 #pragma once
 
+#include <deque>
+#include <memory>
 #include <optional>
 #include <string>
 #include <utility>
@@ -49,11 +51,14 @@ class ModuleBitmaps final : public BitmapStore {
   static std::optional<Bitmap> decode_from(const MappedFile& file, const Dib& source, BitmapUse use);
   void add_dense(int density, const std::filesystem::path& file);
   std::vector<std::string> faults_of(const DensitySet& set) const;
+  void keep_for_a_while(const std::shared_ptr<const Bitmap>& bitmap) const;
   const DensitySet* set_of(int density) const;
   const Dib* dib(const DensitySet& set, std::uint32_t id) const;
 
   std::vector<DensitySet> sets_;
   std::vector<std::string> dense_faults_;
+  mutable std::deque<std::shared_ptr<const Bitmap>> recent_;  ///< of the module's own
+  mutable std::size_t recent_pixels_ = 0;
 };
 
 }  // namespace host

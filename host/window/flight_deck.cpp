@@ -190,7 +190,7 @@ void FlightDeck::take(const SDL_Event& event) {
   if (event.type == SDL_MOUSEBUTTONDOWN &&
       (take_menu_ask(event.button) || take_strip_press(event.button)))
     return;
-  if (take_page_event(event)) return;
+  if (take_page_event(event) || take_strip_motion(event)) return;
   if (event.type == SDL_MOUSEBUTTONDOWN && refuses_press(event.button)) return;
   switch (event.type) {
     case SDL_QUIT: leave(); break;

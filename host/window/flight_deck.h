@@ -136,7 +136,9 @@ class FlightDeck {
   bool take_flow_key(const SDL_KeyboardEvent& key);
   bool refuses_press(const SDL_MouseButtonEvent& event);
   void show_strip();
+  std::optional<StripAct> strip_act(Uint32 window, int x, int y) const;
   bool take_strip_press(const SDL_MouseButtonEvent& event);
+  bool take_strip_motion(const SDL_Event& event);
 
   void toggle_help();
   void toggle_window(std::uint32_t ident, bool beside);

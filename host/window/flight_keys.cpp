@@ -7,7 +7,6 @@
 namespace host {
 namespace {
 
-
 constexpr double zoom_step = 1.125;
 constexpr double zoom_shown_s = 1.5;
 constexpr double scroll_share = 0.75;  // of the window, for a key

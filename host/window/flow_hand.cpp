@@ -146,16 +146,31 @@ void FlightDeck::show_strip() {
   view.set_strip_end(strip_.spots.empty() ? std::nullopt : std::optional(strip_.picture));
 }
 
-bool FlightDeck::take_strip_press(const SDL_MouseButtonEvent& event) {
-  View& view = views_.main();
-  if (event.windowID != view.screen().id() || event.button != SDL_BUTTON_LEFT) return false;
-  const PanelPoint pixel = pixel_of(view, event.x, event.y);
+std::optional<StripAct> FlightDeck::strip_act(Uint32 window, int x, int y) const {
+  const View& view = views_.main();
+  if (window != view.screen().id()) return std::nullopt;
+  const PanelPoint pixel = pixel_of(view, x, y);
+  if (view.is_covered(pixel.x, pixel.y)) return std::nullopt;
   const auto point = view.on_strip_end(pixel.x, pixel.y);
-  const auto act = point ? strip_.at(point->x, point->y) : std::nullopt;
-  if (!act) return false;
+  return point ? strip_.at(point->x, point->y) : std::nullopt;
+}
+
+bool FlightDeck::take_strip_motion(const SDL_Event& event) {
+  if (event.type != SDL_MOUSEMOTION || event.motion.state != 0 ||
+      !strip_act(event.motion.windowID, event.motion.x, event.motion.y))
+    return false;
+  hand_.take(event, now());
+  hand_.show_hand();
+  return true;
+}
+
+bool FlightDeck::take_strip_press(const SDL_MouseButtonEvent& event) {
+  const auto act = strip_act(event.windowID, event.x, event.y);
+  if (!act || event.button != SDL_BUTTON_LEFT) return false;
+  View& view = views_.main();
   switch (*act) {
     case StripAct::help: toggle_help(); break;
-    case StripAct::menu: open_menu(view, pixel, false); break;
+    case StripAct::menu: open_menu(view, pixel_of(view, event.x, event.y), false); break;
     case StripAct::slower: set_speed(speed_ / 2); break;
     case StripAct::faster: set_speed(speed_ * 2); break;
     case StripAct::pause: toggle_pause(); break;

@@ -24,6 +24,7 @@ void Menu::open(bool for_keyboard) {
 
 void Menu::show(MenuPage page, bool for_keyboard) {
   page_ = page;
+  held_.reset();
   sheet_ = build_(page);
   selected_ = for_keyboard ? std::optional<std::size_t>(0) : std::nullopt;
   old_ = true;
@@ -114,10 +115,19 @@ std::optional<std::size_t> Menu::row_at(int x, int y) const {
 }
 
 void Menu::point(int x, int y) {
+  if (held_) return reach(x);
   const auto row = row_at(x, y);
   if (!row || row == selected_) return;
   selected_ = row;
   old_ = true;
+}
+
+void Menu::reach(int x) {
+  if (*held_ >= std::min(drawn_.rows.size(), sheet_.rows.size())) return held_.reset();
+  const Rect& place = drawn_.rows[*held_];
+  const double along = (x - drawn_.picture.x - place.x) / std::max(1.0, double(place.width));
+  const std::function<void(double)> reach = sheet_.rows[*held_].reach;
+  reach(std::clamp((along - menu_bar_left) / (menu_bar_right - menu_bar_left), 0.0, 1.0));
 }
 
 bool Menu::press(int x, int y) {
@@ -127,15 +137,16 @@ bool Menu::press(int x, int y) {
   const auto at = row_at(x, y);
   if (!at) return true;
   selected_ = at;
-  const Rect& place = drawn_.rows[*at];
-  const double along = (x - picture.x - place.x) / std::max(1.0, double(place.width));
-  const MenuRow row = sheet_.rows[*at];
-  if (row.kind == MenuRow::Kind::level)
-    row.reach(std::clamp((along - menu_bar_left) / (menu_bar_right - menu_bar_left), 0.0, 1.0));
-  else if (row.kind == MenuRow::Kind::steps)
-    row.step(along < menu_steps_middle ? -1 : 1);
-  else
+  const MenuRow::Kind kind = sheet_.rows[*at].kind;
+  if (kind == MenuRow::Kind::level) {
+    held_ = at;
+    reach(x);
+  } else if (kind == MenuRow::Kind::steps) {
+    const Rect& place = drawn_.rows[*at];
+    step(x - picture.x - place.x < menu_steps_middle * place.width ? -1 : 1);
+  } else {
     enter(false);
+  }
   return true;
 }
 

@@ -78,9 +78,11 @@ class Menu {
   /// Arrows, Enter and Escape. False for any other key.
   bool take_key(SDL_Keycode key);
 
-  /// The pointer, in pixels of the window. press() is false outside of the menu.
+  /// The pointer, in pixels of the window. press() is false outside of the menu; on a level it takes hold of it
+  /// until release().
   void point(int x, int y);
   bool press(int x, int y);
+  void release() { held_.reset(); }
   void wheel(int notches);
 
  private:
@@ -89,6 +91,7 @@ class Menu {
   void move(int by);
   void enter(bool for_keyboard);
   void step(int by);
+  void reach(int x);
   std::optional<std::size_t> row_at(int x, int y) const;
   const MenuRow* selected() const;
 
@@ -97,6 +100,7 @@ class Menu {
   MenuPage page_ = MenuPage::top;
   MenuSheet sheet_;
   std::optional<std::size_t> selected_;
+  std::optional<std::size_t> held_;  ///< a level
   bool old_ = false;
   DrawnMenu drawn_;
 };

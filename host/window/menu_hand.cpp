@@ -250,6 +250,7 @@ View& FlightDeck::menu_view() {
 void FlightDeck::open_menu(View& view, PanelPoint at, bool for_keyboard) {
   close_menu();
   hand_.reset();
+  hand_.show_arrow();
   if (yoke_) toggle_yoke();
   const auto hit = view.hit(at.x, at.y);
   menu_window_ = hit ? std::optional(hit->window) : std::nullopt;
@@ -314,7 +315,8 @@ bool FlightDeck::take_menu_mouse(const SDL_Event& event) {
     return true;
   }
   if (event.type == SDL_MOUSEWHEEL) return menu_.wheel(event.wheel.y), true;
-  if (event.type != SDL_MOUSEBUTTONDOWN) return event.type == SDL_MOUSEBUTTONUP;
+  if (event.type == SDL_MOUSEBUTTONUP) return menu_.release(), true;
+  if (event.type != SDL_MOUSEBUTTONDOWN) return false;
   const PanelPoint at = pixel_of(menu_view(), event.button.x, event.button.y);
   if (event.button.windowID == menu_view_ && menu_.press(at.x, at.y)) return true;
   close_menu();

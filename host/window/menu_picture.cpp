@@ -11,15 +11,18 @@ constexpr double row_height = 30, note_height = 18, title_height = 38, around = 
 constexpr double words_left = 34, words_right = 16, least_width = 290, most_width = 680;
 constexpr double letter = 18, small = 15;
 
-double width_of(const std::string& words, double size) { return Sketch::text_width(words, size, false); }
+double width_of(const std::string& words, double size) {
+  return Sketch::text_width(words, size, false);
+}
 
 double height_of(const MenuRow& row) { return row_height + (row.note.empty() ? 0 : note_height); }
 
 double wanted_width(const MenuSheet& sheet) {
   double width = least_width;
   for (const MenuRow& row : sheet.rows)
-    width = std::max({width, words_left + width_of(row.words, letter) + 40 + width_of(row.key, letter) + words_right,
-                      words_left + width_of(row.note, small) + words_right});
+    width = std::max(
+        {width, words_left + width_of(row.words, letter) + 40 + width_of(row.key, letter) + words_right,
+         words_left + width_of(row.note, small) + words_right});
   return std::min(width, most_width);
 }
 

@@ -20,6 +20,8 @@ class MouseHand {
   void take(const SDL_Event& event, double now);
 
   /// Shows the hand: under the pointer is something to click that is no panel's.
+  void show_arrow() { cursors_.show(CURSOR_ARROW); }
+
   void set_scale(double scale) { cursors_.set_scale(scale); }
 
   void show_hand() { cursors_.show(CURSOR_HAND); }

@@ -42,11 +42,13 @@ class Row {
     double x = 0;
     for (const Piece& piece : pieces) {
       const double wide = width(piece);
-      if (piece.button) sketch.rounded_box(x, 2 * scale_, wide, height_ - 4 * scale_, 4 * scale_, key_face);
-      sketch.text(piece.words, x + (piece.button ? 7 : 4) * scale_, 0.06 * height_, letter(), piece.bold,
-                  piece.color);
+      if (piece.button)
+        sketch.rounded_box(x, 2 * scale_, wide, height_ - 4 * scale_, 4 * scale_, key_face);
+      sketch.text(piece.words, x + (piece.button ? 7 : 4) * scale_, 0.06 * height_, letter(),
+                  piece.bold, piece.color);
       if (piece.act)
-        bar.spots.push_back({{static_cast<int>(x), 0, static_cast<int>(std::ceil(wide)), height_}, *piece.act});
+        bar.spots.push_back(
+            {{static_cast<int>(x), 0, static_cast<int>(std::ceil(wide)), height_}, *piece.act});
       x += wide + 3 * scale_;
     }
     bar.picture = sketch.finish();

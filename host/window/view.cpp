@@ -101,7 +101,8 @@ void View::set_strip_end(std::optional<Overlay> picture) {
 }
 
 std::optional<PanelPoint> View::on_strip_end(int x, int y) const {
-  if (!strip_end_ || !overlap({strip_end_->x, strip_end_->y, strip_end_->width, strip_end_->height}, {x, y, 1, 1}))
+  if (!strip_end_ ||
+      !overlap({strip_end_->x, strip_end_->y, strip_end_->width, strip_end_->height}, {x, y, 1, 1}))
     return std::nullopt;
   return PanelPoint{x - strip_end_->x, y - strip_end_->y};
 }
@@ -160,8 +161,8 @@ void View::make_room_outside(const std::vector<PanelSize>& sizes, LayoutArea& ar
 LayoutArea View::area() const {
   const PanelSize size = screen_.size();
   if (kind_ == Kind::torn) return {size.width, size.height, 0, 0};
-  return {size.width - kept_free_, size.height - caption_height(scale()), static_cast<int>(std::lround(6 * scale())),
-          0};
+  return {size.width - kept_free_, size.height - caption_height(scale()),
+          static_cast<int>(std::lround(6 * scale())), 0};
 }
 
 void View::relayout() {

@@ -162,6 +162,11 @@ TEST_F(MenuOfAllKinds, IsWorkedWithTheMouse) {
   EXPECT_TRUE(menu.press(low.x, low.y));
   EXPECT_LE(value, 1);
   EXPECT_TRUE(menu.press(high.x, high.y));
+  menu.point(low.x - 500, low.y + 300);  // a drag may leave the card
+  EXPECT_EQ(value, 0);
+  menu.point(high.x, low.y);
+  menu.release();
+  menu.point(low.x, low.y);
   EXPECT_EQ(value, 100);
   menu.wheel(-3);
   EXPECT_EQ(value, 97);

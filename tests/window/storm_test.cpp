@@ -49,10 +49,10 @@ class Storm {
 
   void key() {
     static constexpr SDL_Keycode keys[] = {
-        SDLK_t,        SDLK_t,    SDLK_PLUS, SDLK_MINUS, SDLK_0,      SDLK_v, SDLK_d,    SDLK_p,
-        SDLK_h,        SDLK_j,    SDLK_m,    SDLK_F11,   SDLK_ESCAPE, SDLK_1, SDLK_2,    SDLK_3,
-        SDLK_4,        SDLK_5,    SDLK_6,    SDLK_7,     SDLK_8,      SDLK_9, SDLK_LEFT, SDLK_PAGEUP,
-        SDLK_PAGEDOWN, SDLK_HOME, SDLK_END,  SDLK_g,     SDLK_F12,    SDLK_F10,  SDLK_F10, SDLK_DOWN,
+        SDLK_t,        SDLK_t,    SDLK_PLUS, SDLK_MINUS, SDLK_0,      SDLK_v,   SDLK_d,    SDLK_p,
+        SDLK_h,        SDLK_j,    SDLK_m,    SDLK_F11,   SDLK_ESCAPE, SDLK_1,   SDLK_2,    SDLK_3,
+        SDLK_4,        SDLK_5,    SDLK_6,    SDLK_7,     SDLK_8,      SDLK_9,   SDLK_LEFT, SDLK_PAGEUP,
+        SDLK_PAGEDOWN, SDLK_HOME, SDLK_END,  SDLK_g,     SDLK_F12,    SDLK_F10, SDLK_F10,  SDLK_DOWN,
         SDLK_DOWN,     SDLK_UP,   SDLK_LEFT, SDLK_RIGHT, SDLK_RETURN, SDLK_k};
     static constexpr Uint16 modifiers[] = {KMOD_NONE, KMOD_NONE, KMOD_SHIFT, KMOD_CTRL};
     SDL_Event press = event(below(4) == 0 ? SDL_KEYUP : SDL_KEYDOWN);
