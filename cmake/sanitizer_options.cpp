@@ -11,6 +11,7 @@ extern "C" const char* __lsan_default_suppressions() {
          "leak:libcairo\n"
          "leak:libglib\n"
          "leak:libSDL2\n"
+         "leak:libsphinxbase\n"
          "leak:libX11\n"
          "leak:libdbus\n"
          "leak:_dri.so\n";

@@ -308,6 +308,7 @@ overhead.shut_down_engines()
 click("Stewcall", "right_sign_switch")
 wait(2)
 click("Stewcall", "left_sign_switch")
+open_window(504)
 for _, switch in ipairs({"beacon_lights_switch", "strobe_lights_switch"}) do click("Lightspp", switch) end
 click("Lightsp", "navigation_lights_switch")
 click("Apcon", "door_switch")

@@ -102,6 +102,7 @@ press("Ctr", "bus_transfer_guard")
 picture("4-generators", 502)
 
 say("Lights")
+open_window(504)
 press("Lightspp", "beacon_lights_switch")
 expect_event("beacon_lights_toggle")
 expect(token("beacon_lights") == 1, "the beacon is off")

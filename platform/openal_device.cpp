@@ -20,7 +20,7 @@ Routine alc_routine(const char* name) {
 /// no sound is told once, by the host.
 class QuietErrors {
  public:
-  QuietErrors() : kept_(dup(STDERR_FILENO)) {
+  QuietErrors() : kept_(fcntl(STDERR_FILENO, F_DUPFD_CLOEXEC, 3)) {
     const int nowhere = open("/dev/null", O_WRONLY | O_CLOEXEC);
     if (kept_ >= 0 && nowhere >= 0) dup2(nowhere, STDERR_FILENO);
     if (nowhere >= 0) ::close(nowhere);
@@ -53,6 +53,7 @@ ALCdevice* open_default_device() {
 }
 
 ALCdevice* open_rendered_device() {
+  const QuietErrors quiet;
   if (!alcIsExtensionPresent(nullptr, "ALC_SOFT_loopback")) return nullptr;
   const auto open = alc_routine<LPALCLOOPBACKOPENDEVICESOFT>("alcLoopbackOpenDeviceSOFT");
   return open != nullptr ? open(nullptr) : nullptr;

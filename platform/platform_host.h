@@ -43,6 +43,16 @@ void platform_set_volume(float volume);
 /// plays. Only with PLATFORM_AUDIO_RENDERED.
 void platform_render_audio(int16_t* samples, size_t frames);
 
+/// A stream of the host's own sound beside the module's, on the same device. Opening it returns 0 where there is no
+/// device; a stream whose device goes away is no longer open, and can be opened again.
+int platform_open_stream(void);
+int platform_stream_is_open(void);
+void platform_close_stream(void);
+/// Stereo frames that have been fed and not been played.
+size_t platform_stream_waiting(void);
+/// Appends stereo frames, signed 16 bit interleaved, to what is waiting.
+void platform_feed_stream(const int16_t* samples, size_t frames);
+
 /// Told the samples of each sound that starts, as the module wrote them. A null routine ends it.
 typedef void (*PlatformSoundRoutine)(const void* samples, size_t bytes, void* context);
 void platform_on_sound(PlatformSoundRoutine routine, void* context);

@@ -5,10 +5,7 @@
 #include "platform/sound_device.h"
 
 namespace platform {
-namespace {
-
-/// Samples reach left and right as they are, whatever the speakers, at the best conversion of rates.
-void set_up(ALuint source) {
+void play_unchanged(ALuint source) {
   if (alIsExtensionPresent("AL_SOFT_direct_channels")) {
     alSourcei(source, AL_DIRECT_CHANNELS_SOFT, AL_TRUE);
   }
@@ -16,8 +13,6 @@ void set_up(ALuint source) {
     alSourcei(source, AL_SOURCE_RESAMPLER_SOFT, alGetInteger(AL_NUM_RESAMPLERS_SOFT) - 1);
   }
 }
-
-}  // namespace
 
 Voice::~Voice() {
   if (!alive()) return;
@@ -34,7 +29,7 @@ bool Voice::create() {
     alDeleteSources(1, &source_);
     return false;
   }
-  set_up(source_);
+  play_unchanged(source_);
   generation_ = sound_device().generation();
   created_ = true;
   return true;

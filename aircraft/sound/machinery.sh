@@ -11,5 +11,5 @@ apu_start() {
   shape igniter tick pad 0 0.26 repeat 8
   mix run starter whirr light@2.4 roar@1.4 igniter@0.9
   shape away run trim 0 6.6 fade t 0.02 6.6 1.6
-  finish_loud -26 away
+  finish_loud -31 away
 }

@@ -10,12 +10,12 @@ readonly GROUND_VOICE="ked_diphone 1 1"                 # the ground engineer on
 readonly CABIN_VOICE="cmu_us_slt_arctic_hts 1.05 1"     # the purser
 
 readonly SPEECH_LOUDNESS=-18.5 # while speaking
-readonly BREATH=0.03         # seconds left before the first consonant, and after the last
+readonly BREATH=0.04         # seconds left before the first consonant, and after the last
 
 # What the way to the ear does to a voice: low end that cabin noise would cover is left out, the consonants
 # are brought forward.
 readonly COCKPIT_SOUND=(highpass 180 equalizer 250 1q -4 equalizer 2800 0.8q 5)
-readonly HEADSET_SOUND=(highpass 250 equalizer 2500 0.6q 6)
+readonly HEADSET_SOUND=(highpass 250 equalizer 2200 0.7q 6 lowpass 6000)
 readonly ALARM_SOUND=(highpass 250 equalizer 2500 0.6q 6 overdrive 6 0)
 readonly INTERCOM_SOUND=(sinc 300-4200 equalizer 1900 1q 3 overdrive 2 0)
 readonly CABIN_SOUND=(sinc 250-6500 equalizer 1800 0.9q 2 reverb 8 60 20 100 3 -10)

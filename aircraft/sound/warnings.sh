@@ -1,23 +1,21 @@
 # Sounds that must win against everything else in the cockpit, except what is being said: they lie below and
 # above the voices. Between 500 and 3000 Hz, where words are told apart, they leave a hole, and so they need not be
 # loud.
-readonly WARNING_LOUDNESS=-22.5
+readonly WARNING_LOUDNESS=-24.5
 
 # hole NAME FROM: without what would cover voices.
 hole() { shape "$1" "$2" sinc -t 160 -a 40 3000-500; }
 
 # The fire bell: a hammer on a small steel gong, twenty strokes a second, thirty in the 27 frames to its repeat.
 fire_bell() {
-  burst blow 3400 9000 0.012 -24
-  ring hum 236 0.5 -22
-  ring prime 471 0.5 -24
+  burst blow 3300 4600 0.012 -24
+  ring hum 236 0.5 -32
+  ring prime 471 0.5 -36
   ring gong1 3370 0.9 -22
   ring gong2 3388 0.9 -25
   ring gong3 4390 0.7 -23
   ring gong4 4418 0.7 -28
-  ring gong5 6120 0.35 -28
-  ring gong6 7930 0.2 -33
-  mix stroke blow hum prime gong1 gong2 gong3 gong4 gong5 gong6
+  mix stroke blow hum prime gong1 gong2 gong3 gong4
   hammer bell stroke 0.05 10 1.5
   hole open bell
   cut_to_repeat ringing open 27
@@ -38,13 +36,13 @@ horn() {
 # The stick shaker: an unbalanced motor that knocks the column, sixteen times a second, and the stall horn.
 stick_shaker() {
   ring column 82 0.11 -22
-  ring knock 310 0.09 -24
+  ring knock 310 0.09 -34
   burst clack 3250 4400 0.05 -6
   mix blow column knock clack
   hammer shaker blow 0.0625 4 1.5
   horn tone 415 "$(repeating_seconds 27)"
   hole rattling shaker
-  shape behind tone gain -13
+  shape behind tone gain -19
   mix stall rattling behind
   cut_to_repeat warning stall 27
   finish_loud $WARNING_LOUDNESS warning
@@ -83,13 +81,14 @@ whoop() {
   hole "$1" "$1.swept"
 }
 
-# Ground proximity: two whoops, then the order, put off so that the whole has a length that repeats.
+# Ground proximity: two whoops, then the order, put off so that the whole has a length that repeats. The order is
+# softer than the crew's voices, which are understood while it is repeated.
 ground_proximity() {
   local spoken_for frames
   whoop up
   mix whoops up up@0.4
   to_loudness alarm whoops $WARNING_LOUDNESS
-  spoken order "$WARNING_VOICE" ALARM_SOUND "$1"
+  spoken order "$WARNING_VOICE" ALARM_SOUND "$1" -21
   spoken_for=$(soxi -D order.sox)
   frames=$(repeating_frames "$(calc "0.79 + $spoken_for")")
   mix warning alarm "order@$(calc "$(repeating_seconds "$frames") - $spoken_for")"

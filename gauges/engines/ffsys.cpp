@@ -73,7 +73,8 @@ f64 write_weight(Element* readout) {
   if (aircraft.dc_power_on == 0 || aircraft.fuel_computer_power != 1) {
     write_blank(weight_text);
   } else {
-    write_reading(weight_text, weight_mode == 1 ? weight - without_fuel : weight);
+    const f64 shown = static_cast<f64>(weight) - (weight_mode == 1 ? without_fuel : 0);
+    write_reading(weight_text, whole_i32(shown));
   }
   return 0;
 }

@@ -1,5 +1,7 @@
 #include <CLI/CLI.hpp>
 
+#include <sys/resource.h>
+
 #include <cstdio>
 #include <functional>
 #include <string>
@@ -114,6 +116,14 @@ class CommandLine {
         ->check(number(0.0, 24.0));
   }
 
+  CLI::Option* add_ambience(CLI::App* sub, double& percent) {
+    return sub
+        ->add_option("--ambience", percent,
+                     "Loudness of the aircraft's own sound in percent: 100 as it is meant, 0 none")
+        ->check(number(0, 200))
+        ->capture_default_str();
+  }
+
   void add_fly() {
     CLI::App* sub = add("fly", "Sit in the cockpit: opens a window", fly_, fly);
     add_cockpit(sub, fly_.cockpit);
@@ -139,6 +149,7 @@ class CommandLine {
     sub->add_option("--exit-after", fly_.deck.exit_after, "Leave after so many seconds")
         ->check(number(0, 1e9));
     sub->add_flag("--mute", fly_.mute, "Fly without sound");
+    add_ambience(sub, fly_.ambience);
     add_journal(sub);
   }
 
@@ -187,7 +198,8 @@ class CommandLine {
     sub->add_option("flow", run_.flow, "A flow file, or the name of one beside this program")
         ->capture_default_str();
     sub->add_option("--png", run_.pictures, "Folder for the flow's pictures");
-    sub->add_option("--wav", run_.sound, "File for the flow's sound");
+    CLI::Option* sound = sub->add_option("--wav", run_.sound, "File for the flow's sound");
+    add_ambience(sub, run_.ambience)->needs(sound);
     sub->add_option("--journal", run_.journal, "Keep a journal of the flight, for replay");
     sub->add_flag("--realtime", run_.realtime, "As slow as a clock, not as fast as possible");
   }
@@ -203,7 +215,8 @@ class CommandLine {
         ->check(number(0.01, 1e6))
         ->capture_default_str()
         ->needs(pictures);
-    sub->add_option("--wav", replay_.sound, "File for the flight's sound");
+    CLI::Option* sound = sub->add_option("--wav", replay_.sound, "File for the flight's sound");
+    add_ambience(sub, replay_.ambience)->needs(sound);
     sub->add_option("--flow", replay_.flow, "Write the inputs to this file, as a flow");
     sub->add_flag("--digest", replay_.digest,
                   "Print a number that two flights share only if they are the same to the bit");
@@ -267,8 +280,18 @@ class CommandLine {
 
 }  // namespace
 
+// The libraries that draw and play end the program where they get no room; better a word beforehand.
+static void check_address_space() {
+  constexpr rlim_t least = 256u << 20;
+  rlimit allowed{};
+  if (getrlimit(RLIMIT_AS, &allowed) == 0 && allowed.rlim_cur < least)
+    throw std::runtime_error("only " + std::to_string(allowed.rlim_cur >> 20) +
+                             " MiB of memory may be used here (ulimit -v); it takes 256");
+}
+
 static int run_reporting(int argc, char** argv) {
   try {
+    check_address_space();
     return CommandLine().run(argc, argv);
   } catch (const std::bad_alloc&) {
     std::fprintf(stderr, "tarnvale: there is not enough memory\n");

@@ -4,8 +4,10 @@
 #include <optional>
 #include <stdexcept>
 
+#include "host/ambience/ambience_stream.h"
 #include "host/app/commands.h"
 #include "host/app/desk_options.h"
+#include "host/app/end_signals.h"
 #include "host/app/installation.h"
 #include "host/app/lookup.h"
 #include "host/app/progress.h"
@@ -61,6 +63,15 @@ void tell(const std::string& text, const char* caption = "Journal") {
   MessageBoxA(nullptr, text.c_str(), caption, MB_OK);
 }
 
+// As a window manager asks; twice, for whom the cockpit would ask back.
+void leave_cockpit() {
+  for (int i = 0; i < 2; ++i) {
+    SDL_Event quit{};
+    quit.type = SDL_QUIT;
+    SDL_PushEvent(&quit);
+  }
+}
+
 // A person's session in the cockpit: begun or taken up, flown, and kept.
 class Session {
  public:
@@ -88,11 +99,12 @@ class Session {
     if (!unused.empty()) notes_.push_back(unused);
     find_audio();
     left_ ? take_up() : begin(on_deck.desk);
+    const EndSignals end_signals(leave_cockpit);
     if (!desktop) desktop.emplace();
     FlightDeck deck(inputs_, on_deck);
     desktop->clear();
     deck.after_frame = [&] { after_frame(); };
-    deck.on_pause = [&] { identifications_.silence(); };
+    deck.on_pause = [&] { fall_silent(); };
     deck.on_speed = [&](bool as_life) { move_audio(as_life ? audio_ : PLATFORM_AUDIO_RENDERED); };
     for (const std::string& note : notes_) tell(note);
     if (silent_) tell("no device answers; the cockpit is silent", "Sound");
@@ -127,14 +139,23 @@ class Session {
 
   // A flight that runs faster than life is silent, and its sounds run with it.
   void move_audio(PlatformAudio audio) {
-    identifications_.silence();
+    fall_silent();
     if (audio != audio_now_) platform_move_audio(audio);
     audio_now_ = audio;
   }
 
+  // What would go on sounding by itself.
+  void fall_silent() {
+    identifications_.silence();
+    ambience_.pause(noise_);
+  }
+
   void after_frame() {
-    identifications_.update(cockpit_.aircraft().identifications_heard(), cockpit_.seconds());
-    if (audio_now_ == PLATFORM_AUDIO_RENDERED) unheard_.advance(1.0 / cockpit_.rate());
+    const AircraftModel& aircraft = cockpit_.aircraft();
+    identifications_.update(aircraft.identifications_heard(), cockpit_.seconds());
+    noise_.hear(aircraft.sound_sources(), 1.0 / cockpit_.rate());
+    if (audio_now_ == PLATFORM_AUDIO_RENDERED) return unheard_.advance(1.0 / cockpit_.rate());
+    ambience_.keep_up(noise_, cockpit_.seconds());
   }
 
   void begin(const Desk& desk) {
@@ -221,6 +242,8 @@ class Session {
   PlatformAudio audio_now_ = PLATFORM_AUDIO_DEVICE;
   WavRecorder unheard_;
   Identifications identifications_;
+  CockpitNoise noise_{options_.ambience / 100};
+  AmbienceStream ambience_;
   bool silent_ = false;  ///< against the person's wish
   bool whole_ = true;
 };

@@ -15,7 +15,8 @@ namespace {
 
 using namespace palette;
 
-constexpr double leader_from = 4;  // pixels of distance from which a line leads to the badge
+constexpr double leader_from = 4;       // pixels of distance from which a line leads to the badge
+constexpr std::size_t most_texts = 30;  // lines that say what a control does; of more only the names
 
 Color color_of(std::uint32_t rgb) {
   const auto part = [&](int shift) { return (rgb >> shift & 255) / 255.0; };
@@ -31,6 +32,7 @@ std::string box_text(const Box& box) {
 struct LegendLine {
   std::string number;  // empty: a gauge
   std::string words;
+  std::string text;  // what it does, too
   std::string how;
   Color color = ink;
 };
@@ -48,15 +50,19 @@ Areas areas_of(const Cockpit& cockpit, const PanelPicture& picture) {
     const CockpitGauge& gauge = *placed.gauge;
     const std::vector<HotArea>& areas = gauge.areas.areas();
     if (!areas.empty() && gauges.size() > 1)
-      all.legend.push_back({"", gauge.header().name, "", accent});
+      all.legend.push_back({"", gauge.header().name, gauge.header().name, "", accent});
     for (std::size_t i = 0; i < areas.size(); ++i) {
       all.boxes.push_back(mark_place(areas[i].box, gauge.size, picture.place_of(gauge)));
       const std::string_view words = gauge.names.area_words(i);
       all.legend.push_back({std::to_string(all.boxes.size()),
                             words.empty() ? box_text(areas[i].box) : std::string(words),
-                            way_to_work(areas[i]), color_of(mark_color(areas[i]))});
+                            words_of(gauge, areas[i]), way_to_work(areas[i]),
+                            color_of(mark_color(areas[i]))});
     }
   }
+  if (all.legend.size() > most_texts) return all;
+  for (LegendLine& line : all.legend)
+    if (!line.text.empty()) line.words = line.text;
   return all;
 }
 

@@ -34,12 +34,13 @@ struct FlyOptions {
   std::vector<std::string> torn;    ///< windows to open, each in a window of its own
   std::vector<std::string> places;  ///< WINDOW=x,y,width,height; "main" is the main one
   bool full_screen = false;
-  std::string state;     ///< of the start page, pressed for the person; empty: it is asked for
-  std::string watch;     ///< a flow to watch; empty: none
+  std::string state;           ///< of the start page, pressed for the person; empty: it is asked for
+  std::string watch;           ///< a flow to watch; empty: none
   std::optional<Desk> desk{};  ///< how the windows stand; empty: as they were left
-  bool fresh = false;    ///< without what is remembered of earlier flights
-  bool no_view = false;  ///< without the view out of the window
+  bool fresh = false;          ///< without what is remembered of earlier flights
+  bool no_view = false;        ///< without the view out of the window
   bool mute = false;
+  double ambience = 100;          ///< loudness of the aircraft's own sound, percent
   std::filesystem::path record;   ///< a flow to write the person's inputs to; empty: none
   std::filesystem::path journal;  ///< empty: one in the folder of sessions
   bool keep_journal = true;
@@ -51,6 +52,7 @@ struct RunOptions {
   std::string flow = "gate_to_gate";
   std::filesystem::path pictures;  ///< empty: none
   std::filesystem::path sound;     ///< empty: none
+  double ambience = 100;           ///< in that sound, percent
   std::filesystem::path journal;   ///< empty: none
   bool realtime = false;
 };
@@ -61,13 +63,14 @@ struct ReplayOptions {
   std::filesystem::path pictures;  ///< folder; empty: none
   double picture_every = 60;       ///< seconds of flight
   std::filesystem::path sound;     ///< empty: none
+  double ambience = 100;           ///< in that sound, percent
   std::filesystem::path flow;      ///< empty: none
   bool digest = false;
 };
 
 struct ShowOptions {
   CockpitOptions cockpit;
-  std::string display;  ///< as for FlyOptions
+  std::string display;              ///< as for FlyOptions
   std::vector<std::string> gauges;  ///< or the ident of one window, or "outside"
   DeckOptions deck;                 ///< its zoom also for the file
   StartOptions start;               ///< for the view

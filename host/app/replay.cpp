@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <memory>
 
+#include "host/ambience/cockpit_noise.h"
 #include "host/app/commands.h"
 #include "host/app/installation.h"
 #include "host/app/lookup.h"
@@ -42,7 +43,7 @@ class FlownAgain {
     if (!record_.damage.empty()) progress_.note("warning: " + record_.damage);
     say_start_notes(module_);
     if (!options.pictures.empty()) prepare_folder(options.pictures);
-    if (!options.sound.empty()) sound_ = std::make_unique<WavRecorder>(options.sound.string());
+    if (!options.sound.empty()) record_sound();
     if (!options.flow.empty()) {
       flow_ = std::make_unique<FlowWriter>(options.flow, cockpit_);
       inputs_.tell(*flow_);
@@ -72,13 +73,20 @@ class FlownAgain {
   }
 
  private:
+  void record_sound() {
+    sound_ = std::make_unique<WavRecorder>(options_.sound.string());
+    sound_->mix_in = [this](std::span<std::int16_t> stereo) { noise_.mix_into(stereo); };
+  }
+
   std::uint64_t frames_in(double seconds) const {
     return static_cast<std::uint64_t>(std::max(1.0, std::round(seconds * cockpit_.rate())));
   }
 
   void after_frame() {
     identifications_.update(cockpit_.aircraft().identifications_heard(), cockpit_.seconds());
-    sound_->advance(1.0 / cockpit_.rate());
+    const double seconds = 1.0 / cockpit_.rate();
+    if (sound_->mix_in) noise_.hear(cockpit_.aircraft().sound_sources(), seconds);
+    sound_->advance(seconds);
     if (options_.digest) digest_.add(digest_of(cockpit_));
     const std::uint64_t frames = cockpit_.frames();
     if (frames % frames_between_pictures_ == 0 && frames < record_.frames()) take_picture();
@@ -104,6 +112,7 @@ class FlownAgain {
   std::unique_ptr<FlowWriter> flow_;
   Digest digest_;
   Identifications identifications_;
+  CockpitNoise noise_{options_.ambience / 100};
   GaugeModule module_;
   Cockpit cockpit_;
   CockpitInputs inputs_{cockpit_};

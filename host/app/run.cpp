@@ -7,6 +7,7 @@
 #include <stdexcept>
 #include <thread>
 
+#include "host/ambience/cockpit_noise.h"
 #include "host/app/commands.h"
 #include "host/app/contact_sheet.h"
 #include "host/app/installation.h"
@@ -74,7 +75,7 @@ class FlowRun {
         session_(inputs_, surroundings()) {
     say_start_notes(module_);
     if (!options.pictures.empty()) prepare_folder(options.pictures);
-    if (!options.sound.empty()) sound_ = std::make_unique<WavRecorder>(options.sound.string());
+    if (!options.sound.empty()) record_sound();
     if (!options.journal.empty()) keep_journal(options.journal);
     prepare_platform(cockpit_options_, PLATFORM_AUDIO_RENDERED);
     platform_on_message(take_message, this);
@@ -111,6 +112,11 @@ class FlowRun {
   }
 
  private:
+  void record_sound() {
+    sound_ = std::make_unique<WavRecorder>(options_.sound.string());
+    sound_->mix_in = [this](std::span<std::int16_t> stereo) { noise_.mix_into(stereo); };
+  }
+
   void keep_journal(const std::filesystem::path& file) {
     journal_ = std::make_unique<FlightJournal>(
         JournalFile::create(file), cockpit_,
@@ -123,7 +129,8 @@ class FlowRun {
   }
 
   FlowSurroundings surroundings() {
-    return {options_.pictures, [this](double seconds) { after_frame(seconds); },
+    return {options_.pictures,
+            [this](double seconds) { after_frame(seconds); },
             [this](double seconds) { return sound_->level(seconds); },
             [this](const std::string& text) { say(text); },
             [this](const Canvas& picture) { sheet_.add(picture, caption()); },
@@ -145,6 +152,7 @@ class FlowRun {
 
   void after_frame(double seconds) {
     identifications_.update(cockpit_.aircraft().identifications_heard(), cockpit_.seconds());
+    if (sound_->mix_in) noise_.hear(cockpit_.aircraft().sound_sources(), seconds);
     sound_->advance(seconds);
     if (options_.realtime) pacer_.advance(seconds);
     progress_.tick(cockpit_.seconds());
@@ -170,6 +178,7 @@ class FlowRun {
   Pacer pacer_;
   std::unique_ptr<WavRecorder> sound_ = std::make_unique<WavRecorder>();
   Identifications identifications_;
+  CockpitNoise noise_{options_.ambience / 100};
   SoundBook sound_book_{cockpit_options_.module.parent_path() / "Sound"};
   GaugeModule module_;
   Cockpit cockpit_;

@@ -7,6 +7,7 @@
 #include <csignal>
 #include <cstdio>
 #include <cstring>
+#include <initializer_list>
 
 namespace host {
 
@@ -14,7 +15,8 @@ namespace host {
 void prepare_standard_streams() {
   for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
     if (fcntl(stream, F_GETFD) < 0 && errno == EBADF) static_cast<void>(open("/dev/null", O_RDONLY));
-  std::signal(SIGPIPE, SIG_IGN);
+  // What cannot be written is told where it is written.
+  for (const int signal : {SIGPIPE, SIGXFSZ}) std::signal(signal, SIG_IGN);
 }
 
 // Who reads only the first lines of a list has not lost anything.

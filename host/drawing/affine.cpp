@@ -67,16 +67,16 @@ void keep_inside(std::int64_t start, std::int64_t step, std::int64_t end, Range&
 }
 
 // The eight channels of two neighbours, in a vector that the compiler makes of what a machine has.
-using Bytes = std::uint8_t [[gnu::vector_size(16)]];
-using Words = std::uint64_t [[gnu::vector_size(16)]];
-using Channels = std::int16_t [[gnu::vector_size(16)]];
+typedef std::uint8_t Bytes __attribute__((vector_size(16)));
+typedef std::uint64_t Words __attribute__((vector_size(16)));
+typedef std::int16_t Channels __attribute__((vector_size(16)));
 
 inline Channels two_pixels(const std::uint32_t* pixels) {
   std::uint64_t two;
   std::memcpy(&two, pixels, sizeof two);
   const Bytes packed = reinterpret_cast<Bytes>(Words{two, 0});
-  constexpr Bytes interleaved{0, 16, 1, 17, 2, 18, 3, 19, 4, 20, 5, 21, 6, 22, 7, 23};
-  return reinterpret_cast<Channels>(__builtin_shuffle(packed, Bytes{}, interleaved));
+  return reinterpret_cast<Channels>(
+      __builtin_shufflevector(packed, Bytes{}, 0, 16, 1, 17, 2, 18, 3, 19, 4, 20, 5, 21, 6, 22, 7, 23));
 }
 
 // From `a` towards `b` by so many parts of 128.
@@ -86,7 +86,7 @@ inline Channels mixed(Channels a, Channels b, std::int16_t part) { return a + ((
 inline std::uint32_t between(const std::uint32_t* upper, std::ptrdiff_t stride, std::int16_t across,
                              std::int16_t down) {
   const Channels column = mixed(two_pixels(upper), two_pixels(upper + stride), down);
-  const Channels right = __builtin_shuffle(column, Channels{4, 5, 6, 7, 4, 5, 6, 7});
+  const Channels right = __builtin_shufflevector(column, column, 4, 5, 6, 7, 4, 5, 6, 7);
   const std::uint64_t spread = reinterpret_cast<Words>(mixed(column, right, across))[0];
   const std::uint64_t pairs = spread | spread >> 8;
   return static_cast<std::uint32_t>((pairs & 0xFFFF) | (pairs >> 16 & 0xFFFF0000));

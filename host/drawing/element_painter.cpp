@@ -3,10 +3,10 @@
 namespace host {
 
 std::unique_ptr<ElementPainter> make_element_painter(const Element& element, Pictures& pictures,
-                                                     BitmapUse use) {
+                                                     BitmapUse use, Light at_night) {
   switch (element.kind) {
-    case ELEMENT_STATIC_IMAGE: return make_still_painter(element, pictures, use);
-    case ELEMENT_ICON: return make_still_painter(element, pictures, BitmapUse::image);
+    case ELEMENT_STATIC_IMAGE: return make_still_painter(element, pictures, use, at_night);
+    case ELEMENT_ICON: return make_still_painter(element, pictures, BitmapUse::image, at_night);
     case ELEMENT_NEEDLE: return make_needle_painter(element, pictures);
     case ELEMENT_SLIDER: return make_slider_painter(element, pictures);
     case ELEMENT_MOVING_IMAGE: return make_moving_image_painter(element, pictures);

@@ -46,12 +46,13 @@ class ElementPainter {
 };
 
 /// Null for an element that can never show anything. The element and the pictures must outlive it.
-/// `use` is how a static image is read; every other kind is an image.
+/// `use` is how a static image is read; every other kind is an image. `at_night` is under what light a still
+/// picture is seen by night.
 std::unique_ptr<ElementPainter> make_element_painter(const Element& element, Pictures& pictures,
-                                                     BitmapUse use = BitmapUse::background);
+                                                     BitmapUse use, Light at_night);
 
 std::unique_ptr<ElementPainter> make_still_painter(const Element& element, Pictures& pictures,
-                                                   BitmapUse use);
+                                                   BitmapUse use, Light at_night);
 std::unique_ptr<ElementPainter> make_needle_painter(const Element& element, Pictures& pictures);
 std::unique_ptr<ElementPainter> make_slider_painter(const Element& element, Pictures& pictures);
 std::unique_ptr<ElementPainter> make_moving_image_painter(const Element& element, Pictures& pictures);

@@ -11,7 +11,10 @@ namespace host {
 /// a little warm, as lit from within.
 std::uint32_t by_night(std::uint32_t colour);
 
-/// Every pixel by night.
-void dim(Bitmap& bitmap);
+/// The same on a lever, a guard or a button: its strongest colour says whether a lens or a word shines there.
+std::uint32_t part_by_night(std::uint32_t colour);
+
+/// Every pixel by night, as `of` says.
+void dim(Bitmap& bitmap, std::uint32_t (*of)(std::uint32_t));
 
 }  // namespace host

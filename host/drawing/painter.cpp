@@ -4,6 +4,7 @@
 
 #include "host/drawing/dirty_area.h"
 #include "host/drawing/element_painter.h"
+#include "host/drawing/lights.h"
 #include "host/loader/element_chain.h"
 
 namespace host {
@@ -39,7 +40,7 @@ struct GaugePainter::Layers {
   };
 
   Layers(const GaugeHeader& gauge, const BitmapStore& bitmaps, Rect where);
-  void add_items(const std::vector<ChainLink>& chain);
+  void add_items(const GaugeHeader& gauge);
   void compare(std::span<const ElementState> before, std::span<const ElementState> now, double blend);
   void take_look(std::size_t place_in_order, const Look& look);
   bool covered_by_face(const Rect& part) const;
@@ -67,23 +68,26 @@ GaugePainter::Layers::Layers(const GaugeHeader& gauge, const BitmapStore& bitmap
       whole{0, 0, where.width, where.height},
       pictures(bitmaps, scale_to(where, gauge_size(gauge, bitmaps))) {
   if (is_empty(place)) return;
-  add_items(element_chain(gauge));
+  add_items(gauge);
   base.assign(std::size_t(place.width) * place.height, black);
 }
 
-void GaugePainter::Layers::add_items(const std::vector<ChainLink>& chain) {
+void GaugePainter::Layers::add_items(const GaugeHeader& gauge) {
+  const std::vector<ChainLink> chain = element_chain(gauge);
   open_face = has_openings(chain);
+  const std::vector<Light> at_night = lights_at_night(gauge, chain, pictures);
   for (std::size_t i = 0; i < chain.size(); ++i) {
     const Element& element = *chain[i].element;
     const BitmapUse use = i == 0 && open_face ? BitmapUse::image : BitmapUse::background;
-    items.push_back({i, &element, make_element_painter(element, pictures, use), whole, {}, {}});
+    items.push_back(
+        {i, &element, make_element_painter(element, pictures, use, at_night[i]), whole, {}, {}});
   }
   if (!open_face) return;
   const Rect openings = intersection(pictures.openings(*chain.front().element), whole);
   const auto behind = [](const Item& item) { return item.element->kind == ELEMENT_SPRITE; };
   for (Item& item : items)
     if (behind(item)) item.limits = openings;
-  std::ranges::stable_partition(items, behind);
+  std::stable_partition(items.begin(), items.end(), behind);
 }
 
 // Everything below the first element that may move, whether or not it shows anything just now.
@@ -113,16 +117,17 @@ void GaugePainter::Layers::compare(std::span<const ElementState> before,
   if (end != base_end) base_dirty.add(whole);
   base_end = end;
   for (std::size_t i = 0; i < items.size(); ++i) {
-    const auto& [index, element, painter, limits, look, bounds] = items[i];
+    const Item& item = items[i];
+    const std::size_t index = item.index;
     const auto drawn = [&](std::span<const ElementState> states) {
-      return index < states.size() && states[index].drawn && states[index].element == element;
+      return index < states.size() && states[index].drawn && states[index].element == item.element;
     };
-    if (painter == nullptr || !drawn(now)) {
+    if (item.painter == nullptr || !drawn(now)) {
       take_look(i, {});
       continue;
     }
     const ElementState& from = drawn(before) ? before[index] : now[index];
-    take_look(i, painter->look({from, now[index], blend, light}));
+    take_look(i, item.painter->look({from, now[index], blend, light}));
   }
 }
 

@@ -99,7 +99,7 @@ Picture Pictures::made(const Key& key) const {
     return {visible, bitmap->opaque, part_of(*bitmap, visible), bitmap};
   }
   Bitmap changed = own_size ? *bitmap : resampled(*bitmap, width, height);
-  if (light == Light::night) dim(changed);
+  if (light != Light::day) dim(changed, light == Light::night ? by_night : part_by_night);
   const Rect visible = visible_part(changed);
   const auto kept = std::make_shared<const Bitmap>(cut_out(std::move(changed), visible));
   return {visible, kept->opaque, part_of(*kept, {0, 0, visible.width, visible.height}), kept};

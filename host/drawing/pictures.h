@@ -18,8 +18,11 @@ struct Scale {
 };
 
 /// Under what light a picture is seen. At night the paint recedes and the panel lighting shines
-/// through the legends; parts that shine by themselves are always seen by day.
-enum class Light { day, night };
+/// through the legends; parts that shine by themselves are always seen by day. Among parts is what stands on
+/// a plate whose lit copy says that all of it shines: levers and guards are as dark as the plate, and
+/// only what is bright on them, a lens or a word, shines.
+enum class Light { day, night, among_parts };
+inline constexpr std::size_t kinds_of_light = 3;
 
 /// A picture at its final size, without the clear pixels around it.
 struct Picture {

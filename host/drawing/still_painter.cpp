@@ -11,13 +11,10 @@ namespace {
 
 constexpr std::uint32_t most_images = 1000;
 
-// The image flag of lamps and of everything in a lit copy.
-constexpr u32 shines_by_itself = 0x4;
-
 class StillPainter final : public ElementPainter {
  public:
-  StillPainter(const Element& element, Pictures& pictures, BitmapUse use)
-      : element_(element), pictures_(pictures), use_(use) {
+  StillPainter(const Element& element, Pictures& pictures, BitmapUse use, Light at_night)
+      : element_(element), pictures_(pictures), use_(use), at_night_(at_night) {
     const bool icon = element.kind == ELEMENT_ICON;
     const std::size_t count = icon ? std::clamp(element.icon.image_count, 1u, most_images) : 1;
     for (std::vector<Image>& images : images_) images.resize(count);
@@ -28,8 +25,7 @@ class StillPainter final : public ElementPainter {
     if (!(index >= 0)) return {};
     const double last = static_cast<double>(images_[0].size() - 1);
     const int image = static_cast<int>(std::min(index, last));
-    const bool shines = (element_.image_flags & shines_by_itself) != 0;
-    const Light light = shines ? Light::day : moment.light;
+    const Light light = moment.light == Light::night ? at_night_ : moment.light;
     return {.shown = loaded(image, light).picture != nullptr, .a = image, .light = light};
   }
 
@@ -71,14 +67,15 @@ class StillPainter final : public ElementPainter {
   const Element& element_;
   Pictures& pictures_;
   BitmapUse use_;
-  std::array<std::vector<Image>, 2> images_;  // by light
+  Light at_night_;
+  std::array<std::vector<Image>, kinds_of_light> images_;  // by light
 };
 
 }  // namespace
 
 std::unique_ptr<ElementPainter> make_still_painter(const Element& element, Pictures& pictures,
-                                                   BitmapUse use) {
-  return std::make_unique<StillPainter>(element, pictures, use);
+                                                   BitmapUse use, Light at_night) {
+  return std::make_unique<StillPainter>(element, pictures, use, at_night);
 }
 
 }  // namespace host

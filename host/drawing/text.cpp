@@ -36,7 +36,7 @@ FontPtr font_of(const StringPart& part) {
   FontPtr font(pango_font_description_new());
   const bool segments = is_segment_display(name);
   const char* family = segments ? "DSEG14 Classic, DSEG7 Classic, monospace"
-                       : arial  ? "Liberation Sans, Arial, sans-serif"
+                       : arial  ? "B612, Liberation Sans, Arial, sans-serif"
                                 : name;
   pango_font_description_set_family(font.get(), family);
   const u32 weight = segments ? segment_weight : std::clamp(part.weight, 100u, 900u);

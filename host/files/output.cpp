@@ -82,6 +82,14 @@ void check_output(const NamedFile& output, const NamedFile& other) {
                              other.what);
 }
 
+// The descriptor stays open: whoever reads must not take its end for the end of what he gets.
+void check_pipe(const NamedFile& output) {
+  std::error_code error;
+  if (!fs::is_fifo(output.file, error)) return;
+  if (::open(output.file.c_str(), O_WRONLY | O_NONBLOCK | O_CLOEXEC) < 0)
+    throw std::runtime_error(output.file.string() + ": is a pipe that nobody reads");
+}
+
 }  // namespace
 
 void write_whole_file(const fs::path& file, std::string_view bytes) {
@@ -100,6 +108,7 @@ void write_whole_file(const fs::path& file, std::string_view bytes) {
 
 void check_outputs(const std::vector<NamedFile>& outputs, const std::vector<NamedFile>& inputs) {
   for (std::size_t i = 0; i < outputs.size(); ++i) {
+    check_pipe(outputs[i]);
     for (const NamedFile& input : inputs) check_output(outputs[i], input);
     for (std::size_t k = 0; k < i; ++k) check_output(outputs[i], outputs[k]);
   }

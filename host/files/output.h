@@ -18,7 +18,8 @@ struct NamedFile {
   std::filesystem::path file;  ///< empty: not asked for
 };
 
-/// Throws std::runtime_error if a file would be written over another that the command reads or writes.
+/// Throws std::runtime_error if a file would be written over another that the command reads or writes, and for a
+/// pipe that nobody reads: whoever opened it would wait for ever.
 void check_outputs(const std::vector<NamedFile>& outputs, const std::vector<NamedFile>& inputs);
 
 }  // namespace host

@@ -1,7 +1,6 @@
 #include "host/loader/pe_file.h"
 
 #include <algorithm>
-#include <cstring>
 
 #include "host/loader/foreign_records.h"
 #include "host/loader/pe_resources.h"
@@ -30,18 +29,23 @@ struct ExportTable {
 };
 static_assert(sizeof(ExportTable) == 40);
 
-constexpr std::size_t place_of_headers = 0x3C;
+// Where things stand in the file, and in what is called the optional header.
+constexpr std::size_t place_of_headers = 0x3C, place_of_base = 28, place_of_wide_base = 24,
+                      place_of_image_size = 56, place_of_headers_size = 60, place_of_directories = 92,
+                      place_of_wide_directories = 108;
 constexpr std::uint32_t signature = 0x00004550;  // "PE"
 constexpr std::uint16_t i386 = 0x14C, x86_64 = 0x8664, narrow_magic = 0x10B, wide_magic = 0x20B;
 constexpr std::uint16_t relocations_stripped = 0x0001, is_library = 0x2000;
 constexpr std::uint32_t executable = 0x20000000, readable = 0x40000000, writable = 0x80000000;
 constexpr std::size_t export_directory = 0, resource_directory = 2;
 constexpr std::uint64_t largest_image = std::uint64_t{512} << 20;
-constexpr std::uint32_t most_directories = 16, most_exports = 0xFFFF;
+constexpr std::uint32_t most_directories = 16, most_exports = 4096;
 
 [[noreturn]] void cut_short() {
   throw LibraryError("is cut short: parts that it names lie past its end");
 }
+
+[[noreturn]] void outside() { throw LibraryError("is damaged: a section lies outside of it"); }
 
 template <typename Record>
 Record needed(Bytes bytes, std::uint64_t at) {
@@ -60,10 +64,12 @@ unsigned rights_of(std::uint32_t characteristics) {
 
 }  // namespace
 
+// Where the headers stand in the file.
 struct PeFile::Headers {
   CoffHeader coff;
-  std::uint64_t optional, sections;  // where they stand in the file
-  std::uint32_t size_of_image, size_of_headers;
+  std::uint64_t optional;
+
+  std::uint64_t sections() const { return optional + coff.optional_size; }
 };
 
 bool PeFile::begins(Bytes bytes) {
@@ -71,51 +77,57 @@ bool PeFile::begins(Bytes bytes) {
 }
 
 PeFile::PeFile(Bytes bytes) {
+  const Headers headers = headers_of(bytes);
+  wide_ = headers.coff.machine == x86_64;
+  movable_ = (headers.coff.characteristics & relocations_stripped) == 0;
+  if (needed<std::uint16_t>(bytes, headers.optional) != (wide_ ? wide_magic : narrow_magic))
+    throw LibraryError("is damaged: its headers are for another kind of processor");
+  base_ = wide_ ? needed<std::uint64_t>(bytes, headers.optional + place_of_wide_base)
+                : needed<std::uint32_t>(bytes, headers.optional + place_of_base);
+  read_directories(bytes,
+                   headers.optional + (wide_ ? place_of_wide_directories : place_of_directories));
+  lay_out(bytes, headers);
+  read_exports();
+}
+
+PeFile::Headers PeFile::headers_of(Bytes bytes) {
   const std::uint64_t at = needed<std::uint32_t>(bytes, place_of_headers);
   if (needed<std::uint32_t>(bytes, at) != signature) throw LibraryError("is not a shared library");
-  Headers headers{};
-  headers.coff = needed<CoffHeader>(bytes, at + 4);
-  const CoffHeader& coff = headers.coff;
+  const auto coff = needed<CoffHeader>(bytes, at + sizeof signature);
   if (coff.machine != i386 && coff.machine != x86_64)
     throw LibraryError("is a library for another kind of processor (number " +
                        std::to_string(coff.machine) + ")");
   if ((coff.characteristics & is_library) == 0)
     throw LibraryError("is a program or an object file, not a shared library");
-  movable_ = (coff.characteristics & relocations_stripped) == 0;
-  headers.optional = at + 4 + sizeof(CoffHeader);
-  headers.sections = headers.optional + coff.optional_size;
-  wide_ = coff.machine == x86_64;
-  if (needed<std::uint16_t>(bytes, headers.optional) != (wide_ ? wide_magic : narrow_magic))
-    throw LibraryError("is damaged: its headers are for another kind of processor");
-  base_ = wide_ ? needed<std::uint64_t>(bytes, headers.optional + 24)
-                : needed<std::uint32_t>(bytes, headers.optional + 28);
-  headers.size_of_image = needed<std::uint32_t>(bytes, headers.optional + 56);
-  headers.size_of_headers = needed<std::uint32_t>(bytes, headers.optional + 60);
-  const std::uint64_t table = headers.optional + (wide_ ? 108 : 92);
-  const auto count = std::min(needed<std::uint32_t>(bytes, table), most_directories);
+  return {coff, at + sizeof signature + sizeof coff};
+}
+
+// Their number stands before them.
+void PeFile::read_directories(Bytes bytes, std::uint64_t at) {
+  const auto count = std::min(needed<std::uint32_t>(bytes, at), most_directories);
   for (std::uint32_t i = 0; i < count; ++i)
-    directories_.push_back(needed<Directory>(bytes, table + 4 + i * sizeof(Directory)));
-  lay_out(bytes, headers);
-  read_exports();
+    directories_.push_back(needed<Directory>(bytes, at + sizeof count + i * sizeof(Directory)));
 }
 
 void PeFile::lay_out(Bytes bytes, const Headers& headers) {
-  if (headers.size_of_image > largest_image) throw LibraryError("is damaged: it is far too large");
-  image_.resize(headers.size_of_image);
-  const auto copy = [&](std::uint64_t from, std::uint64_t to, std::uint64_t size) {
-    const auto part = slice(bytes, from, size);
-    if (!part) cut_short();
-    if (!slice(image_, to, size)) throw LibraryError("is damaged: a section lies outside of it");
-    if (size > 0) std::memcpy(image_.data() + to, part->data(), size);
-  };
-  copy(0, 0, std::min<std::uint64_t>(headers.size_of_headers, bytes.size()));
+  const auto size = needed<std::uint32_t>(bytes, headers.optional + place_of_image_size);
+  if (size > largest_image) throw LibraryError("is damaged: it is far too large");
+  image_.resize(size);
+  const auto size_of_headers = needed<std::uint32_t>(bytes, headers.optional + place_of_headers_size);
+  take_over(bytes.first(std::min<std::size_t>(size_of_headers, bytes.size())), 0);
   for (unsigned i = 0; i < headers.coff.sections; ++i) {
-    const auto header = needed<SectionHeader>(bytes, headers.sections + i * sizeof(SectionHeader));
-    copy(header.raw_offset, header.address, std::min(header.raw_size, header.virtual_size));
-    if (!slice(image_, header.address, header.virtual_size))
-      throw LibraryError("is damaged: a section lies outside of it");
+    const auto header = needed<SectionHeader>(bytes, headers.sections() + i * sizeof(SectionHeader));
+    const auto raw = slice(bytes, header.raw_offset, std::min(header.raw_size, header.virtual_size));
+    if (!raw) cut_short();
+    take_over(*raw, header.address);
+    if (!slice(image_, header.address, header.virtual_size)) outside();
     sections_.push_back({header.address, header.virtual_size, rights_of(header.characteristics)});
   }
+}
+
+void PeFile::take_over(Bytes part, std::uint32_t address) {
+  if (!slice(image_, address, part.size())) outside();
+  std::ranges::copy(part, image_.begin() + static_cast<std::ptrdiff_t>(address));
 }
 
 PeFile::Directory PeFile::directory(std::size_t number) const {

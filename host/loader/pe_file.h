@@ -44,10 +44,12 @@ class PeFile final : public LibraryFile {
   };
   struct Headers;
 
+  static Headers headers_of(Bytes bytes);
+  void read_directories(Bytes bytes, std::uint64_t at);
   void lay_out(Bytes bytes, const Headers& headers);
+  void take_over(Bytes part, std::uint32_t address);
   void read_exports();
   Directory directory(std::size_t number) const;
-  std::string bitmap_fault() const;
 
   bool wide_ = false;
   bool movable_ = true;

@@ -1,8 +1,7 @@
 #include "host/pages/checklist.h"
 
-#include <fstream>
-#include <sstream>
-
+#include "host/files/read_file.h"
+#include "host/files/shortened.h"
 #include "host/panel/config_values.h"
 #include "host/panel/text.h"
 
@@ -64,17 +63,18 @@ std::vector<Checklist> parse_checklists(std::string_view text, const std::filesy
     try {
       take_line(lists, line, number);
     } catch (const LineError& error) {
-      throw ConfigError(at_line(file, number, error.what()));
+      throw ConfigError(at_line(file, number, shortened(error.what(), 150)));
     }
   }
   return lists;
 }
 
 std::vector<Checklist> read_checklists(const std::filesystem::path& file) {
-  std::ifstream in(file, std::ios::binary);
-  std::ostringstream text;
-  if (!(text << in.rdbuf())) throw ConfigError(file.string() + ": cannot read the checklists");
-  return parse_checklists(text.str(), file);
+  try {
+    return parse_checklists(read_file(file, mebibyte), file);
+  } catch (const FileFault& fault) {
+    throw ConfigError(fault.what());
+  }
 }
 
 }  // namespace host

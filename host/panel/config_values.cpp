@@ -51,6 +51,12 @@ std::string read_picture(std::string_view text) {
   return path.string();
 }
 
+Bay read_bay(std::string_view text) {
+  const std::vector<int> numbers = exactly(4, text, -greatest_size, greatest_size);
+  if (numbers[2] < 1 || numbers[3] < 1) throw LineError("a bay's width and height are 1 or more");
+  return {numbers[0], numbers[1], numbers[2], numbers[3]};
+}
+
 Placement read_placement(std::string_view text, int line) {
   const std::size_t mark = text.find('!');
   const std::size_t comma = text.find(',');

@@ -35,6 +35,9 @@ std::uint32_t read_color(std::string_view text);
 /// The name of a picture that stands beside the configuration.
 std::string read_picture(std::string_view text);
 
+/// x,y,width,height.
+Bay read_bay(std::string_view text);
+
 /// Module!Gauge, x,y[,width,height].
 Placement read_placement(std::string_view text, int line);
 

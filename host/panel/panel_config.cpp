@@ -142,6 +142,10 @@ class Reader {
       window.gauges.push_back(read_placement(value, line_));
       return;
     }
+    if (is_numbered(key, "bay")) {
+      window.bays.push_back(read_bay(value));
+      return;
+    }
     const auto entry = window_entries.find(key);
     if (entry == window_entries.end()) throw LineError("unknown entry '" + shortened(key) + "'");
     try {

@@ -12,7 +12,8 @@
 ///
 /// Further entries of a window: `ident_day` and `ident_night`, two numbers that show its day or its
 /// night face; `background` and `background_night`, PNG files beside the configuration;
-/// `background_color=r,g,b` for the plate without one; `drawn=0` for a window whose gauges run all
+/// `background_color=r,g,b` for the plate without one, and `bay00=x,y,width,height` for fields let into it;
+/// `drawn=0` for a window whose gauges run all
 /// the time and are never seen; `start_page=1` for the page that a session may begin with, which gives
 /// way to the first window that is opened after it.
 #pragma once
@@ -42,6 +43,14 @@ struct Placement {
   int line = 0;  ///< where the configuration says so
 };
 
+/// A field let into the plate, in which the gauges of one system stand.
+struct Bay {
+  int x = 0;  ///< panel pixels from the window's upper left corner
+  int y = 0;
+  int width = 0;
+  int height = 0;
+};
+
 /// One window of the panel.
 struct WindowConfig {
   int number = 0;
@@ -61,6 +70,7 @@ struct WindowConfig {
   int background_line = 0;       ///< where the configuration names them
   int night_background_line = 0;
   std::uint32_t color = 0xFF2B2E33u;
+  std::vector<Bay> bays;
   std::vector<Placement> gauges;
 };
 

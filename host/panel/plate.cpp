@@ -6,13 +6,14 @@
 #include <cstring>
 #include <memory>
 
+#include "host/drawing/pictures.h"
 #include "host/files/read_file.h"
 #include "host/panel/config_values.h"
 
 namespace host {
 namespace {
 
-using Surface = std::unique_ptr<cairo_surface_t, decltype(&cairo_surface_destroy)>;
+using CairoSurface = std::unique_ptr<cairo_surface_t, decltype(&cairo_surface_destroy)>;
 using Context = std::unique_ptr<cairo_t, decltype(&cairo_destroy)>;
 using Pattern = std::unique_ptr<cairo_pattern_t, decltype(&cairo_pattern_destroy)>;
 
@@ -80,6 +81,25 @@ void draw_seam(cairo_t* cairo, const Rect& gauge, double zoom) {
   outline(cairo, gauge, 0, unit * 1.5, 0.85, 0.02);
 }
 
+// A field that lies a little lower than the plate: in the shade of its upper and left edge, with the light on
+// the lower and right one.
+void draw_bay(cairo_t* cairo, const Rect& bay, double zoom) {
+  const double unit = std::max(1.0, zoom);
+  const double right = bay.x + bay.width, bottom = bay.y + bay.height;
+  const auto box = [&](double x, double y, double width, double height, double shade, double alpha) {
+    cairo_set_source_rgba(cairo, shade, shade, shade, alpha);
+    cairo_rectangle(cairo, x, y, width, height);
+    cairo_fill(cairo);
+  };
+  box(bay.x, bay.y, bay.width, bay.height, 0, 0.36);
+  for (int ring = 1; ring <= 3; ++ring) {
+    box(bay.x, bay.y, bay.width, ring * unit, 0, 0.2);
+    box(bay.x, bay.y, ring * unit, bay.height, 0, 0.12);
+  }
+  box(bay.x, bottom, bay.width + unit, unit, 1, 0.2);
+  box(right, bay.y, unit, bay.height, 1, 0.14);
+}
+
 void draw_edges(cairo_t* cairo, double width, double height, double zoom) {
   const double unit = std::max(1.0, zoom);
   cairo_set_source_rgba(cairo, 1, 1, 1, 0.18);
@@ -113,15 +133,15 @@ bool sensible_png(std::string_view bytes) {
 }
 
 // Null for what is no whole picture.
-Surface picture_in(std::string_view bytes) {
+CairoSurface picture_in(std::string_view bytes) {
   if (!sensible_png(bytes)) return {nullptr, cairo_surface_destroy};
-  Surface picture(cairo_image_surface_create_from_png_stream(take, &bytes), cairo_surface_destroy);
+  CairoSurface picture(cairo_image_surface_create_from_png_stream(take, &bytes), cairo_surface_destroy);
   if (cairo_surface_status(picture.get()) != CAIRO_STATUS_SUCCESS) picture.reset();
   return picture;
 }
 
 void draw_picture(cairo_t* cairo, const std::filesystem::path& file, double width, double height) {
-  const Surface picture = picture_in(read_file(file, largest_picture));
+  const CairoSurface picture = picture_in(read_file(file, largest_picture));
   if (!picture) throw ConfigError(file.string() + ": " + no_picture);
   cairo_scale(cairo, width / cairo_image_surface_get_width(picture.get()),
               height / cairo_image_surface_get_height(picture.get()));
@@ -130,7 +150,7 @@ void draw_picture(cairo_t* cairo, const std::filesystem::path& file, double widt
   cairo_paint(cairo);
 }
 
-Surface surface_on(Canvas& canvas) {
+CairoSurface surface_on(Canvas& canvas) {
   return {cairo_image_surface_create_for_data(reinterpret_cast<unsigned char*>(canvas.pixels.data()),
                                               CAIRO_FORMAT_RGB24, canvas.width, canvas.height,
                                               canvas.width * 4),
@@ -148,7 +168,7 @@ void draw_plate(Canvas& canvas, const WindowConfig& window, const std::filesyste
                 std::span<const Rect> gauges, Face face, double zoom) {
   const bool own_night = face == Face::night && !window.night_background.empty();
   const std::string& picture = own_night ? window.night_background : window.background;
-  const Surface surface = surface_on(canvas);
+  const CairoSurface surface = surface_on(canvas);
   const Context cairo(cairo_create(surface.get()), cairo_destroy);
   if (!picture.empty()) {
     draw_picture(cairo.get(), folder / picture, canvas.width, canvas.height);
@@ -159,6 +179,8 @@ void draw_plate(Canvas& canvas, const WindowConfig& window, const std::filesyste
   add_grain(canvas);
   cairo_surface_mark_dirty(surface.get());
   draw_edges(cairo.get(), canvas.width, canvas.height, zoom);
+  for (const Bay& bay : window.bays)
+    draw_bay(cairo.get(), scaled_place({bay.x, bay.y}, {bay.width, bay.height}, {zoom, zoom}), zoom);
   for (const Rect& gauge : gauges) draw_seam(cairo.get(), gauge, zoom);
 }
 

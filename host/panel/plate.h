@@ -12,7 +12,7 @@
 namespace host {
 
 /// Fills the whole canvas: the window's picture where the configuration names one, else painted
-/// metal in the window's colour, with a seam around every gauge. At night the flood light from above
+/// metal in the window's colour, with its bays and a seam around every gauge. At night the flood light from above
 /// leaves the lower edge darker. `zoom` is canvas pixels per panel pixel.
 /// Throws ConfigError when the picture cannot be read.
 void draw_plate(Canvas& canvas, const WindowConfig& window, const std::filesystem::path& folder,

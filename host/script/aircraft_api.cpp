@@ -52,13 +52,12 @@ static std::uint32_t failure_argument(const LuaCall& call, int index) {
     if (std::ranges::count(table, key, &FailureRow::key) != 0) return key;
     throw std::invalid_argument("the aircraft has no failure key " + std::to_string(key));
   }
-  const std::string_view name = call.text(index, "failure");
+  const std::string name = call.text(index, "failure");
   const auto found = std::ranges::find(table, name, &FailureRow::name);
   if (found != table.end()) return found->key;
   std::vector<std::string_view> names;
   for (const FailureRow& row : table) names.push_back(row.name);
-  throw std::invalid_argument("the aircraft has no failure '" + std::string(name) + "'" +
-                              did_you_mean(name, names));
+  throw std::invalid_argument("the aircraft has no failure '" + name + "'" + did_you_mean(name, names));
 }
 
 std::string event_name(std::uint32_t number) {

@@ -41,7 +41,7 @@
 ///     events()     the key events since the last gesture: {number=, name=, value=, seconds=}
 ///     messages()   the texts that the module has shown in message boxes
 ///     sounds([since])  the sounds that have started since then, or the flow's beginning: {name=, seconds=}
-///     sound_level(seconds)                 of the last part of the sound, 0 to 1
+///     sound_level(seconds)                 of the sounds' last part, 0 to 1
 ///     start_page()     the start page alone, and the aircraft as the ground crew hands it over
 ///     open_window(ident)  close_window(ident)  window_open(ident)
 ///     checklist(title)   the items of a list of the kneeboard:

@@ -112,12 +112,12 @@ void give_events(LuaCall& call, const FlowSession& session) {
 
 void give_sounds(LuaCall& call, const FlowSession& session) {
   const double since = call.number_or(1, "since", 0);
-  const auto first = std::ranges::lower_bound(session.sounds, since, {}, &HeardSound::seconds);
+  auto sound = std::ranges::lower_bound(session.sounds, since, {}, &HeardSound::seconds);
   call.begin_list();
-  for (const HeardSound& sound : std::ranges::subrange(first, session.sounds.end())) {
+  for (; sound != session.sounds.end(); ++sound) {
     call.begin_entry();
-    call.field("name", std::string_view(sound.name));
-    call.field("seconds", sound.seconds);
+    call.field("name", std::string_view(sound->name));
+    call.field("seconds", sound->seconds);
     call.end_entry();
   }
 }

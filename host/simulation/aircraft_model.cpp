@@ -89,6 +89,10 @@ std::array<std::string_view, 3> AircraftModel::identifications_heard() const {
   return systems_->aircraft.identifications_heard();
 }
 
+simulation::SoundSources AircraftModel::sound_sources() const {
+  return simulation::sound_sources(systems_->aircraft);
+}
+
 bool AircraftModel::set_failed(std::uint32_t key, bool failed) {
   return systems_->aircraft.failures.set(key, failed);
 }

@@ -16,6 +16,7 @@
 #include "host/simulation/navigation/tuning.h"
 #include "host/simulation/placement.h"
 #include "host/simulation/program_windows.h"
+#include "host/simulation/sound_sources.h"
 #include "host/simulation/table_row.h"
 
 namespace host {
@@ -78,6 +79,9 @@ class AircraftModel {
   /// The identifications that the crew hears: of receiver 1, receiver 2 and the direction finder, in
   /// letters. Empty where nothing is received or the crew does not listen.
   std::array<std::string_view, 3> identifications_heard() const;
+
+  /// What can be heard of it.
+  simulation::SoundSources sound_sources() const;
 
   /// Fails or repairs the system behind a failure key. Returns false for a key that no system has.
   bool set_failed(std::uint32_t key, bool failed);

@@ -26,8 +26,9 @@ void WavRecorder::advance(double seconds) {
     platform_render_audio(samples.data(), count);
     frames_ += count;
     const std::size_t taken = count * PLATFORM_AUDIO_CHANNELS;
-    file_.write({samples.data(), taken});
     last_.insert(last_.end(), samples.begin(), samples.begin() + static_cast<std::ptrdiff_t>(taken));
+    if (mix_in) mix_in({samples.data(), taken});
+    file_.write({samples.data(), taken});
   }
   const std::size_t most = samples_in(memory);
   if (last_.size() > 2 * most)

@@ -4,6 +4,8 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -27,7 +29,11 @@ class WavRecorder {
   /// of all steps: however small the steps, sound and time do not drift apart. Throws as above.
   void advance(double seconds);
 
-  /// Root mean square of the last `seconds` (up to `memory`), 1 being a full-scale square wave.
+  /// Mixes more into the next samples, interleaved stereo, before they are written. May be empty.
+  std::function<void(std::span<std::int16_t>)> mix_in;
+
+  /// Root mean square of the last `seconds` (up to `memory`), 1 being a full-scale square wave; without what is
+  /// mixed in.
   double level(double seconds) const;
 
   /// Completes the file; nothing more is recorded. Throws as above. Destruction does the same, but

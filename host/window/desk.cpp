@@ -6,6 +6,8 @@
 #include <iterator>
 #include <stdexcept>
 
+#include "host/files/read_file.h"
+#include "host/files/shortened.h"
 #include "host/panel/config_values.h"
 #include "host/panel/text.h"
 
@@ -131,28 +133,33 @@ WindowPlace parse_place(std::string_view text) {
 }
 
 Desk parse_desk(std::string_view text, const std::filesystem::path& file, std::string& notes) {
+  constexpr int most_notes = 3;
   Desk desk;
   Reader reader(desk);
-  int number = 0;
+  int number = 0, wrong = 0;
   for (std::string_view line : split(text, '\n')) {
     ++number;
     try {
       reader.read(trimmed(line));
     } catch (const LineError& error) {
-      notes += (notes.empty() ? "" : "\n") + at_line(file, number, error.what());
+      if (++wrong <= most_notes)
+        notes += (notes.empty() ? "" : "\n") + at_line(file, number, shortened(error.what(), 150));
     }
   }
+  if (wrong > most_notes)
+    notes += "\n" + file.string() + ": and " + std::to_string(wrong - most_notes) + " more lines";
   return desk;
 }
 
 Desk read_desk(const std::filesystem::path& file, std::string& notes) {
   std::error_code error;
-  if (!std::filesystem::is_regular_file(file, error)) return {};
-  std::ifstream stream(file, std::ios::binary);
-  std::string text(std::size_t{1} << 16, '\0');  // more than any desk needs
-  stream.read(text.data(), static_cast<std::streamsize>(text.size()));
-  text.resize(static_cast<std::size_t>(stream.gcount()));
-  return parse_desk(text, file, notes);
+  if (!std::filesystem::exists(file, error)) return {};
+  try {
+    return parse_desk(read_file(file, mebibyte), file, notes);
+  } catch (const FileFault& fault) {
+    notes += fault.what();
+    return {};
+  }
 }
 
 std::string text_of(const Desk& desk) {
@@ -189,11 +196,12 @@ std::filesystem::path desk_file() {
 
 std::filesystem::path pictures_folder() {
   constexpr std::string_view entry = "XDG_PICTURES_DIR=\"", from_home = "$HOME";
-  std::ifstream dirs(config_folder() / "user-dirs.dirs");
-  for (std::string line; std::getline(dirs, line);) {
+  const std::filesystem::path dirs = config_folder() / "user-dirs.dirs";
+  const std::string text = fault_of_file(dirs, mebibyte).empty() ? read_file(dirs, mebibyte) : "";
+  for (const std::string_view line : split(text, '\n')) {
     const std::size_t end = line.rfind('"');
     if (!line.starts_with(entry) || end < entry.size()) continue;
-    const std::string folder = line.substr(entry.size(), end - entry.size());
+    const std::string folder(line.substr(entry.size(), end - entry.size()));
     if (folder.starts_with('/')) return folder;
     if (folder.starts_with(from_home) && !home().empty()) return home().string() + folder.substr(5);
   }

@@ -2,8 +2,8 @@
 #include <array>
 #include <cmath>
 #include <cstdio>
-#include <fstream>
 
+#include "host/files/read_file.h"
 #include "host/panel/text.h"
 #include "host/simulation/places.h"
 #include "host/window/flight_deck.h"
@@ -54,10 +54,12 @@ MenuRow steps(std::string words, std::string value, std::function<void(int)> ste
 
 // The first sentence of the comment that a flow begins with.
 std::string first_words(const std::filesystem::path& flow) {
-  std::ifstream file(flow);
+  const std::string text = fault_of_file(flow, mebibyte).empty() ? read_file(flow, mebibyte) : "";
   std::string words;
-  for (std::string line; words.size() < 200 && std::getline(file, line) && line.starts_with("--");)
-    words += (words.empty() ? "" : " ") + std::string(trimmed(std::string_view(line).substr(2)));
+  for (const std::string_view line : split(text, '\n')) {
+    if (words.size() >= 200 || !line.starts_with("--")) break;
+    words += (words.empty() ? "" : " ") + std::string(trimmed(line.substr(2)));
+  }
   return words.substr(0, words.find_first_of(".:;"));
 }
 

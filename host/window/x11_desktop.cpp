@@ -2,10 +2,14 @@
 
 #include <X11/Xlib.h>
 #include <X11/Xproto.h>
+#include <unistd.h>
 
+#include <csignal>
+#include <cstdio>
 #include <cstdlib>
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "host/panel/text.h"
 
@@ -14,16 +18,33 @@ namespace {
 
 XErrorHandler next_handler = nullptr;
 
-int forgive(Display* display, XErrorEvent* error) {
-  if (error->error_code == BadWindow && error->request_code == X_SendEvent) return 0;
+// A window that another program has destroyed does not come back: the flight is left as on a signal.
+void leave_once() {
+  static bool told = false;
+  if (std::exchange(told, true)) return;
+  std::fprintf(stderr, "tarnvale: its window was destroyed by another program\n");
+  kill(getpid(), SIGTERM);
+}
+
+int take_error(Display* display, XErrorEvent* error) {
+  const bool window_gone = error->error_code == BadWindow || error->error_code == BadDrawable;
+  if (window_gone && error->request_code == X_SendEvent) return 0;
+  if (window_gone) return leave_once(), 0;
   return next_handler ? next_handler(display, error) : 0;
+}
+
+// Nothing that is drawn from here on has a place, and Xlib lets nobody go on. The journal is on the disk.
+int end_without_display(Display*) {
+  std::fprintf(stderr, "tarnvale: the display is gone\n");
+  _exit(1);
 }
 
 }  // namespace
 
 void x11_forgive_late_events() {
-  const XErrorHandler before = XSetErrorHandler(forgive);
-  if (before != forgive) next_handler = before;
+  const XErrorHandler before = XSetErrorHandler(take_error);
+  if (before != take_error) next_handler = before;
+  XSetIOErrorHandler(end_without_display);
 }
 
 std::optional<double> scale_in_resources(std::string_view resources) {

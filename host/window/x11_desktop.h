@@ -15,7 +15,8 @@ std::optional<double> scale_in_resources(std::string_view resources);
 
 /// Makes an event for a window that has just gone no error. The window library wakes itself by events
 /// on a second connection, which may come too late; by default that would end the program. To be called
-/// before that library starts: it falls back on the error handler that it finds.
+/// before that library starts: it falls back on the error handler that it finds. A window that another
+/// program destroys, and a display that goes away, end the program with a line of its own.
 void x11_forgive_late_events();
 
 }  // namespace host

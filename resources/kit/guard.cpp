@@ -98,7 +98,7 @@ void guarded_switch_on(const Canvas& canvas, Box frame) { switch_in_well(canvas,
 void guarded_rotary(const Canvas& canvas, Box frame, int position) {
   well(canvas, frame);
   const double radius = guarded_well(frame).width / 2 - 2;
-  pointer_knob(canvas, guarded_hub(frame), radius, 180 + 60.0 * position);
+  pointer_knob(canvas, guarded_hub(frame), radius, 180 - 60.0 * position);
 }
 
 void guard_closed(const Canvas& canvas, Box frame) {

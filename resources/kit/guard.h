@@ -21,7 +21,8 @@ void guarded_switch_off(const Canvas& canvas, Box frame);
 /// The well and the lever up: the picture of a switch that is on.
 void guarded_switch_on(const Canvas& canvas, Box frame);
 
-/// The well and a small rotary knob turned to `position` of four: the first is off.
+/// The well and a small rotary knob turned to `position` of four: from the first, which is off, over the right
+/// to straight up.
 void guarded_rotary(const Canvas& canvas, Box frame, int position);
 
 void guard_closed(const Canvas& canvas, Box frame);

@@ -122,7 +122,7 @@ void print(const Canvas& canvas, Point at, std::string_view text, const Letterin
 
 void engrave(const Canvas& canvas, Point at, std::string_view text, const Lettering& lettering,
              Anchor anchor) {
-  const double edge = canvas.density() == 1 ? 1.0 : 0.5;
+  const double edge = canvas.hairline();
   const double strength = canvas.density() == 1 ? 0.6 : 1;
   const auto edging = [&](double by, Colour colour) {
     Lettering cut = lettering;

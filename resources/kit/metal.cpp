@@ -141,22 +141,12 @@ void sunk_field(const Canvas& canvas, Box box, double corner_radius, Colour floo
   stroke(canvas, rounded(box.grown(0.4), corner_radius), 0.8);
 }
 
-void engraved_line(const Canvas& canvas, Point from, Point to) {
-  const double edge = 0.5;
-  line(canvas, from + Point{-edge, -edge}, to + Point{-edge, -edge}, 0.9, faded(palette::black, 0.5));
-  line(canvas, from + Point{edge, edge}, to + Point{edge, edge}, 0.9, faded(palette::white, 0.18));
-  line(canvas, from, to, 1, palette::legend);
-}
+namespace {
 
-void engraved_bracket(const Canvas& canvas, Point from, double length, double rise) {
-  const double x1 = canvas.snapped(from.x) + 0.5, x2 = canvas.snapped(from.x + length) + 0.5;
-  const double y = canvas.snapped(from.y) + 0.5;
-  const Path path = [=](cairo_t* cr) {
-    cairo_move_to(cr, x1, y - rise);
-    cairo_line_to(cr, x1, y);
-    cairo_line_to(cr, x2, y);
-    cairo_line_to(cr, x2, y - rise);
-  };
+/// What is cut into the plate has a dark edge above and a light one below, a device pixel wide.
+void engrave(const Canvas& canvas, const Path& path) {
+  constexpr double width = 1;
+  const double edge = canvas.hairline(), aside = (width + edge) / 2;
   const auto shifted = [&](double by) {
     return [&path, by](cairo_t* cr) {
       cairo_translate(cr, by, by);
@@ -164,9 +154,29 @@ void engraved_bracket(const Canvas& canvas, Point from, double length, double ri
       cairo_translate(cr, -by, -by);
     };
   };
-  stroke(canvas, shifted(-0.5), 0.9, faded(palette::black, 0.5));
-  stroke(canvas, shifted(0.5), 0.9, faded(palette::white, 0.18));
-  stroke(canvas, path, 1, palette::legend);
+  stroke(canvas, shifted(-aside), edge, faded(palette::black, 0.5));
+  stroke(canvas, shifted(aside), edge, faded(palette::white, 0.2));
+  stroke(canvas, path, width, palette::legend);
+}
+
+}  // namespace
+
+void engraved_line(const Canvas& canvas, Point from, Point to) {
+  engrave(canvas, [=](cairo_t* cr) {
+    cairo_move_to(cr, from.x, from.y);
+    cairo_line_to(cr, to.x, to.y);
+  });
+}
+
+void engraved_bracket(const Canvas& canvas, Point from, double length, double rise) {
+  const double x1 = canvas.snapped(from.x) + 0.5, x2 = canvas.snapped(from.x + length) + 0.5;
+  const double y = canvas.snapped(from.y) + 0.5;
+  engrave(canvas, [=](cairo_t* cr) {
+    cairo_move_to(cr, x1, y - rise);
+    cairo_line_to(cr, x1, y);
+    cairo_line_to(cr, x2, y);
+    cairo_line_to(cr, x2, y - rise);
+  });
 }
 
 void polish(const Canvas& canvas, Point centre, double radius) {

@@ -48,6 +48,16 @@ struct Fitter {
     engrave(canvas, spot, words.centre, {}, words.anchor);
     engrave(canvas, {spot.x, spot.y + words.reach}, words.down, {}, words.anchor);
   }
+  void operator()(const FlowKey& key) const {
+    constexpr double bar = 5, pitch = 7.8, words = 8;
+    const Lettering lettering{.size = 6.5};
+    const Point in_line = at(key.spot), across = in_line + Point{0, pitch};
+    const double x = canvas.snapped(in_line.x + bar / 2) + 0.5;
+    engraved_line(canvas, {x, in_line.y - bar / 2}, {x, in_line.y + bar / 2});
+    engraved_line(canvas, {in_line.x, level(across.y)}, {in_line.x + bar, level(across.y)});
+    engrave(canvas, in_line + Point{words, 0}, key.in_line, lettering, Anchor::left);
+    engrave(canvas, across + Point{words, 0}, key.across, lettering, Anchor::left);
+  }
   void operator()(const Screw& row) const { screw(canvas, at(row.spot), row.radius, row.turned); }
   void operator()(const CornerScrews& row) const { corner_screws(canvas, row.inset, row.radius); }
   void operator()(const Line& row) const {

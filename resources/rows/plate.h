@@ -68,6 +68,18 @@ constexpr Positions words_between(std::string_view one, std::string_view other, 
   return words;
 }
 
+/// How the bar of a flow switch lies in its two positions, and what they do; it begins at the spot.
+struct FlowKey {
+  Spot spot;
+  std::string_view in_line = "OPEN";
+  std::string_view across = "SHUT";
+};
+
+/// What a guarded knob's position is called, on the right of its guard: 0 to 3 from below.
+constexpr Legend guarded_position(std::string_view knob, int position, std::string_view text) {
+  return {at(knob, 16.5, 23.5 - 9.2 * position), text, legend_size, Anchor::left};
+}
+
 struct Screw {
   Spot spot;
   double turned;  ///< degrees that the fitter left its slot from upright
@@ -139,7 +151,7 @@ struct Ornament {
   void (*draw)(const Board& board);
 };
 
-using Item = std::variant<Legend, Positions, Screw, CornerScrews, Line, Bracket, Window, FixedButton,
-                          FixedKnob, Recess, Opening, Face, DrumFrame, Ornament, Dial>;
+using Item = std::variant<Legend, Positions, FlowKey, Screw, CornerScrews, Line, Bracket, Window,
+                          FixedButton, FixedKnob, Recess, Opening, Face, DrumFrame, Ornament, Dial>;
 
 }  // namespace artwork

@@ -119,6 +119,8 @@ INSTANTIATE_TEST_SUITE_P(
              "@swapped/Tarnvale.GAU.2x: bitmap 10 has 60 x 60 pixels, not 40 x 40"},
         Case{"endless_search", "run @search.lua", 1,
              "search.lua: the flow computes without ever waiting: an endless loop?"},
+        Case{"sound_into_a_pipe", "run @noise.lua --wav @pipe", 1,
+             "@pipe: is a pipe that nobody reads"},
         Case{"sound_over_flow", "run @noise.lua --wav @noise.lua", 1,
              "noise.lua: --wav would write over the flow"},
         Case{"sound_over_journal", "run @noise.lua --wav @x --journal @x", 1,

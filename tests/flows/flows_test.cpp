@@ -13,7 +13,7 @@ TEST(FlowSound, TheClickIsHeardOnceAtItsTime) {
   const TempFolder folder;
   const std::string flow = folder.write("click.lua", "wait(2)\nclick('Masterbat', 47, 99)\nwait(3)\n");
   const std::string sound = folder / "click.wav";
-  const Outcome outcome = tarnvale("run " + flow + " --wav " + sound);
+  const Outcome outcome = tarnvale("run " + flow + " --ambience 0 --wav " + sound);
   ASSERT_EQ(outcome.exit_code, 0) << outcome.output;
   const std::vector<double> levels = loudness(sound);
   EXPECT_NEAR(static_cast<double>(levels.size()) / 100, 5, 0.2) << "as long as the flight";

@@ -1,6 +1,7 @@
 /// What is heard in a recording, and when.
 #pragma once
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <cstring>
@@ -26,18 +27,16 @@ inline std::vector<double> loudness(const std::string& file) {
   return levels;
 }
 
-/// The times at which a sound starts after at least 0.2 s of silence, in seconds.
+/// The times at which a sound stands out from the 0.2 s before it, in seconds.
 inline std::vector<double> onsets(const std::vector<double>& levels) {
   constexpr double audible = 0.002;
   std::vector<double> times;
-  int silent_steps = 20;
   for (std::size_t i = 0; i < levels.size(); ++i) {
-    if (levels[i] <= audible) {
-      ++silent_steps;
-      continue;
-    }
-    if (silent_steps >= 20) times.push_back(static_cast<double>(i) / 100);
-    silent_steps = 0;
+    double before = 0;
+    for (std::size_t k = i < 20 ? 0 : i - 20; k < i; ++k) before = std::max(before, levels[k]);
+    const double seconds = static_cast<double>(i) / 100;
+    const bool goes_on = !times.empty() && seconds < times.back() + 0.2;
+    if (levels[i] > audible && levels[i] > 3 * before && !goes_on) times.push_back(seconds);
   }
   return times;
 }

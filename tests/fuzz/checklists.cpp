@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "host/panel/condition.h"
 #include "host/panel/panel_config.h"
 #include "tests/fuzz/harness.h"
 

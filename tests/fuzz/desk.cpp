@@ -7,6 +7,6 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const host::Desk desk = host::parse_desk(fuzz::text_of(data, size), "windows.cfg", notes);
   const std::string kept = host::text_of(desk);
   fuzz::must(host::text_of(host::parse_desk(kept, "windows.cfg", none)) == kept);
-  fuzz::must(none.empty());
+  fuzz::must(none.empty() && notes.size() < 1000);
   return 0;
 }

@@ -2,10 +2,7 @@
 #include "host/journal/replay.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <windows.h>
-
-#include <csignal>
 
 #include "host/journal/flight_journal.h"
 #include "host/journal/flow_writer.h"
@@ -164,23 +161,6 @@ TEST_F(Replay, ACutJournalIsGoneOnWithFromItsLastGoodLine) {
   Flight again(folder / "again.wav");
   EXPECT_EQ(again.fly_again(whole), "");
   EXPECT_EQ(again.digest.value(), digest);
-}
-
-TEST_F(Replay, AFullDiskEndsTheJournalAndNotTheFlight) {
-  Flight flight(folder / "then.wav");
-  flight.keep_journal(file);
-  std::vector<std::string> faults;
-  flight.journal->on_fault = [&](const std::string& fault) { faults.push_back(fault); };
-  std::signal(SIGXFSZ, SIG_IGN);
-  rlimit before{};
-  getrlimit(RLIMIT_FSIZE, &before);
-  const rlimit full{400, before.rlim_max};
-  setrlimit(RLIMIT_FSIZE, &full);
-  for (int frame = 0; frame < 300; ++frame) flight.inputs.frame();
-  setrlimit(RLIMIT_FSIZE, &before);
-  EXPECT_EQ(faults, std::vector{file + ": cannot write the journal any more"});
-  EXPECT_EQ(flight.cockpit.frames(), 300u);
-  EXPECT_GT(read_journal(file).frames(), 0u) << "what was kept can be flown";
 }
 
 TEST_F(Replay, NamesTheLineWhereTheFlightIsAnotherOneOrCannotGoOn) {

@@ -76,6 +76,8 @@ TEST(Words, LieUnderNoMovingPart) {
         const Canvas picture = drawn(*bitmap, 2);
         for (Box room : plate.canvas.words()) {
           room.x -= e->position.x, room.y -= e->position.y;
+          // A lamp that comes on over its dark lens says the same.
+          if (std::ranges::any_of(picture.words(), [&](Box own) { return meet(own, room); })) continue;
           EXPECT_LE(solid_pixels(picture, room.grown(-0.5)), 2)
               << plate.of.name << ": " << subject(*bitmap) << " covers words";
         }

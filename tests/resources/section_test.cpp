@@ -5,6 +5,7 @@
 #include "host/loader/mapped_file.h"
 #include "host/loader/resource_section.h"
 #include "resources/tool/section.h"
+#include "resources/tool/windows_resources.h"
 #include "tests/resources/picture.h"
 
 namespace artwork_test {
@@ -69,6 +70,24 @@ TEST(Section, ListsNumberedBitmapsThenNamedOnes) {
   EXPECT_TRUE(read.notes().empty());
   ASSERT_EQ(read.numbered().size(), 2u);
   EXPECT_EQ(host::decode(*read.find(90), host::BitmapUse::image).pixels[1], 0xFF0A141Eu);
+}
+
+TEST(Section, BecomesResourcesForWindowsByNumberAndByName) {
+  const Bytes bitmap = packed(tiny());
+  const Bytes bytes = windows_resources(section({{0x1234, "", bitmap}, {~0u, "IDB", bitmap}}));
+  const auto part = [&](std::size_t at, std::size_t size) {
+    return Bytes(bytes.begin() + std::ptrdiff_t(at), bytes.begin() + std::ptrdiff_t(at + size));
+  };
+  const auto low = static_cast<std::uint8_t>(bitmap.size());
+  const std::size_t numbered = 32, named = numbered + 32 + bitmap.size();
+  EXPECT_EQ(part(0, 8), (Bytes{0, 0, 0, 0, 32, 0, 0, 0})) << "every file's first";
+  EXPECT_EQ(part(numbered, 16),
+            (Bytes{low, 0, 0, 0, 32, 0, 0, 0, 255, 255, 2, 0, 255, 255, 0x34, 0x12}));
+  EXPECT_EQ(part(numbered + 32, bitmap.size()), bitmap);
+  EXPECT_EQ(part(named, 20),
+            (Bytes{low, 0, 0, 0, 36, 0, 0, 0, 255, 255, 2, 0, 'I', 0, 'D', 0, 'B', 0, 0, 0}));
+  EXPECT_EQ(part(named + 36, bitmap.size()), bitmap);
+  EXPECT_EQ(bytes.size(), named + 36 + bitmap.size()) << "a multiple of four";
 }
 
 /// The files as the build has left them beside one another, at one, two and three times the pixels.

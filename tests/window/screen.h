@@ -27,6 +27,10 @@ class Child {
   }
   ~Child() { end(SIGTERM); }
 
+  void tell(int signal) const {
+    if (pid_ > 0) kill(pid_, signal);
+  }
+
   /// At once, and without a word.
   void die() { end(SIGKILL); }
 
@@ -78,8 +82,12 @@ class Screen {
 
   const std::string& display() const { return display_; }
 
-  /// Where the program keeps the journals of its sessions.
+  /// Where the program keeps the journals of its sessions, and its settings.
   std::filesystem::path sessions() const { return state_.path() / "tarnvale"; }
+  std::filesystem::path settings() const { return state_.path() / "config"; }
+
+  /// The server ends under everyone who is there.
+  void die() { server_->die(); }
 
   /// Works mouse and keyboard, in xdotool's words.
   Outcome hands(const std::string& what) const {

@@ -15,7 +15,7 @@ constexpr Dial pressure(std::string_view needle, std::string_view wing) {
 }
 
 constexpr Item items[] = {
-    Screw{{83, 9}, 25},
+    Legend{{82.5, 12}, "ANTI\nICE", 7},
     Screw{{-8, -8}, 70},
     pressure("left_wing_anti_ice_pressure", "WING 1"),
     pressure("right_wing_anti_ice_pressure", "WING 2"),

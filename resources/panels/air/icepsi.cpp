@@ -18,7 +18,7 @@ constexpr Dial pressure(std::string_view needle, std::string_view engine) {
 }
 
 constexpr Item items[] = {
-    Screw{{75.5, 8}, 25},
+    Legend{{75.5, 11.5}, "ANTI\nICE", 7},
     Screw{{75.5, -8}, 70},
     pressure("left_engine_anti_ice_pressure", "ENG 1"),
     pressure("right_engine_anti_ice_pressure", "ENG 2"),

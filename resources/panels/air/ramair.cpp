@@ -9,7 +9,13 @@ constexpr Item items[] = {
     below("inlet_guard", "INLET"),
     Legend{at("outlet_guard", 2, 37).level_with("inlet_guard"), "OUTLET"},
     below("test_light", "TEST"),
-    heading({38, 58}, "RAM AIR", 10),
+    ending(at("inlet_guard", -17, 0), "ON", 7),
+    ending(at("inlet_guard", -17, 20), "OFF", 7),
+    guarded_position("outlet_switch", 0, "0"),
+    guarded_position("outlet_switch", 1, "1"),
+    guarded_position("outlet_switch", 2, "2"),
+    guarded_position("outlet_switch", 3, "3"),
+    heading({30, 57}, "RAM AIR"),
 };
 
 constexpr Art art[] = {

@@ -23,6 +23,8 @@ void draw_throttle(const Canvas& canvas, int image) {
 
 void draw_quadrant(const Board& board) {
   throttle_quadrant(board.canvas, throttle);
+  placard(board.canvas, {196, 29, 49, 61}, "STALL 36 T",
+          "UP - 128\n6 - 122\n11 - 117\n18 - 112\n25 - 107\n42 - 100");
   placard(board.canvas, {196, 99, 49, 47}, "TAKE-OFF", "FLAPS 11\nTRIM SET\nDUMPERS IN\nSPD BRK IN");
 }
 

@@ -17,6 +17,8 @@ constexpr Item items[] = {
     Line{between("bus_1_tie_knob", "bus_2_tie_knob", 19).level_with("bus_1_tie_knob"),
          at("bus_2_tie_knob", -15)},
     Legend{between("bus_1_tie_knob", "bus_2_tie_knob", 0, 0.6).level_with("bus_1_tie_knob"), "AC TIE"},
+    FlowKey{between("bus_1_tie_knob", "bus_2_tie_knob", -13, 11).level_with("bus_1_tie_knob"), "TIED",
+            "OPEN"},
 };
 
 constexpr Art art[] = {

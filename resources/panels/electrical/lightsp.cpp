@@ -8,7 +8,11 @@ constexpr Item items[] = {
     // The fire test has no picture of its own.
     FixedButton{at("fire_test_button"), 9, palette::guard},
     Recess{"left_landing_light_lever", "right_landing_light_lever"},
+    Legend{at("left_landing_light_lever", 0, -17), "L", 7},
+    Legend{at("middle_landing_light_lever", 0, -17), "NOSE", 7},
+    Legend{at("right_landing_light_lever", 0, -17), "R", 7},
     Legend{at("middle_landing_light_lever", 0, 21.5), "LANDING"},
+    left_of("recognition_lights_switch", {.reach = 9}, 9),
     below("navigation_lights_switch", "NAV", {0, -1}),
     below("recognition_lights_switch", "RECG", {0, -1}),
 };

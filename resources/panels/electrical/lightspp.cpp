@@ -8,6 +8,7 @@ constexpr Item items[] = {
     below("strobe_lights_switch", "STRB", {0, -2}),
     below("taxi_lights_switch", "TAXI", {0, -2}),
     below("beacon_lights_switch", "BCN", {0, -2}),
+    words_between("beacon_lights_switch", "panel_lights_switch", {.reach = 9}),
     Legend{between("strobe_lights_switch", "beacon_lights_switch", 0, -23.5), "EXTERIOR"},
     Legend{at("panel_lights_switch", 0, -23.5), "INT"},
 };

@@ -9,6 +9,7 @@ constexpr Item items[] = {
     Legend{at("battery_switch", -2, -28), "BATT"},
     Legend{at("bus_tie_button", -1, -28).level_with("battery_switch"), "BUS TIE"},
     Legend{at("external_power_switch", 4, -28).level_with("battery_switch"), "EXT PWR"},
+    FlowKey{at("bus_tie_button", -12, 17.5), "TIED", "OPEN"},
     left_of("battery_switch", {}, 11, -2.5),
     right_of("external_power_switch", {}, 10, 2.5),
     Bracket{at("battery_switch", 0, 30), at("external_power_switch")},

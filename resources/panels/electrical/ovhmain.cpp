@@ -1,10 +1,12 @@
 /// The overhead's front row of light switches.
 #include "resources/art.h"
 #include "resources/kit/lamp.h"
+#include "resources/kit/legend.h"
 
 namespace artwork::panels::ovhmain {
 
-constexpr int rockers = 4;
+// The lamps in the wings and on the nose gear.
+constexpr std::string_view rockers[] = {"L WING", "L NOSE", "R NOSE", "R WING"};
 
 constexpr Item items[] = {
     Legend{at("strobe_lights_button", 0, 19), "STRB"},
@@ -18,7 +20,7 @@ constexpr Item items[] = {
     Screw{{316, -8}, 5},
 };
 
-void draw_rocker(const Canvas& canvas, Box box, bool on) {
+void draw_rocker(const Canvas& canvas, Box box, std::string_view name, bool on) {
   fill(canvas, rounded(box, 2), palette::well);
   const Box cap = box.grown(-1);
   set_linear(canvas, {cap.x, cap.y}, {cap.x, cap.bottom()},
@@ -30,7 +32,8 @@ void draw_rocker(const Canvas& canvas, Box box, bool on) {
   fill(canvas, rounded(cap, 1.6));
   line(canvas, {cap.x + 2, cap.centre().y}, {cap.right() - 2, cap.centre().y}, 0.8,
        faded(palette::black, 0.5));
-  lamp_lens(canvas, {cap.x + 4, cap.y + 4, cap.width - 8, 8}, {palette::lamp_green}, on);
+  lamp_lens(canvas, {cap.x + 4, cap.y + 4, cap.width - 8, 9}, {palette::lamp_green, "ON", 6.5}, on);
+  print(canvas, {cap.centre().x, cap.bottom() - 6.5}, name, {.size = 5.8});
 }
 
 /// Four rockers under one bar: they move together.
@@ -41,10 +44,11 @@ void draw_bank(const Canvas& canvas, int image) {
              {{0, palette::mould_light}, {0.5, palette::mould}, {1, palette::mould_dark}});
   fill(canvas, rounded(frame, 3));
   stroke(canvas, rounded(frame.grown(-0.4), 2.8), 0.7, faded(palette::white, 0.25));
-  const double pitch = (frame.width - 6) / rockers;
-  for (int i = 0; i < rockers; ++i) {
-    draw_rocker(canvas, {frame.x + 3 + i * pitch + 2, frame.y + 3.5, pitch - 4, frame.height - 7},
-                image == 1);
+  const double pitch = (frame.width - 6) / std::size(rockers);
+  double x = frame.x + 5;
+  for (const std::string_view name : rockers) {
+    draw_rocker(canvas, {x, frame.y + 3.5, pitch - 4, frame.height - 7}, name, image == 1);
+    x += pitch;
   }
 }
 

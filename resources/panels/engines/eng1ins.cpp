@@ -15,7 +15,9 @@ constexpr Item items[] = {
 };
 
 void draw_peak_pointer(const Canvas& canvas, int) {
-  blade(canvas, {.pivot = {8.5, 7.5}, .length = 26, .tail = 0, .half_width = 0.9, .colour = palette::range_red});
+  blade(
+      canvas,
+      {.pivot = {8.5, 7.5}, .length = 26, .tail = 0, .half_width = 0.9, .colour = palette::range_red});
 }
 
 void draw_inner_pointer(const Canvas& canvas, int) {

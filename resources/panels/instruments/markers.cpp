@@ -14,7 +14,7 @@ void draw_dark_lenses(const Board& board) {
   for (int marker = 0; marker < 3; ++marker) {
     const Box frame = frame_of(marker);
     lamp_housing(board.canvas, frame);
-    lamp_lens(board.canvas, frame.grown(-2), {lenses[marker].colour}, false);
+    lamp_lens(board.canvas, frame.grown(-2), lenses[marker], false);
   }
 }
 
