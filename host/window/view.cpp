@@ -263,10 +263,11 @@ void View::draw_panels(double blend) {
 }
 
 void View::draw_outside(const std::optional<outside::Sight>& sight) {
-  if (sight) sight_ = *sight;
   const bool resized =
       outside_picture_.width != outside_.width || outside_picture_.height != outside_.height;
-  if (!shows_outside() || (!sight && !resized)) return;
+  const bool changed = sight && !outside::look_alike(*sight, sight_);
+  if (!shows_outside() || (!changed && !resized)) return;
+  if (sight) sight_ = *sight;
   if (resized) outside_picture_ = Canvas(outside_.width, outside_.height);
   outside_view_.draw(outside_picture_, whole_of(outside_picture_), sight_);
   change(outside_);

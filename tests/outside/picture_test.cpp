@@ -116,6 +116,29 @@ TEST(Outside, TheSameSightGivesTheSamePictureWhateverWasDrawnBefore) {
         << "row " << y;
 }
 
+// An aircraft at rest is not looked out of sixty times a second.
+TEST(Outside, LooksTheSameUntilSomethingHasMovedOrFlashed) {
+  const auto alike = [](double hours, auto change) {
+    const Sight before = sight_at(100, 0, 4, 0, 0, hours);
+    Sight after = before;
+    change(after);
+    return look_alike(before, after);
+  };
+  const auto wait = [](double seconds) {
+    return [=](Sight& sight) { sight.time_of_day_s += seconds; };
+  };
+  EXPECT_TRUE(alike(12, wait(1)));
+  EXPECT_FALSE(alike(12, wait(10))) << "the sun goes on";
+  EXPECT_TRUE(alike(22, wait(0.01)));
+  EXPECT_FALSE(alike(22, wait(0.05))) << "lamps flash by night";
+  EXPECT_TRUE(alike(12, [](Sight& sight) { sight.eye_m.x += 0.001; }));
+  EXPECT_FALSE(alike(12, [](Sight& sight) { sight.eye_m.x += 0.01; }));
+  EXPECT_FALSE(alike(12, [](Sight& sight) { sight.attitude.pitch_rad += 1e-4; }));
+  EXPECT_FALSE(alike(12, [](Sight& sight) { sight.look.right_deg = 5; }));
+  EXPECT_FALSE(alike(12, [](Sight& sight) { sight.landing_lights = true; }));
+  EXPECT_FALSE(alike(12, [](Sight& sight) { sight.eye_m.x = std::nan(""); }));
+}
+
 TEST(Outside, DrawsFromAnywhereAndInAnySize) {
   OutsideView view;
   for (const double height_m : {-50.0, 0.0, 1.0, 20000.0})
