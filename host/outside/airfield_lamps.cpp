@@ -136,6 +136,16 @@ std::vector<Lamp> airfield_lamps() {
   return all;
 }
 
+bool sees_flashes(const Vector& eye_m) {
+  static const std::vector<Lamp> flashing = [] {
+    std::vector<Lamp> all = airfield_lamps();
+    std::erase_if(all, [](const Lamp& lamp) { return lamp.flash_phase < 0.0; });
+    return all;
+  }();
+  return std::ranges::any_of(flashing,
+                             [&](const Lamp& lamp) { return share_toward(lamp, eye_m) > 0.0; });
+}
+
 void paint_lamps(Picture picture, const Camera& camera, const Air& air, const std::vector<Lamp>& lamps,
                  double time_s) {
   for (const Lamp& lamp : lamps) {

@@ -17,6 +17,9 @@ struct Lamp {
 /// Edge, threshold, end, middle line, touchdown zone and approach lights, taxiways and apron.
 std::vector<Lamp> airfield_lamps();
 
+/// Whether any of those that flash shines toward the eye.
+bool sees_flashes(const Vector& eye_m);
+
 /// Adds those that are seen from the eye, as bright as they look in the light of the hour.
 void paint_lamps(Picture picture, const Camera& camera, const Air& air, const std::vector<Lamp>& lamps,
                  double time_s);

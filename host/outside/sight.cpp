@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "host/outside/daylight.h"
+#include "host/outside/airfield_lamps.h"
 
 namespace host::outside {
 namespace {
@@ -22,15 +22,14 @@ bool near_by(double one, double other, double tolerance) { return std::abs(one -
 
 bool look_alike(const Sight& one, const Sight& other) {
   constexpr double still_m = 0.002, still_rad = 2e-5, still_deg = 1e-3;
-  constexpr double sky_s = 5.0, flash_s = 0.015, no_lamps = 0.01;
+  constexpr double sky_s = 5.0, flash_s = 0.015;
   const simulation::EulerAngles &a = one.attitude, &b = other.attitude;
-  const bool lamps = daylight_at(one.time_of_day_s).lamps > no_lamps;
   return near_by(length(one.eye_m - other.eye_m), 0.0, still_m) &&
          near_by(a.bank_rad, b.bank_rad, still_rad) && near_by(a.pitch_rad, b.pitch_rad, still_rad) &&
          near_by(a.heading_rad, b.heading_rad, still_rad) &&
          near_by(one.look.right_deg, other.look.right_deg, still_deg) &&
          near_by(one.look.up_deg, other.look.up_deg, still_deg) &&
-         near_by(one.time_of_day_s, other.time_of_day_s, lamps ? flash_s : sky_s) &&
+         near_by(one.time_of_day_s, other.time_of_day_s, sees_flashes(one.eye_m) ? flash_s : sky_s) &&
          one.landing_lights == other.landing_lights;
 }
 

@@ -265,8 +265,8 @@ void View::draw_panels(double blend) {
 void View::draw_outside(const std::optional<outside::Sight>& sight) {
   const bool resized =
       outside_picture_.width != outside_.width || outside_picture_.height != outside_.height;
-  const bool changed = sight && !outside::look_alike(*sight, sight_);
-  if (!shows_outside() || (!changed && !resized)) return;
+  if (sight) outside_moves_ = shows_outside() && !outside::look_alike(*sight, sight_);
+  if (!shows_outside() || (!outside_moves_ && !resized)) return;
   if (sight) sight_ = *sight;
   if (resized) outside_picture_ = Canvas(outside_.width, outside_.height);
   outside_view_.draw(outside_picture_, whole_of(outside_picture_), sight_);

@@ -98,6 +98,8 @@ class View {
   void want_outside(bool wanted);
   bool wants_outside() const { return outside_wanted_; }
   bool shows_outside() const { return outside_.height > 0; }
+  /// Whether it was another picture the last time that it was looked at.
+  bool outside_moves() const { return outside_moves_; }
 
   /// Draws and presents what has changed. `sight` is what the captain sees now; empty: as before. Returns
   /// whether anything had changed.
@@ -160,7 +162,8 @@ class View {
   bool outside_wanted_ = false;
   Rect outside_;  ///< of the screen; empty where the view does not stand
   Canvas outside_picture_;
-  outside::Sight sight_;
+  outside::Sight sight_;  ///< that was drawn last
+  bool outside_moves_ = false;
   outside::OutsideView outside_view_;
   std::array<std::optional<Overlay>, static_cast<std::size_t>(Layer::count)> layers_;
   std::optional<Target> target_;

@@ -173,7 +173,7 @@ Desk Views::desk() const {
 }
 
 bool Views::moving() const {
-  return main_->moving() || main_->shows_outside() ||
+  return main_->moving() || main_->outside_moves() ||
          std::ranges::any_of(torn_, [](const auto& entry) { return entry.second->moving(); });
 }
 
