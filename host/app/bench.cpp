@@ -1,9 +1,12 @@
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <cmath>
 #include <cstdio>
 #include <cstring>
 #include <functional>
+#include <string_view>
+#include <utility>
 
 #include "host/app/commands.h"
 #include "host/app/installation.h"
@@ -63,12 +66,14 @@ class Pictures {
   std::vector<std::uint32_t> copies_;
 };
 
-// Every reading somewhere else than a frame ago, so that every pointer moves.
+// Every reading somewhere else than a frame ago, so that every pointer moves; with the attitude also the
+// compass cards and the balls.
 class Unrest {
  public:
-  explicit Unrest(Cockpit& cockpit) : cockpit_(cockpit) {
+  Unrest(Cockpit& cockpit, bool attitude) : cockpit_(cockpit) {
     for (const TableRow& row : AircraftModel::tokens())
-      readings_.push_back({row.number, cockpit.aircraft().token(row.number)});
+      if (attitude || !is_attitude(row.name))
+        readings_.push_back({row.number, cockpit.aircraft().token(row.number)});
   }
 
   void frame() {
@@ -81,6 +86,12 @@ class Unrest {
   }
 
  private:
+  static bool is_attitude(std::string_view name) {
+    return std::ranges::any_of(std::array{"heading", "pitch", "bank"}, [&](std::string_view part) {
+      return name.find(part) != std::string_view::npos;
+    });
+  }
+
   struct Reading {
     std::uint32_t token;
     double value;
@@ -113,9 +124,12 @@ void print_flight(Cockpit& cockpit) {
   cockpit.frame();
   Pictures pictures(cockpit);
   pictures.draw();
-  Unrest unrest(cockpit);
-  const double moving = microseconds([&] { pictures.draw(); }, [&] { unrest.frame(); });
-  print_drawing("captain, every pointer", moving, microseconds([&] { pictures.copy(); }));
+  const double copy = microseconds([&] { pictures.copy(); });
+  for (const auto& [what, attitude] :
+       {std::pair{"captain, every pointer", false}, {"captain, cards and balls", true}}) {
+    Unrest unrest(cockpit, attitude);
+    print_drawing(what, microseconds([&] { pictures.draw(); }, [&] { unrest.frame(); }), copy);
+  }
 }
 
 }  // namespace
