@@ -10,11 +10,9 @@ namespace {
 void switch_day_and_night(const Gauge& gauge) {
   if (gauge.lit == nullptr) return;
   const f64 light = read(gauge.light_token);
-  if (light != 0.0 && light == light) {
-    gauge.lit->image_flags &= ~IMAGE_HIDE_CHAIN;
-  } else {
-    gauge.lit->image_flags |= IMAGE_HIDE_CHAIN;
-  }
+  const u32 hidden = light != 0.0 && light == light ? 0 : IMAGE_HIDE_CHAIN;
+  u32& flags = gauge.lit->image_flags;
+  if ((flags & IMAGE_HIDE_CHAIN) != hidden) flags ^= IMAGE_HIDE_CHAIN;
 }
 
 void call(void (*routine)()) {
