@@ -62,9 +62,9 @@ struct Gauge {
   // What every frame asks for lies together: a frame of the whole cockpit is mostly a walk through memory.
   Element* lit = nullptr;  ///< first element of the lit copy, or null
   Services services;
-  u32 light_token;     ///< hides the lit copy while it reads 0
-  Element root;        ///< the background
-  Element* next[2]{};  ///< of the root
+  u32 light_token;                          ///< hides the lit copy while it reads 0
+  Element root;                             ///< the background
+  Element* next[2]{};                       ///< of the root
   std::span<const char* const> part_words;  ///< by element of the first set
   std::span<const char* const> area_words;  ///< by click area
 

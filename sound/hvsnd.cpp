@@ -91,11 +91,11 @@ constexpr Row counter(const char* words) {
 
 constinit Body body{
     hvsnd,
-    DayOnly<7>{rows(icon("Announcements", {10, 1}, {0, 0}, make_announcements),
-                 counter<&rollout>("Rollout announcement"),
-                 counter<&final_approach>("Final announcement"),
-                 counter<&descent>("Descent announcement"), counter<&climb>("Climb announcement"),
-                 counter<&safety>("Safety announcement"), counter<&welcome>("Welcome announcement"))},
+    DayOnly<7>{
+        rows(icon("Announcements", {10, 1}, {0, 0}, make_announcements),
+             counter<&rollout>("Rollout announcement"), counter<&final_approach>("Final announcement"),
+             counter<&descent>("Descent announcement"), counter<&climb>("Climb announcement"),
+             counter<&safety>("Safety announcement"), counter<&welcome>("Welcome announcement"))},
 };
 
 }  // namespace

@@ -22,11 +22,9 @@ const char* word_for(Finding::Severity severity) {
 int check(const CheckOptions& options) {
   const std::filesystem::path module = located(options.cockpit).module;
   std::vector<Finding> findings = check_module(module);
-  const auto details =
-      options.details ? 0
-                      : std::erase_if(findings, [](const Finding& finding) {
-                          return finding.severity == Finding::Severity::detail;
-                        });
+  const auto details = options.details ? 0 : std::erase_if(findings, [](const Finding& finding) {
+    return finding.severity == Finding::Severity::detail;
+  });
   for (const Finding& finding : findings)
     std::printf("%s: %s%s\n", word_for(finding.severity), finding.message.c_str(),
                 details > 0 ? "; --details tells what it is" : "");

@@ -4,8 +4,8 @@
 #include <cmath>
 
 #include "host/drawing/resample.h"
-#include "host/window/compose.h"
 #include "host/sketch/palette.h"
+#include "host/window/compose.h"
 
 namespace host {
 namespace {

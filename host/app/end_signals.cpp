@@ -26,7 +26,7 @@ EndSignals::EndSignals(std::function<void()> on_first) : on_first_(std::move(on_
 
 EndSignals::~EndSignals() {
   over_ = true;
-  pthread_kill(thread_.native_handle(), SIGTERM);
+  pthread_kill(thread_.native_handle(), SIGHUP);  // which it waits for
   thread_.join();
   const sigset_t signals = end_signals();
   pthread_sigmask(SIG_UNBLOCK, &signals, nullptr);

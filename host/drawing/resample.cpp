@@ -64,7 +64,7 @@ void add_rows(const Bitmap& source, const Taps& taps, std::vector<Colour>& row) 
 // The filter overshoots at hard edges: no colour may be stronger than its opacity.
 std::uint32_t packed(const Colour& colour) {
   const auto whole = [](float value, std::uint32_t most) {
-    return std::min(static_cast<std::uint32_t>(std::max(value, 0.0f) + 0.5f), most);
+    return std::min(static_cast<std::uint32_t>(std::max(value + 0.5f, 0.0f)), most);
   };
   const std::uint32_t opacity = whole(colour[3], 255);
   return opacity << 24 | whole(colour[2], opacity) << 16 | whole(colour[1], opacity) << 8 |

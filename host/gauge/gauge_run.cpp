@@ -1,8 +1,9 @@
 #include "host/gauge/gauge_run.h"
 
 #include <algorithm>
+#include <array>
+#include <bit>
 #include <cmath>
-#include <cstring>
 #include <utility>
 
 #include "host/gauge/needle_speed.h"
@@ -22,7 +23,8 @@ std::uint32_t failure_action(const FailureEntry* table, const TokenSource& token
 bool shows_the_same(const ElementState& one, const ElementState& other) {
   if (one.evaluated != other.evaluated || one.drawn != other.drawn) return false;
   if (!one.evaluated) return true;
-  return std::memcmp(one.values.data(), other.values.data(), sizeof one.values) == 0 &&
+  using Bits = std::array<std::uint64_t, 3>;
+  return std::bit_cast<Bits>(one.values) == std::bit_cast<Bits>(other.values) &&
          one.reached == other.reached && one.text == other.text;
 }
 

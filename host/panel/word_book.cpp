@@ -305,7 +305,7 @@ WordBook read_words(const GaugeModule& module, const NameBook& names) {
   for (const fs::path& file : word_files(module.file().parent_path() / "words")) try {
       files.push_back({file.string(), read_file(file, mebibyte)});
     } catch (const FileFault& fault) {
-      faults.push_back(fault.what());
+      faults.emplace_back(fault.what());
     }
   WordBook book = parse_words(files, module.gauges(), names);
   book.notes.insert(book.notes.begin(), faults.begin(), faults.end());

@@ -35,7 +35,7 @@ struct FlowSurroundings {
   std::function<double(double)> sound_level;  ///< of the last so many seconds, 0 to 1; empty: unknown
   std::function<void(const std::string&)> say;
   std::function<void(const Canvas&)> after_picture = {};  ///< gets each picture that is made
-  std::vector<Checklist> checklists{};  ///< of the kneeboard
+  std::vector<Checklist> checklists{};                    ///< of the kneeboard
   std::function<void()> pass_frame = {};  ///< where another one keeps the pace; empty: the flow does
   std::function<void(const Spot&)> before_gesture = {};  ///< gets what is going to be worked
 };

@@ -1,8 +1,8 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "host/panel/nearest.h"
 #include "host/pages/checklist_progress.h"
+#include "host/panel/nearest.h"
 #include "host/script/flow_api.h"
 
 namespace host {

@@ -9,8 +9,7 @@
 namespace host {
 
 WatchedFlow::WatchedFlow(CockpitInputs& inputs, std::filesystem::path flow,
-                         std::vector<Checklist> checklists,
-                         std::function<void(const std::string&)> say)
+                         std::vector<Checklist> checklists, std::function<void(const std::string&)> say)
     : inputs_(inputs),
       file_(std::move(flow)),
       sounds_(inputs.cockpit().module().file().parent_path() / "Sound"),

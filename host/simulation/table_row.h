@@ -20,8 +20,8 @@ const TableRow* find_row(std::span<const TableRow> rows, std::string_view name);
 
 /// The numbers that the host's own code works with. All others stand in the rows of their systems.
 namespace token {
-inline constexpr std::uint32_t landing_lights = 14;        ///< 0/1
-inline constexpr std::uint32_t panel_lights = 10;         ///< 0/1: on, the cockpit is seen by night
+inline constexpr std::uint32_t landing_lights = 14;  ///< 0/1
+inline constexpr std::uint32_t panel_lights = 10;    ///< 0/1: on, the cockpit is seen by night
 }  // namespace token
 namespace event {
 inline constexpr std::uint32_t panel_lights_toggle = 0x100D6;

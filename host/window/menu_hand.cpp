@@ -203,7 +203,8 @@ std::vector<MenuRow> FlightDeck::setting_rows() {
 void FlightDeck::find_flows() {
   std::error_code error;
   for (const auto& entry : std::filesystem::directory_iterator(options_.flows, error))
-    if (entry.path().extension() == ".lua") flows_.push_back({entry.path(), first_words(entry.path())});
+    if (entry.path().extension() == ".lua")
+      flows_.emplace_back(entry.path(), first_words(entry.path()));
   std::ranges::sort(flows_, {}, [](const auto& flow) { return flow.first; });
 }
 

@@ -27,7 +27,8 @@ class SmallInstallation {
     std::ifstream names(COCKPIT_DIR "/Tarnvale.GAU.names");
     std::ofstream few(folder_ / "Tarnvale.GAU.names");
     for (std::string line; std::getline(names, line);)
-      if (std::string(small_panel).find("!" + line.substr(0, line.find('\t')) + ",") != std::string::npos)
+      if (std::string(small_panel).find("!" + line.substr(0, line.find('\t')) + ",") !=
+          std::string::npos)
         few << line << '\n';
   }
   std::string module() const { return folder_ / "Tarnvale.GAU"; }

@@ -3,8 +3,8 @@
 
 #include <cmath>
 #include <map>
-#include <set>
 #include <numbers>
+#include <set>
 
 #include "gauges/controls/pushback_programmes.h"
 #include "host/simulation/aircraft.h"

@@ -404,7 +404,8 @@ TEST(Controls, EveryImageOfAnIconIsShownAndNoOther) {
       if (part.element->kind != ELEMENT_ICON) continue;
       std::set<f64> images;
       for (f64 image = 0; image < part.element->icon.image_count; ++image) images.insert(image);
-      EXPECT_EQ(walk::shown(g, i, images.size()), images) << gauges[g].header().name << ' ' << part.name;
+      EXPECT_EQ(walk::shown(g, i, images.size()), images)
+          << gauges[g].header().name << ' ' << part.name;
     }
   }
 }

@@ -96,8 +96,8 @@ class Storm {
 TEST(Harmless, AnyTokenValueAndAnyGesture) {
   Storm storm;
   while (storm.frames < asked_frames() && !HasFailure()) storm.round();
-  std::printf("%zu gauges, %ld frames, %ld mouse calls, %ld token values\n", storm.gauges(), storm.frames,
-              storm.calls, storm.values);
+  std::printf("%zu gauges, %ld frames, %ld mouse calls, %ld token values\n", storm.gauges(),
+              storm.frames, storm.calls, storm.values);
 }
 
 }  // namespace

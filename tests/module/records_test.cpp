@@ -2,8 +2,8 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
-#include <map>
 #include <limits>
+#include <map>
 #include <set>
 #include <span>
 #include <string>

@@ -126,8 +126,8 @@ class Walk {
   Stimulus& any() { return result_.stimuli[random(result_.stimuli.size())]; }
 
   std::size_t gauge_named(std::string_view name) const {
-    const auto found = std::ranges::find(
-        result_.gauges, name, [](const rig::Gauge& gauge) { return gauge.header().name; });
+    const auto found = std::ranges::find(result_.gauges, name,
+                                         [](const rig::Gauge& gauge) { return gauge.header().name; });
     return static_cast<std::size_t>(found - result_.gauges.begin());
   }
 

@@ -440,7 +440,8 @@ TEST(Fly, FollowsTheScaleOfTheDesktop) {
                                                  {"Xft.dpi: 192\n", "--scale 1", 560 + 12}}) {
     ASSERT_TRUE(set_x11_resources(screen.display(), resources));
     const Child program(screen.environment() + (cockpit_dir / "tarnvale").string() +
-                            " fly --fresh --mute --zoom 1 " + option + " --exit-after 20 --panel " + config,
+                            " fly --fresh --mute --zoom 1 " + option + " --exit-after 20 --panel " +
+                            config,
                         -1);
     const std::string wanted = "Geometry: " + std::to_string(width) + "x";
     EXPECT_TRUE(eventually([&] {

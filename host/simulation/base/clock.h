@@ -30,7 +30,7 @@ struct Clock {
   int steps_per_second = usual_steps_per_second;
   std::uint64_t steps = 0;
   double local_start_s = day_start_s;  ///< local time when it began
-  double panel_clock_offset_s = 0.0;  ///< by which the crew has set the panel's clock
+  double panel_clock_offset_s = 0.0;   ///< by which the crew has set the panel's clock
 
   double step_s() const { return 1.0 / steps_per_second; }
 
