@@ -4,8 +4,7 @@ local overhead = require("lib.overhead")
 
 say("Cold and dark")
 wait(2)
-expect(image("Masterbat", "battery_lamp") == 0, "the battery lamp is lit in a dead aircraft")
-expect(overhead.apu_running_lamp() == 0, "the APU lamp is lit in a dead aircraft")
+overhead.expect_dead()
 picture("1-cold-and-dark", 502)
 
 say("Battery")

@@ -33,8 +33,7 @@ click("Intro", "captain_cold_and_dark")
 for _, window in ipairs({502, 503, 504}) do open_window(window) end
 say("Cold and dark")
 wait(2)
-expect(image("Masterbat", "battery_lamp") == 0, "the battery lamp is lit in a dead aircraft")
-expect(overhead.apu_running_lamp() == 0, "the APU lamp is lit in a dead aircraft")
+overhead.expect_dead()
 picture("02-cold-and-dark", 500)
 
 say("Battery and APU")

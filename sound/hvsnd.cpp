@@ -17,7 +17,6 @@ struct Announcement {
   bool (*counts)();  ///< while the crew's announcements are on
   bool (*starts_anew)();
   u32 count = 0;
-  u32 shown = 0;  ///< the count at its last showing
   char window[3] = "";
 };
 
@@ -77,7 +76,6 @@ f64 count_frame(Element* readout) {
   Announcement& a = *announcement;
   if (aircraft.cabin_announcements_on == 1 && a.counts()) ++a.count;
   if (a.starts_anew()) a.count = 0;
-  a.shown = a.count;
   write(a.window, "  ");
   return limited(readout->string.source[0].value, 0, 740);
 }

@@ -23,6 +23,12 @@ local function ready_light_lit() return image("Engstart", "ready_light") == 0 en
 
 -- ---- Power
 
+-- No lamp is lit in an aircraft without current.
+function overhead.expect_dead()
+  expect(image("Masterbat", "battery_lamp") == 0, "the battery lamp is lit in a dead aircraft")
+  expect(overhead.apu_running_lamp() == 0, "the APU lamp is lit in a dead aircraft")
+end
+
 function overhead.switch_battery_on()
   click("Masterbat", "battery_switch")
   wait(0.5)

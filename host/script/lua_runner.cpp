@@ -97,37 +97,25 @@ std::optional<std::filesystem::path> module_file(const std::string& module) {
 
 std::string text_of(const std::filesystem::path& file) { return read_file(file, mebibyte); }
 
-// The flow's thread is out of the flow, in a function of the host.
-class HostTurn {
+// Tells a watch, if there is one, where the flow's thread is: there now, and back again at the end.
+template <void (ComputeWatch::*there)(), void (ComputeWatch::*back)()>
+class Turn {
  public:
-  explicit HostTurn(ComputeWatch* watch) : watch_(watch) {
-    if (watch_) watch_->in_host();
+  explicit Turn(ComputeWatch* watch) : watch_(watch) {
+    if (watch_) (watch_->*there)();
   }
-  ~HostTurn() {
-    if (watch_) watch_->in_flow();
+  ~Turn() {
+    if (watch_) (watch_->*back)();
   }
-  HostTurn(const HostTurn&) = delete;
-  HostTurn& operator=(const HostTurn&) = delete;
+  Turn(const Turn&) = delete;
+  Turn& operator=(const Turn&) = delete;
 
  private:
   ComputeWatch* watch_;
 };
 
-// And back in it, as when the host asks a condition.
-class FlowTurn {
- public:
-  explicit FlowTurn(ComputeWatch* watch) : watch_(watch) {
-    if (watch_) watch_->in_flow();
-  }
-  ~FlowTurn() {
-    if (watch_) watch_->in_host();
-  }
-  FlowTurn(const FlowTurn&) = delete;
-  FlowTurn& operator=(const FlowTurn&) = delete;
-
- private:
-  ComputeWatch* watch_;
-};
+using HostTurn = Turn<&ComputeWatch::in_host, &ComputeWatch::in_flow>;  // in a function of the host
+using FlowTurn = Turn<&ComputeWatch::in_flow, &ComputeWatch::in_host>;  // as when it asks a condition
 
 }  // namespace
 
