@@ -12,8 +12,8 @@ namespace host {
 /// Puts the aircraft where and when it is wanted.
 void begin(AircraftModel& aircraft, const StartOptions& options);
 
-/// What a session in the cockpit begins with: on the stand with the start page, unless windows are open on the
-/// desk.
+/// What a session in the cockpit begins with: on the stand with the start page, unless windows are open
+/// on the desk.
 std::vector<Input> beginning(const Cockpit& cockpit, const StartOptions& start, const Desk& desk);
 
 }  // namespace host
