@@ -106,7 +106,7 @@ void open_captains_panel(Cockpit& cockpit) {
   constexpr std::uint32_t captain = 500;
   for (const WindowConfig& window : cockpit.config().windows) cockpit.panels().close(window.ident);
   cockpit.panels().open(captain);
-  begin(cockpit.aircraft(), {.at = "cruise", .hours = {}});
+  begin(cockpit, {.at = "cruise", .hours = {}});
 }
 
 void print_frame(double frame, double rate) {
