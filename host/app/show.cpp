@@ -133,7 +133,7 @@ int show_page(const ShowOptions& options) {
   prepare_platform(located_options, PLATFORM_AUDIO_RENDERED);
   Cockpit cockpit(module, read_panel_config(located_options.panel), located_options.rate);
   for (const WindowConfig& window : cockpit.config().windows) cockpit.panels().open(window.ident);
-  begin(cockpit.aircraft(), options.start);
+  begin(cockpit, options.start);
   set_up(cockpit, options);
   write_png(picture_of_page(page, cockpit, read_checklists(program_folder() / "checklists.txt"),
                             options.deck.zoom.value_or(1.0)),
