@@ -79,7 +79,7 @@ class CommandLine {
     const auto check = [low, high, words = std::string(range)](std::string& text) {
       double value = 0;
       const bool fine = CLI::detail::lexical_cast(text, value) && value >= low && value <= high;
-      return fine ? std::string() : "'" + shortened(text) + "' is not " + words;
+      return fine ? std::string() : in_quotes(text) + " is not " + words;
     };
     return CLI::Validator(check, "");
   }
