@@ -79,7 +79,7 @@ class CommandLine {
     const auto check = [low, high, words = std::string(range)](std::string& text) {
       double value = 0;
       const bool fine = CLI::detail::lexical_cast(text, value) && value >= low && value <= high;
-      return fine ? std::string() : "'" + shortened(text) + "' is not " + words;
+      return fine ? std::string() : in_quotes(text) + " is not " + words;
     };
     return CLI::Validator(check, "");
   }
@@ -93,9 +93,10 @@ class CommandLine {
   }
 
   static void add_files(CLI::App* sub, CockpitOptions& options) {
-    sub->add_option("--module", options.module, "The gauge module; else the one beside this program");
+    sub->add_option("--module", options.module,
+                    "The gauge module; by default the one beside this program");
     sub->add_option("--panel", options.panel,
-                    "The panel configuration; else the one beside this program");
+                    "The panel configuration; by default the one beside this program");
   }
 
   static void add_cockpit(CLI::App* sub, CockpitOptions& options) {
@@ -128,10 +129,10 @@ class CommandLine {
     CLI::App* sub = add("fly", "Sit in the cockpit: opens a window", fly_, fly);
     add_cockpit(sub, fly_.cockpit);
     sub->add_option("--scale", fly_.deck.scale,
-                    "Scale of the desktop, 1 is 96 dots an inch; else its own setting")
+                    "Scale of the desktop, 1 is 96 dots an inch; by default its own setting")
         ->check(number(0.5, 8.0));
     sub->add_option("--zoom", fly_.deck.zoom,
-                    "Size of the panels, 1 is their own; else what fits the screen")
+                    "Size of the panels, 1 is their own; by default what fits the screen")
         ->check(number(0.1, 8.0));
     add_start(sub, fly_.start);
     add_what_is_flown(sub);
@@ -139,11 +140,11 @@ class CommandLine {
     sub->add_flag("--no-view", fly_.no_view, "Without the view out of the window (key V)");
     add_windows(sub);
     sub->add_option("--controls", fly_.deck.controls,
-                    "What keys and joysticks do; else controls.cfg beside this program");
+                    "What keys and joysticks do; by default controls.cfg beside this program");
     sub->add_option("--checklists", fly_.deck.checklists,
-                    "The kneeboard's checklists; else checklists.txt beside this program");
+                    "The kneeboard's checklists; by default checklists.txt beside this program");
     sub->add_option("--pictures", fly_.deck.pictures,
-                    "Folder for pictures of the window; else the desktop's folder for pictures");
+                    "Folder for pictures of the window; by default the desktop's folder for pictures");
     sub->add_option("--record", fly_.record,
                     "Write your inputs to this file, as a flow that can be run again");
     sub->add_option("--exit-after", fly_.deck.exit_after, "Leave after so many seconds")
@@ -164,12 +165,13 @@ class CommandLine {
   }
 
   static void add_display(CLI::App* sub, std::string& display) {
-    sub->add_option("--display", display, "The X display to open windows on; else that of DISPLAY");
+    sub->add_option("--display", display,
+                    "The X display to open windows on; by default that of DISPLAY");
   }
 
   void add_windows(CLI::App* sub) {
     sub->add_option("--open", fly_.open,
-                    "Windows to open, by title or ident; else those that were open last");
+                    "Windows to open, by title or ident; by default those that were open last");
     sub->add_option("--torn", fly_.torn, "Windows to open, each in a window of its own");
     sub->add_option("--place", fly_.places,
                     "WINDOW=x,y,width,height on the desktop; main=... for the main one");
@@ -187,7 +189,7 @@ class CommandLine {
     CLI::Option* none =
         sub->add_flag("!--no-journal", fly_.keep_journal, "Keep no journal of the session");
     sub->add_option("--journal", fly_.journal,
-                    "The session's journal; else a new one among the last sessions")
+                    "The session's journal; by default a new one among the last sessions")
         ->excludes(none);
     none->excludes(resume);
   }
@@ -247,18 +249,18 @@ class CommandLine {
   void add_list() {
     CLI::App* sub = add("list", "List what the cockpit has", list_, list);
     add_cockpit(sub, list_.cockpit);
-    sub->add_option("what", list_.what, "gauges, names, windows, tokens, events or sounds")
+    sub->add_option("what", list_.what, "gauges, names, windows, tokens, events, failures or sounds")
         ->required()
         ->check(
             CLI::IsMember({"gauges", "names", "windows", "tokens", "events", "failures", "sounds"}));
-    sub->add_option("gauge", list_.gauge, "The gauge whose names to list; else all");
+    sub->add_option("gauge", list_.gauge, "The gauge whose names to list; by default all");
   }
 
   void add_check() {
     CLI::App* sub = add("check", "Check every record of a module", check_, check);
     sub->add_option("module", check_.cockpit.module,
-                    "The gauge module; else the one beside this program");
-    sub->add_flag("--details", check_.details, "Also what a file is that is no module");
+                    "The gauge module; by default the one beside this program");
+    sub->add_flag("--details", check_.details, "Also list the exports of a file that is not a module");
   }
 
   void add_bench() {

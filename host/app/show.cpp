@@ -81,7 +81,7 @@ std::uint32_t token_number(const std::string& name) {
   const auto number = as_number(name);
   if (const TableRow* row = number ? find_row(tokens, *number) : find_row(tokens, name))
     return row->number;
-  throw std::runtime_error("there is no token '" + shortened(name) + "'; see: tarnvale list tokens");
+  throw std::runtime_error("there is no token " + in_quotes(name) + "; see: tarnvale list tokens");
 }
 
 void hold_reading(AircraftModel& aircraft, const std::string& reading) {
