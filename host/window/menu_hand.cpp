@@ -4,6 +4,7 @@
 #include <cstdio>
 
 #include "host/files/read_file.h"
+#include "host/panel/dusk.h"
 #include "host/panel/text.h"
 #include "host/simulation/places.h"
 #include "host/window/flight_deck.h"
@@ -278,7 +279,7 @@ void FlightDeck::show_menu() {
     if (!menu_.looks_old() && !std::exchange(menu_old_, false)) return;
     View& view = menu_view();
     view.set_layer(Layer::menu, menu_.draw(menu_at_, view.screen().size(), view.scale(),
-                                           sheet_colors(cockpit_.panel_lights_on())));
+                                           sheet_colors(is_dark(cockpit_))));
     menu_shown_ = true;
   } else if (std::exchange(menu_shown_, false)) {
     views_.each([](View& view) { view.set_layer(Layer::menu, std::nullopt); });
