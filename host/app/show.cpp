@@ -133,12 +133,23 @@ int show_page(const ShowOptions& options) {
   prepare_platform(located_options, PLATFORM_AUDIO_RENDERED);
   Cockpit cockpit(module, read_panel_config(located_options.panel), located_options.rate);
   for (const WindowConfig& window : cockpit.config().windows) cockpit.panels().open(window.ident);
-  begin(cockpit.aircraft(), options.start);
+  begin(cockpit, options.start);
   set_up(cockpit, options);
   write_png(picture_of_page(page, cockpit, read_checklists(program_folder() / "checklists.txt"),
                             options.deck.zoom.value_or(1.0)),
             options.picture.string());
   return exit_fine;
+}
+
+void show_in_window(Cockpit& cockpit, const ShowOptions& options) {
+  DeckOptions deck_options = options.deck;
+  deck_options.desk.outside = false;
+  CockpitInputs inputs(cockpit);
+  use_display(options.display);
+  const Desktop desktop;
+  FlightDeck deck(inputs, deck_options);
+  deck.mark_areas(options.areas);
+  deck.fly();
 }
 
 }  // namespace
@@ -157,18 +168,7 @@ int show(const ShowOptions& options) {
   say_notes(cockpit.names());
   say_notes(cockpit.words());
   set_up(cockpit, options);
-  if (!window) {
-    write_picture(cockpit, options);
-    return exit_fine;
-  }
-  DeckOptions deck_options = options.deck;
-  deck_options.desk.outside = false;
-  CockpitInputs inputs(cockpit);
-  use_display(options.display);
-  const Desktop desktop;
-  FlightDeck deck(inputs, deck_options);
-  deck.mark_areas(options.areas);
-  deck.fly();
+  window ? show_in_window(cockpit, options) : write_picture(cockpit, options);
   return exit_fine;
 }
 

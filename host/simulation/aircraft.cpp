@@ -118,7 +118,10 @@ void Aircraft::fly(double dt_s) {
 }
 
 void Aircraft::follow_handing_over() {
-  if (!electrics.battery_on) apu = {};
+  if (!electrics.battery_on) {
+    apu = {};
+    fuel.boost_pump_on = {};
+  }
   const bool turning = engines[0].core_speed_percent > 1.0 || engines[1].core_speed_percent > 1.0;
   handed_over = electrics.battery_on && !turning;
 }
@@ -287,7 +290,7 @@ void Aircraft::start_both_engines() {
   engine_start.ignition_armed = true;
   fuel.lever_open = {true, true};
   for (std::size_t i = 0; i < engines.size(); ++i) {
-    engine_start.starters[i].engage(engines[i].core_speed_percent);
+    engine_start.starters[i].engage_by_ground_crew(engines[i].core_speed_percent);
   }
 }
 
@@ -298,7 +301,10 @@ void Aircraft::make_ready() {
   for (int i = 0; i < warm_up_s * clock.steps_per_second; ++i) update_systems(clock.step_s());
 }
 
-void Aircraft::start_automatically() { handed_over ? make_ready() : start_both_engines(); }
+void Aircraft::start_automatically() {
+  fuel.boost_pump_on = {true, true};
+  handed_over ? make_ready() : start_both_engines();
+}
 
 void Aircraft::connect_ground_power() {
   electrics.external_power = true;
@@ -307,7 +313,7 @@ void Aircraft::connect_ground_power() {
 
 void Aircraft::hand_over() {
   electrics.battery_on = electrics.avionics_on = true;
-  fuel.lever_open = {true, true};
+  fuel.lever_open = fuel.boost_pump_on = {true, true};
   apu = {.running = true, .speed_percent = 100.0};
   handed_over = true;
   update_systems(0.0);
@@ -364,9 +370,9 @@ bool Aircraft::place_in_flight(const InFlight& where) {
   return trim.found && std::abs(engines[0].thrust_n * 2.0 - thrust_n) < 1.0;
 }
 
-// Fuel burned is weight gone, and less weight needs less thrust: with the levers left alone it would climb
-// ever faster. The crew therefore sets what the aircraft will need some minutes on; it sinks a little
-// first and is back when ten minutes are over.
+// Fuel burned is weight gone, and less weight needs less thrust: with the levers left alone it would
+// climb ever faster. The crew therefore sets what the aircraft will need some minutes on; it sinks a
+// little first and is back when ten minutes are over.
 double Aircraft::thrust_for_minutes(const InFlight& where) const {
   constexpr double ahead_s = 260.0;
   AirframeInputs inputs = surroundings();

@@ -12,12 +12,14 @@
 namespace host {
 namespace {
 
+constexpr const char* fills_screen = "fills the screen";  // a note on a window that does by its own hand
+
 bool is_set(const char* variable) {
   const char* value = std::getenv(variable);
   return value && *value;
 }
 
-// Who names a driver gets it, even one that shows nothing.
+// A driver that is asked for by name is used, even one that shows nothing.
 bool shows_something() {
   const std::string_view driver = SDL_GetCurrentVideoDriver();
   return is_set("SDL_VIDEODRIVER") || (driver != "offscreen" && driver != "dummy" && driver != "evdev");
@@ -92,7 +94,7 @@ Desktop::Desktop() {
   if (!is_set("DISPLAY") && !is_set("WAYLAND_DISPLAY") && !is_set("SDL_VIDEODRIVER"))
     no_display("neither DISPLAY nor WAYLAND_DISPLAY is set");
   SDL_SetMainReady();
-  // No other driver is tried where an X display is all there is: each would complain on standard error.
+  // Where there is only an X display no other driver is tried: each would complain on standard error.
   if (!is_set("WAYLAND_DISPLAY")) SDL_SetHint(SDL_HINT_VIDEODRIVER, "x11");
   SDL_SetHint(SDL_HINT_VIDEO_HIGHDPI_DISABLED, "0");
   SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
@@ -160,6 +162,11 @@ double ScreenWindow::density() const {
   return width > 0 && pixels > 0 ? static_cast<double>(pixels) / width : 1.0;
 }
 
+PanelPoint ScreenWindow::pixel_at(int x, int y) const {
+  const double pixels = density();
+  return {static_cast<int>(std::floor(x * pixels)), static_cast<int>(std::floor(y * pixels))};
+}
+
 bool ScreenWindow::take_size() {
   int width = 0, height = 0;
   SDL_GetWindowSizeInPixels(window_.get(), &width, &height);
@@ -171,13 +178,25 @@ bool ScreenWindow::take_size() {
 }
 
 bool ScreenWindow::is_full_screen() const {
-  return SDL_GetWindowFlags(window_.get()) & SDL_WINDOW_FULLSCREEN_DESKTOP;
+  return SDL_GetWindowData(window_.get(), fills_screen) ||
+         (SDL_GetWindowFlags(window_.get()) & SDL_WINDOW_FULLSCREEN_DESKTOP);
 }
 
 void ScreenWindow::set_full_screen(bool full) {
   if (full == is_full_screen()) return;
   if (full) before_full_ = place();
+  if (on_x11() && !x11_has_window_manager()) return fill_screen(full);
   SDL_SetWindowFullscreen(window_.get(), full ? SDL_WINDOW_FULLSCREEN_DESKTOP : 0);
+}
+
+// Where nobody places windows a full screen would begin at the window's corner.
+void ScreenWindow::fill_screen(bool full) {
+  SDL_Rect place{before_full_.x.value_or(0), before_full_.y.value_or(0), before_full_.width,
+                 before_full_.height};
+  if (full) SDL_GetDisplayBounds(SDL_GetWindowDisplayIndex(window_.get()), &place);
+  SDL_SetWindowData(window_.get(), fills_screen, full ? window_.get() : nullptr);
+  SDL_SetWindowSize(window_.get(), place.w, place.h);
+  SDL_SetWindowPosition(window_.get(), place.x, place.y);
 }
 
 WindowPlace ScreenWindow::place() const {
@@ -190,7 +209,7 @@ WindowPlace ScreenWindow::place() const {
 
 void ScreenWindow::raise() {
   SDL_RaiseWindow(window_.get());
-  SDL_SetWindowInputFocus(window_.get());  // where no window manager passes the keyboard on
+  SDL_SetWindowInputFocus(window_.get());  // for desktops without a window manager
 }
 
 void ScreenWindow::present(const std::vector<Rect>& changed) {

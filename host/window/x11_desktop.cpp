@@ -18,7 +18,7 @@ namespace {
 
 XErrorHandler next_handler = nullptr;
 
-// A window that another program has destroyed does not come back: the flight is left as on a signal.
+// A window that another program has destroyed does not come back: the flight ends as on a signal.
 void leave_once() {
   static bool told = false;
   if (std::exchange(told, true)) return;
@@ -33,13 +33,26 @@ int take_error(Display* display, XErrorEvent* error) {
   return next_handler ? next_handler(display, error) : 0;
 }
 
-// Nothing that is drawn from here on has a place, and Xlib lets nobody go on. The journal is on the disk.
+// From here on nothing can be drawn, and Xlib does not let a program continue. The journal is on the
+// disk.
 int end_without_display(Display*) {
   std::fprintf(stderr, "tarnvale: the display is gone\n");
   _exit(1);
 }
 
+std::unique_ptr<Display, int (*)(Display*)> open_display() {
+  return {XOpenDisplay(nullptr), XCloseDisplay};
+}
+
 }  // namespace
+
+// The one client that is asked before a window of the root moves.
+bool x11_has_window_manager() {
+  const auto display = open_display();
+  XWindowAttributes root{};
+  return !display || !XGetWindowAttributes(display.get(), DefaultRootWindow(display.get()), &root) ||
+         (root.all_event_masks & SubstructureRedirectMask) != 0;
+}
 
 void x11_forgive_late_events() {
   const XErrorHandler before = XSetErrorHandler(take_error);
@@ -58,7 +71,7 @@ std::optional<double> scale_in_resources(std::string_view resources) {
 }
 
 double x11_scale() {
-  const std::unique_ptr<Display, int (*)(Display*)> display(XOpenDisplay(nullptr), XCloseDisplay);
+  const auto display = open_display();
   if (!display) return 1.0;
   const char* resources = XResourceManagerString(display.get());
   return resources ? scale_in_resources(resources).value_or(1.0) : 1.0;

@@ -259,6 +259,24 @@ TEST_F(InAWindow, TheWindowsStandAsTheyWereLeft) {
   EXPECT_EQ(leave(), 0);
 }
 
+// The test's screen has no window manager.
+TEST_F(InAWindow, TheFullScreenIsFilledToItsEdgesAndLeftAgain) {
+  const PanelPoint before = corner;
+  const PanelSize size = window;
+  const auto stands = [&](PanelPoint at, PanelSize wanted) {
+    return eventually([&] {
+      take_geometry();
+      return corner.x == at.x && corner.y == at.y && window.width == wanted.width &&
+             window.height == wanted.height;
+    });
+  };
+  screen->hands("key F11");
+  EXPECT_TRUE(stands({0, 0}, {1280, 800})) << corner.x << "," << corner.y;
+  screen->hands("key F11");
+  EXPECT_TRUE(stands(before, size)) << corner.x << "," << corner.y;
+  EXPECT_EQ(leave(), 0);
+}
+
 TEST_F(InAWindow, ARightClickOnBareMetalOpensTheMenuAndOneOnAControlDoesNot) {
   const unsigned plate = look(395, 95), low = look(55, 110);
   click(385, 85, 3);
