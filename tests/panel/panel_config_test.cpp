@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/rig/refusal.h"
 #include "tests/rig/temp_folder.h"
 
 namespace {
@@ -29,37 +30,22 @@ TEST(PanelConfig, ReadsTheFieldsUsualForm) {
   const PanelConfig panel = parse_panel_config(whole_panel, "panel.cfg");
   ASSERT_EQ(panel.windows.size(), 2u);
   const WindowConfig& captain = panel.windows[0];
-  EXPECT_EQ(captain.title, "Captain");
-  EXPECT_EQ(captain.ident, 500u);
-  EXPECT_EQ(captain.day_ident, 20u);
-  EXPECT_EQ(captain.night_ident, 27u);
-  EXPECT_EQ(captain.position, 7);
-  EXPECT_EQ(captain.background, "main.png");
-  EXPECT_EQ(captain.night_background, "main_night.png");
+  EXPECT_EQ(captain.title + ' ' + captain.background + ' ' + captain.night_background,
+            "Captain main.png main_night.png");
+  EXPECT_EQ(std::tuple(captain.ident, captain.day_ident, captain.night_ident, captain.position),
+            std::tuple(500u, 20u, 27u, 7));
   EXPECT_EQ(captain.color, 0xFFFF0010u);
   EXPECT_FALSE(captain.visible);
   const WindowConfig& overhead = panel.windows[1];
-  EXPECT_EQ(overhead.title, "Overhead");
-  EXPECT_TRUE(overhead.visible);
-  EXPECT_EQ(overhead.width, 930);
+  EXPECT_EQ(std::tuple(overhead.title, overhead.visible, overhead.width),
+            std::tuple("Overhead", true, 930));
   ASSERT_EQ(overhead.gauges.size(), 2u);
   EXPECT_EQ(overhead.gauges[0].gauge, "Masterbat");
   EXPECT_EQ(overhead.gauges[0].width, 0) << "the size of its background";
-  EXPECT_EQ(overhead.gauges[1].x, -4);
-  EXPECT_EQ(overhead.gauges[1].height, 100);
-  EXPECT_EQ(overhead.gauges[1].line, 11);
+  const auto& second = overhead.gauges[1];
+  EXPECT_EQ(std::tuple(second.x, second.height, second.line), std::tuple(-4, 100, 11));
   ASSERT_EQ(overhead.bays.size(), 1u);
-  EXPECT_EQ(overhead.bays[0].y, 20);
-  EXPECT_EQ(overhead.bays[0].height, 400);
-}
-
-std::string refusal(const char* text) {
-  try {
-    parse_panel_config(text, "panel.cfg");
-    return "accepted";
-  } catch (const ConfigError& error) {
-    return error.what();
-  }
+  EXPECT_EQ(std::tuple(overhead.bays[0].y, overhead.bays[0].height), std::tuple(20, 400));
 }
 
 TEST(PanelConfig, IsRefusedWithFileAndLine) {
@@ -100,7 +86,9 @@ TEST(PanelConfig, IsRefusedWithFileAndLine) {
       {"[Window Titles]\nMain=Captain", "2: expected Window00=title, not 'main'"},
   };
   for (const auto& [text, message] : cases)
-    EXPECT_EQ(refusal(text), "panel.cfg:" + std::string(message)) << text;
+    EXPECT_EQ(refusal<ConfigError>([&] { parse_panel_config(text, "panel.cfg"); }),
+              "panel.cfg:" + std::string(message))
+        << text;
 }
 
 TEST(PanelConfig, AFileThatCannotBeReadIsRefused) {
@@ -110,12 +98,7 @@ TEST(PanelConfig, AFileThatCannotBeReadIsRefused) {
   };
   folder.write("text.png", "no picture");
   const auto said = [&](const std::string& file) {
-    try {
-      read_panel_config(file);
-      return std::string("accepted");
-    } catch (const ConfigError& error) {
-      return std::string(error.what()).substr(folder.path().string().size());
-    }
+    return refusal<ConfigError>([&] { read_panel_config(file); }).substr(folder.path().string().size());
   };
   EXPECT_EQ(said(folder / "gone.cfg"), "/gone.cfg: cannot be read: No such file or directory");
   EXPECT_EQ(said(folder / ""), "/: cannot be read: Is a directory");

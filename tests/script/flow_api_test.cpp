@@ -3,7 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/platform_host.h"
+#include "tests/rig/loaded_module.h"
+#include "tests/rig/refusal.h"
 
 namespace {
 
@@ -19,25 +20,14 @@ constexpr const char* panel =
 
 class FlowApi : public testing::Test {
  protected:
-  static void SetUpTestSuite() {
-    platform_choose_audio(PLATFORM_AUDIO_NONE);
-    module = new GaugeModule(COCKPIT_DIR "/Tarnvale.GAU");
-  }
-
   FlowApi() { bind_flow_api(runner, session); }
 
   std::string fly(const std::string& text) {
-    try {
-      runner.run(text, "t.lua");
-      return "";
-    } catch (const FlowError& error) {
-      return error.what();
-    }
+    return refusal<FlowError>([&] { runner.run(text, "t.lua"); });
   }
 
-  static GaugeModule* module;
   std::vector<std::string> said;
-  Cockpit cockpit{*module, parse_panel_config(panel, "panel.cfg")};
+  Cockpit cockpit{loaded_module(), parse_panel_config(panel, "panel.cfg")};
   CockpitInputs inputs{cockpit};
   FlowSession session{inputs,
                       {{},
@@ -46,8 +36,6 @@ class FlowApi : public testing::Test {
                        [this](const std::string& text) { said.push_back(text); }}};
   LuaRunner runner;
 };
-
-GaugeModule* FlowApi::module = nullptr;
 
 TEST_F(FlowApi, ClicksAndSeesWhatFollows) {
   EXPECT_EQ(
@@ -180,13 +168,8 @@ TEST_F(FlowApi, MakesWeatherAndPutsTheAircraftIntoIt) {
   EXPECT_EQ(weather.wind.from_true_deg, 340) << "the compass shows two degrees less";
 }
 
-struct Failure {
-  std::string text;
-  std::string message;
-};
-
 TEST_F(FlowApi, SaysWhyAFlowFails) {
-  const Failure failures[] = {
+  const std::pair<std::string, std::string> failures[] = {
       {"expect(image('Masterbat', 40) == 1, 'the lamp is dark')", "the lamp is dark"},
       {"expect_near(3, 5, 1.5, 'the needle')", "the needle is 3, not within 1.5 of 5"},
       {"expect_near(nil, 5, 1)", "the value is nil, not within 1 of 5"},
@@ -249,9 +232,9 @@ TEST_F(FlowApi, SaysWhyAFlowFails) {
       {"picture('../escape')", "argument 1 (name) must be letters, digits, - and _"},
       {"picture('big', nil, 100)", "argument 3 (zoom) must be 0.1 to 4"},
   };
-  for (const Failure& each : failures) {
-    const std::string message = fly(each.text);
-    EXPECT_EQ(message.rfind("t.lua:1: " + each.message, 0), 0u) << each.text << "\n  " << message;
+  for (const auto& [text, expected] : failures) {
+    const std::string message = fly(text);
+    EXPECT_TRUE(message.starts_with("t.lua:1: " + expected)) << text << "\n  " << message;
   }
 }
 

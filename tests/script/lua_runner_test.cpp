@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/rig/refusal.h"
 #include "tests/rig/temp_folder.h"
 
 namespace {
@@ -10,12 +11,7 @@ using namespace host;
 
 // What a run of the text ends with: "" or the error's message.
 std::string outcome(LuaRunner& runner, const std::string& text) {
-  try {
-    runner.run(text, "flows/test.lua");
-    return "";
-  } catch (const FlowError& error) {
-    return error.what();
-  }
+  return refusal<FlowError>([&] { runner.run(text, "flows/test.lua"); });
 }
 
 class Flow : public testing::Test {
@@ -156,11 +152,6 @@ TEST_F(Flow, FlysTheSameEveryTime) {
   EXPECT_EQ(first, second);
 }
 
-struct Required {
-  const char* flow;
-  const char* message;  // %s stands for the folder
-};
-
 TEST(FlowFile, UsesFilesBesideItAndNoOthers) {
   const TempFolder folder;
   folder.write("secret.lua", "return 1");
@@ -171,7 +162,8 @@ TEST(FlowFile, UsesFilesBesideItAndNoOthers) {
   folder.write("flows/lib/strict.lua", "return function(n)\n  return n + 1\nend");
   folder.write("flows/a.lua", "return require('b')");
   folder.write("flows/b.lua", "return require('a')");
-  const Required cases[] = {
+  const std::pair<const char*, const char*> cases[] = {
+      // %s stands for the folder
       {"local a, b = require('twice'), require('twice')\n"
        "if a ~= b or count ~= 1 or a.double(4) ~= 8 then error('!') end",
        ""},
@@ -193,13 +185,8 @@ TEST(FlowFile, UsesFilesBesideItAndNoOthers) {
     std::string message = expected;
     for (std::size_t at; (at = message.find("%s")) != std::string::npos;)
       message.replace(at, 2, folder / "flows");
-    std::string got;
-    try {
-      LuaRunner().run(std::filesystem::path(folder.write("flows/flow.lua", flow)));
-    } catch (const FlowError& error) {
-      got = error.what();
-    }
-    EXPECT_EQ(got, message) << flow;
+    const std::filesystem::path file = folder.write("flows/flow.lua", flow);
+    EXPECT_EQ(refusal<FlowError>([&] { LuaRunner().run(file); }), message) << flow;
   }
 }
 
@@ -209,14 +196,9 @@ TEST_F(Flow, FromMemoryHasNoFilesBesideIt) {
 }
 
 TEST(FlowFile, ThatCannotBeReadIsNamed) {
-  LuaRunner runner;
-  for (const char* file : {"no/such/flow.lua", "/"}) {
-    try {
-      runner.run(std::filesystem::path(file));
-      FAIL() << file;
-    } catch (const FlowError& error) {
-      EXPECT_TRUE(std::string(error.what()).starts_with(std::string(file) + ": cannot be read: "));
-    }
+  for (const std::filesystem::path file : {"no/such/flow.lua", "/"}) {
+    const std::string said = refusal<FlowError>([&] { LuaRunner().run(file); });
+    EXPECT_TRUE(said.starts_with(file.string() + ": cannot be read: ")) << said;
   }
 }
 
