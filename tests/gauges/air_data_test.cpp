@@ -37,12 +37,9 @@ TEST_F(AirData, ThePressureSettingIsShownTwice) {
                       {"tens_of_the_hectopascals", tens},
                       {"units_of_the_hectopascals", units}});
   }
-  for (const auto& [inches, image, hundredths] : {std::tuple{27.5, 0, 99.0},
-                                                  {28.5, 1, 50.0},
-                                                  {29.92, 2, 92.0},
-                                                  {30.5, 3, 50.0},
-                                                  {31.5, 4, 50.0},
-                                                  {32.5, 5, 1.0}}) {
+  const std::tuple<f64, f64, f64> settings[] = {{27.5, 0, 99}, {28.5, 1, 50}, {29.92, 2, 92},
+                                                {30.5, 3, 50}, {31.5, 4, 50}, {32.5, 5, 1}};
+  for (const auto& [inches, image, hundredths] : settings) {
     host.tokens[token::pressure_setting_inches] = inches;
     altimeter.expect(
         {{"inches_of_the_pressure_setting", image}, {"hundredths_of_the_inches", hundredths}});
@@ -83,18 +80,12 @@ TEST_F(AirData, TheAltitudeAlertLooksToBothSidesOfTheSelectedAltitude) {
 }
 
 TEST_F(AirData, EachHeightIsCalledOnceOnTheWayDown) {
-  for (const auto& [metres, sound] : {std::pair{762u, a2500_sound_request},
-                                      {304u, a1000_sound_request},
-                                      {150u, a500_sound_request},
-                                      {120u, a400_sound_request},
-                                      {90u, a300_sound_request},
-                                      {60u, a200_sound_request},
-                                      {30u, a100_sound_request},
-                                      {15u, a50_sound_request},
-                                      {12u, a40_sound_request},
-                                      {9u, a30_sound_request},
-                                      {6u, a20_sound_request},
-                                      {5u, a10_sound_request}}) {
+  const std::pair<u32, SoundRequest> calls[] = {
+      {762, a2500_sound_request}, {304, a1000_sound_request}, {150, a500_sound_request},
+      {120, a400_sound_request},  {90, a300_sound_request},   {60, a200_sound_request},
+      {30, a100_sound_request},   {15, a50_sound_request},    {12, a40_sound_request},
+      {9, a30_sound_request},     {6, a20_sound_request},     {5, a10_sound_request}};
+  for (const auto& [metres, sound] : calls) {
     f64& height = host.tokens[token::radio_altitude];
     f64& speed = host.tokens[token::vertical_speed];
     height = metres + 1.9;

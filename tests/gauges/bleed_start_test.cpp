@@ -134,12 +134,9 @@ TEST_F(EngineStart, StartLightWaitsForBothEngines) {
 
 /// One engine at a time; the other one's switch is armed too and its engine runs.
 TEST_F(EngineStart, StarterIsPushedOncePerPercentOfTheFirstTen) {
-  for (const auto& [core_speed, pushes, switch_after] : {std::tuple{1.0, 0u, 1u},
-                                                         {5.5, 5u, 1u},
-                                                         {10.0, 9u, 1u},
-                                                         {10.1, 10u, 1u},
-                                                         {25.0, 10u, 1u},
-                                                         {25.1, 10u, 2u}}) {
+  const std::tuple<f64, std::size_t, u32> cases[] = {{1, 0, 1},     {5.5, 5, 1}, {10, 9, 1},
+                                                     {10.1, 10, 1}, {25, 10, 1}, {25.1, 10, 2}};
+  for (const auto& [core_speed, pushes, switch_after] : cases) {
     for (const u32 engine : {1u, 2u}) {
       aircraft.start_air_available = aircraft.start_master_switch = 1;
       aircraft.eng1_start_switch = aircraft.eng2_start_switch = 1;

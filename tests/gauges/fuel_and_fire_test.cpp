@@ -111,13 +111,10 @@ TEST_F(Fire, TheGeneratorSwitchedDownIsAnApuFire) {
 }
 
 TEST_F(Fire, HandlesMoveByBothButtonsBetweenTheirEnds) {
+  const std::pair<u32, f64> moves[] = {{MOUSE_LEFT, 0},  {MOUSE_RIGHT, 1}, {MOUSE_RIGHT, 2},
+                                       {MOUSE_RIGHT, 2}, {MOUSE_LEFT, 1},  {MOUSE_LEFT, 0}};
   for (const char* handle : {"left_fire_handle", "apu_fire_handle", "right_fire_handle"}) {
-    for (const auto& [button, position] : {std::pair{MOUSE_LEFT, 0},
-                                           {MOUSE_RIGHT, 1},
-                                           {MOUSE_RIGHT, 2},
-                                           {MOUSE_RIGHT, 2},
-                                           {MOUSE_LEFT, 1},
-                                           {MOUSE_LEFT, 0}}) {
+    for (const auto& [button, position] : moves) {
       handles.click(handle, button);
       handles.expect({{handle, position}});
     }

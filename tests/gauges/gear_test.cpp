@@ -1,7 +1,6 @@
 /// Gear, flaps and trims.
 #include <gtest/gtest.h>
 
-#include <map>
 #include <set>
 
 #include "module/tokens.h"
@@ -76,19 +75,16 @@ TEST(Gear, TheLeverSendsWhatItHasNotSentYetAndShowsTheAircraftsOwn) {
 TEST(Gear, EachLegHasItsOwnLights) {
   rig::Host host;
   rig::Gauge panel("Gearind");
-  const std::map<std::string, u32> legs{{"left", token::left_gear_position},
-                                        {"nose", token::nose_gear_position},
-                                        {"right", token::right_gear_position}};
-  for (const auto& [moved, token] : legs) {
-    for (const f64 reading : {0.0, 99.0, 99.9, 100.0, 9000.0, 16000.0, 16000.5, 16383.0}) {
-      host.tokens.clear();
-      host.tokens[token] = reading;
+  for (const auto& [moved, token] : {std::pair{"left", token::left_gear_position},
+                                     {"nose", token::nose_gear_position},
+                                     {"right", token::right_gear_position}}) {
+    for (const f64 reading : {0.0, 99.9, 100.0, 16000.0, 16000.5, 16383.0}) {
+      host.tokens = {{token, reading}};
       panel.frame();
       for (const rig::NamedPart& part : panel.parts()) {
         if (!part.name.ends_with("light")) continue;
-        const bool lit = part.name.find("down") != std::string::npos
-                             ? reading > 16000
-                             : reading >= 100 && reading <= 16000;
+        const bool down = part.name.find("down") != std::string::npos;
+        const bool lit = down ? reading > 16000 : reading >= 100 && reading <= 16000;
         EXPECT_EQ(panel.value(part), part.name.starts_with(moved) && lit)
             << part.name << " with the " << moved << " leg at " << reading;
       }

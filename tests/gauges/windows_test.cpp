@@ -142,16 +142,6 @@ TEST_F(StartPage, TheSwitchesOfOtherPanelsStandAsTheStateNeedsThem) {
   }
 }
 
-TEST_F(Windows, ASignChimesAndTellsTheHost) {
-  rig::Gauge panel("Stewcall");
-  panel.click("right_sign_switch");
-  EXPECT_TRUE(rig::heard(signs_sound_request));
-  EXPECT_EQ(rig::sounds_requested(), 0) << "no click beside the chime";
-  panel.click("left_sign_switch");
-  panel.expect({{"right_sign_switch", 1}, {"left_sign_switch", 1}});
-  EXPECT_EQ(host.events, (rig::Events{{0x1049F, 0}, {0x1049E, 0}}));
-}
-
 class Announcements : public Windows {
  protected:
   Announcements() {

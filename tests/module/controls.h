@@ -35,12 +35,11 @@ inline bool is_like(std::string_view name, std::initializer_list<std::string_vie
   return std::ranges::any_of(patterns, [&](auto pattern) { return is_like(name, pattern); });
 }
 
-/// The first row whose pattern the name is like, or null.
-template <typename Rows>
-auto row_like(const Rows& rows, std::string_view name) {
-  const auto row =
-      std::ranges::find_if(rows, [&](const auto& each) { return is_like(name, each.first); });
-  return row == std::end(rows) ? nullptr : &row->second;
+/// What stands behind the first pattern of a table that the name is like, or null.
+inline const std::string* row_like(const std::vector<std::vector<std::string>>& rows,
+                                   std::string_view name) {
+  const auto row = std::ranges::find_if(rows, [&](const auto& each) { return is_like(name, each[0]); });
+  return row == rows.end() ? nullptr : &(*row)[1];
 }
 
 /// A light under test is no control.

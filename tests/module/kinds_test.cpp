@@ -2,10 +2,9 @@
 /// they test a light.
 #include <gtest/gtest.h>
 
-#include <set>
-
 #include "module/tokens.h"
 #include "tests/module/controls.h"
+#include "tests/rig/rows.h"
 
 namespace {
 
@@ -16,50 +15,23 @@ bool ends_with_one_of(std::string_view name, std::initializer_list<std::string_v
   return std::ranges::any_of(ends, [&](std::string_view end) { return name.ends_with(end); });
 }
 
-using Sounds = std::set<std::string>;
-const std::pair<std::string_view, Sounds> heard_unlike_its_kind[] = {
-    {"Antiice *_anti_ice_knob", {"toggle"}},  // a switch with a knob on it
-    {"Windshield windshield_heat_knob", {"toggle"}},
-    {"Engstart start_selector_*", {"toggle"}},  // a lever
-    {"Apu start_button", {"", " other"}},       // soft: the APU itself is heard
-    {"Stewcall *", {" other"}},                 // chimes of their own
-    {"Fuelc quantity_test_switch", {""}},
-    {"Fuelreq fuel_request_lever", {"push"}},
-    {"Gear set_gear_*", {""}},                 // heavy: what it moves is heard
-    {"Gearind horn_cutout_switch", {"push"}},  // a key that stays in
-    {"Trim rudder_trim_*", {"toggle"}},        // the motor's contactor
-    {"Radalt test_button", {" other"}},
-    {"Apcon test_switch_*", {"push"}},
-    {"Coltsw *_selector_*", {"toggle"}},          // levers with a pointer
-    {"Dhgpws *_button", {"push", "push other"}},  // the warning's sound, in a test
-    {"Flightrec *_button", {""}},
-    {"Airspeed set_airspeed_bug_*", {""}},  // rings that turn freely
-    {"Airspeed selected_speed_knob_*", {""}},
-    {"Selcall welcome_announcement_button", {"push", "push other"}},
-    {"Selcall ground_power_button", {"push other"}},
-    {"Selcall automatic_announcements_button", {"push"}},
-    {"Selcall *_announcement_button", {"", " other"}},
-    {"Th* throttle_*_lever", {""}},  // levers that slide
-    {"Thright flap_lever_*", {""}},
-    {"Thleft parking_brake_lever", {" other"}},  // heard as what they are
-    {"* speed_brake_switch", {" other"}},
-    {"* transfer_button", {"toggle"}},  // the radios' detents
-    {"* *_code_knob", {"toggle"}},
-    {"Adf set_adf_freq_*", {"toggle"}},
-    {"* deviation_check_switch_*", {"push"}},
-};
-
 /// Switches, levers and guards click like a toggle switch, buttons, knobs and selectors like a button,
 /// and a test button is silent.
 TEST(Kinds, EachClickIsHeardOnce) {
+  const std::vector<Row> unlike_their_kind = rows_of("module/sounds.txt", 2);
   for (const Stimulus* control : controls()) {
     const rig::NamedPart* part = control->part;
     const std::string& kind =
         part != nullptr && part->element->kind == ELEMENT_ICON ? part->name : control->name;
     const bool toggle = ends_with_one_of(kind, {"switch", "lever", "guard", "bank", "handle"});
-    const Sounds* unlike = row_like(heard_unlike_its_kind, control->text());
-    const Sounds usual{is_test(control->name) ? "" : toggle ? "toggle" : "push"};
-    EXPECT_EQ(control->sounds, unlike != nullptr ? *unlike : usual) << control->text();
+    const std::string usual = is_test(control->name) ? "silent" : toggle ? "toggle" : "push";
+    const std::string* unlike = row_like(unlike_their_kind, control->text());
+    std::string heard;
+    for (const std::string& sounds : control->sounds) {
+      heard += heard.empty() ? "" : ", ";
+      heard += sounds.empty() ? "silent" : sounds.substr(sounds.front() == ' ');
+    }
+    EXPECT_EQ(heard, unlike != nullptr ? *unlike : usual) << control->text();
   }
 }
 
@@ -81,48 +53,25 @@ Moves moves_of(std::string_view control, std::string_view part, f64 last) {
   return moves;
 }
 
-const std::pair<std::string_view, Moves> moves_of_its_own[] = {
-    {"Engstart start_selector_off", {{0, 0}, {1, 0}, {2, 0}}},
-    {"Engstart start_selector_engine_1", {{0, 2}, {1, 2}, {2, 2}}},
-    {"Engstart start_selector_engine_2", {{0, 1}, {1, 1}, {2, 1}}},
-    // The knob leans the way it was turned, but not at its end; a second later it stands again.
-    {"Tempcon *_temperature_selector_down", {{0, 0}, {0, 1}}},
-    {"Tempcon *_temperature_selector_up", {{0, 0}, {0, 2}}},
-    // Left switches it on and off, right tests it.
-    {"Mancon manual_control_button", {{0, 1}, {1, 0}, {1, 2}}},
-    {"Adi attitude_flag_button", {{0, 1}, {1, 1}}},
-    {"Fuelreq fuel_request_lever", {{0, 1}}},
-    {"Coltsw *_selector_flow", {{0, 1}, {1, 1}, {2, 1}}},
-    {"Coltsw *_selector_quantity", {{0, 0}, {1, 0}, {2, 0}}},
-    {"Coltsw *_selector_check", {{0, 2}, {1, 2}, {2, 2}}},
-    {"Transponder ident_button",
-     {{0, 0}, {0, 1}, {1, 0}}},  // without a mode there is nothing to identify
-    // Left of the centre, and right of it.
-    {"* pedestal_selector_switch_left", {{0, 1}, {1, 0}, {2, 0}}},
-    {"* pedestal_selector_switch_right", {{0, 2}, {1, 0}, {2, 0}}},
-    // Its lower position comes first.
-    {"* auxiliary_switch_up", {{0, 2}, {1, 0}, {2, 0}}},
-    {"* auxiliary_switch_down", {{0, 1}, {1, 0}, {2, 0}}},
-    {"* speed_brake_switch", {{0, 0}, {0, 1}, {1, 0}}},  // it cannot be armed at take-off thrust
-    {"Gear set_gear_neutral", {{0, 1}, {1, 1}, {2, 1}}},
-    {"Gear set_gear_*", {{0, 0}, {1, 0}, {1, 2}, {2, 2}}},  // up and down are the aircraft's
-    {"Trim rudder_trim_left", {{0, 1}}},
-    {"Trim rudder_trim_right", {{0, 2}}},
-    // The left button moves a handle down, the right one up.
-    {"Firesw *_fire_handle", {{0, 1}, {1, 0}, {1, 2}, {2, 1}}},
-    {"* transfer_button", {{0, 1}}},  // it shines for some seconds
-};
+/// "0>1 1>0" as a table writes them.
+Moves read_moves(const std::string& text) {
+  Moves moves;
+  for (std::size_t at = 0; at + 2 < text.size(); at += 4)
+    moves.emplace(text[at] - '0', text[at + 2] - '0');
+  return moves;
+}
 
 /// A lever goes from the centre to its half and from anywhere else to the centre; a knob or selector
 /// with two halves goes one step and stops at its ends; everything else goes round.
 TEST(Kinds, EachHasItsMoves) {
+  const std::vector<Row> unlike_their_kind = rows_of("module/moves.txt", 2);
   for (const Stimulus* control : controls()) {
     const rig::NamedPart* part = control->part;
     if (part == nullptr || part->element->kind != ELEMENT_ICON) continue;
     if (is_test(control->name) || is_answered_by_the_host(*control)) continue;
     const f64 last = part->element->icon.image_count - 1.0;
-    const Moves* own = row_like(moves_of_its_own, control->text());
-    Moves expected = own != nullptr ? *own : moves_of(control->name, part->name, last);
+    const std::string* own = row_like(unlike_their_kind, control->text());
+    Moves expected = own != nullptr ? read_moves(*own) : moves_of(control->name, part->name, last);
     std::string guard = part->name;
     if (guard.ends_with("switch")) guard.replace(guard.size() - 6, 6, "guard");
     const rig::NamedPart* over_it = part_of(gauge_of(*control), guard);

@@ -4,7 +4,6 @@
 
 #include "module/body.h"
 #include "module/controls.h"
-#include "module/readout.h"
 #include "tests/rig/rig.h"
 
 namespace {
@@ -18,10 +17,6 @@ f64 value_b(Element*) { return 0; }
 f64 value_c(Element*) { return 0; }
 
 char line[6];
-f64 write_line(Element* readout) {
-  write_figures(line, whole_i32(readout->string.source[0].value + readout->string.source[1].value), 1);
-  return 0;
-}
 
 /// A counter of figures: nine drums side by side.
 constexpr Rows<9> figures(i32 strip, PanelPoint at) {
@@ -51,8 +46,7 @@ constinit Body body{
                  .y = {y_token, value_b, 2},
                  .rotation = {turn_token, value_c, -1}})
              .lit_centre({32, 33}),
-         text("Line", {8, 9}, {40, 12}, {"Arial", 0x0476E8, 700}, line, write_line)
-             .from(x_token, y_token),
+         text("Line", {8, 9}, {40, 12}, {"Arial", 0x0476E8, 700}, line, value_a).from(x_token, y_token),
          needle("Free needle", 960, {20, 21}, {2, 3}, value_c).rate(0.25).shorter_way(),
          needle("Needle", 961, {20, 21}, {2, 3}, scale).from(x_token), icon("Flag", {970, 1}, {1, 1}),
          icon("Strip", {971, 11}, {1, 1}, value_a).mode(3, 0.0), lamp("Bulb", {980, 3}, {2, 2})),
@@ -144,19 +138,6 @@ TEST(Kit, APartHasItsValuesSourcesAndScales) {
   EXPECT_TRUE(flag.image_count == 1 && flag.switch_mode == 0 && flag.switch_scale == 0);
   EXPECT_TRUE(strip.image_count == 11 && strip.switch_mode == 3 && strip.switch_scale == 0);
   EXPECT_TRUE(bulb.image_count == 3 && bulb.switch_mode == 1 && bulb.switch_scale == 2);
-}
-
-TEST(Kit, AReadOutIsCutToItsLengthAndHasTwoSources) {
-  rig::Host host;
-  rig::Gauge gauge(made_up.header);
-  const std::pair<f64, const char*> cases[] = {
-      {40, "42"}, {-5, "-3"}, {-2, "0"}, {99997, "99999"}, {1234567, "12345"}};
-  for (const auto& [x, shows] : cases) {
-    host.tokens[x_token] = x;
-    host.tokens[y_token] = 2;
-    gauge.frame();
-    EXPECT_EQ(gauge.text("line"), shows);
-  }
 }
 
 TEST(Kit, ALabelIsAGroupAroundItsArea) {

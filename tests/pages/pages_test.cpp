@@ -4,6 +4,7 @@
 #include "host/pages/pages.h"
 #include "tests/rig/loaded_module.h"
 #include "tests/rig/refusal.h"
+#include "tests/rig/rows.h"
 
 namespace {
 
@@ -30,26 +31,13 @@ TEST(Checklists, AreReadWithTheirConditions) {
 }
 
 TEST(Checklists, AreRefusedWithTheLineThatIsWrong) {
+  std::vector<Row> rows = rows_of("pages/refused_checklists.txt", 2);
   std::string many = "[A]\n";
   for (std::size_t i = 0; i <= most_items; ++i) many += "a|b|C d|e = 1\n";
-  const std::pair<std::string, const char*> cases[] = {
-      {"a|b|C d|e = 1\n", "lists:1: expected a list's title"},
-      {"[A\n", "lists:1: the list's title has no end"},
-      {"[ ]\n", "lists:1: the list has no title"},
-      {"[A]\n\na|b|C d\n", "lists:3: an item is"},
-      {"[A]\na| |C d|e = 1\n", "lists:2: the item has no words"},
-      {"[A]\na|b||e = 1\n", "lists:2: an item is worked at"},
-      {"[A]\na|b|C d e|e = 1\n", "lists:2: an item is worked at"},
-      {"[A]\na|b|C d|e\n", "lists:2: a condition is"},
-      {"[A]\na|b|C d|e = 1 and\n", "lists:2: a condition is"},
-      {"[A]\na|b|C d|e == 1\n", "lists:2: '==' is none of"},
-      {"[A]\nwhen e = 1x\n", "lists:2: '1x' is no number"},
-      {"[A]\nwhen e = nan\n", "lists:2: 'nan' is no number"},
-      {many, "lists:28: there is no room"},
-  };
-  for (const auto& [text, message] : cases) {
-    const std::string said = refusal<ConfigError>([&] { parse_checklists(text, "lists"); });
-    EXPECT_TRUE(said.starts_with(message)) << text << said;
+  rows.push_back({many, "28: there is no room"});
+  for (const Row& row : rows) {
+    const std::string said = refusal<ConfigError>([&] { parse_checklists(row[0], "lists"); });
+    EXPECT_TRUE(said.starts_with("lists:" + row[1])) << row[0] << said;
   }
 }
 

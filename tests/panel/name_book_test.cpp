@@ -109,15 +109,6 @@ TEST_F(NamesFile, AWrongLineIsToldWithItsNumberAndLeftOut) {
   }
 }
 
-TEST_F(NamesFile, AFileFullOfNonsenseIsToldOnOneScreen) {
-  std::string nonsense;
-  for (int i = 0; i < 1000; ++i) nonsense += "\xFF\n";
-  const NameBook read = book(nonsense);
-  EXPECT_EQ(read.notes.size(), 21u);
-  EXPECT_EQ(read.notes.back(), "a.names: and 980 more lines");
-  EXPECT_TRUE(read.of(gauge).parts.empty());
-}
-
 TEST_F(NamesFile, HintsSayWhatAControlIsAndWhichClickItTakes) {
   const GaugeWords unsaid;
   const NameBook names = book(

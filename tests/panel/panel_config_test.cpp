@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/rig/refusal.h"
+#include "tests/rig/rows.h"
 #include "tests/rig/temp_folder.h"
 
 namespace {
@@ -49,46 +50,10 @@ TEST(PanelConfig, ReadsTheFieldsUsualForm) {
 }
 
 TEST(PanelConfig, IsRefusedWithFileAndLine) {
-  const std::pair<const char*, const char*> cases[] = {
-      {"", "1: the panel has no window"},
-      {"[Window00]\nsize_mm=1,1\noverhead", "3: expected [section] or entry=value, not 'overhead'"},
-      {"ident=1", "1: an entry before the first [section]"},
-      {"[Window00", "1: a section ends with ]"},
-      {"\n[Views]", "2: unknown section [views]: expected [Window Titles] or [Window00]"},
-      {"[Window01]\nsize_mm=1,1\n[window01]", "3: a second [window01]"},
-      {"[Window1]\nsize_mm=1,1\n[window01]", "3: a second window 1"},
-      {"[Window99999999999]", "1: '99999999999' is not a whole number"},
-      {"[Window00]\nident=1", "1: window 0 has no size_mm"},
-      {"[Window00]\nsize_mm=100", "2: size_mm: needs 2 numbers separated by commas"},
-      {"[Window00]\nsize_mm=0,100", "2: size_mm: 0 is outside 1 to 8192"},
-      {"[Window00]\ncolour=1", "2: unknown entry 'colour'"},
-      {"[Window00]\nident=1\nIdent=2", "3: a second 'ident' in this section"},
-      {"[Window00]\nident=5\nsize_mm=1,1\n[Window01]\nident_night=5",
-       "5: ident 5 belongs to a window already"},
-      {"[Window00]\nvisible=yes", "2: visible: 'yes' is not a whole number"},
-      {"[Window00]\nbackground=../secret.png",
-       "2: background: needs the name of a picture beside this file"},
-      {"[Window00]\nbackground_color=1,2,256", "2: background_color: 256 is outside 0 to 255"},
-      {"[Window00]\ngauge00=Masterbat, 1,2",
-       "2: a gauge is written Module!Gauge, x,y or Module!Gauge, x,y,width,height"},
-      {"[Window00]\ngauge00=Tarnvale!, 1,2", "2: a gauge needs a module and a name"},
-      {"[Window00]\ngauge00=Tarnvale!Ctr, 1,2,3", "2: a gauge needs x,y or x,y,width,height"},
-      {"[Window00]\ngauge00=Tarnvale!Ctr, 1,left", "2: 'left' is not a whole number"},
-      {"[Window00]\ngauge00=Tarnvale!Ctr, 1,2,3,0", "2: a gauge's width and height are 1 or more"},
-      {"[Window00]\nbay00=1,2,0,9", "2: a bay's width and height are 1 or more"},
-      {"[Window Titles]\nWindow7=GPS\n[Window00]\nsize_mm=1,1",
-       "2: a title for window 7, which is not there"},
-      {"[Window00]\nsize_mm=1,1\ngauge00=Tarnvale!Ctr, 1,2\ngauge0=Tarnvale!Ctr, 1,2",
-       "4: a second 'gauge0' in this section"},
-      {"[Window00]\nnothing but words that go on and on and on and on and on and on and on and on",
-       "2: expected [section] or entry=value, not 'nothing but words that go on and on and ...n and on "
-       "and on'"},
-      {"[Window Titles]\nMain=Captain", "2: expected Window00=title, not 'main'"},
-  };
-  for (const auto& [text, message] : cases)
-    EXPECT_EQ(refusal<ConfigError>([&] { parse_panel_config(text, "panel.cfg"); }),
-              "panel.cfg:" + std::string(message))
-        << text;
+  for (const Row& row : rows_of("panel/refused_panels.txt", 2))
+    EXPECT_EQ(refusal<ConfigError>([&] { parse_panel_config(row[0], "panel.cfg"); }),
+              "panel.cfg:" + row[1])
+        << row[0];
 }
 
 TEST(PanelConfig, AFileThatCannotBeReadIsRefused) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/rig/refusal.h"
+#include "tests/rig/rows.h"
 #include "tests/rig/temp_folder.h"
 
 namespace {
@@ -30,52 +31,11 @@ class Flow : public testing::Test {
   LuaRunner runner;
 };
 
-struct Failure {
-  const char* name;
-  const char* text;
-  const char* message;
-};
-
-void PrintTo(const Failure& failure, std::ostream* out) { *out << failure.message; }
-
-class Failures : public Flow, public testing::WithParamInterface<Failure> {};
-
-TEST_P(Failures, NameFileAndLine) { EXPECT_EQ(outcome(runner, GetParam().text), GetParam().message); }
-
-INSTANTIATE_TEST_SUITE_P(
-    Texts, Failures,
-    testing::Values(
-        Failure{"syntax", "local x = 1\nlocal y = = 2", "flows/test.lua:2: unexpected symbol near '='"},
-        Failure{"unfinished", "if true then\n",
-                "flows/test.lua:2: 'end' expected (to close 'if' at line 1) near <eof>"},
-        Failure{"nil_call", "\n\nclik('Masterbat')",
-                "flows/test.lua:3: attempt to call a nil value (global 'clik')"},
-        Failure{"own_error", "error('no fuel')", "flows/test.lua:1: no fuel"},
-        Failure{"error_object", "error({})", "flows/test.lua:1: an error that is not a text"},
-        Failure{"host", "local a = 1\nrefuse('the lamp is dark')",
-                "flows/test.lua:2: the lamp is dark"},
-        Failure{"helper", "local function check()\n  refuse('dark')\nend\n\ncheck()",
-                "flows/test.lua:2: dark (called from line 5)"},
-        Failure{"in_condition", "ask(function()\n  refuse('inside')\nend)",
-                "flows/test.lua:2: inside (called from line 1)"},
-        Failure{"missing_argument", "number()",
-                "flows/test.lua:1: argument 1 (value) must be a number"},
-        Failure{"infinite", "number(1/0)",
-                "flows/test.lua:1: argument 1 (value) must be a finite number"},
-        Failure{"fraction", "spot('A', 1.5, 2)",
-                "flows/test.lua:1: argument 2 (x) must be a whole number"},
-        Failure{"short_spot", "spot({'A', 1})", "flows/test.lua:1: argument 3 (y) must be a number"},
-        Failure{"not_a_function", "ask(7)",
-                "flows/test.lua:1: argument 1 (question) must be a function"},
-        Failure{"endless", "local n = 0\nwhile true do n = n + 1 end",
-                "flows/test.lua:2: the flow computes without ever waiting: an endless loop?"},
-        Failure{"finalizer", "setmetatable({}, {__gc = function() end})",
-                "flows/test.lua:1: tables of a flow have no finalizer (__gc)"},
-        Failure{"growing", "while true do local s = string.rep('x', 1 << 26) end",
-                "flows/test.lua: the flow computes without ever waiting: an endless loop?"},
-        Failure{"memory", "local s = string.rep('x', 1 << 30)", "flows/test.lua: out of memory"},
-        Failure{"binary", "\x1bLua", "flows/test.lua: attempt to load a binary chunk (mode is 't')"}),
-    [](const auto& test) { return test.param.name; });
+TEST_F(Flow, FailuresNameFileAndLine) {
+  for (const Row& row : rows_of("script/failures.txt", 2))
+    EXPECT_EQ(outcome(runner, row[0]), "flows/test.lua" + row[1]) << row[0];
+  EXPECT_EQ(outcome(runner, "\x1bLua"), "flows/test.lua: attempt to load a binary chunk (mode is 't')");
+}
 
 TEST_F(Flow, DeepRecursionIsAnErrorLikeAnyOther) {
   const std::string message = outcome(runner, "local function f() return 1 + f() end\nf()");
