@@ -105,7 +105,7 @@ class Unrest {
 void open_captains_panel(Cockpit& cockpit) {
   for (const WindowConfig& window : cockpit.config().windows) cockpit.panels().close(window.ident);
   cockpit.panels().open(captains_panel);
-  begin(cockpit.aircraft(), {.at = "cruise", .hours = {}});
+  begin(cockpit, {.at = "cruise", .hours = {}});
 }
 
 void print_frame(double frame, double rate) {

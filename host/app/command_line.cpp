@@ -2,9 +2,11 @@
 
 #include <sys/resource.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "host/app/commands.h"
 #include "host/app/standard_streams.h"
@@ -34,7 +36,7 @@ class CommandLine {
 
   int run(int argc, char** argv) {
     if (argc > 1 && argv[1][0] != '-' && !is_command(argv[1])) {
-      std::fprintf(stderr, "there is no command '%s'; tarnvale --help lists them\n",
+      std::fprintf(stderr, "tarnvale: there is no command '%s'; tarnvale --help lists them\n",
                    shortened(argv[1]).c_str());
       return exit_usage;
     }
@@ -42,16 +44,30 @@ class CommandLine {
     if (begins_with_an_option_of_fly(words)) words.insert(words.begin() + 1, fly_word_.data());
     try {
       app_.parse(static_cast<int>(words.size()), words.data());
+    } catch (const CLI::RequiredError& error) {
+      return refuse(missing(error.what()));
     } catch (const CLI::ParseError& error) {
       if (error.get_exit_code() == 0) return app_.exit(error);  // asked for help
-      std::fprintf(stderr, "tarnvale: %s; see: %s --help\n", shortened(error.what(), 300).c_str(),
-                   command_typed().c_str());
-      return exit_usage;
+      return refuse(shortened(error.what(), 300));
     }
     return command_();
   }
 
  private:
+  int refuse(const std::string& text) const {
+    std::fprintf(stderr, "tarnvale: %s; see: %s --help\n", text.c_str(), command_typed().c_str());
+    return exit_usage;
+  }
+
+  // The library says "journal is required"; a person wants to know of what.
+  std::string missing(const std::string& said) const {
+    const auto commands = app_.get_subcommands();
+    const std::string name = said.substr(0, said.find(' '));
+    const CLI::Option* option =
+        commands.empty() ? nullptr : commands.front()->get_option_no_throw(name);
+    return option ? commands.front()->get_name() + " needs more: " + option->get_description() : said;
+  }
+
   bool is_command(const std::string& name) const {
     const auto commands =
         app_.get_subcommands([&](const CLI::App* app) { return app->check_name(name); });
@@ -84,6 +100,17 @@ class CommandLine {
     return CLI::Validator(check, "");
   }
 
+  // One of some words.
+  static CLI::Validator one_of(const std::vector<std::string>& words) {
+    std::string list;
+    for (const std::string& word : words) list += (list.empty() ? "" : ", ") + word;
+    const auto check = [words, list](std::string& text) {
+      const bool known = std::ranges::find(words, text) != words.end();
+      return known ? std::string() : "there is no '" + shortened(text) + "', only " + list;
+    };
+    return CLI::Validator(check, list);
+  }
+
   template <typename Options>
   CLI::App* add(const char* name, const char* what, Options& options, int (*command)(const Options&)) {
     CLI::App* sub = app_.add_subcommand(name, what);
@@ -110,7 +137,7 @@ class CommandLine {
     std::vector<std::string> names;
     for (const StartPlace& place : start_places()) names.emplace_back(place.name);
     sub->add_option("--at", options.at, "Where the flight begins")
-        ->check(CLI::IsMember(names))
+        ->check(one_of(names))
         ->capture_default_str();
     sub->add_option("--time", options.hours,
                     "Local time in hours, 19.5 is half past seven in the evening")
@@ -157,7 +184,7 @@ class CommandLine {
   void add_what_is_flown(CLI::App* sub) {
     CLI::Option* at = sub->get_option("--at");
     CLI::Option* state = sub->add_option("--state", fly_.state, "Press this on the start page")
-                             ->check(CLI::IsMember({"cold_and_dark", "ready_to_start", "running"}))
+                             ->check(one_of({"cold_and_dark", "ready_to_start", "running"}))
                              ->excludes(at);
     sub->add_option("--watch", fly_.watch, "Let this flow fly before your eyes; Esc takes over")
         ->excludes(at)
@@ -251,8 +278,7 @@ class CommandLine {
     add_cockpit(sub, list_.cockpit);
     sub->add_option("what", list_.what, "gauges, names, windows, tokens, events, failures or sounds")
         ->required()
-        ->check(
-            CLI::IsMember({"gauges", "names", "windows", "tokens", "events", "failures", "sounds"}));
+        ->check(one_of({"gauges", "names", "windows", "tokens", "events", "failures", "sounds"}));
     sub->add_option("gauge", list_.gauge, "The gauge whose names to list; by default all");
   }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "host/inputs/crew.h"
 #include "host/simulation/places.h"
 
 namespace host {
@@ -24,6 +25,11 @@ void open_panels(const Cockpit& cockpit, const Desk& desk, std::vector<Input>& i
 void begin(AircraftModel& aircraft, const StartOptions& options) {
   if (options.hours) aircraft.set_time_of_day(*options.hours * 3600.0);
   start_at(aircraft, options.at);
+}
+
+void begin(Cockpit& cockpit, const StartOptions& options) {
+  if (options.hours) cockpit.aircraft().set_time_of_day(*options.hours * 3600.0);
+  start_at(cockpit, options.at);
 }
 
 std::vector<Input> beginning(const Cockpit& cockpit, const StartOptions& start, const Desk& desk) {

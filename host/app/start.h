@@ -5,12 +5,13 @@
 
 #include "host/app/options.h"
 #include "host/inputs/input.h"
-#include "host/simulation/aircraft_model.h"
+#include "host/panel/cockpit.h"
 
 namespace host {
 
-/// Puts the aircraft where and when it is wanted.
+/// Puts the aircraft where and when it is wanted, alone or with its cockpit.
 void begin(AircraftModel& aircraft, const StartOptions& options);
+void begin(Cockpit& cockpit, const StartOptions& options);
 
 /// What a session in the cockpit begins with: on the stand with the start page, unless windows are open
 /// on the desk.

@@ -1,5 +1,6 @@
 #include "host/inputs/cockpit_inputs.h"
 
+#include "host/inputs/crew.h"
 #include "host/panel/wheel.h"
 #include "host/simulation/places.h"
 
@@ -64,7 +65,9 @@ Answer CockpitInputs::apply(const input::KeyEvent& event) {
 
 Answer CockpitInputs::apply(const input::Fly& fly) {
   simulation::FlightControls& controls = cockpit_.aircraft().controls();
+  const bool gear_was_down = controls.gear_down;
   controls = with_controls(controls, fly.moved);
+  if (controls.gear_down != gear_was_down) align_gear_lever(cockpit_);
   return Answer::done;
 }
 
@@ -76,6 +79,7 @@ Answer CockpitInputs::apply(const input::MakeWeather& weather) {
 
 Answer CockpitInputs::apply(const input::PlaceInFlight& place) {
   const bool flies = cockpit_.aircraft().place_in_flight(place_of(place.place));
+  align_gear_lever(cockpit_);
   return flies ? Answer::done : Answer::not_as_wanted;
 }
 
@@ -95,7 +99,7 @@ Answer CockpitInputs::apply(const input::BeginWithStartPage&) {
 }
 
 Answer CockpitInputs::apply(const input::StartAt& start) {
-  return done_if(start_at(cockpit_.aircraft(), start.place));
+  return done_if(start_at(cockpit_, start.place));
 }
 
 Answer CockpitInputs::apply(const input::SetTimeOfDay& time) {

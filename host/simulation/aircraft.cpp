@@ -114,7 +114,10 @@ void Aircraft::fly(double dt_s) {
 }
 
 void Aircraft::follow_handing_over() {
-  if (!electrics.battery_on) apu = {};
+  if (!electrics.battery_on) {
+    apu = {};
+    fuel.boost_pump_on = {};
+  }
   const bool turning = engines[0].core_speed_percent > 1.0 || engines[1].core_speed_percent > 1.0;
   handed_over = electrics.battery_on && !turning;
 }

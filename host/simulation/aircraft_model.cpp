@@ -40,6 +40,7 @@ void AircraftModel::advance(double seconds) {
   // millionth of a step is forgiven, so that three thirds of a second are a second.
   constexpr double forgiven_steps = 1e-6;
   systems_->pending_steps += seconds * systems_->aircraft.clock.steps_per_second;
+  systems_->aircraft.tug.breathe();  // at a fast pace several breaths fall into one step
   const double due = std::floor(systems_->pending_steps + forgiven_steps);
   systems_->pending_steps -= due;
   for (double done = 0.0; done < due; ++done) systems_->aircraft.step();

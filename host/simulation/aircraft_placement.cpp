@@ -28,7 +28,7 @@ void Aircraft::start_both_engines() {
   engine_start.ignition_armed = true;
   fuel.lever_open = {true, true};
   for (std::size_t i = 0; i < engines.size(); ++i) {
-    engine_start.starters[i].engage(engines[i].core_speed_percent);
+    engine_start.starters[i].engage_by_ground_crew(engines[i].core_speed_percent);
   }
 }
 
@@ -39,7 +39,10 @@ void Aircraft::make_ready() {
   for (int i = 0; i < warm_up_s * clock.steps_per_second; ++i) update_systems(clock.step_s());
 }
 
-void Aircraft::start_automatically() { handed_over ? make_ready() : start_both_engines(); }
+void Aircraft::start_automatically() {
+  fuel.boost_pump_on = {true, true};
+  handed_over ? make_ready() : start_both_engines();
+}
 
 void Aircraft::connect_ground_power() {
   electrics.external_power = true;
@@ -48,7 +51,7 @@ void Aircraft::connect_ground_power() {
 
 void Aircraft::hand_over() {
   electrics.battery_on = electrics.avionics_on = true;
-  fuel.lever_open = {true, true};
+  fuel.lever_open = fuel.boost_pump_on = {true, true};
   apu = {.running = true, .speed_percent = 100.0};
   handed_over = true;
   update_systems(0.0);

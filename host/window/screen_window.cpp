@@ -12,6 +12,9 @@
 namespace host {
 namespace {
 
+constexpr const char* fills_screen =
+    "fills the screen";  // a note on a window that does by its own hand
+
 bool is_set(const char* variable) {
   const char* value = std::getenv(variable);
   return value && *value;
@@ -176,13 +179,25 @@ bool ScreenWindow::take_size() {
 }
 
 bool ScreenWindow::is_full_screen() const {
-  return SDL_GetWindowFlags(window_.get()) & SDL_WINDOW_FULLSCREEN_DESKTOP;
+  return SDL_GetWindowData(window_.get(), fills_screen) ||
+         (SDL_GetWindowFlags(window_.get()) & SDL_WINDOW_FULLSCREEN_DESKTOP);
 }
 
 void ScreenWindow::set_full_screen(bool full) {
   if (full == is_full_screen()) return;
   if (full) before_full_ = place();
+  if (on_x11() && !x11_has_window_manager()) return fill_screen(full);
   SDL_SetWindowFullscreen(window_.get(), full ? SDL_WINDOW_FULLSCREEN_DESKTOP : 0);
+}
+
+// Where nobody places windows a full screen would begin at the window's corner.
+void ScreenWindow::fill_screen(bool full) {
+  SDL_Rect place{before_full_.x.value_or(0), before_full_.y.value_or(0), before_full_.width,
+                 before_full_.height};
+  if (full) SDL_GetDisplayBounds(SDL_GetWindowDisplayIndex(window_.get()), &place);
+  SDL_SetWindowData(window_.get(), fills_screen, full ? window_.get() : nullptr);
+  SDL_SetWindowSize(window_.get(), place.w, place.h);
+  SDL_SetWindowPosition(window_.get(), place.x, place.y);
 }
 
 WindowPlace ScreenWindow::place() const {

@@ -76,6 +76,8 @@ class ScreenWindow {
     void operator()(SDL_Window* window) const;
   };
 
+  void fill_screen(bool full);
+
   std::unique_ptr<SDL_Window, Close> window_;
   WindowPlace before_full_;
   Canvas canvas_;

@@ -40,7 +40,19 @@ int end_without_display(Display*) {
   _exit(1);
 }
 
+std::unique_ptr<Display, int (*)(Display*)> open_display() {
+  return {XOpenDisplay(nullptr), XCloseDisplay};
+}
+
 }  // namespace
+
+// The one client that is asked before a window of the root moves.
+bool x11_has_window_manager() {
+  const auto display = open_display();
+  XWindowAttributes root{};
+  return !display || !XGetWindowAttributes(display.get(), DefaultRootWindow(display.get()), &root) ||
+         (root.all_event_masks & SubstructureRedirectMask) != 0;
+}
 
 void x11_forgive_late_events() {
   const XErrorHandler before = XSetErrorHandler(take_error);
@@ -59,7 +71,7 @@ std::optional<double> scale_in_resources(std::string_view resources) {
 }
 
 double x11_scale() {
-  const std::unique_ptr<Display, int (*)(Display*)> display(XOpenDisplay(nullptr), XCloseDisplay);
+  const auto display = open_display();
   if (!display) return 1.0;
   const char* resources = XResourceManagerString(display.get());
   return resources ? scale_in_resources(resources).value_or(1.0) : 1.0;

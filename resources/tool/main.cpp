@@ -10,8 +10,8 @@
 #include <string>
 #include <vector>
 
-#include "resources/kit/legend.h"
 #include "resources/kit/records.h"
+#include "resources/kit/type.h"
 #include "resources/tool/library.h"
 #include "resources/tool/windows_resources.h"
 

@@ -14,6 +14,19 @@ struct PoweredAircraft : AircraftModel {
   }
 };
 
+/// With the auxiliary power unit at speed.
+struct SuppliedAircraft : PoweredAircraft {
+  SuppliedAircraft() {
+    send(*this, "apu_start");
+    advance(40.0);
+  }
+};
+
+/// As the start panel does where there is pressure in its duct: it goes on asking.
+void crank(AircraftModel& aircraft, const std::string& event) {
+  for (int i = 0; i < 10; ++i) send(aircraft, event);
+}
+
 class EngineStart : public EachSide {
  protected:
   static void expect_ground_idle(const AircraftModel& aircraft, const std::string& engine) {
@@ -36,30 +49,47 @@ class EngineStart : public EachSide {
   }
 };
 
-TEST_P(EngineStart, One_event_cranks_the_engine_past_the_start_panels_25_percent) {
-  PoweredAircraft aircraft;
-  send(aircraft, own("starter_#_engage"));
-  EXPECT_NEAR(seconds_until(aircraft, own("engine_#_core_speed"), 22.0), 10.0, 1.0);
+TEST_P(EngineStart, The_starter_takes_the_engine_past_the_start_panels_25_percent) {
+  SuppliedAircraft aircraft;
+  crank(aircraft, own("starter_#_engage"));
+  EXPECT_NEAR(seconds_until(aircraft, own("engine_#_core_speed"), 22.0), 9.4, 0.5);
   EXPECT_LT(seconds_until(aircraft, own("engine_#_core_speed"), 25.05), 7.0);
   aircraft.advance(60.0);
-  EXPECT_NEAR(reading(aircraft, own("engine_#_core_speed")), 27.7, 0.5) << "no more without fuel";
+  EXPECT_NEAR(reading(aircraft, own("engine_#_core_speed")), 28.8, 0.3) << "no more without fuel";
   EXPECT_LT(reading(aircraft, own("engine_#_gas_temperature")) / 4.0, 20.0);
   expect_cold(aircraft, other("engine_#_"));
   aircraft.advance(180.0);
   EXPECT_LT(reading(aircraft, own("engine_#_core_speed")), 5.0) << "the starter's duty time is over";
 }
 
+// The panel sees no pressure in its duct and asks but once, as the selector turns; a person may turn it again.
+TEST_P(EngineStart, Nothing_turns_without_air_and_over_a_shut_duct_a_twitch_is_all) {
+  PoweredAircraft aircraft;
+  crank(aircraft, own("starter_#_engage"));
+  aircraft.advance(5.0);
+  EXPECT_EQ(reading(aircraft, own("engine_#_core_speed")), 0.0)
+      << "on the stand, with nothing that gives air";
+  SuppliedAircraft supplied;
+  for (int turned = 0; turned < 12; ++turned) {
+    send(supplied, own("starter_#_engage"));
+    supplied.advance(0.5);
+    EXPECT_LT(reading(supplied, own("engine_#_core_speed")), 2.0);
+    supplied.advance(30.0);
+    EXPECT_EQ(reading(supplied, own("engine_#_core_speed")), 0.0) << turned;
+  }
+}
+
 TEST_P(EngineStart, Fuel_may_come_at_any_time_of_the_cranking) {
   for (double lever_at_percent : {-1.0, 16.0, 25.5}) {
     SCOPED_TRACE(lever_at_percent);
-    PoweredAircraft aircraft;
-    send(aircraft, own("starter_#_engage"));
+    SuppliedAircraft aircraft;
+    crank(aircraft, own("starter_#_engage"));
     const double start_s = aircraft.seconds();
     seconds_until(aircraft, own("engine_#_core_speed"), lever_at_percent);
     send(aircraft, own("fuel_lever_#_toggle"));
     EXPECT_EQ(reading(aircraft, other("fuel_lever_#")), 0.0);
     double peak = 0.0;
-    while (reading(aircraft, own("engine_#_core_speed")) < 50.0 && aircraft.seconds() < 100.0) {
+    while (reading(aircraft, own("engine_#_core_speed")) < 50.0 && aircraft.seconds() < 140.0) {
       aircraft.advance(1.0 / 60.0);
       peak = std::max(peak, reading(aircraft, own("engine_#_gas_temperature")) / 4.0);
     }
@@ -72,9 +102,9 @@ TEST_P(EngineStart, Fuel_may_come_at_any_time_of_the_cranking) {
 }
 
 TEST_P(EngineStart, Fuel_for_the_other_engine_lights_neither) {
-  PoweredAircraft aircraft;
+  SuppliedAircraft aircraft;
   send(aircraft, other("fuel_lever_#_toggle"));
-  send(aircraft, own("starter_#_engage"));
+  crank(aircraft, own("starter_#_engage"));
   aircraft.advance(40.0);
   EXPECT_LT(reading(aircraft, own("engine_#_core_speed")), 30.0);
   EXPECT_EQ(reading(aircraft, own("engine_#_fuel_flow")), 0.0);
@@ -83,14 +113,11 @@ TEST_P(EngineStart, Fuel_for_the_other_engine_lights_neither) {
 
 // The start panel repeats its event up to ten times a frame while the core turns.
 TEST_P(EngineStart, Repeated_events_change_nothing) {
-  PoweredAircraft once;
-  PoweredAircraft often;
-  send(once, own("fuel_lever_#_toggle"));
-  send(often, own("fuel_lever_#_toggle"));
-  send(once, own("starter_#_engage"));
+  SuppliedAircraft once, often;
+  for (AircraftModel* each : {&once, &often}) send(*each, own("fuel_lever_#_toggle"));
+  crank(once, own("starter_#_engage"));
   for (int i = 0; i < 40 * 60; ++i) {
-    send(often, own("starter_#_engage"));
-    send(often, own("starter_#_engage"));
+    crank(often, own("starter_#_engage"));
     once.advance(1.0 / 60.0);
     often.advance(1.0 / 60.0);
     ASSERT_EQ(reading(often, own("engine_#_core_speed")), reading(once, own("engine_#_core_speed")))
@@ -98,20 +125,24 @@ TEST_P(EngineStart, Repeated_events_change_nothing) {
   }
 }
 
-TEST_P(EngineStart, In_the_air_only_the_apu_or_the_other_engine_can_crank) {
+TEST_P(EngineStart,
+       The_apu_or_the_other_engine_gives_the_air_anywhere_and_the_ground_crew_on_the_stand) {
   using simulation::EngineStartInputs;
   const auto side = static_cast<std::size_t>(GetParam() - 1);
-  const auto cranks = [side](const EngineStartInputs& inputs) {
+  const auto cranks = [side](const EngineStartInputs& inputs, bool by_ground_crew = false) {
     simulation::EngineStart start;
-    start.starters[side].engage(0.0);
+    for (int ask = 0; ask < 10; ++ask) start.starters[side].engage(0.0);
+    if (by_ground_crew) start.starters[side].engage_by_ground_crew(0.0);
     start.update(1.0 / 60.0, inputs);
     EXPECT_EQ(start.crank_speed_percent[1 - side], 0.0);
     return start.crank_speed_percent[side] > 25.0;
   };
   EngineStartInputs other_runs{.has_dc = true, .on_ground = false};
   other_runs.core_speed_percent[1 - side] = 70.0;
-  EXPECT_TRUE(cranks({.has_dc = true}));
-  EXPECT_FALSE(cranks({.has_dc = true, .on_ground = false}));
+  EXPECT_FALSE(cranks({.has_dc = true}));
+  EXPECT_TRUE(cranks({.has_dc = true}, true));
+  EXPECT_FALSE(cranks({.has_dc = true, .on_ground = false}, true));
+  EXPECT_FALSE(cranks({.apu_at_speed = true}));
   EXPECT_TRUE(cranks({.has_dc = true, .apu_at_speed = true, .on_ground = false}));
   EXPECT_TRUE(cranks(other_runs));
 }
@@ -126,9 +157,11 @@ TEST_P(EngineStart, Nothing_burns_without_sparks_of_its_own) {
        {Case{"", false}, Case{"ignition_arm", true}, Case{own("starter_#_engage"), true},
         Case{other("starter_#_engage"), false}}) {
     AircraftModel aircraft(StartCondition::ready);
+    send(aircraft, "apu_start");
+    aircraft.advance(40.0);
     for (const char* lever : {"fuel_lever_1_toggle", "fuel_lever_2_toggle"}) send(aircraft, lever);
     aircraft.advance(10.0);
-    if (!sparks.empty()) send(aircraft, sparks);
+    if (!sparks.empty()) crank(aircraft, sparks);
     send(aircraft, own("fuel_lever_#_toggle"));
     aircraft.advance(40.0);
     EXPECT_EQ(reading(aircraft, own("engine_#_core_speed")) > 35.0, burns) << "with " << sparks;
@@ -136,24 +169,14 @@ TEST_P(EngineStart, Nothing_burns_without_sparks_of_its_own) {
   }
 }
 
-TEST_P(EngineStart, Goes_on_while_the_other_engine_runs) {
-  AircraftModel aircraft(StartCondition::ready);
-  send(aircraft, own("fuel_lever_#_toggle"));
-  aircraft.advance(120.0);
-  send(aircraft, own("fuel_lever_#_toggle"));
-  send(aircraft, own("starter_#_engage"));
-  aircraft.advance(60.0);
-  expect_ground_idle(aircraft, own("engine_#_"));
-}
-
 TEST_P(EngineStart, A_fuel_lever_closed_during_the_start_leaves_the_engine_cranking) {
-  PoweredAircraft aircraft;
+  SuppliedAircraft aircraft;
   send(aircraft, own("fuel_lever_#_toggle"));
-  send(aircraft, own("starter_#_engage"));
+  crank(aircraft, own("starter_#_engage"));
   seconds_until(aircraft, own("engine_#_core_speed"), 35.0);
   send(aircraft, own("fuel_lever_#_toggle"));
   aircraft.advance(40.0);
-  EXPECT_NEAR(reading(aircraft, own("engine_#_core_speed")), 27.7, 0.5);
+  EXPECT_NEAR(reading(aircraft, own("engine_#_core_speed")), 28.8, 0.5);
   EXPECT_LT(reading(aircraft, own("engine_#_gas_temperature")) / 4.0, 200.0);
 }
 
@@ -168,6 +191,10 @@ TEST_P(EngineStart, Engine_runs_down_in_a_minute_when_fuel_is_cut) {
   aircraft.advance(60.0);
   EXPECT_EQ(reading(aircraft, own("engine_#_core_speed")), 0.0);
   EXPECT_LT(reading(aircraft, own("engine_#_fan_speed")), 0.1);
+  send(aircraft, own("fuel_lever_#_toggle"));
+  crank(aircraft, own("starter_#_engage"));
+  aircraft.advance(60.0);
+  expect_ground_idle(aircraft, own("engine_#_"));  // it starts while the other one runs
   expect_ground_idle(aircraft, other("engine_#_"));
 }
 
@@ -188,15 +215,6 @@ TEST_P(EngineStart, Automatic_start_and_hot_air_from_the_intakes_work_on_each_en
 }
 
 INSTANTIATE_TEST_SUITE_P(Sides, EngineStart, testing::Values(1, 2));
-
-TEST(Starter, Does_not_turn_without_current) {
-  AircraftModel dead;
-  send(dead, "starter_1_engage");
-  send(dead, "starter_2_engage");
-  dead.advance(20.0);
-  EXPECT_EQ(reading(dead, "engine_1_core_speed"), 0.0);
-  EXPECT_EQ(reading(dead, "engine_2_core_speed"), 0.0);
-}
 
 }  // namespace
 }  // namespace host

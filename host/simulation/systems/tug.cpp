@@ -1,5 +1,6 @@
 #include "host/simulation/systems/tug.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "host/simulation/base/numeric.h"
@@ -30,6 +31,8 @@ double wanted_rad(Tug::Task task) {
 
 double Tug::yaw_rad_per_s() const { return speed_mps * std::tan(nose_wheel_rad) / wheelbase_m; }
 
+void Tug::call() { calls = std::max(calls, ++calls_in_breath); }
+
 void Tug::hear_call() {
   const bool goes_on = since_call_s < pause_s;
   const Task before = task;
@@ -55,7 +58,7 @@ void Tug::hear(double dt_s) {
     task = Task::stand;
     long_call = false;
   }
-  calls = 0;
+  calls = calls_in_breath = 0;
   turn = Task::stand;
 }
 

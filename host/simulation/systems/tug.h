@@ -27,7 +27,9 @@ struct Tug {
   double speed_mps = 0.0;       ///< at the main wheels, backward positive
   double nose_wheel_rad = 0.0;  ///< the tail goes left with it positive
 
-  void call() { ++calls; }
+  void call();
+  /// What is called from here on is another breath.
+  void breathe() { calls_in_breath = 0; }
   void call_turn(Task side) { turn = side; }
 
   void update(double dt_s, const TugInputs& inputs);
@@ -36,7 +38,8 @@ struct Tug {
   double yaw_rad_per_s() const;
 
  private:
-  int calls = 0;            // since the last step
+  int calls_in_breath = 0;
+  int calls = 0;            // in one breath, the most since the last step
   Task turn = Task::stand;  // called with them
   double since_call_s = 1e9;
   bool long_call = false;
