@@ -21,6 +21,7 @@ constexpr const char* whole_panel =
     "gauge00=Tarnvale!Masterbat, 19,473\r\n"
     "gauge01 = tarnvale!ACPWR,-4,6 , 90,100\r\n"
     "bay00=10, 20,200,400\r\n"
+    "placard00=5,6, 70,40, LIMITS | OIL 40, 85 | \r\n"
     "[Window00]\n"
     "ident=500\nident_day=20\nident_night=27\nsize_mm=8,9\nposition=7\n"
     "background=main.png\nbackground_night=main_night.png\nbackground_color=255,0,16";
@@ -51,6 +52,9 @@ TEST(PanelConfig, ReadsTheFieldsUsualForm) {
   ASSERT_EQ(overhead.bays.size(), 1u);
   EXPECT_EQ(overhead.bays[0].y, 20);
   EXPECT_EQ(overhead.bays[0].height, 400);
+  ASSERT_EQ(overhead.placards.size(), 1u);
+  EXPECT_EQ(overhead.placards[0].width, 70);
+  EXPECT_EQ(overhead.placards[0].lines, (std::vector<std::string>{"LIMITS", "OIL 40, 85", ""}));
 }
 
 std::string refusal(const char* text) {
@@ -89,7 +93,9 @@ TEST(PanelConfig, IsRefusedWithFileAndLine) {
       {"[Window00]\ngauge00=Tarnvale!Ctr, 1,2,3", "2: a gauge needs x,y or x,y,width,height"},
       {"[Window00]\ngauge00=Tarnvale!Ctr, 1,left", "2: 'left' is not a whole number"},
       {"[Window00]\ngauge00=Tarnvale!Ctr, 1,2,3,0", "2: a gauge's width and height are 1 or more"},
-      {"[Window00]\nbay00=1,2,0,9", "2: a bay's width and height are 1 or more"},
+      {"[Window00]\nbay00=1,2,0,9", "2: width and height are 1 or more"},
+      {"[Window00]\nplacard00=1,2,30,9", "2: a placard is written x,y,width,height,words"},
+      {"[Window00]\nplacard00=1,2,30,9,|||||||||||||", "2: a placard has at most 12 lines"},
       {"[Window Titles]\nWindow7=GPS\n[Window00]\nsize_mm=1,1",
        "2: a title for window 7, which is not there"},
       {"[Window00]\nsize_mm=1,1\ngauge00=Tarnvale!Ctr, 1,2\ngauge0=Tarnvale!Ctr, 1,2",

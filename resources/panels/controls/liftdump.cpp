@@ -17,6 +17,7 @@ void draw_light(const Canvas& canvas, int image) {
 }
 
 constexpr Item items[] = {
+    CornerScrews{5, 2.2},
     Legend{at("left_lift_dumper_light", 0, -13.5), "L", 6.5},
     Legend{at("right_lift_dumper_light", 0, -13.5), "R", 6.5},
     Legend{middle(-7), "LIFT DUMP", 7},
