@@ -8,8 +8,7 @@ namespace artwork {
 
 void display_window(const Canvas& canvas, Box box) {
   const Box frame = box.grown(2);
-  set_linear(canvas, {frame.x, frame.y}, {frame.right(), frame.bottom()},
-             {{0, palette::mould_dark}, {0.5, palette::mould}, {1, palette::steel}});
+  set_slope(canvas, frame, {{0, palette::mould_dark}, {0.5, palette::mould}, {1, palette::steel}});
   fill(canvas, rounded(frame, 2));
   fill(canvas, rounded(box.grown(0.8), 1.2), palette::well);
   set_linear(canvas, {box.x, box.y}, {box.x, box.bottom()},
@@ -26,8 +25,7 @@ void opening(const Canvas& canvas, Point centre, Size size, double corner, Light
   const Box hole{centre.x - size.width / 2.0, centre.y - size.height / 2.0,
                  static_cast<double>(size.width), static_cast<double>(size.height)};
   const Box frame = hole.grown(1.6);
-  set_linear(canvas, {frame.x, frame.y}, {frame.right(), frame.bottom()},
-             {{0, palette::mould_dark}, {0.5, palette::mould}, {1, palette::steel}});
+  set_slope(canvas, frame, {{0, palette::mould_dark}, {0.5, palette::mould}, {1, palette::steel}});
   fill(canvas, rounded(frame, corner + 1.6));
   stroke(canvas, rounded(hole.grown(1), corner + 1), 0.9,
          faded(palette::filament_wash, 0.5 * power(lighting)));
@@ -38,8 +36,7 @@ void opening(const Canvas& canvas, Point centre, Size size, double corner, Light
 
 void drum_frame(const Canvas& canvas, Box box, Lighting lighting) {
   const Box frame = box.grown(1.8);
-  set_linear(canvas, {frame.x, frame.y}, {frame.right(), frame.bottom()},
-             {{0, palette::well}, {0.5, palette::mould}, {1, palette::steel}});
+  set_slope(canvas, frame, {{0, palette::well}, {0.5, palette::mould}, {1, palette::steel}});
   fill(canvas, rounded(frame, 1.6));
   stroke(canvas, rounded(frame.grown(-0.4), 1.4), 0.8,
          faded(palette::filament_wash, 0.5 * power(lighting)));

@@ -88,21 +88,6 @@ std::string expected_header(std::uint32_t file_size) {
 
 Wave wave_of(const std::string& file) { return samples(sound_folder / file); }
 
-// Amplitude of one frequency between two times (Goertzel).
-double at_pitch(const Wave& wave, double hertz, double from_s, double to_s) {
-  const double turn = 2 * std::cos(2 * std::numbers::pi * hertz / rate);
-  double last = 0, before = 0;
-  const auto begin = static_cast<std::size_t>(from_s * rate);
-  const auto end = std::min(wave.size(), static_cast<std::size_t>(to_s * rate));
-  for (std::size_t i = begin; i < end; ++i) {
-    const double now = wave[i] + turn * last - before;
-    before = last;
-    last = now;
-  }
-  return std::sqrt(std::max(0.0, last * last + before * before - turn * last * before)) * 2 /
-         (end - begin);
-}
-
 TEST(SoundFiles, AreExactlyThoseTheAircraftAsksFor) {
   EXPECT_EQ(sounds.size(), 46u);
   std::set<std::string> wanted, found;
@@ -113,23 +98,16 @@ TEST(SoundFiles, AreExactlyThoseTheAircraftAsksFor) {
   EXPECT_EQ(found, wanted);
 }
 
-TEST(SoundFiles, AreMono16BitWithTheirLengthAndPeak) {
+TEST(SoundFiles, AreMono16BitAsLongAndAsLoudAsTheirKind) {
   for (const Sound& sound : sounds) {
     const auto bytes = contents(sound_folder / sound.file);
     ASSERT_GT(bytes.size(), 44u) << sound.file;
     EXPECT_EQ(bytes.substr(0, 44), expected_header(static_cast<std::uint32_t>(bytes.size())))
         << sound.file;
-    const auto wave = wave_of(sound.file);
-    const double seconds = wave.size() / rate;
+    const Wave wave = wave_of(sound.file);
+    const double seconds = wave.size() / rate, loud = loudness(wave), peak_db = decibels(peak(wave));
     EXPECT_TRUE(seconds >= sound.shortest_s && seconds <= sound.longest_s)
         << sound.file << ": " << seconds << " s";
-  }
-}
-
-TEST(SoundFiles, AreAsLoudAsTheirKind) {
-  for (const Sound& sound : sounds) {
-    const Wave wave = wave_of(sound.file);
-    const double loud = loudness(wave), peak_db = decibels(peak(wave));
     EXPECT_TRUE(loud >= limits[sound.kind].quietest && loud <= limits[sound.kind].loudest)
         << sound.file << ": " << loud << " dB";
     EXPECT_LE(peak_db, limits[sound.kind].highest_peak) << sound.file;
@@ -200,38 +178,13 @@ TEST(SoundFiles, APushIsHeardOverTheStartingApu) {
 // What is asked for again on every frame starts again after the same number of frames each time, even if a
 // frame or the device is late by nearly half of one: it ends in the middle between two.
 TEST(SoundFiles, RepeatAfterWholeFrames) {
-  const struct {
-    const char* file;
-    int frames;
-  } repeated[] = {
-      {"Tarv_fire.wav", 27},    {"Tarv_stall.wav", 27}, {"Ground/Tarv_gndwarn.wav", 27},
-      {"Tarv_cabwarn.wav", 28}, {"Tarv_gpws.wav", 24},  {"Tarv_altalert.wav", 18},
-  };
-  for (const auto& [file, frames] : repeated) {
+  for (const auto& [file, frames] : {std::pair{"Tarv_fire.wav", 27},
+                                     {"Tarv_stall.wav", 27},
+                                     {"Ground/Tarv_gndwarn.wav", 27},
+                                     {"Tarv_cabwarn.wav", 28},
+                                     {"Tarv_gpws.wav", 24},
+                                     {"Tarv_altalert.wav", 18}}) {
     EXPECT_NEAR(wave_of(file).size() / rate * 18, frames - 0.5, 0.01) << file;
-  }
-}
-
-TEST(SoundFiles, ChimesAreInTune) {
-  const double B4 = 493.88, D5 = 587.33, C6 = 1046.50, E6 = 1318.51, G6 = 1567.98;
-  const std::tuple<const char*, double, double, double> notes[] = {
-      {"Tarv_signs.wav", B4, 0.05, 0.6},
-      {"Tarv_stewcall.wav", D5, 0.05, 0.48},
-      {"Tarv_stewcall.wav", B4, 0.55, 1.1},
-      {"FlightAttend/Tarv_ccwelcome.wav", B4, 0.02, 0.36},
-      {"FlightAttend/Tarv_ccwelcome.wav", D5, 0.42, 0.8},
-      {"Tarv_altalert.wav", C6, 0.1, 0.8},
-      {"Tarv_altalert.wav", E6, 0.1, 0.8},
-      {"Tarv_altalert.wav", G6, 0.1, 0.8},
-      {"Tarv_radalt.wav", 1000, 1.0, 1.9},
-  };
-  const double semitone = std::pow(2, 1 / 12.0);
-  for (const auto& [file, pitch, from_s, to_s] : notes) {
-    const auto wave = wave_of(file);
-    const double tuned = at_pitch(wave, pitch, from_s, to_s);
-    EXPECT_GT(tuned, 0.015) << file << " at " << pitch << " Hz";
-    for (const double off : {pitch * semitone, pitch / semitone})
-      EXPECT_GT(tuned, 3 * at_pitch(wave, off, from_s, to_s)) << file << " at " << off << " Hz";
   }
 }
 

@@ -108,16 +108,12 @@ TEST(CockpitNoise, LeavesEveryVoiceTwelveDecibelsAboveItAndEveryWarningToo) {
   }
 }
 
-TEST(CockpitNoise, IsSilenceInAColdAircraftAndChangesNothingThere) {
+TEST(CockpitNoise, IsSilenceInAColdAircraftAndWhenPowerGoes) {
   CockpitNoise noise;
   noise.hear({}, frame_s);
-  EXPECT_TRUE(noise.silent());
   std::vector<std::int16_t> mix{1, -2, 32767, -32768};
   noise.mix_into(mix);
   EXPECT_EQ(mix, (std::vector<std::int16_t>{1, -2, 32767, -32768}));
-}
-
-TEST(CockpitNoise, FallsSilentAgainWhenPowerGoes) {
   Ears ears;
   ears.listen(powered(), 1);
   EXPECT_FALSE(ears.noise.silent());
@@ -136,19 +132,17 @@ TEST(CockpitNoise, IsTheSameForTheSameFlightAndFollowsItsVolume) {
   EXPECT_NEAR(level_db(half.last(0.4)), level_db(first.last(0.4)) - 6.02, 0.1);
 }
 
-TEST(CockpitNoise, TellsWhatMovesAndTouches) {
-  {
-    Ears ears;
-    SoundSources s = in_flight(130);
-    s.fan_speed = {0.5, 0.5};
-    ears.listen(s, 1);
-    const double still = level_db(between(ears.last(0.5), 300, 900));
-    for (int frame = 0; frame < 18; ++frame) {
-      s.flap_deg += 2.5 * frame_s;
-      ears.listen(s, frame_s);
-    }
-    EXPECT_GT(level_db(between(ears.last(0.5), 300, 900)), still + 2) << "flaps";
+TEST(CockpitNoise, TellsOfFlapsThatMoveAndOfWheelsThatTouch) {
+  Ears flaps;
+  SoundSources slow = in_flight(130);
+  slow.fan_speed = {0.5, 0.5};
+  flaps.listen(slow, 1);
+  const double still = level_db(between(flaps.last(0.5), 300, 900));
+  for (int frame = 0; frame < 18; ++frame) {
+    slow.flap_deg += 2.5 * frame_s;
+    flaps.listen(slow, frame_s);
   }
+  EXPECT_GT(level_db(between(flaps.last(0.5), 300, 900)), still + 2);
   for (const double sink_fpm : {100.0, 500.0}) {
     Ears ears;
     SoundSources s = in_flight(130);
@@ -162,9 +156,7 @@ TEST(CockpitNoise, TellsWhatMovesAndTouches) {
   }
   Ears put;
   put.listen(in_flight(200), 1);
-  SoundSources standing = powered();
-  put.listen(standing, 0.2);
-  put.listen(standing, 0.2);
+  put.listen(powered(), 0.4);
   EXPECT_LT(peak(put.last(0.2)), 0.05) << "who is put on the ground has not landed";
 }
 

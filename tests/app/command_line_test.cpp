@@ -3,26 +3,17 @@
 
 #include <sys/stat.h>
 
-#include <cstdint>
-#include <cstring>
+#include <set>
 
 #include "tests/app/program.h"
+#include "tests/rig/rows.h"
 
 namespace {
 
 const std::string module_file = (cockpit_dir / "Tarnvale.GAU").string();
 
-struct Case {
-  const char* name;
-  std::string arguments;
-  int exit_code;
-  std::string said;  ///< somewhere in the output
-};
-
-void PrintTo(const Case& each, std::ostream* out) { *out << "tarnvale " << each.arguments; }
-
-class BadInput : public testing::TestWithParam<Case> {
- public:
+class BadInput : public testing::Test {
+ protected:
   // Files with faults of their own, made once.
   static const TempFolder& faults() {
     static TempFolder folder;
@@ -64,130 +55,24 @@ class BadInput : public testing::TestWithParam<Case> {
     return folder;
   }
 
-  // An @ stands for that folder.
-  static std::string with_folder(std::string text) {
-    for (std::size_t at; (at = text.find('@')) != std::string::npos;)
-      text.replace(at, 1, faults() / "");
+  static std::string with_folders(std::string text) {
+    for (const auto& [sign, folder] : {std::pair{'@', faults() / ""}, {'$', cockpit_dir.string()}})
+      for (std::size_t at; (at = text.find(sign)) != std::string::npos;) text.replace(at, 1, folder);
     return text;
   }
 };
 
-TEST_P(BadInput, GetsOneClearMessage) {
-  const Case& each = GetParam();
-  const Outcome outcome = tarnvale(with_folder(each.arguments));
-  EXPECT_EQ(outcome.exit_code, each.exit_code) << outcome.output;
-  EXPECT_NE(outcome.output.find(with_folder(each.said)), std::string::npos) << outcome.output;
-  if (each.exit_code == 1) {
-    EXPECT_LE(std::count(outcome.output.begin(), outcome.output.end(), '\n'), 3) << outcome.output;
+TEST_F(BadInput, GetsOneClearMessage) {
+  for (const Row& row : rows_of("app/bad_input.txt", 3)) {
+    SCOPED_TRACE(row[1]);
+    const Outcome outcome = tarnvale(with_folders(row[1]));
+    EXPECT_EQ(std::to_string(outcome.exit_code), row[0]) << outcome.output;
+    EXPECT_NE(outcome.output.find(with_folders(row[2])), std::string::npos) << outcome.output;
+    if (outcome.exit_code == 1) {
+      EXPECT_LE(std::count(outcome.output.begin(), outcome.output.end(), '\n'), 3) << outcome.output;
+    }
   }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Commands, BadInput,
-    testing::Values(
-        Case{"no_command", "", 1, "no display to open a window on"},
-        Case{"options_alone_fly", "--mute", 1, "no display to open a window on"},
-        Case{"unknown_option_alone", "--sail", 2, "see: tarnvale fly --help"},
-        Case{"absent_display", "--display :4095", 1, "nothing answers at DISPLAY=:4095"},
-        Case{"unknown_flow", "fly --watch @gone.lua --display :4095", 1,
-             "gone.lua: there is no such flow"},
-        Case{"unknown_command", "sail", 2, "there is no command 'sail'"},
-        Case{"unknown_option", "run --speed 3", 2, "--speed"},
-        Case{"bad_rate", "run --rate 0", 2, "--rate: '0' is not a number from 1 to 240"},
-        Case{"no_rate", "run --rate nan", 2, "--rate: 'nan' is not"},
-        Case{"no_zoom", "show Ctr --png @x.png --zoom nan", 2, "--zoom: 'nan' is not"},
-        Case{"no_end", "fly --exit-after nan", 2, "--exit-after: 'nan' is not"},
-        Case{"no_time", "fly --time -nan", 2, "--time: '-nan' is not"},
-        Case{"no_interval", "replay x --png @out --every inf", 2, "--every: 'inf' is not"},
-        Case{"unknown_list", "list clouds", 2, "clouds"},
-        Case{"show_nothing", "show", 2, "gauges is required"},
-        Case{"missing_module", "list gauges --module @gone.GAU", 1, "gone.GAU"},
-        Case{"truncated_module", "list gauges --module @truncated.GAU", 1, "truncated.GAU"},
-        Case{"folder_module", "list gauges --module @closed", 1, "closed"},
-        Case{"other_library", "list gauges --module " + (cockpit_dir / "libwinplatform.so").string(), 1,
-             "libwinplatform.so"},
-        Case{"check_library", "check " + (cockpit_dir / "libwinplatform.so").string(), 1,
-             "it exports neither Linkage nor ImportTable; --details tells what it is"},
-        Case{"check_missing", "check @gone.GAU", 1, "gone.GAU"},
-        Case{"missing_panel", "run --panel @gone.cfg", 1,
-             "gone.cfg: cannot be read: No such file or directory"},
-        Case{"pipe_panel", "list windows --panel @pipe", 1, "@pipe: is no regular file"},
-        Case{"device_panel", "list windows --panel @zero", 1, "@zero: is no regular file"},
-        Case{"pipe_module_flown", "fly --module @pipe", 1, "@pipe: is no regular file"},
-        Case{"pipe_module", "check @pipe", 1, "@pipe: is no regular file"},
-        Case{"swapped_artwork", "check @swapped/Tarnvale.GAU", 0,
-             "@swapped/Tarnvale.GAU.2x: bitmap 10 has 60 x 60 pixels, not 40 x 40"},
-        Case{"endless_search", "run @search.lua", 1,
-             "search.lua: the flow computes without ever waiting: an endless loop?"},
-        Case{"sound_into_a_pipe", "run @noise.lua --wav @pipe", 1,
-             "@pipe: is a pipe that nobody reads"},
-        Case{"sound_over_flow", "run @noise.lua --wav @noise.lua", 1,
-             "noise.lua: --wav would write over the flow"},
-        Case{"sound_over_journal", "run @noise.lua --wav @x --journal @x", 1,
-             "x: --journal would write over --wav"},
-        Case{"picture_over_panel", "show 500 --panel @no_picture.cfg --png @no_picture.cfg", 1,
-             "no_picture.cfg: --png would write over the panel configuration"},
-        Case{"list_on_a_full_disk", "list tokens >@full", 1, "standard output cannot be written"},
-        Case{"check_without_output", "check >&-", 1, "standard output cannot be written"},
-        Case{"sound_on_a_full_disk", "run @noise.lua --wav @full", 1, "full': No space left"},
-        Case{"flow_opens_unknown", "run @window.lua", 1, "window.lua:2: the panel has no window 777"},
-        Case{"flow_draws_unknown", "run @stranger.lua", 1,
-             "stranger.lua:1: no window has a gauge 'Altimiter'"},
-        Case{"unknown_gauge", "run --panel @unknown_gauge.cfg", 1,
-             "unknown_gauge.cfg:4: Tarnvale has no gauge 'Masterbatt'"},
-        Case{"missing_picture", "run @picture.lua --panel @no_picture.cfg --png @out", 1,
-             "no_picture.cfg:5: the window's background gone.png cannot be read"},
-        Case{"missing_flow", "run @gone.lua", 1, "gone.lua: there is no such flow"},
-        Case{"unwritable_sound", "run @noise.lua --wav @gone/x.wav", 1, "gone/x.wav"},
-        Case{"unwritable_pictures", "run @noise.lua --png /proc/pictures", 1,
-             "/proc/pictures: cannot write to this folder"},
-        Case{"missing_journal", "replay @gone.journal", 1, "gone.journal: there is no such journal"},
-        Case{"folder_journal", "replay @wrong", 1, "wrong: cannot be read: Is a directory"},
-        Case{"endless_journal", "replay @zero", 1, "zero: is no regular file"},
-        Case{"no_journal", "replay @noise.journal", 1,
-             "noise.journal:1: this is not the journal of a flight"},
-        Case{"unwritable_journal", "run @noise.lua --journal @gone/x", 1,
-             "gone/x: cannot write the journal"},
-        Case{"resume_missing", "fly --resume --journal @gone.journal", 1,
-             "gone.journal: there is no such journal"},
-        Case{"resume_a_beginning", "fly --resume --at final", 2, "--at excludes --resume"},
-        Case{"show_unknown", "show Masterbatt --png @x.png", 1,
-             "Tarnvale.GAU has no gauge 'Masterbatt'"},
-        Case{"show_bad_reading", "show Ctr --set battery --png @x.png", 1,
-             "--set battery: expected token=value"},
-        Case{"show_unknown_token", "show Ctr --set batery=1 --png @x.png", 1,
-             "there is no token 'batery'"},
-        Case{"show_unknown_number", "show Ctr --set 99999=1 --png @x.png", 1,
-             "there is no token '99999'"},
-        Case{"show_no_number", "show Ctr --set battery=nan --png @x.png", 1,
-             "--set battery=nan: expected token=value"},
-        Case{"show_too_large", "show 502 --panel @large.cfg --zoom 8 --png @x.png", 1,
-             "a picture of 65536 x 8000 pixels is too large: at most 64 million"},
-        Case{"show_unwritable", "show Ctr --png @gone/x.png", 1, "gone/x.png"},
-        Case{"show_outside_on_a_screen", "show outside", 1, "needs --png"},
-        Case{"show_outside_nowhere", "show outside --at nowhere --png @x.png", 2, "--at"},
-        Case{"show_unknown_window", "show 777 --png @x.png", 1, "there is no window 777"},
-        Case{"labels_on_a_screen", "show Ctr --labels", 2, "--labels requires --png"},
-        Case{"names_of_unknown", "list names Masterbatt", 1, "Tarnvale.GAU has no gauge 'Masterbatt'"},
-        Case{"tokens_of_a_gauge", "list tokens Ctr", 1, "only names can be listed for one gauge"},
-        Case{"no_names_to_list", "list names --module @nameless/Tarnvale.GAU", 1,
-             "there are no names: @nameless/Tarnvale.GAU.names is missing"},
-        Case{"no_names_to_click", "run @named.lua --module @nameless/Tarnvale.GAU", 1,
-             "named.lua:1: parts and controls have no names: @nameless/Tarnvale.GAU.names is missing"},
-        Case{"wrong_names", "list names --module @wrong/Tarnvale.GAU", 0,
-             "warning: @wrong/Tarnvale.GAU.names:1: the gauge has no element 99"},
-        Case{"large_names", "list names --module @large/Tarnvale.GAU", 1,
-             "names: is larger than 1 MiB"},
-        Case{"odd_names", "list names --module @odd/Tarnvale.GAU", 1,
-             "names: cannot be read: Is a directory"},
-        Case{"no_display", "fly", 1,
-             "no display to open a window on (neither DISPLAY nor WAYLAND_DISPLAY is set). "
-             "Without one: tarnvale run"},
-        Case{"show_no_display", "show Ctr", 1, "no display to open a window on"},
-        Case{"open_unknown", "fly --open 7", 1, "there is no window 7; there are: Captain"},
-        Case{"open_ambiguous", "fly --open P", 1, "there is no window P; there are: "},
-        Case{"bad_place", "fly --place Overhead=1,2", 1, "--place Overhead=1,2: needs 4 numbers"}),
-    [](const auto& test) { return test.param.name; });
 
 TEST(Program, HelpsEveryCommand) {
   for (const char* command : {"", "fly", "run", "replay", "show", "list", "check", "bench"}) {
@@ -199,15 +84,6 @@ TEST(Program, HelpsEveryCommand) {
 
 std::string program() { return (cockpit_dir / "tarnvale").string(); }
 
-// The header tells how long the file is.
-bool is_whole_sound(const std::string& file) {
-  const std::string bytes = file_text(file);
-  std::uint32_t told = 0;
-  if (bytes.size() < 44 || !bytes.starts_with("RIFF")) return false;
-  std::memcpy(&told, bytes.data() + 4, sizeof told);
-  return told + 8 == bytes.size();
-}
-
 TEST(Program, LeavesAWholeSoundHoweverItIsEnded) {
   const TempFolder folder;
   const std::string flow = folder.write("long.lua", "wait(3600)"), sound = folder / "long.wav";
@@ -217,7 +93,7 @@ TEST(Program, LeavesAWholeSoundHoweverItIsEnded) {
                 " & run=$!; until [ -n \"$(find " + sound +
                 " -size +19 2>/dev/null)\" ]; do sleep 0.1; done; kill -" + signal +
                 " $run; wait $run");
-    EXPECT_TRUE(is_whole_sound(sound)) << signal;
+    EXPECT_TRUE(is_whole_sound(file_text(sound))) << signal;
   }
 }
 
@@ -233,7 +109,7 @@ TEST(Program, SaysNothingIntoItsFilesWhenItMayNotSpeak) {
   const std::string sound = folder / "quiet.wav";
   const std::string flow = folder.write("loud.lua", "for i = 1, 20 do say('loud') wait(0.1) end");
   run_command("( " + program() + " run " + flow + " --wav " + sound + " >&- 2>&- )");
-  EXPECT_TRUE(is_whole_sound(sound));
+  EXPECT_TRUE(is_whole_sound(file_text(sound)));
 }
 
 TEST(Program, NamesWhatIsNoSoundOnce) {
@@ -308,6 +184,18 @@ TEST(Program, ShowsGaugesInAFile) {
   EXPECT_EQ(file_text(day).substr(1, 3), "PNG");
   EXPECT_NE(file_text(day), file_text(night));
   EXPECT_GT(file_text(areas).size(), file_text(day).size());
+}
+
+TEST(Program, ShowsAPanelAsItIsInFlight) {
+  const TempFolder folder;
+  std::set<std::string> pictures;
+  for (const char* when : {"", "--at final", "--at final --time 23"}) {
+    const Outcome outcome = tarnvale("show 500 " + std::string(when) + " --png " + (folder / "x.png"));
+    EXPECT_EQ(outcome.exit_code, 0);
+    EXPECT_EQ(outcome.output, "");
+    pictures.insert(file_text(folder / "x.png"));
+  }
+  EXPECT_EQ(pictures.size(), 3u);
 }
 
 TEST(Program, MeasuresItself) {

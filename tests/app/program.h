@@ -6,8 +6,10 @@
 #include <unistd.h>
 
 #include <array>
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -43,4 +45,12 @@ inline Outcome tarnvale(const std::string& arguments) {
 inline std::string file_text(const std::filesystem::path& file) {
   std::ifstream stream(file, std::ios::binary);
   return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+/// Whether the bytes are a WAV file that is as long as its header tells.
+inline bool is_whole_sound(const std::string& bytes) {
+  std::uint32_t told = 0;
+  if (bytes.size() < 44 || !bytes.starts_with("RIFF")) return false;
+  std::memcpy(&told, bytes.data() + 4, sizeof told);
+  return told + 8 == bytes.size();
 }

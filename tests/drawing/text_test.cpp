@@ -66,15 +66,6 @@ TEST_F(Text, NothingToShowDrawsNothing) {
   EXPECT_NE(box("\x01\xFF<b>&"), Rect{});  // neither bytes nor markup trip it
 }
 
-TEST_F(Text, IsDrawnAgainOnlyWhenItChanges) {
-  Scene scene(gauge_, bitmaps_);
-  scene.now[1].text = "11";
-  EXPECT_TRUE(scene.draw());
-  EXPECT_FALSE(scene.draw());
-  scene.now[1].text = "22";
-  EXPECT_TRUE(scene.draw());
-}
-
 TEST_F(Text, OddBoxesAreHarmless) {
   for (const PanelSize size : {PanelSize{0, 10}, {-1, -1}, {INT32_MAX, 5}, {1, 1}}) {
     part().size = size;

@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
-#include <cstring>
 #include <optional>
 #include <set>
 
@@ -31,13 +30,6 @@ class Faults : public testing::Test {
 
   static std::ptrdiff_t lines(const std::string& text) {
     return std::count(text.begin(), text.end(), '\n') - text.starts_with('\n');
-  }
-
-  static bool is_whole_sound(const std::string& bytes) {
-    std::uint32_t told = 0;
-    if (bytes.size() < 44 || !bytes.starts_with("RIFF")) return false;
-    std::memcpy(&told, bytes.data() + 4, sizeof told);
-    return told + 8 == bytes.size();
   }
 
   std::set<std::string> files_in(const std::string& name) const {
@@ -146,15 +138,6 @@ TEST_F(Faults, TheSecondInterruptEndsAFlowThatHearsNothing) {
   for (int i = 0; i < 2; ++i) child.tell(SIGINT), std::this_thread::sleep_for(100ms);
   EXPECT_EQ(child.wait(), 128 + SIGINT);
   EXPECT_LT(std::chrono::steady_clock::now() - begun, 3s);
-}
-
-TEST_F(Faults, ADisplayThatIsNotThereIsTold) {
-  const Outcome outcome =
-      run_command(surroundings() + "DISPLAY=:7777 timeout 20 " + program() + " fly 2>&1");
-  EXPECT_EQ(outcome.exit_code, 1);
-  EXPECT_NE(outcome.output.find("no display to open a window on ("), std::string::npos)
-      << outcome.output;
-  EXPECT_EQ(lines(outcome.output), 1) << outcome.output;
 }
 
 // In a window.

@@ -9,6 +9,7 @@
 #include "host/files/output.h"
 #include "host/files/read_file.h"
 #include "host/files/shortened.h"
+#include "tests/rig/refusal.h"
 #include "tests/rig/temp_folder.h"
 
 namespace {
@@ -32,12 +33,7 @@ TEST(ReadFile, TakesRegularFilesUpToTheLimit) {
       {"", ": cannot be read: Is a directory"},
   };
   for (const auto& [name, fault] : cases) {
-    try {
-      read_file(folder / name, mebibyte);
-      ADD_FAILURE() << name;
-    } catch (const FileFault& error) {
-      EXPECT_EQ(error.what(), folder / name + fault);
-    }
+    EXPECT_EQ(refusal<FileFault>([&] { read_file(folder / name, mebibyte); }), folder / name + fault);
   }
 }
 
@@ -60,12 +56,7 @@ TEST(WriteWholeFile, LeavesTheOldOneWhereTheDiskIsFull) {
   const auto signal = std::signal(SIGXFSZ, SIG_IGN);
   const rlimit full{1000, before.rlim_max};
   setrlimit(RLIMIT_FSIZE, &full);
-  std::string said;
-  try {
-    write_whole_file(file, std::string(5000, 'x'));
-  } catch (const std::runtime_error& error) {
-    said = error.what();
-  }
+  const std::string said = refusal([&] { write_whole_file(file, std::string(5000, 'x')); });
   setrlimit(RLIMIT_FSIZE, &before);
   std::signal(SIGXFSZ, signal);
   EXPECT_EQ(said, file + ": cannot be written: File too large");
@@ -78,12 +69,9 @@ TEST(CheckOutputs, RefusesOneFileForTwoThings) {
   const std::string flow = folder.write("flow.lua", "");
   fs::create_symlink(flow, folder / "link");
   const auto refused = [&](const fs::path& wav, const fs::path& journal) {
-    try {
+    return refusal([&] {
       check_outputs({{"--wav", wav}, {"--journal", journal}}, {{"the flow", flow}});
-      return std::string();
-    } catch (const std::runtime_error& error) {
-      return std::string(error.what());
-    }
+    });
   };
   EXPECT_EQ(refused(folder / "new.wav", ""), "");
   EXPECT_EQ(refused("/dev/null", "/dev/null"), "");

@@ -41,15 +41,6 @@ TEST(FlowSound, AStationIsHeardInMorseWhileTheAudioSelectorListens) {
   for (std::size_t i = 0; i < starts.size(); ++i) EXPECT_NEAR(starts[i], expected[i], 0.12);
 }
 
-TEST(FlowFailure, NamesTheFileAndTheLine) {
-  const TempFolder folder;
-  const std::string flow =
-      folder.write("wrong.lua", "wait(1)\nexpect(image('Masterbat', 40) == 1, 'the lamp is dark')\n");
-  const Outcome outcome = tarnvale("run " + flow);
-  EXPECT_EQ(outcome.exit_code, 1);
-  EXPECT_NE(outcome.output.find(flow + ":2: the lamp is dark"), std::string::npos) << outcome.output;
-}
-
 TEST(Library, EveryRecordIsSoundAndEveryBitmapPresent) {
   const Outcome outcome = tarnvale("check");
   EXPECT_EQ(outcome.exit_code, 0) << outcome.output;

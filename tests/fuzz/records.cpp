@@ -13,83 +13,11 @@
 #include "host/panel/hot_areas.h"
 #include "tests/drawing/made_bitmaps.h"
 #include "tests/fuzz/harness.h"
+#include "tests/loader/made_records.h"
 
 namespace {
 
-double give_value(Element* e) { return e->kind == ELEMENT_ICON ? e->icon.source.value : 1; }
-i32 press(PanelPoint, u32) { return 0; }
-void nothing() {}
-void nothing_of(std::uintptr_t) {}
-void serve(const GaugeHeader*, u32, std::uintptr_t) {}
-
-// A sound gauge with an element of every kind, in one piece of memory that pointers can point about in.
-struct Records {
-  static constexpr int count = 7;
-  LinkageRecord linkage;
-  ImportTableRecord imports;
-  GaugeHeader gauge;
-  Element elements[count];
-  Element* lists[count][2];
-  FailureEntry failures[3];
-  NonlinearityPoint table[4];
-  MouseArea areas[8];
-  char text[8];
-  char words[8];
-
-  void make() {
-    std::memset(static_cast<void*>(this), 0, sizeof *this);
-    for (int i = 0; i < count; ++i) {
-      elements[i].kind = static_cast<u32>(i);
-      elements[i].resource_id = i == ELEMENT_STRING ? -1 : 10 * i;
-      elements[i].gauge = &gauge;
-      elements[i].next = lists[i];
-      if (i > 0) lists[i - 1][0] = &elements[i];
-    }
-    for (int i = 0; i < 4; ++i) table[i] = {{9 - 3 * i, 3 * i}, 10.0 * i};
-    failures[0] = {20, FAILURE_HIDE, 0}, failures[1] = {21, FAILURE_FREEZE, 0};
-    std::strcpy(text, "12345"), std::strcpy(words, "Arial");
-    make_parts();
-    make_areas();
-    make_module();
-  }
-
- private:
-  void make_parts() {
-    elements[ELEMENT_ICON].failures = failures;
-    elements[ELEMENT_ICON].icon = {{364, 0, 0}, give_value, 1, 2, 1};
-    elements[ELEMENT_NEEDLE].needle = {{4, 4}, {100, 0, 0}, nullptr, table, 4, 0, 1};
-    elements[ELEMENT_STRING].string = {{30, 10}, {}, give_value, 0, 0, 0, 400, 0, 5, words, text};
-    elements[ELEMENT_SLIDER].slider = {{101, 0, 0}, nullptr, 2, {102, 0, 0}, give_value, 1};
-    elements[ELEMENT_MOVING_IMAGE].moving_image = {
-        60, 0, {{103, 0, 0}, nullptr, 0, 10}, {{104, 0, 0}, nullptr, -5, 5}};
-    elements[ELEMENT_SPRITE].sprite = {
-        {3, 3}, {{105, 0, 0}, nullptr, 1}, {{106, 0, 0}, nullptr, 1}, {{107, 0, 0}, nullptr, 1}};
-  }
-
-  void make_areas() {
-    areas[0] = {MOUSE_GROUP, 1, 1, 30, 30, CURSOR_ARROW, 0, 0, 0, 0, {nullptr}, nullptr};
-    areas[1] = {MOUSE_CLICK_AREA, 0, 0, 5, 5, CURSOR_INCREASE, 0, MOUSE_LEFT, 0, 0, {press}, nullptr};
-    areas[2] = {MOUSE_CLICK_AREA, 5, 0, 5, 5, CURSOR_DECREASE, 0, MOUSE_LEFT, 0, 0, {press}, nullptr};
-    areas[3] = {MOUSE_TOOLTIP, 0, 0, 0, 0, CURSOR_ARROW, 0, 0, 0, 0, {nullptr}, nullptr};
-    areas[3].tooltip = words;
-    areas[4] = {MOUSE_GROUP_END, 0, 0, 0, 0, CURSOR_ARROW, 0, 0, 0, 0, {nullptr}, nullptr};
-  }
-
-  void make_module() {
-    gauge.header_version = GAUGE_HEADER_VERSION;
-    gauge.name = words;
-    gauge.element_list[0] = elements;
-    gauge.query = gauge.initialize = gauge.update = gauge.draw = gauge.kill = nothing;
-    gauge.install = gauge.generate = nothing_of;
-    gauge.width_mm = 40;
-    gauge.mouse_areas = areas;
-    gauge.service = serve;
-    linkage.module_id = LINKAGE_MODULE_ID;
-    linkage.version = LINKAGE_VERSION;
-    linkage.gauges[0] = &gauge;
-    imports.entries[0].identifier = IMPORT_PANEL_SERVICES;
-  }
-};
+using Records = host::MadeRecords;
 
 // Where the records lie, with nothing behind them: one page too many is seen at once.
 Records& records() {
@@ -130,9 +58,9 @@ void change(Records& made, const std::uint8_t* bytes) {
 // check could tell.
 void keep_inside(Records& made, const host::MemoryMap& memory) {
   static const std::set<const void*> routines{
-      reinterpret_cast<const void*>(give_value), reinterpret_cast<const void*>(press),
-      reinterpret_cast<const void*>(nothing), reinterpret_cast<const void*>(nothing_of),
-      reinterpret_cast<const void*>(serve)};
+      reinterpret_cast<const void*>(host::give_value), reinterpret_cast<const void*>(host::press),
+      reinterpret_cast<const void*>(host::nothing), reinterpret_cast<const void*>(host::nothing_of),
+      reinterpret_cast<const void*>(host::serve)};
   char* const base = reinterpret_cast<char*>(&made);
   for (std::size_t at = 0; at + sizeof(char*) <= sizeof made; at += sizeof(char*)) {
     const char* pointer;

@@ -10,26 +10,25 @@ using namespace tarnvale;
 
 /// One side of the air conditioning: its part of the shared state and of the panels' names.
 struct Side {
-  const char* name;
+  std::string name;
   u32 Aircraft::*supply;
   u32 Aircraft::*automatic;
   u32 Aircraft::*selector;
 };
-constexpr Side sides[] = {
+const Side sides[] = {
     {"left", &Aircraft::aircon_left_on, &Aircraft::aircon_left_auto, &Aircraft::temp_selector_left},
     {"right", &Aircraft::aircon_right_on, &Aircraft::aircon_right_auto,
      &Aircraft::temp_selector_right}};
+const Side& other_than(const Side& side) { return &side == &sides[0] ? sides[1] : sides[0]; }
 
 class AirConditioning : public testing::Test {
  protected:
   rig::Host host;
   rig::Gauge panel{"Tempcon"}, ducts{"Ductc"}, cabin{"Cabc"}, indicator{"Tempset"};
 
-  f64 duct(const Side& side) { return ducts.value(std::string(side.name) + "_duct_temperature"); }
-  f64 light(const Side& side) { return panel.value(std::string(side.name) + "_duct_hot_light"); }
-  f64 indicated(const Side& side) {
-    return indicator.value(std::string(side.name) + "_selected_temperature");
-  }
+  f64 duct(const Side& side) { return ducts.value(side.name + "_duct_temperature"); }
+  f64 light(const Side& side) { return panel.value(side.name + "_duct_hot_light"); }
+  f64 indicated(const Side& side) { return indicator.value(side.name + "_selected_temperature"); }
 
   void run(int frames = 1) {
     for (; frames > 0; --frames) {
@@ -66,28 +65,26 @@ TEST_F(AirConditioning, DuctsAndCabinFollowTheirSelectors) {
 }
 
 TEST_F(AirConditioning, ASideNeedsItsSupplyItsControlAndDcPower) {
-  struct Row {
-    u32 supply, automatic, power;
-    f64 duct, cabin, indicated;
-  };
-  for (const Row& row : {Row{1, 1, 1, 40, 25, 7}, Row{1, 0, 1, 10, 0, 0}, Row{0, 1, 1, 10, 0, 7},
-                         Row{0, 0, 1, 10, 0, 0}, Row{1, 1, 0, 2, 0, 7}, Row{0, 0, 0, 2, 0, 0}}) {
+  using Row = std::tuple<u32, u32, u32, f64, f64, f64>;
+  for (const auto& [supply, automatic, power, warm, cabin_warm, needle] :
+       {Row{1, 1, 1, 40, 25, 7}, Row{1, 0, 1, 10, 0, 0}, Row{0, 1, 1, 10, 0, 7}, Row{0, 0, 1, 10, 0, 0},
+        Row{1, 1, 0, 2, 0, 7}, Row{0, 0, 0, 2, 0, 0}}) {
     for (const Side& side : sides) {
-      const Side& other = &side == &sides[0] ? sides[1] : sides[0];
-      SCOPED_TRACE(testing::Message() << side.name << row.supply << row.automatic << row.power);
+      const Side& other = other_than(side);
+      SCOPED_TRACE(testing::Message() << side.name << supply << automatic << power);
       aircraft.*side.selector = aircraft.*other.selector = 7;
-      aircraft.*side.supply = row.supply;
-      aircraft.*side.automatic = row.automatic;
+      aircraft.*side.supply = supply;
+      aircraft.*side.automatic = automatic;
       aircraft.*other.supply = aircraft.*other.automatic = 1;
-      aircraft.dc_power_on = row.power;
+      aircraft.dc_power_on = power;
       run(3);
-      EXPECT_EQ(duct(side), row.duct);
-      EXPECT_EQ(indicated(side), row.indicated);
-      EXPECT_EQ(duct(other), row.power == 1 ? 40 : 2);
+      EXPECT_EQ(duct(side), warm);
+      EXPECT_EQ(indicated(side), needle);
+      EXPECT_EQ(duct(other), power == 1 ? 40 : 2);
       EXPECT_EQ(indicated(other), 7);
-      const f64 heated_from_the_left = row.power == 1 ? 25 : 0;
+      const f64 heated_from_the_left = power == 1 ? 25 : 0;
       EXPECT_EQ(cabin.value("cabin_temperature"),
-                &side == &sides[1] ? row.cabin : heated_from_the_left);
+                &side == &sides[1] ? cabin_warm : heated_from_the_left);
     }
   }
 }
@@ -95,7 +92,7 @@ TEST_F(AirConditioning, ASideNeedsItsSupplyItsControlAndDcPower) {
 TEST_F(AirConditioning, OverrideHeatsADegreeAFrameAndLightsTheOverheatLight) {
   for (const f64 night : {0.0, 1.0}) {  // the lit copy must not heat twice as fast
     for (const Side& side : sides) {
-      const Side& other = &side == &sides[0] ? sides[1] : sides[0];
+      const Side& other = other_than(side);
       host.tokens[token::panel_lights] = night;
       open_override_guard(true);
       aircraft.temp_override_switch = 0;
@@ -140,28 +137,23 @@ TEST_F(AirConditioning, OverheatLightStaysAsItWasAtItsThreshold) {
 TEST_F(AirConditioning, AKnobLeansTheWayItWasTurnedForTwoSeconds) {
   f64 now = 100;
   for (const Side& side : sides) {
-    const std::string knob = std::string(side.name) + "_temperature_selector";
-    const auto lean = [&](f64 seconds) {
-      host.tokens[token::clock_seconds] = seconds;
+    const std::string knob = side.name + "_temperature_selector";
+    struct Turn {
+      const char* way;
+      int times;
+      f64 after;  ///< seconds from the beginning
+      f64 lean;
+      u32 selected;
+    };
+    for (const Turn& turn :
+         {Turn{"_down", 1, 0, 0, 0}, Turn{"_up", 1, 2.9, 2, 1}, Turn{"_down", 1, 4.9, 1, 0},
+          Turn{"_down", 0, 5, 0, 0}, Turn{"_up", 12, 8, 0, 9}, Turn{"_down", 1, 8, 1, 8}}) {
+      for (int i = 0; i < turn.times; ++i) panel.click(knob + turn.way);
+      host.tokens[token::clock_seconds] = now + turn.after;
       panel.frame();
-      return panel.value(knob);
-    };
-    const auto turn = [&](const char* way, int times = 1) {
-      for (; times > 0; --times) panel.click(knob + way);
-      return aircraft.*side.selector;
-    };
-    EXPECT_EQ(turn("_down"), 0u);
-    EXPECT_EQ(lean(now), 0) << "at its end it does not turn";
-    EXPECT_EQ(turn("_up"), 1u);
-    EXPECT_EQ(lean(now + 2.9), 2);
-    EXPECT_EQ(turn("_down"), 0u) << "a turn the other way starts its own two seconds";
-    EXPECT_EQ(lean(now + 4.9), 1);
-    EXPECT_EQ(lean(now + 5), 0);
-    EXPECT_EQ(turn("_up", 12), 9u);
-    EXPECT_EQ(lean(now + 8), 0) << "the last turns were none";
-    EXPECT_EQ(turn("_down"), 8u);
-    EXPECT_EQ(lean(now + 8), 1);
-    EXPECT_EQ(lean(now + 90), 0);
+      EXPECT_EQ(panel.value(knob), turn.lean) << side.name << turn.way << ' ' << turn.after;
+      EXPECT_EQ(aircraft.*side.selector, turn.selected) << side.name << turn.way;
+    }
     now += 100;
   }
 }
@@ -173,11 +165,9 @@ TEST_F(AirConditioning, RamAirAsksTheHostOnEveryPressAndNotWhenItsGuardCloses) {
   ram_air.click("inlet_switch");  // under the closed guard it does not move, and asks all the same
   ram_air.click("inlet_guard");
   ram_air.click("inlet_switch");
-  ram_air.frame();
-  EXPECT_EQ(ram_air.value("inlet_switch"), 1);
+  ram_air.expect({{"inlet_switch", 1}});
   ram_air.click("inlet_guard");
-  ram_air.frame();
-  EXPECT_EQ(ram_air.value("inlet_switch"), 0);
+  ram_air.expect({{"inlet_switch", 0}});
   EXPECT_EQ(host.events, rig::Events(2, {66841, 0}));
 }
 

@@ -18,16 +18,24 @@ bool picture_hidden(const rig::Gauge& gauge, std::string_view part) {
   return false;
 }
 
-class AttitudeDirector : public testing::Test {
+/// A gauge that is read after some tokens have changed.
+class Instrument : public testing::Test {
  protected:
+  explicit Instrument(const char* name) : gauge(name) {}
+
   rig::Host host;
-  rig::Gauge adi{"Adi"};
+  rig::Gauge gauge;
 
   f64 shown(const char* part, std::map<u32, f64> tokens) {
     for (const auto& [number, value] : tokens) host.tokens[number] = value;
-    adi.frame();
-    return adi.value(part);
+    gauge.frame();
+    return gauge.value(part);
   }
+};
+
+class AttitudeDirector : public Instrument {
+ protected:
+  AttitudeDirector() : Instrument("Adi") {}
 };
 
 TEST_F(AttitudeDirector, BarsShowTheDifferenceWhileTheDirectorIsOn) {
@@ -35,22 +43,22 @@ TEST_F(AttitudeDirector, BarsShowTheDifferenceWhileTheDirectorIsOn) {
        {std::tuple{0.0, 3.0, -2.0}, {30.0, 0.0, 44.0 / 3}, {0.0, 30.0, -44.0 / 3}}) {
     EXPECT_NEAR(shown("flight_director_pitch_bar", {{77, pitch}, {793, command}, {792, 1}}),
                 shown_pitch, 1e-12);
-    EXPECT_FALSE(picture_hidden(adi, "flight_director_pitch_bar"));
+    EXPECT_FALSE(picture_hidden(gauge, "flight_director_pitch_bar"));
   }
   for (const auto& [bank, command, shown_bank] :
        {std::tuple{5.0, 2.0, 3.0}, {40.0, 0.0, 15.0}, {-40.0, 0.0, -15.0}}) {
     EXPECT_EQ(shown("flight_director_bank_bar", {{80, bank}, {794, command}}), shown_bank);
   }
   shown("flight_director_bank_bar", {{792, 0}});
-  EXPECT_TRUE(picture_hidden(adi, "flight_director_pitch_bar"));
-  EXPECT_TRUE(picture_hidden(adi, "flight_director_bank_bar"));
+  EXPECT_TRUE(picture_hidden(gauge, "flight_director_pitch_bar"));
+  EXPECT_TRUE(picture_hidden(gauge, "flight_director_bank_bar"));
 }
 
 TEST_F(AttitudeDirector, TheRunwayRisesOverTheLastMetresAndLiesBesideTheLocalizer) {
   for (const auto& [height, value, hidden] :
        {std::tuple{76.0, 0.0, true}, {75.0, 0.0, false}, {27.0, 0.0, false}, {0.0, 27.0, false}}) {
     EXPECT_EQ(shown("rising_runway", {{614, height}}), value) << height;
-    EXPECT_EQ(picture_hidden(adi, "rising_runway"), hidden) << height;
+    EXPECT_EQ(picture_hidden(gauge, "rising_runway"), hidden) << height;
   }
   for (const auto& [test, bits, value] :
        {std::tuple{0u, 0x80, -40.0}, {0u, 0x40, 0.0}, {1u, 0x80, 100.0}, {2u, 0, -100.0}}) {
@@ -74,12 +82,6 @@ TEST_F(AttitudeDirector, FlagsTellWhatCannotBeTrusted) {
   EXPECT_EQ(shown("attitude_flag", {}), in_view) << "no engine runs";
   EXPECT_EQ(shown("attitude_flag", {{625, 25}}), withdrawn);
   EXPECT_EQ(shown("attitude_flag", {{625, 0}, {644, 30}}), withdrawn);
-  adi.click("attitude_flag_button");
-  EXPECT_EQ(aircraft.adi_flag_test_active, 1u);
-  EXPECT_TRUE(rig::heard(click_sound_request));
-  for (const auto& [clock, flag] : {std::pair{102.0, in_view}, {103.0, withdrawn}}) {
-    EXPECT_EQ(shown("attitude_flag", {{604, clock}}), flag) << clock;
-  }
 }
 
 /// The glide slope on both instruments that show it.
@@ -97,9 +99,7 @@ TEST(GlideSlope, PointerAndFlagFollowTheReceiver) {
       rig::Gauge gauge(name);
       aircraft.nav_test_switch = row.test;
       host.tokens = {{46, row.bits}, {44, row.signal}, {41, -60}};
-      gauge.frame();
-      EXPECT_EQ(gauge.value("glide_slope_flag"), row.flag) << name << row.test << ' ' << row.bits;
-      EXPECT_EQ(gauge.value("glide_slope_pointer"), row.pointer ? -60 : 0) << name << row.bits;
+      gauge.expect({{"glide_slope_flag", row.flag}, {"glide_slope_pointer", row.pointer ? -60 : 0}});
       EXPECT_EQ(picture_hidden(gauge, "glide_slope_pointer"), !row.pointer) << name << row.bits;
     }
   }
@@ -125,33 +125,21 @@ TEST(DecisionHeight, LightsAtAndBelowTheSettingOnBothInstruments) {
   EXPECT_TRUE(rig::heard(radalt_sound_request));
   EXPECT_TRUE(lights(62));
   EXPECT_EQ(aircraft.dh_light_on, 0u) << "the test is not the height";
-  EXPECT_EQ(radalt.value("radio_altitude"), 100) << "what the test shows";
-  host.tokens[token::clock_seconds] = 103;
-  radalt.frame();
-  EXPECT_FALSE(lights(62));
 }
 
-TEST(DecisionHeight, TheKnobStopsAtBothEnds) {
-  rig::Host host;
-  rig::Gauge radalt("Radalt");
-  radalt.click("decision_height_knob_down");
-  EXPECT_EQ(aircraft.dh_setting_ft, 0);
-  for (int i = 0; i < 60; ++i) radalt.click("decision_height_knob_up");
-  radalt.frame();
-  EXPECT_EQ(aircraft.dh_setting_ft, 500);
-  EXPECT_EQ(radalt.value("decision_height_bug"), 500);
-  radalt.click("decision_height_knob_down");
-  EXPECT_EQ(aircraft.dh_setting_ft_int, 490u);
-}
-
-TEST(RadioAltimeter, ShowsFeetUpToTheEndOfItsScale) {
+TEST(RadioAltimeter, ShowsFeetUpToTheEndOfItsScaleAndTheSettingBetweenItsEnds) {
   rig::Host host;
   rig::Gauge radalt("Radalt");
   for (const auto& [metres, feet] : {std::pair{-5.0, 0.0}, {100.0, 328.08}, {1000.0, 2500.0}}) {
     host.tokens[token::radio_altitude] = metres;
-    radalt.frame();
-    EXPECT_NEAR(radalt.value("radio_altitude"), feet, 1e-9);
+    radalt.expect({{"radio_altitude", feet}});
   }
+  radalt.click("decision_height_knob_down");
+  radalt.expect({{"decision_height_bug", 0}});
+  for (int i = 0; i < 60; ++i) radalt.click("decision_height_knob_up");
+  radalt.expect({{"decision_height_bug", 500}});
+  radalt.click("decision_height_knob_down");
+  EXPECT_EQ(aircraft.dh_setting_ft_int, 490u);
 }
 
 class Bearings : public testing::Test {
@@ -207,55 +195,32 @@ TEST_F(Bearings, AReceiversTestShowsZerosUntilItsTimeIsOver) {
 
 TEST_F(Bearings, NeedlesAndFlagsFollowTheirSelectors) {
   host.tokens = {{550, 100}, {59, 200}, {39, 300}, {49, 1}, {58, 0}};
-  rmi.frame();
-  EXPECT_EQ(rmi.value("left_bearing"), 10);
-  EXPECT_EQ(rmi.value("right_bearing"), 110);
-  EXPECT_EQ(rmi.value("left_signal_flag"), 1);
-  EXPECT_EQ(rmi.value("right_signal_flag"), 0);
+  rmi.expect({{"left_bearing", 10}, {"right_bearing", 110}});
+  rmi.expect({{"left_signal_flag", 1}, {"right_signal_flag", 0}});
   host.tokens[58] = 0.5;
   rmi.click("right_bearing_selector");
-  rmi.frame();
-  EXPECT_EQ(rmi.value("left_bearing"), 10);
-  EXPECT_EQ(rmi.value("right_bearing"), 210);
-  EXPECT_EQ(rmi.value("right_signal_flag"), 0);
+  rmi.expect({{"left_bearing", 10}, {"right_bearing", 210}, {"right_signal_flag", 0}});
   rmi.click("right_bearing_selector"), rmi.click("left_bearing_selector");
-  rmi.frame();
-  EXPECT_EQ(rmi.value("left_bearing"), 210);
-  EXPECT_EQ(rmi.value("left_signal_flag"), 0);
-  EXPECT_EQ(rmi.value("right_signal_flag"), 1);
+  rmi.expect({{"left_bearing", 210}, {"left_signal_flag", 0}, {"right_signal_flag", 1}});
 }
 
-class HorizontalSituation : public testing::Test {
+class HorizontalSituation : public Instrument {
  protected:
-  rig::Host host;
-  rig::Gauge hsi{"Hsi"};
-
-  f64 shown(const char* part, std::map<u32, f64> tokens) {
-    for (const auto& [number, value] : tokens) host.tokens[number] = value;
-    hsi.frame();
-    return hsi.value(part);
-  }
+  HorizontalSituation() : Instrument("Hsi") {}
 };
 
 TEST_F(HorizontalSituation, PointersLieOnTheTurningCard) {
-  EXPECT_EQ(shown("heading_bug", {{81, 90}, {107, 90}}), -89.5);
-  EXPECT_EQ(shown("course_pointer", {{81, 90}, {45, 120}}), 30.5);
-  EXPECT_EQ(shown("course_knob", {{45, 120}}), 120);
+  host.tokens = {{81, 90}, {107, 90}, {45, 120}};
+  gauge.expect({{"heading_bug", -89.5}, {"course_pointer", 30.5}, {"course_knob", 120}});
 }
 
 TEST_F(HorizontalSituation, TheHeadingTestShowsItself) {
-  rig::Gauge rmi{"Rmi"};
   aircraft.nav_aux_switch = 1;
-  shown("course_pointer", {{107, 180}, {45, 90}, {81, 10}});
-  EXPECT_EQ(hsi.value("course_pointer"), 0);
-  EXPECT_EQ(hsi.value("test_flag"), 0);
-  EXPECT_EQ(hsi.value("annunciator"), 3);
-  rmi.frame();
-  EXPECT_EQ(rmi.value("left_bearing"), 90);
-  EXPECT_EQ(rmi.value("left_signal_flag"), 1);
-  shown("course_pointer", {{107, 180.5}});
-  EXPECT_EQ(hsi.value("test_flag"), -1);
-  EXPECT_EQ(hsi.value("course_pointer"), 80.5);
+  host.tokens = {{107, 180}, {45, 90}, {81, 10}};
+  gauge.expect({{"course_pointer", 0}, {"test_flag", 0}, {"annunciator", 3}});
+  rig::Gauge("Rmi").expect({{"left_bearing", 90}, {"left_signal_flag", 1}});
+  host.tokens[107] = 180.5;
+  gauge.expect({{"test_flag", -1}, {"course_pointer", 80.5}});
 }
 
 TEST_F(HorizontalSituation, ToFromHidesOnALocalizer) {
@@ -288,20 +253,18 @@ TEST_F(HorizontalSituation, TheAnnunciatorFollowsTheAutopilot) {
 }
 
 TEST_F(HorizontalSituation, ReadOutsShowCourseAndDistances) {
-  shown("course_units", {{45, 247}, {835, 18520}});
-  for (const auto& [part, value] : {std::pair{"course_hundreds", 2.0},
-                                    {"course_tens", 4.0},
-                                    {"course_units", 7.0},
-                                    {"right_distance_thousands", 100.008},
-                                    {"right_distance_units", 0.008},
-                                    {"left_distance_hundreds", 18520 / 832.0 / 10}}) {
-    EXPECT_NEAR(hsi.value(part), value, 1e-9) << part;
-  }
+  host.tokens = {{45, 247}, {835, 18520}};
+  gauge.expect({{"course_hundreds", 2},
+                {"course_tens", 4},
+                {"course_units", 7},
+                {"right_distance_thousands", 100.008},
+                {"right_distance_units", 0.008},
+                {"left_distance_hundreds", 18520 / 832.0 / 10}});
 }
 
 /// What the bar shifts by and turns by, from its own routines.
 TEST_F(HorizontalSituation, TheDeviationBarShiftsForItsOwnSourceAndTurnsWithTheCourse) {
-  for (const rig::NamedPart& part : hsi.parts()) {
+  for (const rig::NamedPart& part : gauge.parts()) {
     if (part.name != "course_deviation_bar") continue;
     const SpritePart& bar = part.element->sprite;
     Element* element = const_cast<Element*>(part.element);
@@ -313,29 +276,6 @@ TEST_F(HorizontalSituation, TheDeviationBarShiftsForItsOwnSourceAndTurnsWithTheC
     return;
   }
   ADD_FAILURE() << "no bar";
-}
-
-TEST(Knobs, SendTheHostTheirStepsWithTheirValues) {
-  struct Row {
-    const char *gauge, *knob;
-    u32 event, value;
-    bool click;
-  };
-  for (const Row& row :
-       {Row{"Hsi", "course_knob_down", 65662, 1, true}, Row{"Hsi", "course_knob_up", 65663, 1, true},
-        Row{"Altimeter", "pressure_setting_knob_down", 65884, 1, true},
-        Row{"Altimeter", "pressure_setting_knob_up", 65883, 1, true},
-        Row{"Airspeed", "selected_speed_knob_down", 65897, 0, false},
-        Row{"Airspeed", "selected_speed_knob_up", 65896, 0, false},
-        Row{"Clock", "setting_knob_down", 65659, 0, true},
-        Row{"Clock", "setting_knob_up", 65660, 0, true},
-        Row{"Fdir", "flight_director_switch", 66288, 0, false}}) {
-    rig::Host host;
-    rig::Gauge gauge(row.gauge);
-    gauge.click(row.knob);
-    EXPECT_EQ(host.events, (rig::Events{{row.event, row.value}})) << row.gauge << ' ' << row.knob;
-    EXPECT_EQ(rig::heard(click_sound_request), row.click) << row.gauge << ' ' << row.knob;
-  }
 }
 
 }  // namespace

@@ -33,31 +33,25 @@ class EngineStart : public testing::Test {
   }
 };
 
-/// What a closed valve does to the line-up for a start.
-enum Closed { breaks_it, is_borne, is_not_asked };
-
 TEST_F(EngineStart, ValvesMakeTheLineUp) {
-  struct Row {
-    const char* control;
-    Closed when_closed;
-  };
-  const Row rows[] = {
+  enum Closed { breaks_it, is_borne, is_not_asked };
+  const std::pair<const char*, Closed> rows[] = {
       {"engine_1_bleed_switch", is_borne}, {"engine_2_bleed_switch", is_borne},
       {"crossfeed_1_switch", breaks_it},   {"crossfeed_2_switch", is_not_asked},
       {"shut_off_valve_1_knob", is_borne}, {"shut_off_valve_2_knob", is_borne},
       {"isolation_1_knob", is_borne},      {"isolation_2_knob", breaks_it},
       {"manifold_1_knob", is_borne},       {"manifold_2_knob", is_not_asked},
   };
-  for (const Row& row : rows) valves.click(row.control);
-  for (const Row& row : rows) {
-    valves.click(row.control);
+  for (const auto& [control, closed] : rows) valves.click(control);
+  for (const auto& [control, closed] : rows) {
+    valves.click(control);
     for (const u32 before : {0u, 1u}) {
       aircraft.bleed_lineup_ok = before;
       valves.frame();
       const u32 after[] = {0, before, 1};
-      EXPECT_EQ(aircraft.bleed_lineup_ok, after[row.when_closed]) << row.control;
+      EXPECT_EQ(aircraft.bleed_lineup_ok, after[closed]) << control;
     }
-    valves.click(row.control);
+    valves.click(control);
   }
 }
 
@@ -85,24 +79,17 @@ TEST_F(EngineStart, ApuFillsTheDuctAndItLeaksWhenClosed) {
 }
 
 TEST_F(EngineStart, EnginesFillTheDuctWithoutTheApu) {
-  struct Row {
-    f64 eng1, eng2;
-    u32 apu_bleed;
-    f64 pressure;
-    u32 light_before, light;
-  };
-  const Row rows[] = {
-      {30, 30, 1, 80, 0, 2}, {30, 30, 0, 79, 0, 2}, {30, 20, 1, 60, 0, 0},
-      {20, 30, 1, 60, 1, 1}, {30, 20, 0, 59, 2, 0}, {20, 20, 1, 10, 2, 0},
-      {25, 30, 1, 10, 2, 0}, {25, 25, 0, 9, 2, 0},  {20, 25, 1, 10, 1, 0},
-  };
+  using Row = std::tuple<f64, f64, u32, f64, u32, u32>;
   aircraft.apu_at_speed = 0;
-  for (const Row& row : rows) {
-    core_speeds(row.eng1, row.eng2);
-    aircraft.apu_bleed_switch = row.apu_bleed;
-    aircraft.duct_pressure_light = row.light_before;
-    EXPECT_EQ(pressure(), row.pressure) << row.eng1 << "/" << row.eng2;
-    EXPECT_EQ(aircraft.duct_pressure_light, row.light) << row.eng1 << "/" << row.eng2;
+  for (const auto& [eng1, eng2, apu_bleed, expected, light_before, light] :
+       {Row{30, 30, 1, 80, 0, 2}, Row{30, 30, 0, 79, 0, 2}, Row{30, 20, 1, 60, 0, 0},
+        Row{20, 30, 1, 60, 1, 1}, Row{30, 20, 0, 59, 2, 0}, Row{20, 20, 1, 10, 2, 0},
+        Row{25, 30, 1, 10, 2, 0}, Row{25, 25, 0, 9, 2, 0}, Row{20, 25, 1, 10, 1, 0}}) {
+    core_speeds(eng1, eng2);
+    aircraft.apu_bleed_switch = apu_bleed;
+    aircraft.duct_pressure_light = light_before;
+    EXPECT_EQ(pressure(), expected) << eng1 << "/" << eng2;
+    EXPECT_EQ(aircraft.duct_pressure_light, light) << eng1 << "/" << eng2;
   }
 }
 
@@ -131,48 +118,34 @@ TEST_F(EngineStart, StartAirComesAndGoesOnlyOnAnOpenPath) {
 }
 
 TEST_F(EngineStart, StartLightWaitsForBothEngines) {
-  struct Row {
-    u32 master;
-    f64 eng1, eng2, image;
-  };
-  const Row rows[] = {{0, 0, 0, 1},   {1, 0, 0, 0},   {1, 30, 20, 0}, {1, 20, 30, 0}, {1, 30, 30, 1},
-                      {1, 25, 30, 1}, {1, 25, 25, 1}, {1, 25, 20, 0}, {0, 30, 20, 1}};
-  for (const Row& row : rows) {
-    aircraft.start_master_switch = row.master;
-    core_speeds(row.eng1, row.eng2);
-    panel.frame();
-    EXPECT_EQ(panel.value("ready_light"), row.image) << row.eng1 << "/" << row.eng2;
+  using Row = std::tuple<u32, f64, f64, f64>;
+  for (const auto& [master, eng1, eng2, image] :
+       {Row{0, 0, 0, 1}, Row{1, 0, 0, 0}, Row{1, 30, 20, 0}, Row{1, 20, 30, 0}, Row{1, 30, 30, 1},
+        Row{1, 25, 30, 1}, Row{1, 25, 25, 1}, Row{1, 25, 20, 0}, Row{0, 30, 20, 1}}) {
+    aircraft.start_master_switch = master;
+    core_speeds(eng1, eng2);
+    panel.expect({{"ready_light", image}});
   }
-}
-
-TEST_F(EngineStart, SwitchesAndSelectorSendTheirEvents) {
   panel.click("start_master_switch");
-  panel.click("start_master_switch");  // switched off it sends nothing
-  for (const char* position : {"engine_1", "engine_2", "off"}) {
-    panel.click(std::string("start_selector_") + position);
-  }
-  EXPECT_EQ(host.events, (rig::Events{{65774, 0}, {66300, 0}, {66301, 0}}));
+  host.sent();
+  panel.click("start_master_switch"), panel.click("start_selector_off");
+  EXPECT_TRUE(host.events.empty()) << "switched off they send nothing";
 }
 
 /// One engine at a time; the other one's switch is armed too and its engine runs.
 TEST_F(EngineStart, StarterIsPushedOncePerPercentOfTheFirstTen) {
-  struct Row {
-    f64 core_speed;
-    std::size_t pushes;
-    u32 switch_after;
-  };
-  for (const Row& row : {Row{1, 0, 1}, Row{5.5, 5, 1}, Row{10, 9, 1}, Row{10.1, 10, 1}, Row{25, 10, 1},
-                         Row{25.1, 10, 2}}) {
+  const std::tuple<f64, std::size_t, u32> cases[] = {{1, 0, 1},     {5.5, 5, 1}, {10, 9, 1},
+                                                     {10.1, 10, 1}, {25, 10, 1}, {25.1, 10, 2}};
+  for (const auto& [core_speed, pushes, switch_after] : cases) {
     for (const u32 engine : {1u, 2u}) {
       aircraft.start_air_available = aircraft.start_master_switch = 1;
       aircraft.eng1_start_switch = aircraft.eng2_start_switch = 1;
-      core_speeds(engine == 1 ? row.core_speed : 60, engine == 2 ? row.core_speed : 60);
+      core_speeds(engine == 1 ? core_speed : 60, engine == 2 ? core_speed : 60);
       aircraft.start_selector = 3 - engine;
-      host.events.clear();
       panel.frame();
-      EXPECT_EQ(host.events, rig::Events(row.pushes, {66299 + engine, 0})) << row.core_speed;
-      EXPECT_EQ(aircraft.eng1_start_switch, engine == 1 ? row.switch_after : 1) << row.core_speed;
-      EXPECT_EQ(aircraft.eng2_start_switch, engine == 2 ? row.switch_after : 1) << row.core_speed;
+      EXPECT_EQ(host.sent(), rig::Events(pushes, {66299 + engine, 0})) << core_speed;
+      EXPECT_EQ(aircraft.eng1_start_switch, engine == 1 ? switch_after : 1) << core_speed;
+      EXPECT_EQ(aircraft.eng2_start_switch, engine == 2 ? switch_after : 1) << core_speed;
     }
   }
 }

@@ -5,6 +5,8 @@
 
 #include "host/hands/actions.h"
 #include "host/panel/panel_config.h"
+#include "tests/rig/refusal.h"
+#include "tests/rig/rows.h"
 
 namespace host {
 namespace {
@@ -44,35 +46,9 @@ TEST(ControlMap, ChoosesTheSectionThatNamesTheDevice) {
 }
 
 TEST(ControlMap, NamesFileLineAndFault) {
-  const struct {
-    const char* text;
-    const char* message;
-  } cases[] = {
-      {"brakes = Space", "my.cfg:1: expected a section"},
-      {"[keys]\nbrakes", "my.cfg:2: expected name ="},
-      {"[keys]\n\nbreaks = Space", "my.cfg:3: there is no control 'breaks'"},
-      {"[keys]\nbrakes = Spacebar", "my.cfg:2: there is no key 'Spacebar'"},
-      {"[keys]\nbrakes = B\ngear = B", "my.cfg:3: B already does 'brakes'"},
-      {"[keys]\naileron = A", "my.cfg:2: an axis moves that"},
-      {"[mouse]", "my.cfg:1: a section is [keys]"},
-      {"[joystick", "my.cfg:1: the section's name has no end"},
-      {"[joystick]\naileron = axis one", "my.cfg:2: 'one' is not a whole number"},
-      {"[joystick]\naileron = axis 1 reversed", "my.cfg:2: behind an axis"},
-      {"[joystick]\naileron = axis 1 dead", "my.cfg:2: behind an axis"},
-      {"[joystick]\naileron = ", "my.cfg:2: nothing stands behind 'aileron'"},
-      {"[joystick]\ngear = knob 3", "my.cfg:2: 'knob 3' is neither"},
-      {"[joystick]\ngear = hat 0 north", "my.cfg:2: a hat goes up"},
-      {"[controller]\ngear = triangle", "my.cfg:2: a controller has no button 'triangle'"},
-      {"[controller]\naileron = stick dead 5", "my.cfg:2: a controller has no axis 'stick'"},
-      {"[controller]\nbrakes = a or  or b", "my.cfg:2: nothing stands behind 'brakes'"},
-  };
-  for (const auto& [text, message] : cases) {
-    try {
-      parse_control_map(text, "my.cfg");
-      ADD_FAILURE() << text << " is taken";
-    } catch (const ConfigError& error) {
-      EXPECT_EQ(std::string(error.what()).find(message), 0u) << text << ": " << error.what();
-    }
+  for (const Row& row : rows_of("hands/refused_controls.txt", 2)) {
+    const std::string said = refusal<ConfigError>([&] { parse_control_map(row[0], "my.cfg"); });
+    EXPECT_TRUE(said.starts_with("my.cfg:" + row[1])) << row[0] << ": " << said;
   }
 }
 

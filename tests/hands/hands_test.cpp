@@ -3,8 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include "host/simulation/aircraft_model.h"
-
 namespace host {
 namespace {
 
@@ -120,36 +118,6 @@ TEST(FlightInputs, MovesEachControlAndNoOther) {
       }
     }
   }
-}
-
-// From the runway into the air with nothing but keys, as a person presses them.
-TEST(Hands, TakeOffWithKeys) {
-  AircraftModel aircraft(StartCondition::ready);
-  aircraft.place_on_runway();
-  Hands hands;
-  const auto hold = [&](std::initializer_list<const char*> names, double seconds) {
-    for (const char* name : names) hands.press(action(name));
-    for (double t = 0; t < seconds; t += frame_s) {
-      apply(hands.frame(frame_s, aircraft.controls()), aircraft.controls());
-      aircraft.advance(frame_s);
-    }
-    hands.release_all();
-  };
-  hold({"flaps_down", "flaps_down", "throttle_full", "parking_brake"}, 1.0);
-  const auto& flight = aircraft.flight();
-  for (int i = 0; i < 60 && flight.true_airspeed_mps < 66; ++i) hold({}, 1.0);
-  EXPECT_TRUE(flight.on_ground);
-  EXPECT_LT(std::abs(simulation::runway_axes(flight.position_m).right_m), 5.0);
-  hold({"stick_back"}, 1.2);
-  hold({}, 1.0);
-  for (int i = 0; i < 35; ++i) {
-    if (flight.attitude.pitch_rad < 0.13) hold({"stick_back"}, 0.3);
-    hold({}, 0.7);
-    if (i == 3) hold({"gear"}, 0.1);
-  }
-  EXPECT_GT(flight.height_ft, 500.0);
-  EXPECT_GT(flight.vertical_speed_fpm, 500.0);
-  EXPECT_LT(std::abs(flight.attitude.bank_rad), 0.1);
 }
 
 }  // namespace

@@ -75,16 +75,6 @@ TEST_F(Bitmaps, DamagedDenseOnesAreLeftOutAndToldOnceAFile) {
                                 file_ + ".3x: holds no bitmap directory"}));
 }
 
-TEST_F(Bitmaps, AFileThatIsCutShortInMidFlightLeavesTheCoarserBitmap) {
-  write_dense(".2x", section_bytes({{10, plain_dib(4, 4, 0x00FF00)}, {30, plain_dib(2, 2, 0x00FF00)}}));
-  const ModuleBitmaps bitmaps = store();
-  const auto shown = bitmaps.find(10, BitmapUse::image, 2);
-  std::filesystem::resize_file(file_ + ".2x", 0);
-  EXPECT_EQ(colour(bitmaps, 10, 2), green) << "is still held";
-  EXPECT_EQ(colour(bitmaps, 30, 2), 0u);
-  EXPECT_EQ(colour(bitmaps, 30, 1), red);
-}
-
 TEST_F(Bitmaps, DirectoryMustLieInside) {
   for (const std::size_t size : {0, 16, 79}) {
     ByteList cut(own_.begin(), own_.begin() + static_cast<std::ptrdiff_t>(size));

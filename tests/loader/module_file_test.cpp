@@ -12,6 +12,7 @@
 #include "host/loader/elf_file.h"
 #include "host/loader/gauge_module.h"
 #include "tests/loader/resource_bytes.h"
+#include "tests/rig/refusal.h"
 #include "tests/rig/temp_folder.h"
 
 namespace host {
@@ -49,12 +50,7 @@ std::string without_folder(const fs::path& file, const std::string& message) {
 }
 
 std::string load_error(const fs::path& file) {
-  try {
-    GaugeModule module(file);
-    return "";
-  } catch (const LoadError& error) {
-    return without_folder(file, error.what());
-  }
+  return without_folder(file, refusal<LoadError>([&] { GaugeModule module(file); }));
 }
 
 TEST(ModuleFile, SoundModuleLoads) {
@@ -160,20 +156,6 @@ TEST(ModuleFile, WaitsForNoPipeAndReadsNoDevice) {
   EXPECT_EQ(load_error(folder / "pipe.GAU"), "pipe.GAU: is no regular file");
   EXPECT_EQ(load_error(folder / "zero.GAU"), "zero.GAU: is no regular file");
   EXPECT_EQ(load_error(folder / "huge.GAU"), "huge.GAU: is larger than 512 MiB");
-}
-
-// Whatever a cut or a flipped byte does to headers and tables, it must not be followed.
-TEST(ModuleFile, NoDamageToTheHeadersCrashes) {
-  for (std::size_t at = 0; at < sizeof(Elf64_Ehdr); ++at) {
-    for (const int value : {0, 0x7F, 0xFF}) {
-      const ByteList bytes = bytes_of(changed([&](ByteList& b) { b[at] = std::byte(value); }));
-      try {
-        const ElfFile elf(bytes);
-        elf.section(PANEL_RESOURCE_SECTION);
-      } catch (const LibraryError&) {
-      }
-    }
-  }
 }
 
 }  // namespace

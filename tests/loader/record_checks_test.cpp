@@ -5,70 +5,23 @@
 #include <limits>
 
 #include "host/loader/record_checks.h"
+#include "tests/loader/made_records.h"
 #include "tests/loader/resource_bytes.h"
 
 namespace host {
 namespace {
-
-double value(Element*) { return 0; }
-i32 press(PanelPoint, u32) { return 0; }
-void header_routine() {}
-void header_argument_routine(std::uintptr_t) {}
 
 template <typename Pointer>
 Pointer wild(std::uintptr_t address = 4096) {
   return reinterpret_cast<Pointer>(address);
 }
 
-/// A sound gauge with an element of every kind; tests break one thing and look at the findings.
-struct Records {
-  static constexpr int count = 7;
-  Element elements[count]{};
+/// Tests break one thing about them and look at the findings.
+struct Records : MadeRecords {
   Element &needle = elements[ELEMENT_NEEDLE], &string = elements[ELEMENT_STRING],
           &icon = elements[ELEMENT_ICON];
-  Element* lists[count][2]{};
-  FailureEntry failures[2]{{20, FAILURE_HIDE, 0}, {0, 0, 0}};
-  NonlinearityPoint table[2]{{{0, 9}, 0}, {{9, 0}, 10}};
-  char text[6] = "12345";
-  MouseArea areas[5]{};
-  GaugeHeader gauge{};
-  LinkageRecord linkage{};
-  ImportTableRecord imports{};
 
-  Records() {
-    for (int i = 0; i < count; ++i) {
-      elements[i].kind = static_cast<u32>(i);
-      elements[i].resource_id = i == ELEMENT_STRING ? -1 : 10 * i;
-      elements[i].gauge = &gauge;
-      elements[i].next = lists[i];
-      if (i > 0) lists[i - 1][0] = &elements[i];
-    }
-    icon.failures = failures;
-    icon.icon = {{}, value, 1, 2, 1};
-    needle.needle = {{}, {}, value, table, 2, 0, 1};
-    string.string = {{30, 10}, {}, value, 0, 0, 0, 400, 0, 5, "Arial", text};
-    fill_rest();
-  }
-
-  void fill_rest() {
-    areas[0] = {MOUSE_GROUP, 0, 0, 0, 0, CURSOR_ARROW, 0, 0, 0, 0, {nullptr}, nullptr};
-    areas[1] = {MOUSE_CLICK_AREA, 0, 0, 5, 5, CURSOR_HAND, 0, MOUSE_LEFT, 0, 0, {press}, nullptr};
-    areas[2] = {MOUSE_TOOLTIP, 0, 0, 0, 0, CURSOR_ARROW, 0, 0, 0, 0, {nullptr}, nullptr};
-    areas[2].tooltip = "Set";
-    areas[3] = {MOUSE_GROUP_END, 0, 0, 0, 0, CURSOR_ARROW, 0, 0, 0, 0, {nullptr}, nullptr};
-    areas[4] = {MOUSE_END, 0, 0, 0, 0, CURSOR_ARROW, 0, 0, 0, 0, {nullptr}, nullptr};
-    gauge.header_version = GAUGE_HEADER_VERSION;
-    gauge.name = "Full";
-    gauge.element_list[0] = elements;
-    gauge.query = gauge.initialize = gauge.update = gauge.draw = gauge.kill = header_routine;
-    gauge.install = gauge.generate = header_argument_routine;
-    gauge.width_mm = 40;
-    gauge.mouse_areas = areas;
-    linkage.module_id = LINKAGE_MODULE_ID;
-    linkage.version = LINKAGE_VERSION;
-    linkage.gauges[0] = &gauge;
-    imports.entries[0].identifier = IMPORT_PANEL_SERVICES;
-  }
+  Records() { make(); }
 
   std::vector<Finding> findings() const {
     std::vector<Finding> found;
@@ -151,10 +104,10 @@ TEST(RecordChecks, UnsafeGaugesAreErrors) {
       {[](R& r) { r.gauge.mouse_areas = nullptr; }, g + "mouse area 0: the entry is null"},
       {[](R& r) { r.areas[1].kind = 5; }, g + "mouse area 1: kind 5 is not a mouse area kind"},
       {[](R& r) { r.areas[1].routine = nullptr; }, g + "mouse area 1: the mouse routine is null"},
-      {[](R& r) { r.areas[2].tooltip = wild<char*>(); }, g + "mouse area 2: the tooltip" + unreadable},
-      {[](R& r) { r.areas[3].kind = MOUSE_END; }, g + "mouse area 3: the table ends inside a group"},
-      {[](R& r) { r.areas[2].kind = MOUSE_GROUP_END; },
-       g + "mouse area 3: it closes a group that is not open"},
+      {[](R& r) { r.areas[3].tooltip = wild<char*>(); }, g + "mouse area 3: the tooltip" + unreadable},
+      {[](R& r) { r.areas[4].kind = MOUSE_END; }, g + "mouse area 4: the table ends inside a group"},
+      {[](R& r) { r.areas[3].kind = MOUSE_GROUP_END; },
+       g + "mouse area 4: it closes a group that is not open"},
       {[](R& r) { r.linkage.module_id = 1; }, "Linkage: the module identifier is 0x1, not 0x13"},
       {[](R& r) { r.linkage.version = 0x901; },
        "Linkage: version 0x901 is not known; this host reads 0x900"},
@@ -177,7 +130,9 @@ TEST(RecordChecks, OdditiesAreWarnings) {
       {[](R& r) { r.failures[0].action = 9; }, icon + "failure action 9 is not known"},
       {[](R& r) { r.table[1].value = -1; },
        needle + "calibration point 1 has a smaller value than the one before"},
-      {[](R& r) { r.table[1].point.x = 0; },
+      {[](R& r) {
+         r.table[1].point = {0, 0};
+       },
        needle + "calibration point 1 is the needle's own position"},
       {[](R& r) { r.elements[6].sprite.x.scale = std::nan(""); },
        g + "element 6: the x scale is not a number"},
@@ -190,10 +145,13 @@ TEST(RecordChecks, OdditiesAreWarnings) {
   expect_findings(cases, Finding::Severity::warning);
 }
 
-/// What is found in a gauge with bitmaps of 9 x 9 pixels.
+/// What is found in a gauge with bitmaps of 9 x 9 pixels on a background of 32 x 32.
 std::vector<std::string> artwork_findings(const Records& records) {
   std::vector<NumberedDib> dibs;
-  for (const std::uint32_t id : {0, 10, 30, 40, 50, 60}) dibs.push_back({id, plain_dib(9, 9, 1)});
+  for (const std::uint32_t id : {0, 10, 30, 40, 50, 60}) {
+    const int side = id == 0 ? 32 : 9;
+    dibs.push_back({id, plain_dib(side, side, 1)});
+  }
   const ByteList section = section_bytes(dibs);
   const ModuleBitmaps bitmaps(section, "none.GAU");
   std::vector<Finding> found;
@@ -210,7 +168,7 @@ TEST(RecordChecks, EveryImageIsThereAndEveryBoxLiesInTheBackground) {
   EXPECT_EQ(artwork_findings(records),
             (std::vector<std::string>{"T.GAU, element 4: there is no bitmap 41",
                                       "T.GAU, element 5: there is no mask bitmap 51"}));
-  for (const auto& [x, inside] : {std::pair{4, true}, {5, false}, {-1, false}, {INT32_MAX, false}}) {
+  for (const auto& [x, inside] : {std::pair{26, true}, {27, false}, {-2, false}, {INT32_MAX, false}}) {
     records.areas[1].x = x;
     EXPECT_EQ(artwork_findings(records).size(), inside ? 2u : 3u) << x;
   }

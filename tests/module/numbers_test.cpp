@@ -13,31 +13,28 @@ constexpr f64 nan = std::numeric_limits<f64>::quiet_NaN();
 constexpr f64 inf = std::numeric_limits<f64>::infinity();
 
 TEST(Numbers, WholeNumbersTruncateTowardZeroAndStayInRange) {
-  struct Row {
-    f64 value;
-    u32 whole_unsigned;
-    i32 whole_signed;
-  };
-  const Row rows[] = {
+  constexpr u32 most = 4294967295;
+  constexpr i32 highest = 2147483647, lowest = -2147483647 - 1;
+  const std::tuple<f64, u32, i32> rows[] = {
       {0, 0, 0},
       {0.99, 0, 0},
       {-0.99, 0, 0},
       {7.9, 7, 7},
       {-7.9, 0, -7},
-      {2147483647.5, 2147483647u, 2147483647},
-      {2147483648.0, 2147483648u, 2147483647},
-      {-2147483648.9, 0, -2147483647 - 1},
-      {4294967295.0, 4294967295u, 2147483647},
-      {1e300, 4294967295u, 2147483647},
-      {-1e300, 0, -2147483647 - 1},
-      {inf, 4294967295u, 2147483647},
-      {-inf, 0, -2147483647 - 1},
+      {2147483647.5, 2147483647, highest},
+      {2147483648.0, 2147483648, highest},
+      {-2147483648.9, 0, lowest},
+      {4294967295.0, most, highest},
+      {1e300, most, highest},
+      {-1e300, 0, lowest},
+      {inf, most, highest},
+      {-inf, 0, lowest},
       {nan, 0, 0},
       {5e-324, 0, 0},
   };
-  for (const Row& row : rows) {
-    EXPECT_EQ(whole_u32(row.value), row.whole_unsigned) << row.value;
-    EXPECT_EQ(whole_i32(row.value), row.whole_signed) << row.value;
+  for (const auto& [value, whole_unsigned, whole_signed] : rows) {
+    EXPECT_EQ(whole_u32(value), whole_unsigned) << value;
+    EXPECT_EQ(whole_i32(value), whole_signed) << value;
   }
 }
 

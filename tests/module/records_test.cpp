@@ -31,43 +31,9 @@ TEST(Records, LinkageAndImportTableHoldWhatAHostLooksFor) {
   EXPECT_EQ(ImportTable.entries[1].pointer, nullptr);
 }
 
-struct Row {
-  const char* name;
-  u32 width_mm;
-  i32 background;
-  std::size_t elements;
-  int clicks, tooltips;
-};
-constexpr Row cockpit[] = {
-#define GAUGE(...) {__VA_ARGS__},
-#include "tests/module/cockpit.inc"
-#undef GAUGE
-};
-static_assert(std::size(cockpit) == LINKAGE_GAUGE_COUNT);
-
 /// Gauges that do nothing by day or by night but show and answer.
 const std::set<std::string> no_service{"Ovhtoggle", "Checktg", "Fopselect", "Pedtg",
                                        "Thrtg",     "Intro",   "Hvsnd"};
-
-TEST(Records, EachGaugeStandsInItsPlaceWithAllItsPartsAndControls) {
-  for (std::size_t i = 0; i < std::size(cockpit); ++i) {
-    const Row& row = cockpit[i];
-    const GaugeHeader& gauge = *Linkage.gauges[i];
-    SCOPED_TRACE(row.name);
-    EXPECT_STREQ(gauge.name, row.name);
-    EXPECT_EQ(gauge.width_mm, row.width_mm);
-    EXPECT_EQ(gauge.element_list[0]->resource_id, row.background);
-    int clicks = 0, tooltips = 0;
-    for (const MouseArea* area = gauge.mouse_areas; area->kind != MOUSE_END; ++area) {
-      clicks += area->kind == MOUSE_CLICK_AREA;
-      tooltips += area->kind == MOUSE_TOOLTIP;
-    }
-    EXPECT_EQ(rig::chain_of(gauge).size(), row.elements);
-    EXPECT_EQ(clicks, row.clicks);
-    EXPECT_EQ(tooltips, row.tooltips);
-    EXPECT_EQ(gauge.service == nullptr, no_service.contains(row.name));
-  }
-}
 
 TEST(Records, AreAsManyAsTheWholeCockpitHas) {
   std::map<u32, int> elements, areas;

@@ -6,6 +6,7 @@
 #include "host/simulation/systems/failures.h"
 #include "host/simulation/table.h"
 #include "tests/module/walk.h"
+#include "tests/rig/token_list.h"
 
 extern "C" const LinkageRecord Linkage;
 
@@ -13,33 +14,16 @@ namespace {
 
 using namespace host::simulation;
 
-struct Named {
-  u32 number;
-  const char *name, *unit;
-};
-constexpr Named tokens[] = {
-#define TOKEN(number, name, unit) {number, #name, unit},
-#define EVENT(number, name)
-#include "module/tokens.inc"
-#undef TOKEN
-#undef EVENT
-};
-constexpr Named events[] = {
-#define TOKEN(number, name, unit)
-#define EVENT(number, name) {number, #name, ""},
-#include "module/tokens.inc"
-#undef TOKEN
-#undef EVENT
-};
+using rig::all_events, rig::all_tokens, rig::Listed;
 
 TEST(Tokens, HaveTheNamesAndUnitsOfTheAircraft) {
-  for (const Named& token : tokens) {
+  for (const Listed& token : all_tokens) {
     const TokenRow* row = find_token(token.number);
     ASSERT_NE(row, nullptr) << token.name << ' ' << token.number;
     EXPECT_EQ(row->row.name, token.name);
     EXPECT_EQ(row->row.unit, token.unit) << token.name;
   }
-  for (const Named& event : events) {
+  for (const Listed& event : all_events) {
     const EventRow* row = find_event(event.number);
     ASSERT_NE(row, nullptr) << event.name << ' ' << event.number;
     EXPECT_EQ(row->row.name, event.name);
@@ -53,10 +37,10 @@ TEST(Tokens, WhatAGaugeReadsTheAircraftHasAndWhatItSendsTheAircraftTakes) {
 
 /// Each stands in the list for a gauge that uses it.
 TEST(Tokens, AreAllUsed) {
-  for (const Named& token : tokens) {
+  for (const Listed& token : all_tokens) {
     EXPECT_TRUE(walk::result().tokens.contains(token.number)) << token.name;
   }
-  for (const Named& event : events) {
+  for (const Listed& event : all_events) {
     EXPECT_TRUE(walk::result().events.contains(event.number)) << event.name;
   }
 }

@@ -6,31 +6,22 @@
 #include <random>
 
 #include "module/tokens.h"
+#include "tests/rig/token_list.h"
 
 namespace walk {
 namespace {
 
 using namespace tarnvale;
 
-struct Token {
-  u32 number;
-  const char *name, *unit;
-
-  bool is(std::string_view kind) const { return std::string_view(unit).starts_with(kind); }
-  bool on_off() const {
-    return is("0/1") || is("0 closed") || is("0 released") || std::string_view(unit) == "0..1";
-  }
-  bool lever() const { return is("0..16384"); }
-};
-
 /// All but the clock.
-constexpr Token tokens[] = {
-#define TOKEN(number, name, unit) {number, #name, unit},
-#define EVENT(number, name)
-#include "module/tokens.inc"
-#undef TOKEN
-#undef EVENT
-};  // namespace
+using Token = rig::Listed;
+constexpr auto& tokens = rig::all_tokens;
+
+bool is_on_off(const Token& token) {
+  return token.unit.starts_with("0/1") || token.unit.starts_with("0 closed") ||
+         token.unit.starts_with("0 released") || token.unit == "0..1";
+}
+bool is_lever(const Token& token) { return token.unit.starts_with("0..16384"); }
 
 /// What a gauge shows: the values of its parts, and of a text the letters as a number.
 using Picture = std::vector<f64>;
@@ -182,8 +173,8 @@ class Walk {
     constexpr f64 travel[] = {0,     50,    1500,  3000,  5000,  7000, 9000,
                               11000, 13000, 14500, 15500, 16300, 22000};
     if (token.number == token::clock_seconds) return;
-    const auto pick = [&](auto& of) { return of[random(token.on_off() ? 2 : std::size(of))]; };
-    host_->tokens[token.number] = token.lever() ? pick(travel) : pick(values);
+    const auto pick = [&](auto& of) { return of[random(is_on_off(token) ? 2 : std::size(of))]; };
+    host_->tokens[token.number] = is_lever(token) ? pick(travel) : pick(values);
   }
 
   /// The start page and the buttons for windows are no part of the aircraft.
@@ -203,7 +194,7 @@ class Walk {
       gauge.frame();
       for (const Token& token : tokens) {
         if (!host_->looked_up.contains(token.number) || token.number == token::clock_seconds) continue;
-        result_.stimuli.push_back({.gauge = g, .token = token.number, .name = token.name});
+        result_.stimuli.push_back({.gauge = g, .token = token.number, .name = std::string(token.name)});
       }
     }
   }
@@ -228,7 +219,8 @@ class Walk {
     for (const std::size_t gauge : watched) idle.push_back(picture(result_.gauges[gauge]));
     run(watched, settling);
     for (const std::size_t gauge : watched) before.push_back(picture(result_.gauges[gauge]));
-    const rig::NamedPart* own = stimulus.part;
+    const bool seen = std::ranges::count(watched, stimulus.gauge) > 0;
+    const rig::NamedPart* own = seen ? stimulus.part : nullptr;
     const f64 own_before = own ? result_.gauges[stimulus.gauge].value(*own) : 0;
     act(stimulus);
     run(watched, 1);
@@ -256,6 +248,7 @@ class Walk {
     result_.gauges[stimulus.gauge].click(stimulus.name, right ? MOUSE_RIGHT : MOUSE_LEFT);
     learn(stimulus.sounds, sounds_of_click());
     stimulus.heeded |= !host_->events.empty();
+    stimulus.sent.insert(host_->events.begin(), host_->events.end());
     note_events();
     Aircraft now = aircraft;
     std::ranges::copy(was.sound_requests, now.sound_requests);

@@ -24,12 +24,13 @@ struct Stimulus {
   std::size_t gauge;                     ///< in `gauges`
   std::optional<rig::NamedArea> area{};  ///< or a token
   u32 token = 0;
-  const rig::NamedPart* part = nullptr;  ///< that the area is named after; see part_of()
-  std::string name;                      ///< of area or token
-  std::set<Place> changed = {};          ///< parts that showed something else right after it
-  Moves moves = {};                      ///< of its part
-  std::set<std::string> sounds = {};     ///< "toggle", "push", other or none, with each click
-  bool heeded = false;                   ///< it sent an event or changed the shared state
+  const rig::NamedPart* part = nullptr;     ///< that the area is named after; see part_of()
+  std::string name;                         ///< of area or token
+  std::set<Place> changed = {};             ///< parts that showed something else right after it
+  Moves moves = {};                         ///< of its part
+  std::set<std::string> sounds = {};        ///< "toggle", "push", other or none, with each click
+  std::set<std::pair<u32, u32>> sent = {};  ///< with their values, by its clicks
+  bool heeded = false;                      ///< it sent an event or changed the shared state
 
   std::string text() const;  ///< for messages
 };

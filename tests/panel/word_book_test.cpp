@@ -89,11 +89,4 @@ TEST_F(WordFiles, AWrongRowIsToldWithFileAndLineAndLeftOut) {
             "a.txt:1: expected a gauge such as [Masterbat] first");
 }
 
-TEST_F(WordFiles, FilesFullOfNonsenseAreToldOnOneScreen) {
-  std::string nonsense;
-  for (int i = 0; i < 1000; ++i) nonsense += "\xFF\n";
-  EXPECT_EQ(book(nonsense).notes.size(), 21u);
-  EXPECT_EQ(book(nonsense).notes.back(), "words: and 980 more lines");
-}
-
 }  // namespace

@@ -52,8 +52,11 @@ TEST_F(Device, PlaysByItselfAndIsOpenedAgainAfterItWasLostOrLeft) {
 
   platform_lose_audio();
   EXPECT_EQ(status(*buffer), DSBSTATUS_BUFFERLOST);
-  ASSERT_EQ(buffer->Restore(), DS_OK);
-  fill(*buffer, std::vector<std::int16_t>(2000, 5000));
+  const auto restored = [&](std::int16_t level) {
+    EXPECT_EQ(buffer->Restore(), DS_OK);
+    fill(*buffer, std::vector<std::int16_t>(2000, level));
+  };
+  restored(5000);
   play_to_the_end(*buffer);
   EXPECT_TRUE(heard(5000));
   EXPECT_EQ(render(100), silence(100)) << "only a rendered mix can be taken";
@@ -66,15 +69,13 @@ TEST_F(Device, PlaysByItselfAndIsOpenedAgainAfterItWasLostOrLeft) {
 
   platform_move_audio(PLATFORM_AUDIO_RENDERED);
   EXPECT_EQ(status(*buffer), DSBSTATUS_BUFFERLOST);
-  ASSERT_EQ(buffer->Restore(), DS_OK);
-  fill(*buffer, std::vector<std::int16_t>(2000, 7000));
+  restored(7000);
   ASSERT_EQ(buffer->Play(0, 0, 0), DS_OK);
   EXPECT_EQ(render(1).front().left, 7000);
   platform_move_audio(PLATFORM_AUDIO_DEVICE);
-  ASSERT_EQ(buffer->Restore(), DS_OK);
-  fill(*buffer, std::vector<std::int16_t>(2000, 3000));
+  restored(9000);
   play_to_the_end(*buffer);
-  EXPECT_TRUE(heard(3000));
+  EXPECT_TRUE(heard(9000));
   EXPECT_FALSE(heard(7000)) << "that went into the mix";
 }
 

@@ -89,19 +89,17 @@ TEST_F(Files, OnlyOrdinaryFilesAreOpenedAndOnlyForReading) {
 }
 
 TEST_F(Files, HandlesAreGoodForOneCloseAndOneKind) {
-  const HANDLE file = open_file("click.wav");
-  const HANDLE mapping = map_file(file);
+  const HANDLE file = open_file("click.wav"), mapping = map_file(file), empty = open_file("empty.wav");
   EXPECT_EQ(MapViewOfFile(file, FILE_MAP_READ, 0, 0, 0), nullptr);
   EXPECT_EQ(GetFileSize(mapping, nullptr), INVALID_FILE_SIZE);
-  EXPECT_TRUE(CloseHandle(file));
-  EXPECT_FALSE(CloseHandle(file));
-  EXPECT_EQ(map_file(file), nullptr);
-  EXPECT_TRUE(CloseHandle(mapping));
-  EXPECT_FALSE(UnmapViewOfFile(mapping));
-  const HANDLE empty = open_file("empty.wav");
   EXPECT_EQ(GetFileSize(empty, nullptr), 0u);
   EXPECT_EQ(map_file(empty), nullptr) << "there is nothing to map";
-  EXPECT_TRUE(CloseHandle(empty));
+  for (const HANDLE handle : {file, mapping, empty}) {
+    EXPECT_TRUE(CloseHandle(handle));
+    EXPECT_FALSE(CloseHandle(handle));
+  }
+  EXPECT_EQ(map_file(file), nullptr);
+  EXPECT_FALSE(UnmapViewOfFile(mapping));
 }
 
 }  // namespace

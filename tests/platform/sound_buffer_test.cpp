@@ -75,15 +75,10 @@ TEST_F(SoundBuffers, AreLockedInTwoPartsAcrossTheEnd) {
   const Buffer buffer = mono_16({0, 0, 0, 0, 0});
   const Locked whole = lock(*buffer, 0, 10);
   auto* start = static_cast<std::byte*>(whole.part1);
-  EXPECT_EQ(whole.bytes1, 10u);
-  EXPECT_EQ(whole.part2, nullptr);
-  EXPECT_EQ(whole.bytes2, 0u);
-
+  EXPECT_TRUE(whole.bytes1 == 10 && whole.part2 == nullptr && whole.bytes2 == 0);
   const Locked wrapped = lock(*buffer, 6, 8);
-  EXPECT_EQ(wrapped.part1, start + 6);
-  EXPECT_EQ(wrapped.bytes1, 4u);
-  EXPECT_EQ(wrapped.part2, start);
-  EXPECT_EQ(wrapped.bytes2, 4u);
+  EXPECT_TRUE(wrapped.part1 == start + 6 && wrapped.bytes1 == 4);
+  EXPECT_TRUE(wrapped.part2 == start && wrapped.bytes2 == 4);
   const std::int16_t samples[] = {4, 5, 1, 2};
   std::memcpy(wrapped.part1, samples, 4);
   std::memcpy(wrapped.part2, samples + 2, 4);
@@ -91,9 +86,8 @@ TEST_F(SoundBuffers, AreLockedInTwoPartsAcrossTheEnd) {
   buffer->Play(0, 0, 0);
   EXPECT_EQ(render(6), (std::vector<Frame>{{1, 1}, {2, 2}, {}, {4, 4}, {5, 5}, {}}));
 
-  EXPECT_EQ(lock(*buffer, 10, 1).result, DSERR_INVALIDPARAM);
-  EXPECT_EQ(lock(*buffer, 0, 11).result, DSERR_INVALIDPARAM);
-  EXPECT_EQ(lock(*buffer, 0, 0).result, DSERR_INVALIDPARAM);
+  for (const auto& [offset, bytes] : {std::pair{10u, 1u}, {0u, 11u}, {0u, 0u}})
+    EXPECT_EQ(lock(*buffer, offset, bytes).result, DSERR_INVALIDPARAM) << offset;
   EXPECT_EQ(buffer->Unlock(start + 10, 1, nullptr, 0), DSERR_INVALIDPARAM);
 }
 

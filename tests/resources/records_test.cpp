@@ -10,13 +10,6 @@
 namespace artwork_test {
 namespace {
 
-TEST(Records, PartsAndAreasAreFoundByName) {
-  const GaugeHeader& battery = gauge("Masterbat");
-  EXPECT_EQ(part(battery, "external_power_switch").position.x, 111);
-  EXPECT_EQ(part(gauge("Acdc"), "ac_voltmeter").needle.table_length, 3u);
-  EXPECT_EQ(click_box(battery, "bus_tie_button").bottom(), 108);
-}
-
 TEST(Records, AMissingNameEndsTheTool) {
   const auto ends = ::testing::ExitedWithCode(1);
   EXPECT_EXIT(gauge("Nosuch"), ends, "no gauge Nosuch");

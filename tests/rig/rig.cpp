@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstdlib>
 #include <cstring>
 #include <map>
@@ -12,6 +13,7 @@
 #include <string_view>
 
 #include "module/host.h"
+#include "tests/rig/token_list.h"
 
 extern "C" const LinkageRecord Linkage;
 
@@ -33,37 +35,17 @@ void look_up(TokenVariable* variable) {
 enum class Verb { toggle, on, off };
 using Effect = std::pair<u32, Verb>;
 
-struct Named {
-  u32 number;
-  std::string_view name;
-};
-
-#define TOKEN(number, name, unit) {number, #name},
-#define EVENT(number, name)
-constexpr Named token_names[] = {
-#include "module/tokens.inc"
-};
-#undef TOKEN
-#undef EVENT
-#define TOKEN(number, name, unit)
-#define EVENT(number, name) {number, #name},
-constexpr Named event_names[] = {
-#include "module/tokens.inc"
-};
-#undef TOKEN
-#undef EVENT
-
 const std::map<u32, Effect>& followed() {
   static const std::map<u32, Effect> all = [] {
     constexpr std::pair<std::string_view, Verb> verbs[] = {
         {"_toggle", Verb::toggle}, {"_on", Verb::on}, {"_off", Verb::off}};
     std::map<std::string, Effect> named;
-    for (const Named& token : token_names) {
+    for (const Listed& token : all_tokens) {
       for (const auto& [ending, verb] : verbs)
-        named[std::string(token.name) + std::string(ending)] = {token.number, verb};
+        named[std::string(token.name).append(ending)] = {token.number, verb};
     }
     std::map<u32, Effect> found;
-    for (const Named& event : event_names) {
+    for (const Listed& event : all_events) {
       const auto effect = named.find(std::string(event.name));
       if (effect != named.end()) found[event.number] = effect->second;
     }
@@ -210,6 +192,16 @@ void Gauge::click(std::string_view control, u32 flags) {
 }
 
 f64 Gauge::value(std::string_view part) const { return values_[find(parts_, part, *header_).index]; }
+
+void Gauge::expect(std::initializer_list<std::pair<std::string_view, f64>> parts,
+                   std::source_location at) {
+  frame();
+  for (const auto& [part, expected] : parts) {
+    if (std::abs(value(part) - expected) <= 1e-9) continue;
+    ADD_FAILURE_AT(at.file_name(), static_cast<int>(at.line()))
+        << header_->name << ' ' << part << " shows " << value(part) << ", not " << expected;
+  }
+}
 
 std::string Gauge::text(std::string_view part) const {
   return find(parts_, part, *header_).element->string.text;

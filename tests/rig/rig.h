@@ -3,6 +3,8 @@
 /// ("battery_switch"). One rig at a time; a new one puts the shared state back to its start.
 #pragma once
 
+#include <initializer_list>
+#include <source_location>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -34,6 +36,9 @@ class Host {
   std::unordered_map<u32, f64> tokens;
   Events events;
   WindowCalls windows;
+
+  /// The events since they were last asked for.
+  Events sent() { return std::exchange(events, {}); }
 
   /// The tokens that the module has looked up so far.
   std::unordered_set<u32> looked_up;
@@ -75,6 +80,10 @@ class Gauge {
   f64 value(std::string_view part) const;
   f64 value(const NamedPart& part) const { return values_[part.index]; }
   std::string text(std::string_view part) const;
+
+  /// Runs a frame and expects what parts show then.
+  void expect(std::initializer_list<std::pair<std::string_view, f64>> parts,
+              std::source_location at = std::source_location::current());
 
  private:
   const GaugeHeader* header_;

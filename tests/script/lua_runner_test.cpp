@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/rig/refusal.h"
+#include "tests/rig/rows.h"
 #include "tests/rig/temp_folder.h"
 
 namespace {
@@ -10,12 +12,7 @@ using namespace host;
 
 // What a run of the text ends with: "" or the error's message.
 std::string outcome(LuaRunner& runner, const std::string& text) {
-  try {
-    runner.run(text, "flows/test.lua");
-    return "";
-  } catch (const FlowError& error) {
-    return error.what();
-  }
+  return refusal<FlowError>([&] { runner.run(text, "flows/test.lua"); });
 }
 
 class Flow : public testing::Test {
@@ -34,52 +31,11 @@ class Flow : public testing::Test {
   LuaRunner runner;
 };
 
-struct Failure {
-  const char* name;
-  const char* text;
-  const char* message;
-};
-
-void PrintTo(const Failure& failure, std::ostream* out) { *out << failure.message; }
-
-class Failures : public Flow, public testing::WithParamInterface<Failure> {};
-
-TEST_P(Failures, NameFileAndLine) { EXPECT_EQ(outcome(runner, GetParam().text), GetParam().message); }
-
-INSTANTIATE_TEST_SUITE_P(
-    Texts, Failures,
-    testing::Values(
-        Failure{"syntax", "local x = 1\nlocal y = = 2", "flows/test.lua:2: unexpected symbol near '='"},
-        Failure{"unfinished", "if true then\n",
-                "flows/test.lua:2: 'end' expected (to close 'if' at line 1) near <eof>"},
-        Failure{"nil_call", "\n\nclik('Masterbat')",
-                "flows/test.lua:3: attempt to call a nil value (global 'clik')"},
-        Failure{"own_error", "error('no fuel')", "flows/test.lua:1: no fuel"},
-        Failure{"error_object", "error({})", "flows/test.lua:1: an error that is not a text"},
-        Failure{"host", "local a = 1\nrefuse('the lamp is dark')",
-                "flows/test.lua:2: the lamp is dark"},
-        Failure{"helper", "local function check()\n  refuse('dark')\nend\n\ncheck()",
-                "flows/test.lua:2: dark (called from line 5)"},
-        Failure{"in_condition", "ask(function()\n  refuse('inside')\nend)",
-                "flows/test.lua:2: inside (called from line 1)"},
-        Failure{"missing_argument", "number()",
-                "flows/test.lua:1: argument 1 (value) must be a number"},
-        Failure{"infinite", "number(1/0)",
-                "flows/test.lua:1: argument 1 (value) must be a finite number"},
-        Failure{"fraction", "spot('A', 1.5, 2)",
-                "flows/test.lua:1: argument 2 (x) must be a whole number"},
-        Failure{"short_spot", "spot({'A', 1})", "flows/test.lua:1: argument 3 (y) must be a number"},
-        Failure{"not_a_function", "ask(7)",
-                "flows/test.lua:1: argument 1 (question) must be a function"},
-        Failure{"endless", "local n = 0\nwhile true do n = n + 1 end",
-                "flows/test.lua:2: the flow computes without ever waiting: an endless loop?"},
-        Failure{"finalizer", "setmetatable({}, {__gc = function() end})",
-                "flows/test.lua:1: tables of a flow have no finalizer (__gc)"},
-        Failure{"growing", "while true do local s = string.rep('x', 1 << 26) end",
-                "flows/test.lua: the flow computes without ever waiting: an endless loop?"},
-        Failure{"memory", "local s = string.rep('x', 1 << 30)", "flows/test.lua: out of memory"},
-        Failure{"binary", "\x1bLua", "flows/test.lua: attempt to load a binary chunk (mode is 't')"}),
-    [](const auto& test) { return test.param.name; });
+TEST_F(Flow, FailuresNameFileAndLine) {
+  for (const Row& row : rows_of("script/failures.txt", 2))
+    EXPECT_EQ(outcome(runner, row[0]), "flows/test.lua" + row[1]) << row[0];
+  EXPECT_EQ(outcome(runner, "\x1bLua"), "flows/test.lua: attempt to load a binary chunk (mode is 't')");
+}
 
 TEST_F(Flow, DeepRecursionIsAnErrorLikeAnyOther) {
   const std::string message = outcome(runner, "local function f() return 1 + f() end\nf()");
@@ -156,11 +112,6 @@ TEST_F(Flow, FlysTheSameEveryTime) {
   EXPECT_EQ(first, second);
 }
 
-struct Required {
-  const char* flow;
-  const char* message;  // %s stands for the folder
-};
-
 TEST(FlowFile, UsesFilesBesideItAndNoOthers) {
   const TempFolder folder;
   folder.write("secret.lua", "return 1");
@@ -171,7 +122,8 @@ TEST(FlowFile, UsesFilesBesideItAndNoOthers) {
   folder.write("flows/lib/strict.lua", "return function(n)\n  return n + 1\nend");
   folder.write("flows/a.lua", "return require('b')");
   folder.write("flows/b.lua", "return require('a')");
-  const Required cases[] = {
+  const std::pair<const char*, const char*> cases[] = {
+      // %s stands for the folder
       {"local a, b = require('twice'), require('twice')\n"
        "if a ~= b or count ~= 1 or a.double(4) ~= 8 then error('!') end",
        ""},
@@ -193,13 +145,8 @@ TEST(FlowFile, UsesFilesBesideItAndNoOthers) {
     std::string message = expected;
     for (std::size_t at; (at = message.find("%s")) != std::string::npos;)
       message.replace(at, 2, folder / "flows");
-    std::string got;
-    try {
-      LuaRunner().run(std::filesystem::path(folder.write("flows/flow.lua", flow)));
-    } catch (const FlowError& error) {
-      got = error.what();
-    }
-    EXPECT_EQ(got, message) << flow;
+    const std::filesystem::path file = folder.write("flows/flow.lua", flow);
+    EXPECT_EQ(refusal<FlowError>([&] { LuaRunner().run(file); }), message) << flow;
   }
 }
 
@@ -209,14 +156,9 @@ TEST_F(Flow, FromMemoryHasNoFilesBesideIt) {
 }
 
 TEST(FlowFile, ThatCannotBeReadIsNamed) {
-  LuaRunner runner;
-  for (const char* file : {"no/such/flow.lua", "/"}) {
-    try {
-      runner.run(std::filesystem::path(file));
-      FAIL() << file;
-    } catch (const FlowError& error) {
-      EXPECT_TRUE(std::string(error.what()).starts_with(std::string(file) + ": cannot be read: "));
-    }
+  for (const std::filesystem::path file : {"no/such/flow.lua", "/"}) {
+    const std::string said = refusal<FlowError>([&] { LuaRunner().run(file); });
+    EXPECT_TRUE(said.starts_with(file.string() + ": cannot be read: ")) << said;
   }
 }
 

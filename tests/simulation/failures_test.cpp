@@ -3,62 +3,56 @@
 
 #include <algorithm>
 
-#include "host/simulation/aircraft_model.h"
+#include "tests/simulation/aircraft_rig.h"
 #include "tests/simulation/flown.h"
 
 namespace host {
 namespace {
 
 TEST(Failures, EachTakesItsSystemAlong) {
-  struct Row {
-    const char *name, *token;
-    double at_most;
-  };
-  const Row rows[] = {
+  const std::tuple<const char*, const char*, double> rows[] = {
       {"engine_1", "engine_1_core_speed", 25}, {"engine_2", "engine_2_core_speed", 25},
       {"generator_1", "generator_1_load", 0},  {"generator_2", "generator_2_load", 0},
       {"electrical", "ac_bus_1_voltmeter", 0}, {"electrical", "dc_voltmeter", 0},
       {"receiver_1", "nav1_signal", 0},        {"receiver_2", "nav2_signal", 0},
       {"avionics", "nav1_signal", 0},          {"distance", "nav1_distance", -1},
   };
-  for (const Row& row : rows) {
+  for (const auto& [name, token, at_most] : rows) {
     AircraftModel aircraft(StartCondition::ready);
     aircraft.advance(0.2);
-    const double before = aircraft.token(find_row(AircraftModel::tokens(), row.token)->number);
-    EXPECT_GT(before, row.at_most) << row.token;
-    const auto failure = std::ranges::find(AircraftModel::failures(), row.name, &FailureRow::name);
+    const double before = reading(aircraft, token);
+    EXPECT_GT(before, at_most) << token;
+    const auto failure =
+        std::ranges::find(AircraftModel::failures(), std::string_view(name), &FailureRow::name);
     EXPECT_TRUE(aircraft.set_failed(failure->key, true));
     EXPECT_TRUE(aircraft.failed(failure->key));
     aircraft.advance(60.0);
-    EXPECT_LE(aircraft.token(find_row(AircraftModel::tokens(), row.token)->number), row.at_most)
-        << row.name << ' ' << row.token;
+    EXPECT_LE(reading(aircraft, token), at_most) << name << ' ' << token;
   }
   EXPECT_FALSE(AircraftModel().set_failed(99, true)) << "no system has this key";
 }
 
 TEST(Failures, BlockedPortsKeepTheLastReading) {
-  simulation::Aircraft aircraft;
-  ASSERT_TRUE(aircraft.place_in_flight({.altitude_ft = 9000, .airspeed_kt = 240}));
+  simulation::Aircraft aircraft = simulation::flying({.altitude_ft = 9000, .airspeed_kt = 240});
   const double altitude = aircraft.air.indicated_altitude_ft,
                speed = aircraft.air.indicated_airspeed_kt;
   aircraft.failures.set(6, true);
   aircraft.failures.set(7, true);
   aircraft.controls.throttle = {};
   aircraft.controls.elevator = -0.1;
-  for (int step = 0; step < 60 * 30; ++step) aircraft.step();
+  run(aircraft, 30);
   EXPECT_LT(aircraft.flight.altitude_ft, altitude - 500);
   EXPECT_EQ(aircraft.air.indicated_altitude_ft, altitude);
   EXPECT_EQ(aircraft.air.indicated_airspeed_kt, speed);
 }
 
 TEST(Failures, TheGearStaysWhereItIs) {
-  simulation::Aircraft aircraft;
-  ASSERT_TRUE(aircraft.place_in_flight({.altitude_ft = 3000, .airspeed_kt = 180}));
+  simulation::Aircraft aircraft = simulation::flying({.altitude_ft = 3000, .airspeed_kt = 180});
   aircraft.controls.gear_down = true;
-  for (int step = 0; step < 60 * 3; ++step) aircraft.step();
+  run(aircraft, 3);
   const double half_way = aircraft.airframe.surfaces.gear[0];
   aircraft.failures.set(108, true);
-  for (int step = 0; step < 60 * 20; ++step) aircraft.step();
+  run(aircraft, 20);
   EXPECT_EQ(aircraft.airframe.surfaces.gear[0], half_way);
   EXPECT_GT(half_way, 0.1);
   EXPECT_LT(half_way, 0.9);

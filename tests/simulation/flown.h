@@ -3,11 +3,29 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cmath>
+#include <initializer_list>
+#include <string_view>
 
 #include "host/simulation/aircraft.h"
+#include "host/simulation/aircraft_model.h"
+#include "host/simulation/table.h"
 
 namespace host::simulation {
+
+inline double token(const Aircraft& aircraft, std::uint32_t number) {
+  return find_token(number)->read(aircraft);
+}
+
+inline void send(Aircraft& aircraft, std::uint32_t event, std::uint32_t value = 0) {
+  find_event(event)->apply(aircraft, value);
+}
+inline void send(Aircraft& aircraft, std::string_view event, int times = 1) {
+  const TableRow* row = find_row(AircraftModel::events(), event);
+  ASSERT_NE(row, nullptr) << event;
+  for (int i = 0; i < times; ++i) send(aircraft, row->number);
+}
 
 inline Aircraft flying(const InFlight& where, int steps_per_second = usual_steps_per_second) {
   Aircraft aircraft(steps_per_second);
@@ -36,6 +54,19 @@ void run(Aircraft& aircraft, double seconds, Each each) {
 
 inline void run(Aircraft& aircraft, double seconds) {
   run(aircraft, seconds, [] {});
+}
+
+/// Runs the aircraft and returns the greatest that each of the signals has been.
+template <typename... Signals>
+std::array<double, sizeof...(Signals)> greatest(Aircraft& aircraft, double seconds,
+                                                Signals... signals) {
+  std::array<double, sizeof...(Signals)> found;
+  found.fill(-1e9);
+  run(aircraft, seconds, [&] {
+    std::size_t i = 0;
+    ((found[i] = std::fmax(found[i], signals()), ++i), ...);
+  });
+  return found;
 }
 
 inline double degrees(double radians) { return radians * 180.0 / M_PI; }

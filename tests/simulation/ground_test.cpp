@@ -1,5 +1,6 @@
 // On the wheels: standing, braking, steering, leaving and meeting the ground.
 
+#include "tests/simulation/aircraft_rig.h"
 #include "tests/simulation/flown.h"
 
 namespace host::simulation {
@@ -106,6 +107,18 @@ TakeOff take_off(Aircraft& aircraft, double rotation_kt) {
   return result;
 }
 
+// At a fast pace two frames' calls fall into one step of the aircraft.
+TEST(Ground, The_tug_hears_one_call_a_breath_at_any_pace) {
+  for (const int calls : {1, 2}) {
+    AircraftModel model;
+    for (int frame = 0; frame < 120 * 8; ++frame) {
+      for (int call = 0; call < calls; ++call) send(model, "pushback_call");
+      model.advance(1.0 / 120);
+    }
+    EXPECT_EQ(length(model.flight().velocity_mps) > 1.0, calls == 1) << calls;
+  }
+}
+
 TEST(Ground, Takes_off_in_the_length_that_its_weight_needs_straight_ahead) {
   Aircraft usual = on_the_runway();
   const TakeOff at_36_t = take_off(usual, 126.0);
@@ -141,42 +154,6 @@ TEST(Ground, Brakes_and_lift_dumpers_stop_it_on_the_runway) {
   EXPECT_LT(speed_mps(aircraft), 1e-3);
   EXPECT_GT(stop_m, fast_mps * fast_mps / (2.0 * 0.5 * 9.80665));
   EXPECT_LT(stop_m, 600.0);
-}
-
-TEST(Ground, The_flight_director_leads_down_the_beam_to_the_runway_past_three_markers) {
-  Aircraft aircraft = flying({.altitude_ft = 2500,
-                              .airspeed_kt = 135,
-                              .heading_deg = 90,
-                              .along_m = -19000,
-                              .right_m = -1500,
-                              .flap_detent = 5,
-                              .gear_down = true});
-  aircraft.autopilot.selections.heading_bug_deg = 90;
-  aircraft.autopilot.selections.altitude_ft = 2500;
-  std::vector<int> markers{0};
-  double throttle = aircraft.controls.throttle[0], gentlest_fpm = 0.0;
-  run(aircraft, 400.0, [&] {
-    const bool flare = aircraft.flight.height_ft < 50.0;
-    hold_attitude(aircraft, flare ? 5.0 : aircraft.autopilot.director.pitch_deg + 0.7,
-                  aircraft.autopilot.director.bank_deg);
-    const double faster_mps2 =
-        aircraft.flight.specific_force_mps2.x - 9.80665 * std::sin(aircraft.flight.attitude.pitch_rad);
-    throttle += 0.0004 * (135.0 - aircraft.air.indicated_airspeed_kt) - 0.002 * faster_mps2;
-    throttle = std::fmin(1.0, std::fmax(0.0, throttle));
-    aircraft.controls.throttle.fill(flare ? 0.0 : throttle);
-    if (aircraft.marker != markers.back()) markers.push_back(aircraft.marker);
-    if (aircraft.flight.on_ground) {
-      aircraft.controls.brake = {0.5, 0.5};
-      aircraft.controls.lift_dumpers_out = true;
-    } else {
-      gentlest_fpm = aircraft.flight.vertical_speed_fpm;
-    }
-  });
-  EXPECT_EQ(markers, (std::vector<int>{0, 1, 0, 2, 0, 3, 0}));
-  EXPECT_GT(gentlest_fpm, -500.0) << "at touch-down";
-  EXPECT_NEAR(runway_axes(aircraft.flight.position_m).right_m, 0.0, 5.0);
-  EXPECT_LT(std::abs(runway_axes(aircraft.flight.position_m).along_m), 1500.0) << "on the runway";
-  EXPECT_LT(speed_mps(aircraft), 0.01);
 }
 
 TEST(Ground, Without_its_gear_it_slides_to_a_stop_and_stays_whole) {

@@ -1,15 +1,9 @@
 // What the instruments' tokens read in flight, with the sign in which each pointer moves.
 
-#include "host/simulation/table.h"
 #include "tests/simulation/flown.h"
 
 namespace host::simulation {
 namespace {
-
-double token(const Aircraft& aircraft, std::uint32_t number) {
-  return find_token(number)->read(aircraft);
-}
-void event(Aircraft& aircraft, std::uint32_t number) { find_event(number)->apply(aircraft, 0); }
 
 TEST(Instruments, Read_a_climbing_right_turn) {
   Aircraft aircraft = flying({.altitude_ft = 5000, .airspeed_kt = 220, .heading_deg = 70});
@@ -105,21 +99,21 @@ TEST(Instruments, Knobs_turn_what_they_say) {
                         Case{0x10168, 0x10169, 116, 1}, Case{0x1007C, 0x1007B, 4, 1}}) {
     Aircraft aircraft;
     const double before = token(aircraft, c.token);
-    event(aircraft, c.up);
-    event(aircraft, c.up);
+    send(aircraft, c.up);
+    send(aircraft, c.up);
     EXPECT_NEAR(token(aircraft, c.token), before + 2 * c.step, 1e-9) << c.token;
-    event(aircraft, c.down);
+    send(aircraft, c.down);
     EXPECT_NEAR(token(aircraft, c.token), before + c.step, 1e-9) << c.token;
   }
   Aircraft aircraft;
-  for (int i = 0; i < 70; ++i) event(aircraft, 0x1007E);
+  for (int i = 0; i < 70; ++i) send(aircraft, 0x1007E);
   EXPECT_EQ(token(aircraft, 45), 0.0);
-  event(aircraft, 0x1007E);
+  send(aircraft, 0x1007E);
   EXPECT_EQ(token(aircraft, 45), 359.0) << "round by way of north";
-  event(aircraft, 0x1007B);
+  send(aircraft, 0x1007B);
   EXPECT_EQ(token(aircraft, 3), 9.0) << "a minute before ten";
   EXPECT_EQ(token(aircraft, 4), 59.0);
-  event(aircraft, 0x102F0);
+  send(aircraft, 0x102F0);
   EXPECT_EQ(token(aircraft, 792), 1.0);
 }
 

@@ -115,23 +115,5 @@ TEST(Markers, Are_heard_overhead_in_their_order_and_not_aside) {
   }
 }
 
-TEST(FlightDirector, Leads_to_the_heading_bug_and_the_selected_altitude) {
-  for (double sign : {-1.0, 1.0}) {
-    Aircraft aircraft = flying({.altitude_ft = 6000, .heading_deg = 250, .along_m = 20000});
-    aircraft.autopilot.selections.heading_bug_deg = 250.0 + 60.0 * sign;
-    aircraft.autopilot.selections.altitude_ft = 6000.0 + 800.0 * sign;
-    run(aircraft, 6.0);
-    EXPECT_NEAR(aircraft.autopilot.director.bank_deg, 25.0 * sign, 2.0);
-    EXPECT_GT(sign * (aircraft.autopilot.director.pitch_deg - pitch_deg(aircraft)), 1.0);
-    run(aircraft, 180.0, [&] {
-      hold_attitude(aircraft, aircraft.autopilot.director.pitch_deg + 0.3,
-                    aircraft.autopilot.director.bank_deg);
-    });
-    EXPECT_NEAR(magnetic_heading_deg(aircraft.flight), aircraft.autopilot.selections.heading_bug_deg,
-                2.0);
-    EXPECT_NEAR(aircraft.air.indicated_altitude_ft, aircraft.autopilot.selections.altitude_ft, 100.0);
-  }
-}
-
 }  // namespace
 }  // namespace host::simulation

@@ -1,30 +1,33 @@
 #include <cmath>
 #include <limits>
+#include <map>
 
 #include "tests/simulation/aircraft_rig.h"
 
 namespace host {
 namespace {
 
-TEST(Switches, Each_event_flips_its_own_token_and_no_other_switch) {
-  struct Pair {
-    std::uint32_t event, token;
-    double on;
-  };
-  constexpr Pair pairs[] = {
-      {0x100D6, 10, 1},  {0x10018, 11, 1},  {0x100D7, 14, 1},  {0x102BF, 368, 1},
-      {0x102C0, 369, 1}, {0x1034B, 619, 1}, {0x10348, 620, 1}, {0x10346, 364, 1},
-      {0x102F5, 740, 1}, {0x103BE, 895, 1}, {0x103BF, 896, 1}, {0x100D8, 323, 32767},
-  };
-  for (const Pair& pressed : pairs) {
+/// A key event "beacon_lights_toggle" is that of the token "beacon_lights".
+TEST(Switches, Each_event_flips_the_token_of_its_name_and_no_other_switch) {
+  std::vector<std::pair<std::uint32_t, std::uint32_t>> switches;
+  for (const TableRow& event : AircraftModel::events()) {
+    const std::string_view name = event.name;
+    if (!name.ends_with("_toggle") || name.starts_with("autopilot")) continue;
+    const TableRow* token = find_row(AircraftModel::tokens(), name.substr(0, name.size() - 7));
+    if (token != nullptr) switches.emplace_back(event.number, token->number);
+  }
+  EXPECT_GE(switches.size(), 12u);
+  for (const auto& [event, token] : switches) {
     AircraftModel aircraft;
-    aircraft.key_event(pressed.event, 0);
-    for (const Pair& other : pairs) {
-      EXPECT_EQ(aircraft.token(other.token), other.event == pressed.event ? other.on : 0.0)
-          << std::hex << pressed.event << " and token " << std::dec << other.token;
+    for (int press = 0; press < 2; ++press) {
+      std::map<std::uint32_t, double> before;
+      for (const auto& [other_event, other] : switches) before[other] = aircraft.token(other);
+      aircraft.key_event(event, 0);
+      for (const auto& [other_event, other] : switches) {
+        EXPECT_EQ(aircraft.token(other) != before[other], other == token)
+            << event << " and token " << other;
+      }
     }
-    aircraft.key_event(pressed.event, 0);
-    EXPECT_EQ(aircraft.token(pressed.token), 0.0) << "twice " << std::hex << pressed.event;
   }
 }
 

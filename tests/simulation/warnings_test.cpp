@@ -1,14 +1,9 @@
 // Ground proximity, stall warning, standby compass and recorder, against figures worked out here.
 
-#include "host/simulation/table.h"
 #include "tests/simulation/flown.h"
 
 namespace host::simulation {
 namespace {
-
-double token(const Aircraft& aircraft, std::uint32_t number) {
-  return find_token(number)->read(aircraft);
-}
 
 using enum ProximityMode;
 
@@ -90,7 +85,7 @@ TEST(GroundProximity, The_aircraft_is_warned_of_its_gear_and_lands_without_a_wor
   EXPECT_EQ(token(low, 990), 0.0);
   run(low, 2.0);
   EXPECT_EQ(token(low, 990), 1.0) << "400 ft high, gear up";
-  find_event(0x104A1)->apply(low, 0);
+  send(low, 0x104A1);
   EXPECT_EQ(token(low, 990), 0.0) << "begins anew";
   low.electrics.avionics_on = false;
   run(low, 2.0);

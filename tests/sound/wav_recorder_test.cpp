@@ -3,6 +3,7 @@
 
 #include "host/sound/wav_facts.h"
 #include "tests/platform/rendered_sound.h"
+#include "tests/rig/refusal.h"
 #include "tests/rig/temp_folder.h"
 
 namespace {
@@ -33,10 +34,7 @@ TEST_F(Recording, HasEverySoundAtItsMoment) {
   recorder.finish();
   recorder.advance(1.0);  // heard, but not recorded any more
   const host::WavFacts facts = host::read_wav_facts(path());
-  EXPECT_EQ(facts.rate, 44100u);
-  EXPECT_EQ(facts.channels, 2u);
-  EXPECT_EQ(facts.bits, 16u);
-  EXPECT_EQ(facts.seconds, 0.75);
+  EXPECT_TRUE(facts.rate == 44100 && facts.channels == 2 && facts.bits == 16 && facts.seconds == 0.75);
   EXPECT_EQ(frame(22049), (Frame{}));
   EXPECT_EQ(frame(22050), (Frame{1000, 1000}));
   EXPECT_EQ(frame(22052), (Frame{500, 500}));
@@ -59,12 +57,8 @@ TEST_F(Recording, DoesNotDriftFromSimulatedTime) {
 
 TEST_F(Recording, NamesTheFileThatCannotBeWritten) {
   const std::string nowhere = (folder_.path() / "missing" / "run.wav").native();
-  try {
-    host::WavRecorder recorder(nowhere);
-    FAIL() << "no error";
-  } catch (const std::runtime_error& error) {
-    EXPECT_EQ(error.what(), "cannot write sound file '" + nowhere + "': No such file or directory");
-  }
+  EXPECT_EQ(refusal([&] { host::WavRecorder recorder(nowhere); }),
+            "cannot write sound file '" + nowhere + "': No such file or directory");
 }
 
 TEST_F(Recording, TellsOfAFullDisk) {

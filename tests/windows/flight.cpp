@@ -10,23 +10,14 @@
 #include <cstdlib>
 #include <string_view>
 
+#include "tests/rig/token_list.h"
 #include "tests/windows/library.h"
 
 namespace {
 
 using std::uint64_t;
 
-struct Token {
-  u32 number;
-  std::string_view unit;
-};
-constexpr Token tokens[] = {
-#define TOKEN(number, name, unit) {number, unit},
-#define EVENT(number, name)
-#include "module/tokens.inc"
-#undef TOKEN
-#undef EVENT
-};
+using rig::Listed;
 
 /// Mixes the bits of a number.
 constexpr uint64_t scattered(uint64_t x) {
@@ -87,7 +78,7 @@ f64 swing(uint64_t place, uint64_t period) {
   return static_cast<f64>(std::min(at, period - at) * 2) / static_cast<f64>(period);
 }
 
-f64 reading(const Token& token) {
+f64 reading(const Listed& token) {
   const uint64_t nature = scattered(token.number);
   const auto now = static_cast<uint64_t>(frame);
   if (token.number == clock_seconds) return 1000 + frame / static_cast<f64>(frames_a_second);
@@ -101,8 +92,8 @@ f64 reading(const Token& token) {
 }
 
 void look_up(TokenVariable* variable) {
-  const Token* token = std::ranges::find(tokens, variable->token, &Token::number);
-  variable->value = token == std::end(tokens) ? 0 : reading(*token);
+  const Listed* token = std::ranges::find(rig::all_tokens, variable->token, &Listed::number);
+  variable->value = token == std::end(rig::all_tokens) ? 0 : reading(*token);
 }
 
 void note(u32 kind, u32 number, u32 value = 0) {
