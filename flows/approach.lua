@@ -1,6 +1,6 @@
--- A category II approach: the radios tuned on their heads, along a radial and down the landing system by the
--- autopilot's panels, the approach panel's lamps followed one by one; a go-around from the decision height, a
--- second approach, and a landing by hand.
+-- A category II approach: the radios tuned on their heads, along a radial and down the landing system
+-- by the autopilot's panels, the approach panel's lamps followed one by one; a go-around from the
+-- decision height, a second approach, and a landing by hand.
 local pilot = require("lib.pilot")
 local autopilot = require("lib.autopilot")
 local knobs = require("lib.knobs")

@@ -1,6 +1,6 @@
--- Every list of the kneeboard, from before start to shut down. What an item points at is clicked once, and
--- the kneeboard has to tick it; what more it takes is said below. In the air the aircraft is put where the
--- lists for the air belong.
+-- Every list of the kneeboard, from before start to shut down. What an item points at is clicked once,
+-- and the kneeboard has to tick it; what more it takes is said below. In the air the aircraft is put
+-- where the lists for the air belong.
 
 -- Items that a click alone does not finish: more work, or the time that they take.
 local MORE = {

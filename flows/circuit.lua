@@ -1,5 +1,5 @@
--- A circuit by hand: take-off from runway 07, left around it at 3,500 feet, down the landing system on raw
--- needles, landing. The crew's calls are heard on the way.
+-- A circuit by hand: take-off from runway 07, left around it at 3,500 feet, down the landing system on
+-- raw needles, landing. The crew's calls are heard on the way.
 local pilot = require("lib.pilot")
 local landing = require("lib.landing")
 

@@ -1,7 +1,7 @@
--- A whole flight: from the cold cockpit on the stand, pushed back, around by runway 07 and the autopilot at
--- 9,000 feet, down the landing system to the category II panel's lamps, and back to the stand. Everything is
--- worked on the panels and everyone is heard: the cabin crew's announcements at their moments, the first
--- officer's calls.
+-- A whole flight: from the cold cockpit on the stand, pushed back, around by runway 07 and the
+-- autopilot at 9,000 feet, down the landing system to the category II panel's lamps, and back to the
+-- stand. Everything is worked on the panels and everyone is heard: the cabin crew's announcements at
+-- their moments, the first officer's calls.
 local overhead = require("lib.overhead")
 local taxi = require("lib.taxi")
 local ears = require("lib.ears")

@@ -74,7 +74,7 @@ typedef struct NonlinearityPoint {
 typedef f64 (*ValueRoutine)(Element* element);
 
 /* Called by the host for each click, repeat or drag step. `point` is relative to the area that was
- * hit; `mouse_flags` holds the bits of enum MouseFlag that fired. The result is not used. */
+ * hit; `mouse_flags` holds the MOUSE_ bits that fired. The result is not used. */
 typedef i32 (*MouseRoutine)(PanelPoint point, u32 mouse_flags);
 
 /* Called by the host with an id of enum ServiceId. `extra_data` is the module's handle for
@@ -341,8 +341,8 @@ typedef struct PanelResourceEntry {
 
 /* ---- Layout -------------------------------------------------------------------------------- */
 
-/* Each record's size and each field's offset, first where pointers have eight bytes, then where they have
- * four. A double lies at a multiple of eight on both. */
+/* Each record's size and each field's offset, first where pointers have eight bytes, then where they
+ * have four. A double lies at a multiple of eight on both. */
 #if UINTPTR_MAX == 0xFFFFFFFFFFFFFFFFu
 #define PANEL_BYTES(wide, narrow) (wide)
 #else
@@ -423,7 +423,7 @@ PANEL_OFFSET(LinkageRecord, init, 8, 8);
 PANEL_OFFSET(LinkageRecord, flags, 24, 16);
 PANEL_OFFSET(LinkageRecord, version, 32, 24);
 PANEL_OFFSET(LinkageRecord, gauges, 40, 32);
-PANEL_SIZE(LinkageRecord, 40 + 121 * 8, 32 + 121 * 4);
+PANEL_SIZE(LinkageRecord, 40 + (LINKAGE_GAUGE_COUNT + 1) * 8, 32 + (LINKAGE_GAUGE_COUNT + 1) * 4);
 
 #undef PANEL_BYTES
 #undef PANEL_OFFSET

@@ -29,7 +29,7 @@ struct Aircraft {
   u32 dc_meter_selector = 0;       ///< 0..7
   u32 ac_meter_selector = 0;       ///< 0..7: 1 APU, 2-4 generator 1, 5-6 generator 2, 7 external
   u32 emergency_light_switch = 0;  ///< 0..3
-  u32 panel_lights_on = 0;         ///< mirrors the host's panel lights while the captain's switch shows
+  u32 panel_lights_on = 0;  ///< mirrors the host's panel lights while the captain's panel is open
   u32 instrument_light_level = 0;  ///< 0 off, 1 dim, 2 bright
 
   // ---- Air systems, auxiliary power unit, ice protection, hydraulics
@@ -43,7 +43,7 @@ struct Aircraft {
   u32 bleed_valve_mid_right = 0;
   u32 bleed_valve_bottom_left = 0;
   u32 bleed_valve_bottom_right = 0;
-  u32 bleed_lineup_ok = 0;      ///< the valves stand for an engine start
+  u32 bleed_lineup_ok = 0;      ///< the valves are set for an engine start
   u32 duct_pressure_light = 0;  ///< 0 dark, 1 green, 2 amber
   u32 start_air_available = 0;
   u32 start_master_switch = 0;
@@ -98,7 +98,7 @@ struct Aircraft {
 
   // ---- Autopilot and flight director
   u32 ap_master_on = 0;        ///< mirrors the host's autopilot master
-  u32 ap_mode_selector = 0;    ///< 0..5 manual, turbulence, heading, localizer, slope, navigation
+  u32 ap_mode_selector = 0;    ///< 0..5, named in autopilot_modes.h
   u32 ap_sel2_hold_on = 0;     ///< mirrors the host's heading hold
   u32 ap_sel3_arm_on = 0;      ///< the approach is armed
   u32 ap_mode_button_on = 0;   ///< mirrors the host's altitude hold

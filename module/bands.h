@@ -15,8 +15,8 @@ struct Band {
   Value value;
 };
 
-/// The band that `at` lies in. Exactly on an edge, beyond the last band and for what is no number there
-/// is none, and what the schedule gave before stays: an edge never flickers.
+/// The band that `at` lies in. There is none exactly on an edge, beyond the last band and for what is
+/// not a number: what the schedule gave before then stays, so that nothing flickers on an edge.
 template <typename Value>
 constexpr const Band<Value>* band_at(std::span<const Band<Value>> schedule, f64 at) {
   for (const Band<Value>& band : schedule) {

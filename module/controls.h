@@ -1,12 +1,14 @@
 /// The controls that stand on many panels, each as the value routine that shows it and the mouse
 /// routine that works it. A routine is made for one variable: `shows<&Aircraft::wing_antiice_left>`.
 ///
-/// Switches, levers and guards click like a toggle switch; buttons, knobs and selectors like a button.
+/// Switches and levers click like a toggle switch; buttons, knobs and selectors like a button.
 /// What a control does is a plain function (`toggle`), which a gauge may call in a routine of its own;
 /// the row names its mouse routine (`toggles`).
 #pragma once
 
-#include "module/holds.h"
+#include "module/host.h"
+#include "module/numbers.h"
+#include "module/variables.h"
 
 namespace tarnvale {
 
@@ -58,12 +60,14 @@ void send_and_click() {
   request(click);
 }
 
-/// The same with one event that carries a value.
-template <SoundRequest click, u32 event, u32 value>
-void send_value() {
-  send(event, value);
-  request(click);
+/// A half of a knob that the host turns: one step for each press.
+template <u32 event>
+void turn_by_one() {
+  send(event, 1);
+  request(click_sound_request);
 }
+template <u32 event>
+inline constexpr MouseRoutine turns_by_one = does<turn_by_one<event>>;
 
 /// Sends an event without a sound.
 template <u32 event>
@@ -168,59 +172,5 @@ void turn(u32 mouse_flags) {
 }
 template <auto value, i32 fine, i32 coarse, u32 low, u32 high>
 inline constexpr MouseRoutine turns = does<turn<value, fine, coarse, low, high>>;
-
-// ---- Guarded switches
-
-/// A switch under a guard: it moves off its rest only while the guard is open, and a closed guard
-/// holds it at rest.
-struct Guarded {
-  u32 open = 0;      ///< 1: the guard stands open
-  u32 position = 0;  ///< 0 off, 1..last
-};
-
-/// A guarded switch that other gauges read, so that its position is part of the shared state.
-struct GuardedShared {
-  u32 open = 0;
-  u32& position;
-};
-
-template <auto control>
-f64 guard_image(Element*) {
-  return control->open;
-}
-
-/// The switch under its guard, which forces it to rest whenever it is closed.
-template <auto control>
-f64 guarded_image(Element*) {
-  if (control->open == 0) control->position = 0;
-  return control->position;
-}
-
-template <auto control>
-void move_guard() {
-  flip(control->open);
-  request(toggle_click_sound_request);
-}
-template <auto control>
-inline constexpr MouseRoutine moves_guard = does<move_guard<control>>;
-
-/// One step on while the guard is open, from the last position and under a closed guard to rest.
-template <auto control, u32 last = 1>
-void work_guarded() {
-  control->position = control->open != 0 && control->position < last ? control->position + 1 : 0;
-  request(toggle_click_sound_request);
-}
-template <auto control, u32 last = 1>
-inline constexpr MouseRoutine works_guarded = does<work_guarded<control, last>>;
-
-// ---- Press-to-test
-
-/// Tests what `clock` and `flag` hold for; a test button is silent.
-template <auto clock, auto flag>
-void test() {
-  start_hold(*clock, variable<flag>());
-}
-template <auto clock, auto flag>
-inline constexpr MouseRoutine tests = does<test<clock, flag>>;
 
 }  // namespace tarnvale

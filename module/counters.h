@@ -1,6 +1,6 @@
 /// The pressures, temperatures and speeds that the systems panels make up themselves: counters in the
 /// units of the needle's scale, moved by whole steps once a frame and held between limits. They are
-/// unsigned; holding a counter before it steps keeps it clear of 0.
+/// unsigned: a counter is held before it steps down, which keeps it clear of 0.
 #pragma once
 
 #include "interface/panel_interface.h"

@@ -1,4 +1,4 @@
-/// The figures of drums, out of the source of the drum's own element.
+/// The figures of drums, taken from the source of the drum's own element.
 #pragma once
 
 #include <cmath>
@@ -20,7 +20,7 @@ f64 digit(Element* drum) {
   return digit_at(drum_source(drum), place);
 }
 
-/// A drum that rolls on with what lies below `range`.
+/// A drum that rolls without steps: the part of the value below `range`.
 template <u32 range>
 f64 rolling(Element* drum) {
   return std::fmod(drum_source(drum), range);

@@ -34,7 +34,8 @@ constexpr const FailureEntry* table_of(Loss loss) {
   return loss == dark ? dark_table : loss == at_rest ? at_rest_table : nullptr;
 }
 
-/// What else makes a part fail that goes dark, or falls to rest, without power.
+/// What else makes a part fail: the table of one that goes dark without power, and of one that falls to
+/// rest.
 struct System {
   FailureEntry dark[4];
   FailureEntry at_rest[4];

@@ -1,8 +1,8 @@
 /// A gauge: its header, and a body of the elements and click areas that its unit lists.
 ///
 /// A unit declares a `constinit Body` (body.h) from its rows and areas, and below it the `constinit
-/// Gauge` that the catalogue names. Both are complete when the library is loaded; nothing of them runs before the
-/// host's first call.
+/// Gauge` that the catalogue names. Both are complete when the library is loaded; nothing of them runs
+/// before the host's first call.
 #pragma once
 
 #include <cstddef>
@@ -59,7 +59,8 @@ inline constexpr MouseArea no_areas[] = {detail::entry(MOUSE_GROUP), detail::ent
 /// hands it back.
 struct Gauge {
   GaugeHeader header;
-  // What every frame asks for lies together: a frame of the whole cockpit is mostly a walk through memory.
+  // What every frame asks for lies together: a frame of the whole cockpit is mostly a walk through
+  // memory.
   Element* lit = nullptr;  ///< first element of the lit copy, or null
   Services services;
   u32 light_token;                          ///< hides the lit copy while it reads 0

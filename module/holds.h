@@ -5,9 +5,7 @@
 /// the flag when the time is over. Holds that share a clock prolong each other.
 #pragma once
 
-#include "module/host.h"
-#include "module/numbers.h"
-#include "module/variables.h"
+#include "module/controls.h"
 
 namespace tarnvale {
 
@@ -60,5 +58,13 @@ template <auto clock, auto flag>
 f64 test_light(Element*) {
   return hold_goes_on(*clock, variable<flag>()) ? 0 : 1;
 }
+
+/// Starts the test that `clock` times and `flag` stands for. A test button is silent.
+template <auto clock, auto flag>
+void test() {
+  start_hold(*clock, variable<flag>());
+}
+template <auto clock, auto flag>
+inline constexpr MouseRoutine tests = does<test<clock, flag>>;
 
 }  // namespace tarnvale

@@ -1,5 +1,5 @@
-/// Text read-outs: writing a word or a figure into the buffer of a string element. What does not fit is cut
-/// off, so that a value beyond its figures cannot do harm.
+/// Text read-outs: writing a word or a figure into the buffer of a string element. What does not fit is
+/// cut off, so that a value beyond its figures cannot do harm.
 #pragma once
 
 #include <algorithm>
@@ -19,7 +19,7 @@ void write(char (&readout)[bytes], std::string_view word) {
   std::memset(readout + length, 0, bytes - length);
 }
 
-/// Writes a value with zeros in front up to that many characters, a minus sign among them.
+/// Writes a value, with zeros in front to make it at least that many characters, counting a minus sign.
 template <std::size_t bytes>
 void write_figures(char (&readout)[bytes], i32 value, std::size_t least) {
   constexpr std::size_t most = 11;  // -2147483648

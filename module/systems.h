@@ -1,4 +1,4 @@
-/// What several panels know about the aircraft's systems.
+/// Facts of the aircraft's systems that several panels go by.
 #pragma once
 
 #include "module/host.h"
@@ -9,6 +9,9 @@ namespace tarnvale {
 /// Above this core speed, in percent, an engine runs by itself and gives bleed air.
 inline constexpr f64 running_percent = 25.0;
 
+/// Below this the fuel on board, in gallons, is low.
+inline constexpr f64 low_fuel_gallons = 250.0;
+
 /// Below this core speed, in percent, an engine does not turn its generator.
 inline constexpr f64 generator_turning_percent = 10.0;
 
@@ -17,12 +20,12 @@ inline bool no_engine_runs() {
          read(token::engine_2_core_speed) < running_percent;
 }
 
-/// The ground unit goes before the APU's generator, which feeds the buses when it is up alone.
+/// The APU's generator feeds the buses when its switch is up, unless the ground unit does.
 inline bool apu_feeds_buses() {
   return aircraft.apu_gen_switch == up && aircraft.ext_power_switch == 0;
 }
 
-/// The lamps that say so.
+/// The image of the lamps that show it.
 inline f64 apu_on_bus(Element*) { return apu_feeds_buses(); }
 
 }  // namespace tarnvale

@@ -1,4 +1,5 @@
-/// The host's token variables and key events that the gauges use, by role; their units stand in the list.
+/// The host's token variables and key events that the gauges use, by role; their units stand in the
+/// list.
 #pragma once
 
 #include "interface/panel_interface.h"

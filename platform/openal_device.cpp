@@ -16,8 +16,8 @@ Routine alc_routine(const char* name) {
   return reinterpret_cast<Routine>(alcGetProcAddress(nullptr, name));
 }
 
-/// OpenAL tries one sound system after the other, and each says on standard error why it is not there. Who has
-/// no sound is told once, by the host.
+/// OpenAL tries one sound system after the other, and each says on standard error why it is not there.
+/// That there is no sound the host says, once.
 class QuietErrors {
  public:
   QuietErrors() : kept_(fcntl(STDERR_FILENO, F_DUPFD_CLOEXEC, 3)) {

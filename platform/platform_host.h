@@ -1,4 +1,4 @@
-/// What a host asks of the platform layer: windows it owns, messages it wants, sound it takes.
+/// What a host asks of the platform layer: to know its windows, and to hand it messages and sound.
 /// The module never includes this; it knows only the operating system's own calls.
 #pragma once
 
@@ -25,14 +25,15 @@ enum PlatformAudio {
 };
 void platform_choose_audio(enum PlatformAudio audio);
 
-/// Chooses and takes the sound there at once: what plays falls silent, and every sound buffer is lost until
-/// it is restored, as when a device goes away.
+/// Chooses and takes the sound there at once: what plays falls silent, and every sound buffer is lost
+/// until it is restored, as when a device goes away.
 void platform_move_audio(enum PlatformAudio audio);
 
 /// Whether the chosen audio can be had now: 0 where no device answers.
 int platform_has_audio(void);
 
-/// How loud the device plays, 0 to 1 of what the module asks for; 1 at first. A rendered mix is always whole.
+/// How loud the device plays, 0 to 1 of what the module asks for; 1 at first. It does not scale a
+/// rendered mix.
 void platform_set_volume(float volume);
 
 /// The format of the rendered mix.
@@ -43,8 +44,8 @@ void platform_set_volume(float volume);
 /// plays. Only with PLATFORM_AUDIO_RENDERED.
 void platform_render_audio(int16_t* samples, size_t frames);
 
-/// A stream of the host's own sound beside the module's, on the same device. Opening it returns 0 where there is no
-/// device; a stream whose device goes away is no longer open, and can be opened again.
+/// A stream of the host's own sound beside the module's, on the same device. Opening it returns 0 where
+/// there is no device; a stream whose device goes away is no longer open, and can be opened again.
 int platform_open_stream(void);
 int platform_stream_is_open(void);
 void platform_close_stream(void);
@@ -53,7 +54,7 @@ size_t platform_stream_waiting(void);
 /// Appends stereo frames, signed 16 bit interleaved, to what is waiting.
 void platform_feed_stream(const int16_t* samples, size_t frames);
 
-/// Told the samples of each sound that starts, as the module wrote them. A null routine ends it.
+/// Gets the samples of each sound that starts, as the module wrote them. A null routine ends that.
 typedef void (*PlatformSoundRoutine)(const void* samples, size_t bytes, void* context);
 void platform_on_sound(PlatformSoundRoutine routine, void* context);
 

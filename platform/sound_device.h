@@ -18,7 +18,7 @@ class SoundDevice {
 
   /// Takes effect when the device is next opened by its first user.
   void choose(PlatformAudio audio);
-  /// Takes effect at once: the device is given up, and opened again by who restores what was on it.
+  /// Takes effect at once: the device is given up, and opened again when something on it is restored.
   void move_to(PlatformAudio audio);
 
   /// Counts one more user and opens the device for the first. False, and not counted: no device.

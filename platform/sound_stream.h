@@ -11,8 +11,8 @@
 
 namespace platform {
 
-/// Uses the device while it is open. It lives no longer than the device it was opened on: then `alive` is false
-/// and `open` makes it anew.
+/// Uses the device while it is open. It lives no longer than the device it was opened on: then `alive`
+/// is false and `open` makes it anew.
 class SoundStream {
  public:
   ~SoundStream() { close(); }

@@ -9,7 +9,8 @@
 
 namespace platform {
 
-/// Has a source's samples reach left and right as they are, whatever the speakers, at the best conversion of rates.
+/// Lets a source's samples reach left and right as they are, whatever the speakers, with the best
+/// conversion of rates.
 void play_unchanged(ALuint source);
 
 /// Lives no longer than the device it was made on: then `alive` is false, the other calls do nothing,

@@ -1,5 +1,5 @@
-/// A row of artwork: all bitmaps of one part, or of a plate, as data. A unit of `panels/` lists the rows
-/// of one gauge.
+/// A row of artwork: all bitmaps of one part, or of a plate, as data. A unit of `panels/` lists the
+/// rows of one gauge.
 #pragma once
 
 #include "module/elements.h"

@@ -1,7 +1,7 @@
-/// Cabin announcements: an invisible gauge that times the six that the cabin crew makes by itself. Each has
-/// a counter of the frames for which its conditions held, and is made when that reaches its target: once a
-/// count, for the counter goes on beyond. One that stays exactly there asks for its announcement every
-/// frame, and it is heard again as soon as it has ended.
+/// Cabin announcements: an invisible gauge that times the six that the cabin crew makes by itself. Each
+/// has a counter of the frames for which its conditions held, and is made when that reaches its target:
+/// once, as the counter goes on beyond it. A counter that stops exactly there asks for its announcement
+/// in every frame, and the announcement is heard again as soon as it has ended.
 #include "module/body.h"
 #include "module/catalogue.h"
 #include "module/controls.h"

@@ -53,8 +53,8 @@ IDirectSoundBuffer* further_buffer(IDirectSound* direct_sound, SoundObject& soun
   return doubled ? buffer : filled_buffer(direct_sound, sound);
 }
 
-/// The format as it stands in the file. Whoever reads it goes by the sizes it tells, so zeros follow
-/// where the file has less than that.
+/// The format as it stands in the file. Its reader goes by the size that the format itself states, so
+/// zeros follow where the file has less.
 std::vector<std::byte> whole_format(Bytes chunk) {
   if (chunk.empty()) return {};
   WAVEFORMATEX head{};

@@ -1,9 +1,10 @@
-/// Cabin signs and crew call (overhead): the two sign switches chime in the cabin, the call button rings
-/// for the crew and lights up for a moment.
+/// Cabin signs and crew call (overhead): the two sign switches chime in the cabin, the call button
+/// rings for the crew and lights up for a moment.
 #include "module/bitmaps.h"
 #include "module/body.h"
 #include "module/catalogue.h"
 #include "module/controls.h"
+#include "module/holds.h"
 
 namespace tarnvale {
 namespace {

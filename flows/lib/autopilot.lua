@@ -1,4 +1,5 @@
--- The autopilot, worked on its panels by clicks: those of the captain's window (500), which must be open.
+-- The autopilot, worked on its panels by clicks: those of the captain's window (500), which must be
+-- open.
 --
 --     local autopilot = require("lib.autopilot")
 --     autopilot.engage()
@@ -81,8 +82,8 @@ end
 
 local COLOURS = {[0] = "dark", "amber", "green"}
 
--- What the approach panel shows: whether the arm lamps are lit, and the others' colours: "dark", "amber"
--- (armed, or out of limits) or "green" (captured, or within limits).
+-- What the approach panel shows: whether the arm lamps are lit, and the others' colours: "dark",
+-- "amber" (armed, or out of limits) or "green" (captured, or within limits).
 function autopilot.approach_lamps()
   return {arm = lamp("arm") == 1, localizer = COLOURS[lamp("localizer")],
           slope = COLOURS[lamp("glide_slope")], speed = COLOURS[image("Cat2apsys", "speed_lamp")],

@@ -1,4 +1,5 @@
--- What the crew says, and when: announcements, calls and warnings, without the noises of switches and levers.
+-- What the crew says, and when: announcements, calls and warnings, without the noises of switches and
+-- levers.
 local ears = {}
 
 local NOISES = {click = true, kippclick = true, pbrake = true, sbrake = true, apu = true, ["?"] = true}

@@ -1,5 +1,5 @@
--- Knobs of two halves, turned on the panel until their read-outs show what is wanted: held while that is far,
--- then click by click.
+-- Knobs of two halves, turned on the panel until their read-outs show what is wanted: held while that
+-- is far, then click by click.
 --
 --     local knobs = require("lib.knobs")
 --     knobs.turn(knobs.heading, 250)
@@ -32,8 +32,8 @@ knobs.course = knob("Hsi", "course_knob", 1, figures("Hsi", "course_%s", UNITS),
 knobs.decision_height = knob("Radalt", "decision_height_knob", 10,
                              function() return value("Radalt", "decision_height_bug") end)
 
--- The rounds of a navigation receiver's head, whose knobs turn the frequency in waiting: whole megahertz, and
--- the hundredths.
+-- The rounds of a navigation receiver's head, whose knobs turn the frequency in waiting: whole
+-- megahertz, and the hundredths.
 local function rounds(head)
   local function drums(places) return figures(head, "standby_%s_of_megahertz", places) end
   local tens = drums({tens = 10})

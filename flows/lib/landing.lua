@@ -1,4 +1,5 @@
--- The last of an approach to runway 07, flown by the pilot of lib.pilot: from the calls of the height to a stop.
+-- The last of an approach to runway 07, flown by the pilot of lib.pilot: from the calls of the height
+-- to a stop.
 local pilot = require("lib.pilot")
 local landing = {}
 

@@ -1,6 +1,6 @@
--- The crew at the overhead and the fuel levers: from the battery to both engines running, and back to a dark
--- cockpit. Each step waits for what the panels show and fails where they do not. The overhead (window 502)
--- must be open.
+-- The crew at the overhead and the fuel levers: from the battery to both engines running, and back to a
+-- dark cockpit. Each step waits for what the panels show and fails where they do not. The overhead
+-- (window 502) must be open.
 local overhead = {}
 
 -- The six controls that open the way from the APU to the starters, and the two beside them.

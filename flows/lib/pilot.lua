@@ -1,5 +1,5 @@
--- A pilot: flies the aircraft by hand and sees nothing but the captain's panel, whose window (500) must be
--- open, with the beacon on the right needle of the radio magnetic indicator. Units are those of the
+-- A pilot: flies the aircraft by hand and sees nothing but the captain's panel, whose window (500) must
+-- be open, with the beacon on the right needle of the radio magnetic indicator. Units are those of the
 -- instruments: knots, feet, feet a minute, degrees, miles; right and up are positive.
 --
 --     local pilot = require("lib.pilot")

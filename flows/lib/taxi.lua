@@ -1,6 +1,7 @@
--- Taxiing by tiller, throttles and brakes. In place of eyes on the yellow line there is the landing system's
--- station beyond the runway's end, which the captain's panel (window 500) shows: its bearing on the left
--- needle of the radio magnetic indicator, its distance on the horizontal situation indicator.
+-- Taxiing by tiller, throttles and brakes. In place of eyes on the yellow line there is the landing
+-- system's station beyond the runway's end, which the captain's panel (window 500) shows: its bearing
+-- on the left needle of the radio magnetic indicator, its distance on the horizontal situation
+-- indicator.
 --
 --     taxi.along({{0, 300}, {0, 180}, {-1470, 180}})
 --

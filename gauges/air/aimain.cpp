@@ -2,6 +2,8 @@
 /// knobs, two guarded switches and six lights that shine only when tested.
 #include "module/catalogue.h"
 #include "module/controls.h"
+#include "module/guards.h"
+#include "module/holds.h"
 
 namespace tarnvale {
 namespace {

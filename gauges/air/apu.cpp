@@ -3,6 +3,7 @@
 /// right.
 #include "module/catalogue.h"
 #include "module/controls.h"
+#include "module/holds.h"
 
 namespace tarnvale {
 namespace {

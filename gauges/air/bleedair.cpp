@@ -2,6 +2,7 @@
 /// engines to the starters, the duct-pressure light, and four lights that shine only when tested.
 #include "module/catalogue.h"
 #include "module/controls.h"
+#include "module/holds.h"
 
 namespace tarnvale {
 namespace {
@@ -10,9 +11,9 @@ constinit HoldClock test_clock;
 constinit u32 testing_valve_1, testing_valve_2, testing_isolation_1, testing_isolation_2;
 
 /// Whether the valves stand for an engine start. The APU's own two, the lower left switch and the
-/// middle right knob, break the line-up as soon as one closes; the others are needed to make it, and
-/// an already filled duct bears one of them closed. The lower right switch and the bottom right knob
-/// feed the other side's air-conditioning pack, which takes no part in a start: they stand as they like.
+/// middle right knob, break the line-up as soon as one closes; the others are needed to make it, and an
+/// already filled duct bears one of them closed. The lower right switch and the bottom right knob feed
+/// the other side's air-conditioning pack, which takes no part in a start: they stand as they like.
 void watch_lineup() {
   const Aircraft& a = aircraft;
   if (a.bleed_switch_lower_left != 1 || a.bleed_valve_mid_right != 1) {

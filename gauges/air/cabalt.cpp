@@ -1,5 +1,5 @@
 /// Cabin-altitude controller (overhead): the crew sets the cabin altitude for the flight, and the
-/// controller says how high the aircraft may go with it. Higher than that the label gives way to PRESS
+/// controller says how high the aircraft may go with it. Any higher, and the label gives way to PRESS
 /// with its sound.
 #include <algorithm>
 
@@ -118,7 +118,7 @@ f64 show_selected(Element*) {
   return selected;
 }
 
-/// A left click turns by 100 ft, a right one by 1000 ft short of the ends of the dial.
+/// A left click turns by 100 ft, a right one by 1000 ft unless that would reach the end of the dial.
 constexpr MouseRoutine lower = turns<&selected, -100, -1000, 0, highest_selection>;
 
 /// The knob can be turned past its end before the needle is next looked at. One turn more there and it
@@ -134,7 +134,7 @@ void raise(u32 buttons) {
   request(click_sound_request);
 }
 
-constexpr Type amber{"Arial", 0x0476E8};
+constexpr Type amber{"Arial", text_colour::amber};
 constexpr Type white{"Arial", 0xFFFFFF};
 constexpr PanelSize display{34, 14};
 

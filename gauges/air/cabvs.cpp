@@ -1,5 +1,5 @@
-/// Cabin rate of climb (overhead): the pressurisation lets the cabin climb and descend less than half as
-/// fast as the aircraft, a third of what the host measures.
+/// Cabin rate of climb (overhead): the pressurisation lets the cabin climb and descend less than half
+/// as fast as the aircraft, a third of what the host measures.
 #include "module/catalogue.h"
 #include "module/numbers.h"
 

@@ -2,6 +2,7 @@
 /// turns one of the starters, and the light that says that the panel is ready for a start.
 #include "module/catalogue.h"
 #include "module/controls.h"
+#include "module/holds.h"
 #include "module/systems.h"
 
 namespace tarnvale {

@@ -1,5 +1,5 @@
-/// Hydraulic panel (overhead): two rows of four pump switches, each with its light above it. The warning
-/// lights watch each row for a pump left off.
+/// Hydraulic panel (overhead): two rows of four pump switches, each with its light above it. The
+/// warning lights watch each row for a pump left off.
 #include "module/catalogue.h"
 #include "module/controls.h"
 

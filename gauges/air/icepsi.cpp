@@ -8,7 +8,8 @@ namespace {
 
 constexpr u32 full_scale = 1000;
 
-/// One engine's supply: its knob, and the position of the panel's lever that takes its regulator away.
+/// One engine's supply: its knob, and the position of the panel's lever that takes its regulator out of
+/// the line.
 struct Supply {
   u32& knob;
   Lever lever;

@@ -2,6 +2,7 @@
 /// while the control is on.
 #include "module/catalogue.h"
 #include "module/controls.h"
+#include "module/holds.h"
 
 namespace tarnvale {
 namespace {

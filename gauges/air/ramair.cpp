@@ -2,6 +2,8 @@
 /// is connected to nothing else, and a test light.
 #include "module/catalogue.h"
 #include "module/controls.h"
+#include "module/guards.h"
+#include "module/holds.h"
 
 namespace tarnvale {
 namespace {

@@ -2,6 +2,7 @@
 /// the aircraft follows them.
 #include "module/catalogue.h"
 #include "module/controls.h"
+#include "module/guards.h"
 
 namespace tarnvale {
 namespace {

@@ -3,6 +3,8 @@
 /// override, with which the ducts heat up past their selectors.
 #include "module/catalogue.h"
 #include "module/controls.h"
+#include "module/guards.h"
+#include "module/holds.h"
 
 namespace tarnvale {
 namespace {

@@ -2,6 +2,7 @@
 /// lights that shine only when tested.
 #include "module/catalogue.h"
 #include "module/controls.h"
+#include "module/holds.h"
 
 namespace tarnvale {
 namespace {

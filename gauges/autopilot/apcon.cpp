@@ -2,6 +2,7 @@
 /// cabin door.
 #include "module/catalogue.h"
 #include "module/controls.h"
+#include "module/holds.h"
 
 namespace tarnvale {
 namespace {

@@ -12,11 +12,6 @@ constexpr f64 stop = 6200, strip_end = 6300;
 
 f64 vertical_speed(Element* wheel) { return limited(drum_source(wheel), -stop, stop); }
 
-constexpr u32 step = 1;
-
-template <u32 event>
-constexpr MouseRoutine turns_by_one = does<send_value<click_sound_request, event, step>>;
-
 constinit Body body{
     apcourse,
     rows(drum("Vertical speed wheel", 24110, {19, 17}, {strip_end, -strip_end}, vertical_speed)

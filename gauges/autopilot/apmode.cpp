@@ -1,13 +1,12 @@
 /// Autopilot mode panel (glareshield): selected speed, mode selector, altitude hold.
 #include "gauges/autopilot/selected_figures.h"
+#include "module/autopilot_modes.h"
 #include "module/catalogue.h"
 #include "module/controls.h"
 #include "module/receivers.h"
 
 namespace tarnvale {
 namespace {
-
-enum Mode : u32 { manual, turbulence, heading, localizer, glide_slope, navigation };
 
 // ---- Selector
 
@@ -17,6 +16,7 @@ struct Entry {
   bool drops_heading_hold, drops_approach;
 };
 
+/// By the selector's position.
 constexpr Entry entries[] = {
     {event::navigation_hold_off, false, false},  // manual
     {0, true, true},                             // turbulence
@@ -39,12 +39,12 @@ void turn_to(u32 mode) {
 }
 
 void selector_down() {
-  if (aircraft.ap_mode_selector > manual) turn_to(aircraft.ap_mode_selector - 1);
+  if (aircraft.ap_mode_selector > autopilot_mode::manual) turn_to(aircraft.ap_mode_selector - 1);
   request(click_sound_request);
 }
 
 void selector_up() {
-  if (aircraft.ap_mode_selector < navigation) turn_to(aircraft.ap_mode_selector + 1);
+  if (aircraft.ap_mode_selector < autopilot_mode::navigation) turn_to(aircraft.ap_mode_selector + 1);
   request(click_sound_request);
 }
 
@@ -53,11 +53,12 @@ void selector_up() {
 f64 mode_and_capture(Element*) {
   const u32 mode = aircraft.ap_mode_selector;
   if (!receives(receives_glide_slope)) return mode;
-  const bool captured = full_glide_slope_signal() && mode == localizer && aircraft.ap_sel3_arm_on == 1;
+  const bool captured =
+      full_glide_slope_signal() && mode == autopilot_mode::localizer && aircraft.ap_sel3_arm_on == 1;
   send(captured ? event::approach_hold_on : event::approach_hold_off);
   if (!captured) return mode;
   aircraft.ap_sel2_hold_on = 0;
-  return glide_slope;
+  return autopilot_mode::glide_slope;
 }
 
 // ---- Altitude hold
@@ -67,8 +68,6 @@ void switch_altitude_hold() {
   send(aircraft.ap_mode_button_on == 1 ? event::altitude_hold_on : event::altitude_hold_off);
   request(toggle_click_sound_request);
 }
-
-constexpr u32 step = 1;
 
 constinit Body body{
     apmode,
@@ -81,11 +80,9 @@ constinit Body body{
         click("Mode selector down", {73, 17, 26, 42}, does<selector_down>),
         click("Mode selector up", {119, 17, 26, 42}, does<selector_up>),
         click("Altitude hold switch", {166, 6, 19, 43}, does<switch_altitude_hold>),
-        decrease("Selected speed knob down", {17, 52, 22, 32},
-                 does<send_value<click_sound_request, event::selected_speed_down, step>>,
+        decrease("Selected speed knob down", {17, 52, 22, 32}, turns_by_one<event::selected_speed_down>,
                  Press::left_held),
-        increase("Selected speed knob up", {42, 52, 22, 32},
-                 does<send_value<click_sound_request, event::selected_speed_up, step>>,
+        increase("Selected speed knob up", {42, 52, 22, 32}, turns_by_one<event::selected_speed_up>,
                  Press::left_held),
     },
 };

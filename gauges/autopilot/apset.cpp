@@ -1,11 +1,10 @@
 /// Autopilot engage panel (glareshield): five lit buttons, and lamps of the two trims.
+#include "module/autopilot_modes.h"
 #include "module/catalogue.h"
 #include "module/controls.h"
 
 namespace tarnvale {
 namespace {
-
-constexpr u32 heading_mode = 2, localizer_mode = 3;
 
 bool coupled(u32 mode) { return aircraft.ap_master_on == 1 && aircraft.ap_mode_selector == mode; }
 
@@ -32,13 +31,13 @@ void press_airspeed_hold() {
 }
 
 void press_approach() {
-  engage(aircraft.ap_sel3_arm_on, coupled(localizer_mode), event::approach_arm_on,
+  engage(aircraft.ap_sel3_arm_on, coupled(autopilot_mode::localizer), event::approach_arm_on,
          event::approach_arm_off);
   request(click_sound_request);
 }
 
 void press_heading_hold() {
-  engage(aircraft.ap_sel2_hold_on, coupled(heading_mode), event::heading_hold_on,
+  engage(aircraft.ap_sel2_hold_on, coupled(autopilot_mode::heading), event::heading_hold_on,
          event::heading_hold_off);
   request(click_sound_request);
 }
@@ -49,7 +48,7 @@ f64 airspeed_hold(Element*) {
 }
 
 f64 approach_armed(Element*) {
-  return aircraft.ap_mode_selector == localizer_mode ? aircraft.ap_sel3_arm_on : 0;
+  return aircraft.ap_mode_selector == autopilot_mode::localizer ? aircraft.ap_sel3_arm_on : 0;
 }
 
 constinit Body body{

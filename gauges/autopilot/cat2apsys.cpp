@@ -1,13 +1,14 @@
-/// Category II approach panel (glareshield): a column of lamps for each pilot with what is armed (amber)
-/// and captured (green), the watch over speed and altitude below, and buttons that test all of it.
+/// Category II approach panel (glareshield): a column of lamps for each pilot with what is armed
+/// (amber) and captured (green), the watch over speed and altitude below, and buttons that test all of
+/// it.
+#include "module/autopilot_modes.h"
 #include "module/catalogue.h"
 #include "module/controls.h"
+#include "module/holds.h"
 #include "module/receivers.h"
 
 namespace tarnvale {
 namespace {
-
-constexpr u32 localizer_mode = 3;
 
 constexpr f64 dark = 0, armed = 1, captured = 2;
 constexpr f64 out_of_limits = 1, within_limits = 2;
@@ -18,7 +19,7 @@ constinit HoldClock lamp_clock;  ///< of both lamp tests
 constinit u32 green_test = 0, amber_test = 0;
 constinit HoldClock speed_clock;
 
-/// Both lamp tests at once show amber, but in the arm and speed lamps.
+/// Both lamp tests at once show amber, except in the arm and speed lamps.
 template <f64 (*shown)()>
 f64 tested(Element*) {
   if (hold_goes_on(lamp_clock, amber_test)) return 1;
@@ -35,7 +36,9 @@ f64 beam(u32 received) {
   return full_glide_slope_signal() ? captured : armed;
 }
 
-bool slope_wanted() { return aircraft.ap_mode_selector >= localizer_mode && approach_armed(); }
+bool slope_wanted() {
+  return aircraft.ap_mode_selector >= autopilot_mode::localizer && approach_armed();
+}
 
 f64 arm(Element*) {
   if (hold_goes_on(lamp_clock, green_test)) return 1;
@@ -43,7 +46,7 @@ f64 arm(Element*) {
 }
 
 f64 localizer() {
-  const bool wanted = aircraft.ap_mode_selector == localizer_mode && approach_armed();
+  const bool wanted = aircraft.ap_mode_selector == autopilot_mode::localizer && approach_armed();
   return wanted ? beam(receives_localizer) : dark;
 }
 
@@ -58,7 +61,7 @@ f64 watched_speed() {
   return speed < selected - most_off || speed > selected + most_off ? out_of_limits : within_limits;
 }
 
-/// Its own test warns with the flaps up alone.
+/// Its own test warns only with the flaps up.
 f64 speed(Element*) {
   hold_goes_on(speed_clock, aircraft.cat2_speed_test_active);
   if (hold_goes_on(lamp_clock, green_test)) return within_limits;

@@ -1,4 +1,4 @@
-/// The drums of three figures that show what the autopilot is told to fly.
+/// Three figures on drums that show what the autopilot has been told to fly.
 #pragma once
 
 #include "module/bitmaps.h"

@@ -91,7 +91,8 @@ constexpr auto back = &TugPanel::back, left = &TugPanel::left, right = &TugPanel
 // ---- The panel
 
 constexpr PanelSize figures{48, 18};
-constexpr Type orange{"QUARTZ", 0x0476E8}, unlit{"QUARTZ", 0x020202}, white{"QUARTZ", 0xFFFFFF};
+constexpr Type amber{"QUARTZ", text_colour::amber}, unlit{"QUARTZ", 0x020202},
+    white{"QUARTZ", 0xFFFFFF};
 
 /// The programmes count under the distance that is set.
 constexpr PanelPoint distance_place{153, 148};
@@ -119,14 +120,14 @@ constinit Body body{
     pushback,
     {
         lighting_overlay(24210),
-        text("Right angle setting", {203, 115}, figures, orange, right_angle_text,
+        text("Right angle setting", {203, 115}, figures, amber, right_angle_text,
              shows_figure<&right_angle_text, right_angle>),
         lamp("Right programme light", 24180, {200, 62},
              turn_programme_light<right, right_turn_goes_on>),
         programme("Right programme progress", right_text, runs<&right_text, step_right, right>),
-        text("Left angle setting", {102, 115}, figures, orange, left_angle_text,
+        text("Left angle setting", {102, 115}, figures, amber, left_angle_text,
              shows_figure<&left_angle_text, left_angle>),
-        text("Heading setting", {39, 112}, figures, orange, heading_text,
+        text("Heading setting", {39, 112}, figures, amber, heading_text,
              shows_figure<&heading_text, &push_heading>),
         text("Tail heading", {39, 69}, figures, white, tail_text, tail)
             .from(token::heading, token::heading),
@@ -135,7 +136,7 @@ constinit Body body{
         programme("Left programme progress", left_text, runs<&left_text, step_left, left>),
         lamp("Back programme light", 24160, {151, 96}, back_light),
         programme("Back programme progress", back_text, runs<&back_text, step_back, back>),
-        text("Distance setting", distance_place, figures, orange, distance_text,
+        text("Distance setting", distance_place, figures, amber, distance_text,
              shows_figure<&distance_text, &push_distance>),
         lamp("Status light", {24130, 8}, {129, 29}, status),
         lamp("Manual light", 24150, {145, 72}, mode_light<manual, automatic>),

@@ -1,9 +1,9 @@
 /// The automatic programmes of the pushback panel: they measure how far the push has come, and call the
 /// tug to start, to stop and to push straight again after a turn.
 ///
-/// Progress counts frames at twice the rate of the simulation: about one a second. Up to 20 the tug gets
-/// ready, from there to the set distance it is called at every frame; beyond, it is called twice, which
-/// stops it.
+/// Progress counts frames at twice the rate of the simulation: about one a second. Up to 20 the tug
+/// gets ready, from there to the set distance it is called at every frame; beyond, it is called twice,
+/// which stops it.
 #pragma once
 
 #include "module/controls.h"

@@ -1,5 +1,5 @@
-/// Stabiliser indicator (main panel): bank, stabiliser and aileron trim, each with a button that switches
-/// its read-out off.
+/// Stabiliser indicator (main panel): bank, stabiliser and aileron trim, each with a button that
+/// switches its read-out off.
 #include "module/catalogue.h"
 #include "module/controls.h"
 

@@ -1,6 +1,7 @@
 /// Trim (pedestal): the pitch trim wheel, and the rudder trim's two buttons under its pointer.
 #include "module/catalogue.h"
 #include "module/controls.h"
+#include "module/holds.h"
 
 namespace tarnvale {
 namespace {
@@ -28,9 +29,6 @@ f64 lit_button(Element*) {
 
 f64 pointer(Element* slider) { return 10 * slider->slider.x_source.value; }
 
-template <u32 event>
-inline constexpr MouseRoutine turns_wheel = does<send_value<click_sound_request, event, 1>>;
-
 constinit Body body{
     trim,
     {
@@ -39,9 +37,9 @@ constinit Body body{
                {.x = {token::rudder_trim, pointer, 50}, .y = {}}),
     },
     {
-        increase("Pitch trim wheel up", {4, 8, 40, 28}, turns_wheel<event::pitch_trim_nose_down>,
+        increase("Pitch trim wheel up", {4, 8, 40, 28}, turns_by_one<event::pitch_trim_nose_down>,
                  Press::left_held),
-        decrease("Pitch trim wheel down", {4, 44, 40, 28}, turns_wheel<event::pitch_trim_nose_up>,
+        decrease("Pitch trim wheel down", {4, 44, 40, 28}, turns_by_one<event::pitch_trim_nose_up>,
                  Press::left_held),
         click("Rudder trim left", {101, 27, 34, 51},
               does<run_rudder_trim<&left, event::rudder_trim_left>>),

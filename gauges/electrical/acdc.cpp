@@ -1,6 +1,6 @@
 /// AC/DC meters (overhead): on the left amperes and volts of the selected DC source, on the right
-/// frequency and volts of the selected AC source. Without DC power every meter falls to 0. A meter whose source
-/// gives no reading keeps its last one.
+/// frequency and volts of the selected AC source. Without DC power every meter falls to 0. A meter
+/// whose source gives no reading keeps its last one.
 #include "module/catalogue.h"
 #include "module/controls.h"
 #include "module/numbers.h"
@@ -9,7 +9,7 @@
 namespace tarnvale {
 namespace {
 
-/// The selectors' positions that are no generator.
+/// Selector positions that are not an engine's generator.
 constexpr u32 position_off = 0;
 constexpr u32 position_apu = 1;       // AC
 constexpr u32 position_external = 7;  // AC

@@ -2,6 +2,8 @@
 /// the switch is thrown and can be pressed to test, two toggle switches and two push buttons.
 #include "module/catalogue.h"
 #include "module/controls.h"
+#include "module/guards.h"
+#include "module/holds.h"
 #include "module/systems.h"
 
 namespace tarnvale {

@@ -2,6 +2,7 @@
 /// generator, and the guarded bus tie switch.
 #include "module/catalogue.h"
 #include "module/controls.h"
+#include "module/guards.h"
 #include "module/systems.h"
 
 namespace tarnvale {

@@ -1,6 +1,7 @@
 /// Light-switch panel with the fire test (pedestal): landing, recognition and navigation lights.
 #include "module/catalogue.h"
 #include "module/controls.h"
+#include "module/holds.h"
 #include "module/numbers.h"
 
 namespace tarnvale {

@@ -1,5 +1,5 @@
-/// Captain's fire warning strip (glareshield): left engine, APU, right engine. Its first light keeps the
-/// time of the fire test for the whole cockpit.
+/// Captain's fire warning strip (glareshield): left engine, APU, right engine. Its first light keeps
+/// the time of the fire test for the whole cockpit.
 #include "gauges/engines/fire_test.h"
 #include "module/catalogue.h"
 #include "module/holds.h"

@@ -5,6 +5,7 @@
 #include "module/catalogue.h"
 #include "module/controls.h"
 #include "module/readout.h"
+#include "module/systems.h"
 
 namespace tarnvale {
 namespace {
@@ -95,12 +96,11 @@ void press_reset() {
 
 template <auto side>
 f64 low_fuel_dot(Element*) {
-  constexpr f64 low = 250;
-  return side->selector == flow && read(token::total_fuel) < low;
+  return side->selector == flow && read(token::total_fuel) < low_fuel_gallons;
 }
 
 constexpr PanelSize display{50, 20};
-constexpr Type amber{"QUARTZ", 0x0476E8};
+constexpr Type amber{"QUARTZ", text_colour::amber};
 
 constinit Body body{
     ffsys,

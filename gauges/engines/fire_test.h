@@ -1,7 +1,7 @@
 /// The fire warning test, which lights the handles and both pilots' warning strips together.
 #pragma once
 
-#include "module/aircraft.h"
+#include "module/variables.h"
 
 namespace tarnvale {
 
@@ -13,8 +13,7 @@ inline f64 engine_fire_light(Element*) { return fire_tested(); }
 /// The APU's fire light rings the bell whenever it is lit. The APU's generator switched down, where
 /// nothing governs it, counts as fire.
 inline f64 apu_fire_light(Element*) {
-  constexpr u32 switched_down = 2;
-  const bool lit = aircraft.apu_gen_switch == switched_down || fire_tested();
+  const bool lit = aircraft.apu_gen_switch == down || fire_tested();
   if (lit) request(fire_sound_request);
   return lit;
 }

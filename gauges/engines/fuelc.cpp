@@ -1,6 +1,7 @@
 /// Centre tank quantity (main panel), with a switch that tests the dial by driving it to mid-scale.
 #include "module/catalogue.h"
 #include "module/controls.h"
+#include "module/holds.h"
 #include "module/needles.h"
 
 namespace tarnvale {

@@ -1,6 +1,7 @@
 /// Fuel request switch (pedestal): a lever that springs back two seconds after it was pushed.
 #include "module/catalogue.h"
 #include "module/controls.h"
+#include "module/holds.h"
 
 namespace tarnvale {
 namespace {

@@ -4,6 +4,7 @@
 #include "gauges/instruments/horizon.h"
 #include "module/catalogue.h"
 #include "module/controls.h"
+#include "module/holds.h"
 #include "module/systems.h"
 
 namespace tarnvale {
@@ -62,7 +63,7 @@ f64 runway_rising(Element* symbol) {
   return height <= rising ? rising - height : 0;
 }
 
-/// Down is slow, by the speed that is missing.
+/// Points down when slow, by the speed that is missing.
 f64 speed_deviation(Element* pointer) {
   show_picture(*pointer, true);
   return limited(readings.selected_airspeed - readings.airspeed, -12, 12);

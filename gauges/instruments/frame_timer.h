@@ -9,7 +9,7 @@
 namespace tarnvale {
 
 struct FrameTimer {
-  u32 divisor;  ///< counts to one of what the timer counts up to
+  u32 divisor;  ///< frames, times the rate, to one unit of the limit
   u32 limit;
   const char* blank;  ///< what the window shows
   u32 running = 0;

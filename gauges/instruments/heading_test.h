@@ -1,4 +1,5 @@
-/// A setting of the panels that both heading instruments answer with a test picture.
+/// What the two heading instruments share: the card's heading, and the setting of the panels that both
+/// answer with a test picture.
 #pragma once
 
 #include "module/aircraft.h"
@@ -6,7 +7,8 @@
 
 namespace tarnvale {
 
-/// The navigation heads' push switch, the left bearing selector and the heading bug on south.
+/// Whether the VOR check buttons are in, the left bearing selector is on its VOR and the heading bug on
+/// south.
 inline bool heading_test() {
   return aircraft.rmi_left_selector == 0 && aircraft.nav_aux_switch == 1 &&
          read(token::heading_bug) == 180.0;

@@ -2,6 +2,7 @@
 /// deviation bar, glide slope, to and from, an annunciator, and read-outs of course and distances.
 #include "gauges/instruments/glide_slope.h"
 #include "gauges/instruments/heading_test.h"
+#include "module/autopilot_modes.h"
 #include "module/catalogue.h"
 #include "module/controls.h"
 #include "module/digits.h"
@@ -36,14 +37,14 @@ f64 to_from(Element*) {
 
 f64 test_flag(Element*) { return heading_test() ? 0 : -1; }
 
-bool approach_selected() {
-  constexpr u32 approach = 5;
-  return aircraft.apcourse_switch_on == 1 && aircraft.ap_mode_selector == approach;
+/// Area navigation drives this instrument, and the autopilot follows it.
+bool area_navigation_selected() {
+  return aircraft.apcourse_switch_on == 1 && aircraft.ap_mode_selector == autopilot_mode::navigation;
 }
 
 f64 approach_light(Element*) {
   constexpr f64 near = 10;
-  return read(token::hsi_distance) / metres_per_unit < near && approach_selected();
+  return read(token::hsi_distance) / metres_per_unit < near && area_navigation_selected();
 }
 
 f64 annunciator(Element*) {
@@ -51,7 +52,7 @@ f64 annunciator(Element*) {
   if (heading_test() || aircraft.nav_test_switch > 0) return navigation;
   if (aircraft.ap_master_on == 0) return off;
   if (aircraft.ap_sel2_hold_on == 1) return hold;
-  return approach_selected() ? navigation : heading_hold;
+  return area_navigation_selected() ? navigation : heading_hold;
 }
 
 /// The bar stands in the middle while the course comes from elsewhere.
@@ -115,10 +116,10 @@ constinit Body body{
                  .rotation = {token::course_bearing, course_on_card, -1}}),
          read_outs()),
     {
-        decrease("Course knob down", {128, 138, 20, 30},
-                 does<send_value<click_sound_request, event::course_down, 1>>, Press::left_held),
-        increase("Course knob up", {150, 138, 20, 30},
-                 does<send_value<click_sound_request, event::course_up, 1>>, Press::left_held),
+        decrease("Course knob down", {128, 138, 20, 30}, turns_by_one<event::course_down>,
+                 Press::left_held),
+        increase("Course knob up", {150, 138, 20, 30}, turns_by_one<event::course_up>,
+                 Press::left_held),
     },
 };
 

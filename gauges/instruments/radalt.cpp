@@ -3,6 +3,7 @@
 #include "module/catalogue.h"
 #include "module/controls.h"
 #include "module/decision_height.h"
+#include "module/holds.h"
 
 namespace tarnvale {
 namespace {

@@ -5,6 +5,7 @@
 #include "gauges/instruments/heading_test.h"
 #include "module/catalogue.h"
 #include "module/controls.h"
+#include "module/holds.h"
 
 namespace tarnvale {
 namespace {
@@ -37,7 +38,7 @@ void take_distances() {
   right_distance = shown_distance(right_selector, token::nav2_distance);
 }
 
-/// While its receiver is tested a read-out stands at zero. The drums keep the time of the test.
+/// While its receiver is tested a read-out stands at zero. The drums time the test.
 template <u32 place>
 f64 left_drum(Element*) {
   SharedHoldClock timer{aircraft.nav1_timer_deadline, aircraft.nav1_timer_now};

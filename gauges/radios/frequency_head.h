@@ -1,5 +1,5 @@
-/// The heads of the VHF radios: the frequency in use on the left, the one in waiting on the right, a knob
-/// for megahertz and one for kilohertz, and a button that exchanges both, with its light.
+/// The heads of the VHF radios: the frequency in use on the left, the one in waiting on the right, a
+/// knob for megahertz and one for kilohertz, and a button that exchanges both, with its light.
 ///
 /// The host keeps the frequencies: a head sends what its knobs mean and shows what the host says, 1 and
 /// four figures.
@@ -8,6 +8,7 @@
 #include "module/catalogue.h"
 #include "module/controls.h"
 #include "module/digits.h"
+#include "module/holds.h"
 
 namespace tarnvale {
 
@@ -79,12 +80,12 @@ constexpr Rows<5> figures(const DisplayWords& words, const DisplayBitmaps& bitma
   };
 }
 
-/// Without avionics it lies over the figures, which turn on behind it.
+/// Without avionics it lies over the figures, which go on turning behind it.
 constexpr Row display_cover(const char* words, PanelPoint leading) {
   return icon(words, 24240, beside(leading, -1, -2), lit_at<&Aircraft::avionics_master_on, 0>);
 }
 
-/// The glass of a display; it takes the host's power as its picture, and never shines by itself.
+/// The glass of a display: it shows whether the host has power, and never shines by itself.
 constexpr Row display_power(const char* words, i32 bitmap, PanelPoint leading) {
   return icon(words, bitmap, beside(leading, -1, -2))
       .from(token::battery)

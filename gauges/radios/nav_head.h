@@ -65,7 +65,7 @@ constexpr NavHead pedestal_nav_head(const Radio& radio) {
   };
 }
 
-/// Its button that zeroes the distance on the bearing indicator, which counts the time.
+/// The button that zeroes the distance on the bearing indicator, which times the test.
 template <auto clock, auto flag>
 constexpr Area distance_test_button() {
   return click("DME test button", {116, 53, 15, 15}, tests<clock, flag>);

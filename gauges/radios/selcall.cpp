@@ -1,5 +1,5 @@
-/// Call panel (pedestal): the cabin crew's announcements one by one, the crew's automatic calls, and the
-/// ground crew's power. Every button stays lit until it is pressed again.
+/// Call panel (pedestal): the cabin crew's announcements one by one, the crew's automatic calls, and
+/// the ground crew's power. Every button stays lit until it is pressed again.
 #include "module/catalogue.h"
 #include "module/controls.h"
 

@@ -4,13 +4,14 @@
 #include "module/catalogue.h"
 #include "module/controls.h"
 #include "module/decision_height.h"
+#include "module/holds.h"
 
 namespace tarnvale {
 namespace {
 
 constinit u32 test_switch;
 
-/// Of both tests: one that is started prolongs the other.
+/// Both tests share it: starting one prolongs the other.
 constinit HoldClock test_clock;
 
 /// The left button of the mouse switches a warning, which the host hears of by `events`; the right one

@@ -1,5 +1,5 @@
-/// Flight recorder panel (pedestal): five thumbwheels, a read-out of the time recorded or of the date, a
-/// push button, and two lights that follow a selector on the throttle pedestal.
+/// Flight recorder panel (pedestal): five thumbwheels, a read-out of the time recorded or of the date,
+/// a push button, and two lights that follow a selector on the throttle pedestal.
 #include <iterator>
 
 #include "module/catalogue.h"
@@ -37,7 +37,8 @@ void press_button() { flip(aircraft.flight_recorder_button_on); }
 
 f64 selected_light(Element*) { return aircraft.pedestal_selector_switch != 0; }
 
-/// One place more than the number has: figures of a size that leaves room between the date's fields.
+/// One place more than the number needs: the figures are then small enough to leave room between the
+/// fields of the date.
 using Text = char[7];
 constinit Text number_text = " ", month_text = " ", day_text = " ";
 
@@ -61,8 +62,8 @@ f64 write_day(Element* field) {
   return 0;
 }
 
-/// The host counts the months that have passed. Past December the field stands at January, even where it
-/// shows no date.
+/// The host counts the months that have passed. Past December the field stands at January, even where
+/// it shows no date.
 f64 write_month(Element* field) {
   constexpr f64 past_december = 13;
   const f64 month = source_of(field) + 1;
@@ -76,7 +77,7 @@ f64 write_month(Element* field) {
 }
 
 constexpr PanelSize field{50, 20};
-constexpr Type amber{"QUARTZ", 0x0476E8};
+constexpr Type amber{"QUARTZ", text_colour::amber};
 constexpr Bitmaps status_light{23490, 2}, wheel{3070, 10};
 
 constinit Body body{

@@ -1,5 +1,5 @@
-/// First officer's warning lights: a pair for each hydraulic system, lit by a pump left off, and between
-/// them one for the engines that also goes with system 1.
+/// First officer's warning lights: a pair for each hydraulic system, lit by a pump left off, and
+/// between them one for the engines that also goes with system 1.
 #include "module/catalogue.h"
 #include "module/systems.h"
 

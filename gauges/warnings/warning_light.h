@@ -1,5 +1,5 @@
-/// The light of a warning: a face that sounds the warning for as long as it lasts, a light for it, and one
-/// for its test, all at one place.
+/// The light of a warning: a face that sounds the warning for as long as it lasts, a light for it, and
+/// one for its test, all at one place.
 #pragma once
 
 #include "gauges/warnings/warning.h"

@@ -1,5 +1,5 @@
-/// Standby compass (above the glareshield): a card that floats in the earth's field. It is read from the
-/// pilot's side, so its figures run backwards.
+/// Standby compass (above the glareshield): a card that floats in the earth's field. It is read from
+/// the pilot's side, so its figures run backwards.
 #include "module/catalogue.h"
 
 namespace tarnvale {

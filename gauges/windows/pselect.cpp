@@ -1,4 +1,5 @@
-/// Panel selector (captain's panel): a strip of small buttons for the other panels, lit with the panels.
+/// Panel selector (captain's panel): a strip of small buttons for the other panels, lit with the
+/// panels.
 #include "gauges/windows/window_button.h"
 
 namespace tarnvale {

@@ -1,5 +1,5 @@
-/// Buttons that open and close panel windows and windows of the host. They are not part of the aircraft:
-/// none of them clicks.
+/// Buttons that open and close panel windows and windows of the host. They are not part of the
+/// aircraft: none of them clicks.
 #pragma once
 
 #include "module/body.h"
@@ -39,7 +39,7 @@ void open_or_close() {
   is_open != 0 ? open_window(ident) : close_window(ident);
 }
 
-/// A button under a tooltip.
+/// A button with a tooltip.
 constexpr Area window_button(const char* tooltip, Box box, MouseRoutine routine) {
   return labelled(click(tooltip, box, routine));
 }

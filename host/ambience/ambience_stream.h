@@ -8,7 +8,8 @@
 
 namespace host {
 
-/// There is one at a time, all calls on one thread. Without a device it is silent, and asks for one now and then.
+/// There is one at a time, with all calls on one thread. Without a device it is silent, and asks for
+/// one now and then.
 class AmbienceStream {
  public:
   AmbienceStream() = default;
@@ -16,8 +17,8 @@ class AmbienceStream {
   AmbienceStream(const AmbienceStream&) = delete;
   AmbienceStream& operator=(const AmbienceStream&) = delete;
 
-  /// Call after every frame, with the simulated time in seconds: keeps so much of the noise ready that a late
-  /// frame is not heard.
+  /// Call after every frame, with the simulated time in seconds: keeps so much of the noise ready that
+  /// a late frame is not heard.
   void keep_up(CockpitNoise& noise, double seconds);
 
   /// Frames stop for a while: what is ready dies away.

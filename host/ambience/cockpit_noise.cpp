@@ -157,8 +157,8 @@ void CockpitNoise::hush() {
   for (Tone& tone : heard_tones_) tone.left = tone.right = 0;
 }
 
-/// One step of everything toward what was heard last: frames come some 18 times a second, and are not to be
-/// told apart. What was struck dies away by itself.
+/// One step of everything toward what was heard last: frames come some 18 times a second, and are not
+/// to be told apart. What was struck dies away by itself.
 void CockpitNoise::glide() {
   constexpr float part = 0.12f, knock_part = 0.065f;
   for (std::size_t s = 0; s < sources; ++s) {

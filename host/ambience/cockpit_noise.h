@@ -1,8 +1,8 @@
-/// The sound of the aircraft itself, as its crew hears it: made anew for every moment from what the simulation
-/// says, and the same to the byte for the same flight.
+/// The sound of the aircraft itself, as its crew hears it: made anew for every moment from what the
+/// simulation says, and the same to the byte for the same flight.
 ///
-/// It is quiet: with everything at its loudest, voices stand 12 dB and more above it between 300 and 3400 Hz,
-/// where words are understood.
+/// It is quiet: with everything at its loudest, voices stand 12 dB and more above it between 300 and
+/// 3400 Hz, where words are understood.
 #pragma once
 
 #include <array>
@@ -18,11 +18,11 @@ namespace host {
 
 class CockpitNoise {
  public:
-  /// How loud all of it is: 1 as it is meant, 0 silent.
+  /// `volume` scales all of it: 1 as it is meant, 0 silent.
   explicit CockpitNoise(double volume = 1.0) : volume_(static_cast<float>(volume)) {}
 
-  /// Call after every frame with what sounds now, and the seconds since the last call. What has moved in
-  /// between is heard moving. Where the aircraft has been put elsewhere nothing has moved.
+  /// Call after every frame with what sounds now, and the seconds since the last call. What has moved
+  /// in between is heard moving. Where the aircraft has been put elsewhere nothing has moved.
   void hear(const simulation::SoundSources& now, double seconds);
 
   /// Lets all of it die away within a tenth of a second, until the next `hear`.
@@ -31,8 +31,8 @@ class CockpitNoise {
   /// The next frames are digital silence.
   bool silent() const;
 
-  /// Mixes the next frames into interleaved stereo samples, left first. What comes near full scale is bent, so
-  /// that it stays below.
+  /// Mixes the next frames into interleaved stereo samples, left first. What comes near full scale is
+  /// bent, so that it stays below.
   void mix_into(std::span<std::int16_t> stereo);
 
   /// What sounds, and how strongly: 0 to 1 where the row says it is loudest.

@@ -1,5 +1,5 @@
-/// Eight numbers that are worked at once, in the vector registers that every machine of this kind has. Compilers
-/// left to themselves take five times as long.
+/// Eight numbers that are worked at once, in the vector registers that every machine of this kind has.
+/// What compilers make of plain loops takes five times as long.
 #pragma once
 
 #include <array>

@@ -15,8 +15,8 @@ class NoiseBank {
 
   NoiseBank();
 
-  /// Adds the next stereo frames, left first. Each band's level, as root mean square of full scale, moves evenly
-  /// to this one from that of the last call.
+  /// Adds the next stereo frames, left first. Each band's level, as root mean square of full scale,
+  /// moves evenly to this one from that of the last call.
   void add(std::span<float> stereo, const Lanes& levels);
 
  private:

@@ -7,26 +7,41 @@
 
 namespace host {
 
+namespace {
+
+// What each tone turns by from frame to frame, and the levels that it is to come to.
+struct Aims {
+  LaneRegisters cosine, sine, left, right;
+
+  explicit Aims(const ToneBank::Tones& tones) {
+    Lanes cosines, sines, lefts, rights;
+    for (std::size_t t = 0; t < tones.size(); ++t) {
+      const float turn = 2 * std::numbers::pi_v<float> * tones[t].hertz / PLATFORM_AUDIO_RATE;
+      cosines[t] = std::cos(turn);
+      sines[t] = std::sin(turn);
+      lefts[t] = tones[t].left;
+      rights[t] = tones[t].right;
+    }
+    cosine = LaneRegisters::of(cosines);
+    sine = LaneRegisters::of(sines);
+    left = LaneRegisters::of(lefts);
+    right = LaneRegisters::of(rights);
+  }
+};
+
+}  // namespace
+
 void ToneBank::add(std::span<float> stereo, const Tones& tones) {
   const std::size_t frames = stereo.size() / 2;
   if (frames == 0) return;
-  Lanes cosines, sines, lefts, rights;
-  for (std::size_t t = 0; t < size; ++t) {
-    const float turn = 2 * std::numbers::pi_v<float> * tones[t].hertz / PLATFORM_AUDIO_RATE;
-    cosines[t] = std::cos(turn);
-    sines[t] = std::sin(turn);
-    lefts[t] = tones[t].left;
-    rights[t] = tones[t].right;
-  }
-  const LaneRegisters turn_cosine = LaneRegisters::of(cosines), turn_sine = LaneRegisters::of(sines);
+  const Aims aims(tones);
   const LaneRegisters part = LaneRegisters::all(1.0f / static_cast<float>(frames));
-  const LaneRegisters left_step = (LaneRegisters::of(lefts) - left_) * part;
-  const LaneRegisters right_step = (LaneRegisters::of(rights) - right_) * part;
-  LaneRegisters cosine = cosine_, sine = sine_, left = left_,
-                right = right_;  // in registers, not in memory
+  const LaneRegisters left_step = (aims.left - left_) * part, right_step = (aims.right - right_) * part;
+  // In registers, not in memory.
+  LaneRegisters cosine = cosine_, sine = sine_, left = left_, right = right_;
   for (std::size_t i = 0; i < stereo.size(); i += 2) {
-    const LaneRegisters turned = cosine * turn_cosine - sine * turn_sine;
-    sine = sine * turn_cosine + cosine * turn_sine;
+    const LaneRegisters turned = cosine * aims.cosine - sine * aims.sine;
+    sine = sine * aims.cosine + cosine * aims.sine;
     cosine = turned;
     left = left + left_step;
     right = right + right_step;
@@ -38,8 +53,8 @@ void ToneBank::add(std::span<float> stereo, const Tones& tones) {
   const LaneRegisters correction = LaneRegisters::all(1.5f) - LaneRegisters::all(0.5f) * length;
   cosine_ = cosine * correction;
   sine_ = sine * correction;
-  left_ = LaneRegisters::of(lefts);
-  right_ = LaneRegisters::of(rights);
+  left_ = aims.left;
+  right_ = aims.right;
 }
 
 }  // namespace host

@@ -18,8 +18,8 @@ class ToneBank {
   static constexpr std::size_t size = std::tuple_size_v<Lanes>;
   using Tones = std::array<Tone, size>;
 
-  /// Adds the next stereo frames, left first: at these pitches, the levels moving evenly from those of the
-  /// last call to these. Calls of some milliseconds make a glide of a changing pitch.
+  /// Adds the next stereo frames, left first: at these pitches, the levels moving evenly from those of
+  /// the last call to these. Calls of some milliseconds make a glide of a changing pitch.
   void add(std::span<float> stereo, const Tones& tones);
 
  private:

@@ -87,8 +87,8 @@ class CommandLine {
     return commands.empty() ? "tarnvale" : "tarnvale " + commands.front()->get_name();
   }
 
-  // A finite number of a range. What is no number lies outside of no range that is asked for by less and
-  // more, so it is asked for by within.
+  // A number within a range. NaN is neither below nor above anything, so the question is whether the
+  // number lies within.
   static CLI::Validator number(double low, double high) {
     char range[80];
     std::snprintf(range, sizeof range, "a number from %.10g to %.10g", low, high);
@@ -205,7 +205,7 @@ class CommandLine {
                   "As the first time, without what was remembered of the windows");
   }
 
-  // A session that is taken up has begun already.
+  // A session that is taken up again has its beginning already.
   void add_journal(CLI::App* sub) {
     CLI::Option* resume = sub->add_flag("--resume", fly_.resume,
                                         "Take up the last session where it was left, or --journal's");
@@ -306,7 +306,8 @@ class CommandLine {
 
 }  // namespace
 
-// The libraries that draw and play end the program where they get no room; better a word beforehand.
+// The libraries that draw and play end the program when they get no memory; a message beforehand is
+// better.
 static void check_address_space() {
   constexpr rlim_t least = 256u << 20;
   rlimit allowed{};

@@ -15,8 +15,8 @@ class ContactSheet {
   void add(const Canvas& picture, const std::string& caption);
   bool empty() const { return cells_.empty(); }
 
-  /// As many columns as make the page about as wide as it is high, each row as high as its pictures need.
-  /// At least one picture must be there.
+  /// As many columns as make the page about as wide as it is high, each row as high as its pictures
+  /// need. At least one picture must be there.
   Canvas page() const;
 
   // A cell, pixels: the picture's part, and the caption's below it.

@@ -6,8 +6,8 @@
 
 namespace host {
 
-/// The options' deck with its desk, and where that is kept. `notes` tells what was remembered wrong. Throws
-/// std::runtime_error for windows that are not there.
+/// The options' deck with its desk, and where that is kept. `notes` tells what was remembered wrong.
+/// Throws std::runtime_error for windows that are not there.
 DeckOptions deck_options(const FlyOptions& options, const PanelConfig& panel, std::string& notes);
 
 }  // namespace host

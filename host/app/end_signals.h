@@ -7,9 +7,9 @@
 
 namespace host {
 
-/// While it stands, Ctrl-C, SIGTERM and SIGHUP no longer end the program: the first of them calls `on_first`, on
-/// a thread of its own, and the second ends the program where it is. Made before other threads are, which
-/// would else be interrupted.
+/// While it exists, Ctrl-C, SIGTERM and SIGHUP no longer end the program: the first of them calls
+/// `on_first` on a thread of its own, and the second ends the program where it is. To be made before
+/// other threads, which would otherwise be interrupted.
 class EndSignals {
  public:
   explicit EndSignals(std::function<void()> on_first);

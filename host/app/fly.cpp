@@ -63,7 +63,7 @@ void tell(const std::string& text, const char* caption = "Journal") {
   MessageBoxA(nullptr, text.c_str(), caption, MB_OK);
 }
 
-// As a window manager asks; twice, for whom the cockpit would ask back.
+// Asks as a window manager does; twice, because the cockpit may want to be asked again.
 void leave_cockpit() {
   for (int i = 0; i < 2; ++i) {
     SDL_Event quit{};
@@ -92,7 +92,8 @@ class Session {
     inputs_.tell(*flow_);
   }
 
-  // Until the person leaves, and what is wanted instead, if anything. The desktop is opened unless it is.
+  // Flies until the person leaves, and returns what is wanted next, if anything. Opens the desktop
+  // unless it is open.
   std::optional<NextFlight> fly(std::optional<Desktop>& desktop) {
     std::string unused;
     const DeckOptions on_deck = deck_options(options_, cockpit_.config(), unused);
@@ -127,7 +128,7 @@ class Session {
   }
 
  private:
-  // A cockpit that is not heard plays into a mix that nobody hears, so that its sound engine finds all well.
+  // A silent cockpit plays into a mix that nobody hears, so that its sound engine works as usual.
   void find_audio() {
     audio_ = options_.mute ? PLATFORM_AUDIO_RENDERED : PLATFORM_AUDIO_DEVICE;
     prepare_platform(cockpit_options_, audio_);
@@ -144,7 +145,7 @@ class Session {
     audio_now_ = audio;
   }
 
-  // What would go on sounding by itself.
+  // Ends what would go on sounding by itself.
   void fall_silent() {
     identifications_.silence();
     ambience_.pause(noise_);
@@ -166,7 +167,7 @@ class Session {
     for (const Input& input : beginning_) inputs_.take(input);
   }
 
-  // As a person would, who then opens what had been open.
+  // Presses the button as a person would, and then opens what had been open.
   void press_on_start_page(const Desk& desk) {
     const auto button = target_of(cockpit_, "Intro", "captain_" + options_.state);
     if (!button) return tell("the panel has no button for the state " + options_.state, "Start page");
@@ -179,7 +180,7 @@ class Session {
         inputs_.take(input::OpenWindow{ident});
   }
 
-  // Unseen and unheard, as fast as it goes.
+  // Flies the session again unseen and unheard, as fast as it goes.
   void take_up() {
     audio_now_ = PLATFORM_AUDIO_RENDERED;
     platform_choose_audio(audio_now_);
@@ -205,7 +206,7 @@ class Session {
     inputs_.tell(*journal_);
   }
 
-  // Who asked for no certain file flies without one rather than not at all.
+  // Somebody who named no file flies without a journal rather than not at all.
   bool begin_journal() {
     try {
       journal_.emplace(JournalFile::create(journal_file()), cockpit_, identity_);

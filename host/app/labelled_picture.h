@@ -5,8 +5,9 @@
 
 namespace host {
 
-/// The picture's canvas, as it was drawn, with a number beside every click area of the window and a legend
-/// below: its words from the names file, else its box, and how it is worked where a plain click does not.
+/// The picture's canvas, as it was drawn, with a number beside every click area of the window and a
+/// legend below: its words from the names file, else its box, and how it is worked where a plain click
+/// does not.
 Canvas labelled_picture(const Cockpit& cockpit, const PanelPicture& picture);
 
 }  // namespace host

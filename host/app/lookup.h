@@ -12,7 +12,7 @@ namespace host {
 /// Throws std::runtime_error for a gauge that the module does not have.
 const GaugeHeader& find_gauge(const GaugeModule& module, const std::string& name);
 
-/// Says on standard error which lines of the names file, or of the files of words, are wrong.
+/// Says on standard error which lines of the names file, or of the word files, are wrong.
 void say_notes(const NameBook& names);
 void say_notes(const WordBook& words);
 

@@ -28,8 +28,8 @@ struct StartOptions {
 struct FlyOptions {
   CockpitOptions cockpit;
   StartOptions start;
-  DeckOptions deck;                 ///< its controls empty: those beside this program; its desk is made
-  std::string display;              ///< the X display; empty: as the environment names it
+  DeckOptions deck;     ///< no controls: the file beside the program; the desk is made of the rest
+  std::string display;  ///< the X display; empty: as the environment names it
   std::vector<std::string> open;    ///< windows to open instead of those that were open last
   std::vector<std::string> torn;    ///< windows to open, each in a window of its own
   std::vector<std::string> places;  ///< WINDOW=x,y,width,height; "main" is the main one

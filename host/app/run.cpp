@@ -27,8 +27,8 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-// Ctrl-C ends the flow like a failed expectation; once more, and the program ends where it is. The sound and
-// the journal are whole at any moment.
+// Ctrl-C ends the flow like a failed expectation; once more, and the program ends where it is. The
+// sound and the journal are whole at any moment.
 volatile std::sig_atomic_t interrupted = 0;
 
 void interrupt(int signal) {

@@ -141,6 +141,17 @@ int show_page(const ShowOptions& options) {
   return exit_fine;
 }
 
+void show_in_window(Cockpit& cockpit, const ShowOptions& options) {
+  DeckOptions deck_options = options.deck;
+  deck_options.desk.outside = false;
+  CockpitInputs inputs(cockpit);
+  use_display(options.display);
+  const Desktop desktop;
+  FlightDeck deck(inputs, deck_options);
+  deck.mark_areas(options.areas);
+  deck.fly();
+}
+
 }  // namespace
 
 int show(const ShowOptions& options) {
@@ -157,18 +168,7 @@ int show(const ShowOptions& options) {
   say_notes(cockpit.names());
   say_notes(cockpit.words());
   set_up(cockpit, options);
-  if (!window) {
-    write_picture(cockpit, options);
-    return exit_fine;
-  }
-  DeckOptions deck_options = options.deck;
-  deck_options.desk.outside = false;
-  CockpitInputs inputs(cockpit);
-  use_display(options.display);
-  const Desktop desktop;
-  FlightDeck deck(inputs, deck_options);
-  deck.mark_areas(options.areas);
-  deck.fly();
+  window ? show_in_window(cockpit, options) : write_picture(cockpit, options);
   return exit_fine;
 }
 

@@ -19,7 +19,7 @@ void prepare_standard_streams() {
   for (const int signal : {SIGPIPE, SIGXFSZ}) std::signal(signal, SIG_IGN);
 }
 
-// Who reads only the first lines of a list has not lost anything.
+// Somebody who reads only the first lines of a list has lost nothing.
 bool standard_output_taken() {
   const bool failed_before = std::ferror(stdout) != 0;
   errno = 0;

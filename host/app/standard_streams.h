@@ -3,12 +3,12 @@
 
 namespace host {
 
-/// A stream that was closed stays closed for the program: otherwise the next file that it opens, a recording
-/// perhaps, would get what is said there. A pipe that nobody reads any more is an error of the write to it, not
-/// the program's end.
+/// A stream that was closed stays closed for the program: otherwise the next file that it opens, a
+/// recording perhaps, would get what is said there. A pipe that nobody reads any more is an error of
+/// the write to it, not the program's end.
 void prepare_standard_streams();
 
-/// Whether all that was printed has been taken; says so on standard error if not.
+/// Whether everything printed has been written; says so on standard error if not.
 bool standard_output_taken();
 
 }  // namespace host

@@ -13,8 +13,8 @@ namespace host {
 void begin(AircraftModel& aircraft, const StartOptions& options);
 void begin(Cockpit& cockpit, const StartOptions& options);
 
-/// What a session in the cockpit begins with: on the stand with the start page, unless windows are open on the
-/// desk.
+/// What a session in the cockpit begins with: on the stand with the start page, unless windows are open
+/// on the desk.
 std::vector<Input> beginning(const Cockpit& cockpit, const StartOptions& start, const Desk& desk);
 
 }  // namespace host

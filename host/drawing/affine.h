@@ -1,5 +1,7 @@
-/// Draws pictures turned and shifted by parts of a pixel.
+/// Maps from a picture to the canvas: shifts, scales and turns.
 #pragma once
+
+#include <optional>
 
 #include "host/drawing/pixels.h"
 
@@ -24,8 +26,7 @@ Affine operator*(const Affine& second, const Affine& first);
 /// The whole pixels around a picture of that size.
 Rect bounds_of(const Affine& map, int width, int height);
 
-/// Lays a picture over the target. Its outermost pixels must be clear: edges are smoothed into
-/// them. Where the map is a shift by whole pixels, pixels are blended exactly.
-void blend_turned(Surface target, const Rect& clip, PixelView picture, const Affine& map);
+/// The way back; none from a picture drawn out of all proportion.
+std::optional<Affine> inverse(const Affine& map);
 
 }  // namespace host

@@ -45,18 +45,20 @@ class ElementPainter {
   virtual bool moves() const = 0;
 };
 
-/// Null for an element that can never show anything. The element and the pictures must outlive it.
+/// Null for an element that can never show anything. All that is handed over must outlive it.
 /// `use` is how a static image is read; every other kind is an image. `at_night` is under what light a still
-/// picture is seen by night.
+/// picture is seen by night. Sprites are drawn in the `openings` of the face only; null where it has none.
 std::unique_ptr<ElementPainter> make_element_painter(const Element& element, Pictures& pictures,
-                                                     BitmapUse use, Light at_night);
+                                                     BitmapUse use, Light at_night,
+                                                     const Openings* openings);
 
 std::unique_ptr<ElementPainter> make_still_painter(const Element& element, Pictures& pictures,
                                                    BitmapUse use, Light at_night);
 std::unique_ptr<ElementPainter> make_needle_painter(const Element& element, Pictures& pictures);
 std::unique_ptr<ElementPainter> make_slider_painter(const Element& element, Pictures& pictures);
 std::unique_ptr<ElementPainter> make_moving_image_painter(const Element& element, Pictures& pictures);
-std::unique_ptr<ElementPainter> make_sprite_painter(const Element& element, Pictures& pictures);
+std::unique_ptr<ElementPainter> make_sprite_painter(const Element& element, Pictures& pictures,
+                                                    const Openings* openings);
 std::unique_ptr<ElementPainter> make_string_painter(const Element& element, Scale scale);
 
 }  // namespace host

@@ -17,14 +17,15 @@ Scale scale_to(const Rect& place, PanelSize size) {
   return {1.0 * place.width / size.width, 1.0 * place.height / size.height};
 }
 
+bool is_sprite(const Element& element) { return element.kind == ELEMENT_SPRITE; }
+
 }  // namespace
 
 // A face without sprites is opaque: black is a paint like any other there. Behind a face with sprites
 // something moves that has to be seen, so that its pure black and its opacities count as those of an
 // image do: where it is clear it has an opening.
 bool has_openings(const std::vector<ChainLink>& chain) {
-  const auto sprite = [](const ChainLink& link) { return link.element->kind == ELEMENT_SPRITE; };
-  return std::ranges::any_of(chain, sprite);
+  return std::ranges::any_of(chain, [](const ChainLink& link) { return is_sprite(*link.element); });
 }
 
 // The gauge in two layers: the base, kept composed, holds what is drawn up to the first element that
@@ -55,6 +56,7 @@ struct GaugePainter::Layers {
   Pictures pictures;
   std::vector<Item> items;  // in the order of drawing: sprites, the face, everything else
   bool open_face = false;
+  std::optional<Openings> openings;
   std::vector<std::uint32_t> base;
   std::size_t base_end = 0;  // the items below this one are in the base
   bool canvas_valid = false;
@@ -75,19 +77,25 @@ GaugePainter::Layers::Layers(const GaugeHeader& gauge, const BitmapStore& bitmap
 void GaugePainter::Layers::add_items(const GaugeHeader& gauge) {
   const std::vector<ChainLink> chain = element_chain(gauge);
   open_face = has_openings(chain);
+  if (open_face) openings = pictures.openings(*chain.front().element);
+  const Rect behind_face = openings ? intersection(around(*openings), whole) : whole;
   const std::vector<Light> at_night = lights_at_night(gauge, chain, pictures);
   for (std::size_t i = 0; i < chain.size(); ++i) {
     const Element& element = *chain[i].element;
     const BitmapUse use = i == 0 && open_face ? BitmapUse::image : BitmapUse::background;
     items.push_back(
-        {i, &element, make_element_painter(element, pictures, use, at_night[i]), whole, {}, {}});
+        {i,
+         &element,
+         make_element_painter(element, pictures, use, at_night[i], openings ? &*openings : nullptr),
+         is_sprite(element) ? behind_face : whole,
+         {},
+         {}});
   }
-  if (!open_face) return;
-  const Rect openings = intersection(pictures.openings(*chain.front().element), whole);
-  const auto behind = [](const Item& item) { return item.element->kind == ELEMENT_SPRITE; };
-  for (Item& item : items)
-    if (behind(item)) item.limits = openings;
-  std::stable_partition(items.begin(), items.end(), behind);
+  // Through sharp openings sprites can as well be drawn after the face, which then need not be drawn each time
+  // that they move.
+  const bool face_first = openings && openings->sharp;
+  std::stable_partition(items.begin() + face_first, items.end(),
+                        [](const Item& item) { return is_sprite(*item.element); });
 }
 
 // Everything below the first element that may move, whether or not it shows anything just now.

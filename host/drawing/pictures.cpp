@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <span>
 
 #include "host/drawing/night.h"
 #include "host/drawing/resample.h"
@@ -50,6 +51,17 @@ Bitmap cut_out(Bitmap bitmap, const Rect& part) {
   return cut;
 }
 
+void add_openings(std::span<const std::uint32_t> row, int x, int y, Openings& openings) {
+  const auto is_open = [](std::uint32_t pixel) { return pixel >> 24 != 255; };
+  const auto column = [&](auto at) { return x + static_cast<int>(at - row.begin()); };
+  for (auto first = std::ranges::find_if(row, is_open); first != row.end();) {
+    const auto end = std::find_if_not(first, row.end(), is_open);
+    openings.parts.push_back({y, column(first), column(end)});
+    openings.sharp &= std::all_of(first, end, [](std::uint32_t pixel) { return pixel >> 24 == 0; });
+    first = std::find_if(end, row.end(), is_open);
+  }
+}
+
 Bitmap with_clear_edges(const PixelView& source) {
   Bitmap padded{source.width + 2, source.height + 2, false, false, {}};
   padded.pixels.resize(std::size_t(padded.width) * padded.height);
@@ -59,6 +71,13 @@ Bitmap with_clear_edges(const PixelView& source) {
 }
 
 }  // namespace
+
+Rect around(const Openings& openings) {
+  Rect box;
+  for (const RowPart& part : openings.parts)
+    box = around(box, {part.first, part.y, part.end - part.first, 1});
+  return box;
+}
 
 int scaled_edge(double at, double scale) {
   return static_cast<int>(std::floor(std::clamp(at * scale, -farthest, farthest) + 0.5));
@@ -115,23 +134,16 @@ const Picture* Pictures::at_size(std::int64_t id, BitmapUse use, int width, int 
   return is_empty(kept->second.visible) ? nullptr : &kept->second;
 }
 
-Rect Pictures::openings(const Element& face) {
-  constexpr int everywhere = static_cast<int>(farthest);
-  const Rect unlimited{-everywhere, -everywhere, 2 * everywhere, 2 * everywhere};
-  if (face.kind != ELEMENT_STATIC_IMAGE) return unlimited;
+std::optional<Openings> Pictures::openings(const Element& face) {
+  if (face.kind != ELEMENT_STATIC_IMAGE) return {};
   const Rect place = scaled_place(face.position, size(face.resource_id), scale_);
   const Picture* picture = at_size(face.resource_id, BitmapUse::image, place.width, place.height);
-  if (picture == nullptr || picture->visible != Rect{0, 0, place.width, place.height}) return unlimited;
-  Rect openings;
-  for (int y = 0; y < place.height; ++y) {
-    const std::uint32_t* row = picture->pixels.at(0, y);
-    const auto clear = [](std::uint32_t pixel) { return pixel >> 24 != 255; };
-    const int left = static_cast<int>(std::find_if(row, row + place.width, clear) - row);
-    int right = place.width;
-    while (right > left && !clear(row[right - 1])) --right;
-    openings = around(openings, {left, y, right - left, 1});
-  }
-  return {place.x + openings.x, place.y + openings.y, openings.width, openings.height};
+  if (picture == nullptr || picture->visible != Rect{0, 0, place.width, place.height}) return {};
+  Openings openings;
+  for (int y = 0; y < place.height; ++y)
+    add_openings({picture->pixels.at(0, y), static_cast<std::size_t>(place.width)}, place.x,
+                 place.y + y, openings);
+  return openings;
 }
 
 const TurningPicture* Pictures::turning(std::int64_t id) {

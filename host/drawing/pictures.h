@@ -5,7 +5,7 @@
 #include <memory>
 #include <tuple>
 
-#include "host/drawing/affine.h"
+#include "host/drawing/blend_turned.h"
 #include "host/loader/bitmap.h"
 #include "interface/panel_interface.h"
 
@@ -50,6 +50,15 @@ int scaled_edge(double at, double scale);
 /// background meet on the canvas.
 Rect scaled_place(PanelPoint position, PanelSize size, Scale scale);
 
+/// Where something can be seen behind a gauge's face, canvas pixels.
+struct Openings {
+  std::vector<RowPart> parts;  ///< rows from the top down
+  bool sharp = true;           ///< the face covers a pixel or leaves it, nothing in between
+};
+
+/// The smallest rectangle around them.
+Rect around(const Openings& openings);
+
 class Pictures {
  public:
   /// The store must outlive the pictures.
@@ -65,9 +74,8 @@ class Pictures {
   const Picture* at_size(std::int64_t id, BitmapUse use, int width, int height,
                          Light light = Light::day);
 
-  /// The smallest rectangle around what can be seen behind a gauge's face that is read as an image,
-  /// canvas pixels; unlimited if there is no such face.
-  Rect openings(const Element& face);
+  /// The openings of a face that is read as an image; none if it is no such face.
+  std::optional<Openings> openings(const Element& face);
 
   /// The image at this scale; null as above.
   const TurningPicture* turning(std::int64_t id);

@@ -11,8 +11,11 @@ namespace {
 
 class SpritePainter final : public TurningPainter {
  public:
-  SpritePainter(const Element& element, const TurningPicture& picture, Scale scale)
-      : TurningPainter(picture), part_(element.sprite), scale_(scale) {
+  SpritePainter(const Element& element, const TurningPicture& picture, Scale scale,
+                const Openings* openings)
+      : TurningPainter(picture, openings ? &openings->parts : nullptr),
+        part_(element.sprite),
+        scale_(scale) {
     const double x = part_.texture_center.x + 0.5, y = part_.texture_center.y + 0.5;
     onto_center_ = shifted_by(-x, -y) * picture.to_image;
     onto_gauge_ = shifted_by(x * scale.x, y * scale.y);
@@ -48,10 +51,11 @@ class SpritePainter final : public TurningPainter {
 
 }  // namespace
 
-std::unique_ptr<ElementPainter> make_sprite_painter(const Element& element, Pictures& pictures) {
+std::unique_ptr<ElementPainter> make_sprite_painter(const Element& element, Pictures& pictures,
+                                                    const Openings* openings) {
   const TurningPicture* picture = pictures.turning(element.resource_id);
   if (picture == nullptr) return nullptr;
-  return std::make_unique<SpritePainter>(element, *picture, pictures.scale());
+  return std::make_unique<SpritePainter>(element, *picture, pictures.scale(), openings);
 }
 
 }  // namespace host

@@ -7,15 +7,16 @@ namespace host {
 
 class TurningPainter : public ElementPainter {
  public:
-  /// The picture must outlive the painter.
-  explicit TurningPainter(const TurningPicture& picture) : picture_(picture) {}
+  /// The picture and the rows must outlive the painter; only what is `seen` is drawn, null means all.
+  explicit TurningPainter(const TurningPicture& picture, const std::vector<RowPart>* seen = nullptr)
+      : picture_(picture), seen_(seen) {}
 
   Rect bounds(const Look& look) const final {
     return bounds_of(map(look), picture_.pixels.width, picture_.pixels.height);
   }
 
   void paint(Surface target, const Rect& clip, const Look& look) const final {
-    blend_turned(target, clip, picture_.view(), map(look));
+    blend_turned(target, clip, picture_.view(), map(look), seen_);
   }
 
   bool moves() const final { return true; }
@@ -28,6 +29,7 @@ class TurningPainter : public ElementPainter {
 
  private:
   const TurningPicture& picture_;
+  const std::vector<RowPart>* seen_;
 };
 
 }  // namespace host

@@ -97,7 +97,7 @@ void write_whole_file(const fs::path& file, std::string_view bytes) {
   const bool there = fs::exists(file, error);
   try {
     if (there && !fs::is_regular_file(file, error)) return write_straight(file, bytes);
-    // Who may not write a file does not put another in its place either.
+    // A file that must not be written to is not replaced either.
     if (there && ::access(file.c_str(), W_OK) != 0) throw WriteError{errno};
     const fs::path target = there ? fs::canonical(file, error) : file;
     write_beside(error ? file : target, bytes);

@@ -6,8 +6,8 @@
 
 namespace host {
 
-/// `text` fit for one line of a message: what cannot be printed is a question mark, and of more than `most`
-/// bytes the beginning and the end stand there.
+/// `text` fit for one line of a message: what cannot be printed is a question mark, and of more than
+/// `most` bytes the beginning and the end stand there.
 std::string shortened(std::string_view text, std::size_t most = 60);
 
 }  // namespace host

@@ -37,8 +37,8 @@ class GaugeRun {
   /// Whether the last frame has changed anything that shows.
   bool changed() const;
 
-  /// What the element with that number shows, or the copy that stands in for it now; null while they are
-  /// hidden, and for a number that the chain does not have.
+  /// What the element with that number shows, or the copy that stands in for it now; null while they
+  /// are hidden, and for a number that the chain does not have.
   const ElementState* showing(std::size_t index) const;
 
  private:

@@ -41,7 +41,8 @@ struct ControlRow {
 
 const ControlRow& row_of(Control control);
 
-/// New positions, in 4096ths so that a record can hold them to the bit. What has not been moved is empty.
+/// New positions, in 4096ths so that a record can hold them to the bit. What has not been moved is
+/// empty.
 class FlightInputs {
  public:
   void set(Control control, double position);

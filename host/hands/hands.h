@@ -1,4 +1,4 @@
-/// A person's hands and feet: keys that are held, sticks that are moved, and what the controls do of it.
+/// A person's hands and feet: keys that are held, sticks that are moved, and how the controls follow.
 ///
 /// Time here is that of the simulation, a frame at a time: the same presses in the same frames move the
 /// same controls to the bit.
@@ -20,7 +20,7 @@ class Hands {
   void press(std::size_t action);
   void release(std::size_t action);
 
-  /// Lets all keys and buttons go, for when nobody will tell.
+  /// Lets go of all keys and buttons, for when their release will not be heard of.
   void release_all();
 
   /// An axis has moved to -1..1 (or, where it goes one way only, 0..1).

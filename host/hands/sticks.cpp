@@ -11,8 +11,8 @@ constexpr const char* direction_names[] = {"up", "right", "down", "left"};
 
 double ratio(int value) { return std::max(-1.0, value / 32767.0); }
 
-// What a control gets of an axis: nothing near the middle, or the way from one end to the other. A trigger
-// has no middle and rests at 0.
+// What a control gets from an axis: nothing near the middle, or the way from one end to the other. A
+// trigger has no middle and rests at 0.
 double position(const AxisBinding& binding, bool trigger, int value) {
   double at = ratio(value);
   const bool one_way = axis_table()[binding.row].one_way;
@@ -45,6 +45,40 @@ std::string button_words(const DeviceMap* map, Button button) {
   return words;
 }
 
+std::vector<StickPart> controller_parts(SDL_GameController& pad, const DeviceMap* map) {
+  std::vector<StickPart> parts;
+  for (int i = 0; i < SDL_CONTROLLER_AXIS_MAX; ++i) {
+    const auto axis = static_cast<SDL_GameControllerAxis>(i);
+    if (!SDL_GameControllerHasAxis(&pad, axis)) continue;
+    parts.push_back({SDL_GameControllerGetStringForAxis(axis), axis_words(map, i),
+                     ratio(SDL_GameControllerGetAxis(&pad, axis)), true});
+  }
+  for (int i = 0; i < SDL_CONTROLLER_BUTTON_MAX; ++i) {
+    const auto button = static_cast<SDL_GameControllerButton>(i);
+    if (!SDL_GameControllerHasButton(&pad, button)) continue;
+    parts.push_back({SDL_GameControllerGetStringForButton(button), button_words(map, {i, 0}),
+                     static_cast<double>(SDL_GameControllerGetButton(&pad, button)), false});
+  }
+  return parts;
+}
+
+std::vector<StickPart> joystick_parts(SDL_Joystick& stick, const DeviceMap* map) {
+  std::vector<StickPart> parts;
+  for (int i = 0; i < SDL_JoystickNumAxes(&stick); ++i)
+    parts.push_back(
+        {"axis " + std::to_string(i), axis_words(map, i), ratio(SDL_JoystickGetAxis(&stick, i)), true});
+  for (int i = 0; i < SDL_JoystickNumButtons(&stick); ++i)
+    parts.push_back({"button " + std::to_string(i), button_words(map, {i, 0}),
+                     static_cast<double>(SDL_JoystickGetButton(&stick, i)), false});
+  for (int i = 0; i < SDL_JoystickNumHats(&stick); ++i)
+    for (std::size_t d = 0; d < std::size(directions); ++d) {
+      const bool pushed = (SDL_JoystickGetHat(&stick, i) & directions[d]) != 0;
+      parts.push_back({"hat " + std::to_string(i) + " " + direction_names[d],
+                       button_words(map, {i, directions[d]}), pushed ? 1.0 : 0.0, false});
+    }
+  return parts;
+}
+
 }  // namespace
 
 Sticks::Sticks(const ControlMap& map, Hands& hands) : map_(map), hands_(hands) {
@@ -68,7 +102,7 @@ void Sticks::add(int index) {
   devices_.emplace(SDL_JoystickGetDeviceInstanceID(index), std::move(device));
 }
 
-// Its buttons will tell nothing more: whatever they held is let go.
+// Its buttons will not report their release any more: whatever they held is let go.
 void Sticks::remove(SDL_JoystickID id) {
   if (devices_.erase(id) > 0) hands_.release_all();
 }
@@ -129,39 +163,9 @@ void Sticks::take(const SDL_Event& event) {
 
 std::vector<StickState> Sticks::states() const {
   std::vector<StickState> all;
-  for (const auto& [id, device] : devices_) {
-    StickState& state = all.emplace_back(StickState{device.name, {}});
-    const auto part = [&](const std::string& name, const std::string& does, double at, bool axis) {
-      state.parts.push_back({name, does, at, axis});
-    };
-    if (SDL_GameController* pad = device.pad.get()) {
-      for (int i = 0; i < SDL_CONTROLLER_AXIS_MAX; ++i) {
-        const auto axis = static_cast<SDL_GameControllerAxis>(i);
-        if (SDL_GameControllerHasAxis(pad, axis))
-          part(SDL_GameControllerGetStringForAxis(axis), axis_words(device.map, i),
-               ratio(SDL_GameControllerGetAxis(pad, axis)), true);
-      }
-      for (int i = 0; i < SDL_CONTROLLER_BUTTON_MAX; ++i) {
-        const auto button = static_cast<SDL_GameControllerButton>(i);
-        if (SDL_GameControllerHasButton(pad, button))
-          part(SDL_GameControllerGetStringForButton(button), button_words(device.map, {i, 0}),
-               SDL_GameControllerGetButton(pad, button), false);
-      }
-      continue;
-    }
-    SDL_Joystick* stick = device.stick.get();
-    for (int i = 0; i < SDL_JoystickNumAxes(stick); ++i)
-      part("axis " + std::to_string(i), axis_words(device.map, i), ratio(SDL_JoystickGetAxis(stick, i)),
-           true);
-    for (int i = 0; i < SDL_JoystickNumButtons(stick); ++i)
-      part("button " + std::to_string(i), button_words(device.map, {i, 0}),
-           SDL_JoystickGetButton(stick, i), false);
-    for (int i = 0; i < SDL_JoystickNumHats(stick); ++i)
-      for (std::size_t d = 0; d < 4; ++d)
-        part("hat " + std::to_string(i) + " " + direction_names[d],
-             button_words(device.map, {i, directions[d]}),
-             (SDL_JoystickGetHat(stick, i) & directions[d]) != 0, false);
-  }
+  for (const auto& [id, device] : devices_)
+    all.push_back({device.name, device.pad ? controller_parts(*device.pad, device.map)
+                                           : joystick_parts(*device.stick, device.map)});
   return all;
 }
 

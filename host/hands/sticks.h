@@ -1,4 +1,4 @@
-/// Joysticks and game controllers: plugged in and out while one flies.
+/// Joysticks and game controllers, which may be plugged in and out in flight.
 #pragma once
 
 #include <SDL.h>

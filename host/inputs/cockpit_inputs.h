@@ -10,7 +10,7 @@
 
 namespace host {
 
-/// Is told of everything that enters a flight.
+/// Hears of everything that enters a flight.
 class InputListener {
  public:
   virtual ~InputListener() = default;
@@ -23,13 +23,13 @@ class InputListener {
 };
 
 enum class Answer {
-  nothing,  ///< there is nothing that it could work, and nothing has happened
+  nothing,  ///< there was nothing for it to work, and nothing has happened
   done,
   not_as_wanted,  ///< done as far as it can be
 };
 
-/// A cockpit in the hands of a person or a script. Inputs take place between two frames; a flight is the
-/// same to the bit when the same ones take place between the same frames.
+/// A cockpit in the hands of a person or a script. Inputs take place between two frames; a flight is
+/// the same to the bit when the same ones take place between the same frames.
 class CockpitInputs {
  public:
   /// The cockpit must outlive it.
@@ -37,8 +37,9 @@ class CockpitInputs {
 
   Cockpit& cockpit() { return cockpit_; }
 
-  /// Takes one input now and tells the listeners, unless nothing answered it. Throws std::invalid_argument
-  /// for named values that are not known or out of their range; nothing has happened then.
+  /// Takes one input now and tells the listeners, unless nothing answered it. Throws
+  /// std::invalid_argument for named values that are not known or out of their range; nothing has
+  /// happened then.
   Answer take(const Input& input);
 
   /// Moves the controls to where hands and feet have them, if they have moved.

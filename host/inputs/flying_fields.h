@@ -13,8 +13,8 @@ namespace host {
 
 using NamedValues = std::vector<NamedValue>;
 
-/// The record with what is named taken into it; all else stays as it is. Throw std::invalid_argument for a
-/// name that is not known or a value out of its range.
+/// The record with what is named taken into it; all else stays as it is. Throw std::invalid_argument
+/// for a name that is not known or a value out of its range.
 simulation::FlightControls with_controls(const simulation::FlightControls& controls,
                                          std::span<const NamedValue> moved);
 simulation::Weather with_weather(const simulation::Weather& weather,

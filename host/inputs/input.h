@@ -11,8 +11,8 @@
 
 namespace host {
 
-/// Each input has a word of its own for journals, and lists its parts in their order there; a gauge's name
-/// comes last.
+/// Each input has a word of its own for journals, and lists its parts in their order there; a gauge's
+/// name comes last.
 namespace input {
 
 enum class Button : std::uint32_t { left = MOUSE_LEFT, right = MOUSE_RIGHT };

@@ -28,7 +28,7 @@ std::string choice(const std::vector<std::string>& items) {
   return text;
 }
 
-// Nor does NaN lie within.
+// NaN does not lie within.
 bool within(double number, double least, double most) { return number >= least && number <= most; }
 
 }  // namespace

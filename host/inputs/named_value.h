@@ -11,7 +11,8 @@
 
 namespace host {
 
-/// The readers throw std::invalid_argument, "elevator must be a number from -1 to 1", for any other value.
+/// The readers throw std::invalid_argument, "elevator must be a number from -1 to 1", for any other
+/// value.
 struct NamedValue {
   /// std::monostate stands for everything that cannot be a value.
   using Value = std::variant<std::monostate, bool, double, std::string, std::vector<double>>;

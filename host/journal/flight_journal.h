@@ -9,14 +9,14 @@
 
 namespace host {
 
-/// Writes a line for each input, and a mark after each second of flight and at the end. When the file can no
-/// longer be written to, says so once and leaves it.
+/// Writes a line for each input, and a mark after each second of flight and at the end. When the file
+/// can no longer be written to, says so once and leaves it.
 class FlightJournal : public InputListener {
  public:
   /// Begins a journal. Throws std::runtime_error if it cannot be written.
   FlightJournal(JournalFile file, Cockpit& cockpit, const FlightIdentity& identity);
 
-  /// Goes on with one, behind its last good line. Throws as above.
+  /// Continues one behind its last good line. Throws as above.
   FlightJournal(JournalFile file, Cockpit& cockpit, const JournalEnd& end);
 
   ~FlightJournal() override;

@@ -10,8 +10,8 @@
 
 namespace host {
 
-/// A gesture is written when it ends, and a flow does one thing at a time: where a person flies with one hand
-/// and clicks with the other, the flow is near to what was done, not the same to the bit.
+/// A gesture is written when it ends, and a flow does one thing at a time: where a person flies with
+/// one hand and clicks with the other, the flow is near to what was done, not the same to the bit.
 class FlowWriter : public InputListener {
  public:
   /// Throws std::runtime_error when the file cannot be written.

@@ -13,7 +13,7 @@ class JournalFile {
   /// Makes the file, or empties it.
   static JournalFile create(const std::filesystem::path& file);
 
-  /// Opens a file to go on with it. Refused while another program has it open here.
+  /// Opens a file to continue it. Refused while another program has it open like this.
   static JournalFile reopen(const std::filesystem::path& file);
 
   JournalFile(JournalFile&& other) noexcept;

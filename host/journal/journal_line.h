@@ -8,9 +8,9 @@
 ///     90cd1e34 25 press left 47 99 Masterbat
 ///     5ad2f816 28 release
 ///
-/// Every line begins with a check, which counts all lines before it too. Then, after the three lines that
-/// say which flight it is, come the number of frames that had been flown, and what entered: an input, or
-/// the mark that stands after every second of flight, with the digest of the cockpit.
+/// Every line begins with a check, which counts all lines before it too. Then, after the three lines
+/// that say which flight it is, come the number of frames that had been flown, and what entered: an
+/// input, or the mark that stands after every second of flight, with the digest of the cockpit.
 #pragma once
 
 #include <cstdint>
@@ -57,7 +57,7 @@ std::string first_line(double rate);
 std::string file_line(std::string_view what, const FileIdentity& file);
 std::string line_of(const JournalEntry& entry);
 
-/// Empty for a line that is none; first_line's version may be another one.
+/// The readers return nothing for another kind of line; the version of a first line may be any.
 struct FirstLine {
   int version;
   double rate;

@@ -9,7 +9,7 @@
 
 namespace host {
 
-/// Where a journal can be gone on with.
+/// Where a journal can be continued.
 struct JournalEnd {
   std::uintmax_t bytes = 0;
   LineCheck check;
@@ -31,8 +31,8 @@ struct FlightRecord {
   std::uint64_t frames() const { return entries.empty() ? 0 : entries.back().frames; }
 };
 
-/// Reads up to the first line that is cut off or damaged. Throws std::runtime_error, with file and line,
-/// when there is no such file or when it does not begin as a journal does.
+/// Reads up to the first line that is cut off or damaged. Throws std::runtime_error, with file and
+/// line, when there is no such file or when it does not begin as a journal does.
 FlightRecord read_journal(const std::filesystem::path& file);
 
 /// Throws std::runtime_error, with the file's name, for the flight of another module or panel.

@@ -38,12 +38,12 @@ class BitmapStore {
   /// Whether there is one at `density` times the module's own pixels (1, 2 or 3).
   virtual bool has(std::uint32_t id, int density) const = 0;
 
-  /// That one; null if there is none. It is made anew when nobody holds it any more: a cockpit has far more
-  /// pixels than a screen.
+  /// That one; null if there is none. It is made anew when nobody holds it any more: a cockpit has far
+  /// more pixels than a screen.
   virtual std::shared_ptr<const Bitmap> find(std::uint32_t id, BitmapUse use,
                                              int density = 1) const = 0;
 
-  /// The densities that are loaded, ascending; the first is always 1.
+  /// The densities for which there are bitmaps, ascending; the first is always 1.
   virtual std::vector<int> densities() const = 0;
 };
 

@@ -1,4 +1,4 @@
-/// Reads records out of bytes that nobody vouches for.
+/// Reads records out of bytes of which anything may be wrong.
 #pragma once
 
 #include <cstddef>

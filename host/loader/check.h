@@ -1,4 +1,4 @@
-/// Looks a gauge module over before anything of it is run.
+/// Looks a gauge module over before any of it is run.
 #pragma once
 
 #include <filesystem>
@@ -10,7 +10,7 @@ namespace host {
 /// Something about a module that is not as it should be.
 struct Finding {
   enum class Severity {
-    detail,   ///< for who wants to know more of what is wrong
+    detail,   ///< for those who want to know more about what is wrong
     warning,  ///< the cockpit runs, but shows or does something less
     error,    ///< running the module would be unsafe or impossible
   };

@@ -7,9 +7,9 @@
 
 namespace host {
 
-/// What is wrong with the dynamic tables of a library whose headers are sound, "its symbol table lies outside of
-/// the library" for example; empty where nothing is. It looks at where the tables lie and at what relocations
-/// are for, not at every entry.
+/// What is wrong with the dynamic tables of a library whose headers are sound, "its symbol table lies
+/// outside of the library" for example; empty where nothing is. It looks at where the tables lie and at
+/// what relocations are for, not at every entry.
 std::string fault_of_dynamic_tables(Bytes library);
 
 }  // namespace host

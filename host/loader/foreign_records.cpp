@@ -12,8 +12,8 @@ namespace {
 
 constexpr std::size_t most_areas = 1024;
 
-/// Copies records out of an image. Addresses are those of the image as it lies in this program; a record that
-/// is asked for twice is copied once.
+/// Copies records out of an image. Addresses are those of the image as it lies in this program; a
+/// record that is asked for twice is copied once.
 class Copier {
  public:
   using Storage = std::vector<std::unique_ptr<std::byte[]>>;
@@ -87,8 +87,8 @@ class Copier {
     }
   }
 
-  /// Room for the copies of `count` records of `size` bytes each in the image; null where they do not lie there
-  /// as records do. The copies have the rights of what is copied.
+  /// Room for the copies of `count` records of `size` bytes each in the image; null where they do not
+  /// lie there as records do. The copies have the rights of what is copied.
   template <typename Record>
   Record* room(const std::byte* at, std::size_t size, std::size_t count = 1) {
     if (reinterpret_cast<std::uintptr_t>(at) % 4 != 0 || !image_.readable(at, size * count))

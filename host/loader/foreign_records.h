@@ -11,9 +11,10 @@ namespace host {
 
 class PeFile;
 
-/// Copies of the records, whatever size the library's pointers have; pointers to what is the same everywhere
-/// (texts, tables of numbers, routines) point into the library's image. What cannot be followed is left as it
-/// is: it points nowhere, and a check finds it. Nothing of a library is ever run.
+/// Copies of the records, whatever size the library's pointers have; pointers to what is the same
+/// everywhere (texts, tables of numbers, routines) point into the library's image. What cannot be
+/// followed is left as it is: it points nowhere, and a check finds it. Nothing of a library is ever
+/// run.
 class ForeignRecords {
  public:
   /// The file must outlive the records.
@@ -24,8 +25,8 @@ class ForeignRecords {
   LinkageRecord* linkage() const { return linkage_; }
   ImportTableRecord* imports() const { return imports_; }
 
-  /// What the library could read, write and call of its image, and the copies with the rights of what was
-  /// copied.
+  /// What the library could read, write and call of its image, and the copies with the rights of what
+  /// was copied.
   const MemoryMap& memory() const { return *memory_; }
 
  private:

@@ -17,7 +17,7 @@ class Inspector {
   Inspector(const MemoryMap& memory, std::vector<Finding>& findings, std::string place)
       : memory_(memory), findings_(findings), place_(std::move(place)) {}
 
-  /// The same for a part of this place; `first` for the first part below the file.
+  /// The same for a part of this place; `first` is the first part below the file.
   Inspector part(const std::string& name) const { return {memory_, findings_, place_ + ", " + name}; }
   Inspector first(const std::string& name) const { return {memory_, findings_, place_ + ": " + name}; }
 

@@ -1,5 +1,5 @@
-/// What a loader wants to know of a library's file before it lets the system load it, and all there is to know
-/// of one for another system.
+/// What there is to know about a library's file before the system loads it, and about one that only
+/// another system can load.
 #pragma once
 
 #include <memory>
@@ -19,7 +19,7 @@ struct LibraryError : std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-/// A symbol that the library offers to others.
+/// A symbol that the library exports.
 struct ExportedSymbol {
   std::string name;
   std::uint64_t size = 0;     ///< bytes; 0 if the library does not say
@@ -31,13 +31,14 @@ class LibraryFile {
  public:
   virtual ~LibraryFile() = default;
 
-  /// What it offers, in the file's order.
+  /// The symbols that it exports, in the file's order.
   const std::vector<ExportedSymbol>& exports() const { return exports_; }
 
   /// Where it carries bitmaps, for messages: "section .panelres".
   virtual std::string bitmap_place() const = 0;
 
-  /// Its bitmaps; none if there is no such place. Throws ResourceError when what is there cannot be read.
+  /// Its bitmaps; none if there is no such place. Throws ResourceError when what is there cannot be
+  /// read.
   virtual std::optional<std::vector<ListedBitmap>> bitmaps() const = 0;
 
   /// What is wrong with what the system's loader will follow; empty where nothing is.

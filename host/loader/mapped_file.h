@@ -22,8 +22,8 @@ class MappedFile {
 
   std::span<const std::byte> bytes() const { return bytes_; }
 
-  /// Reads a part of bytes() from the file, which may have changed since it was mapped; nothing where the file
-  /// does not have it any more.
+  /// Reads a part of bytes() from the file, which may have changed since it was mapped; nothing where
+  /// the file does not have it any more.
   std::optional<std::vector<std::byte>> copy(std::span<const std::byte> part) const;
 
   /// Gives back the memory of what has been looked at; a further look reads it again.

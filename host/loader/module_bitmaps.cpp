@@ -89,7 +89,7 @@ std::shared_ptr<const Bitmap> ModuleBitmaps::find(std::uint32_t id, BitmapUse us
   return made;
 }
 
-// Who moves the pointer over a gauge asks for the same ones again and again.
+// A pointer that moves over a gauge asks for the same ones again and again.
 void ModuleBitmaps::keep_for_a_while(const std::shared_ptr<const Bitmap>& bitmap) const {
   constexpr std::size_t most_pixels = std::size_t{1} << 20;
   recent_.push_back(bitmap);
@@ -98,8 +98,8 @@ void ModuleBitmaps::keep_for_a_while(const std::shared_ptr<const Bitmap>& bitmap
     recent_pixels_ -= recent_.front()->pixels.size();
 }
 
-// A file that has been cut short since it was opened has no pages where it was mapped: whoever touches them is
-// ended. So its bytes are read; where they are gone, the coarser bitmap must do.
+// A file that has been cut short since it was opened has no pages where it was mapped, and touching
+// them ends the program. So its bytes are read; where they are gone, the coarser bitmap must do.
 std::optional<Bitmap> ModuleBitmaps::decode_from(const MappedFile& file, const Dib& source,
                                                  BitmapUse use) {
   const auto palette = file.copy(source.palette), rows = file.copy(source.rows);

@@ -15,8 +15,8 @@ namespace host {
 
 class ModuleBitmaps final : public BitmapStore {
  public:
-  /// Takes the module's own bitmaps, whose bytes must outlive the store, and looks for the files `module` +
-  /// ".2x" and ".3x".
+  /// Takes the module's own bitmaps, whose bytes must outlive the store, and looks for the files
+  /// `module` + ".2x" and ".3x".
   ModuleBitmaps(const std::vector<ListedBitmap>& own, const std::filesystem::path& module);
   ModuleBitmaps(Bytes own_section, const std::filesystem::path& module)
       : ModuleBitmaps(listed_bitmaps(own_section), module) {}

@@ -13,9 +13,9 @@
 
 namespace host {
 
-/// Opens and checks step by step, and stops at the first step that finds an error, so that nothing
-/// is loaded from a broken file and nothing is run of a broken library. A library for Windows is checked like
-/// any other, but not loaded.
+/// Opens and checks step by step, and stops at the first step that finds an error, so that nothing is
+/// loaded from a broken file and nothing is run of a broken library. A library for Windows is checked
+/// like any other, but not loaded.
 class OpenModule {
  public:
   explicit OpenModule(const std::filesystem::path& file);

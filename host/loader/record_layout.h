@@ -1,5 +1,5 @@
-/// How the records of the interface lie in memory, for either size of pointers: a letter a field, each at a
-/// multiple of its own size.
+/// How the records of the interface lie in memory, for either size of pointers: a letter a field, each
+/// at a multiple of its own size.
 #pragma once
 
 #include <cstddef>

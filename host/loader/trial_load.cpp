@@ -15,8 +15,8 @@ namespace {
 
 constexpr unsigned longest_trial = 10;  // seconds
 
-// The signals that a damaged library causes end the child quietly, whatever this program does with them, and
-// what the loader says about it is not for the person.
+// The signals that a damaged library causes end the child quietly, whatever this program does with
+// them, and what the loader says about it is not for the person.
 void prepare_child() {
   for (const int signal : {SIGSEGV, SIGBUS, SIGILL, SIGFPE, SIGABRT, SIGALRM})
     std::signal(signal, SIG_DFL);

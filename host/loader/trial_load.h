@@ -7,9 +7,10 @@
 
 namespace host {
 
-/// Loads a library in a process of its own, and looks for symbols in it. Empty when that goes well; else what happened, fit to stand behind
-/// "cannot be loaded: ". The system's loader believes all that a library's tables say: where they are damaged
-/// it reads or writes anywhere, or goes round in circles.
+/// Loads a library in a process of its own, and looks for symbols in it. Empty when that goes well,
+/// otherwise what happened, worded to follow "cannot be loaded: ". The system's loader believes all
+/// that a library's tables say: where they are damaged it reads or writes anywhere, or goes round in
+/// circles.
 std::string trial_load(const std::filesystem::path& library,
                        std::initializer_list<const char*> symbols);
 

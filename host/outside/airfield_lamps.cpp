@@ -87,8 +87,8 @@ void add_taxi_lamps(std::vector<Lamp>& all) {
     add(along, apron_to_right_m + 4.0, sodium, 1.6, 16.0);
 }
 
-// The eye sees a lamp no smaller than it can; what is missing of its size goes from its brightness, but less
-// than it should: lamps at night are seen from far away.
+// A lamp that would look smaller than the eye can see is drawn at that size and darker instead, but not
+// as dark as it should be: lamps at night are seen from far away.
 struct Strength {
   double power;
   double by_day = 0.0;  ///< how bright it looks at least

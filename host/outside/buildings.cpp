@@ -44,8 +44,8 @@ std::array<Vector, 4> face(const Block& block, std::array<std::array<double, 3>,
   return places;
 }
 
-// Corners by 0 and 1 on the three axes, so that the outer side's normal is the cross product of the first
-// two edges.
+// Corners by 0 and 1 on the three axes, so that the outer side's normal is the cross product of the
+// first two edges.
 constexpr std::array<std::array<std::array<double, 3>, 4>, 5> faces{{
     {{{0, 0, 0}, {0, 0, 1}, {0, 1, 1}, {0, 1, 0}}},
     {{{1, 1, 0}, {1, 1, 1}, {1, 0, 1}, {1, 0, 0}}},

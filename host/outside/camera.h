@@ -19,8 +19,8 @@ struct Columns {
 
 class Camera {
  public:
-  /// Shows what a windscreen of that shape shows: some 20 degrees of height, the line of flight a little
-  /// above the middle, as wide as the picture is, but never more than 85 degrees.
+  /// Shows what a windscreen of that shape shows: some 20 degrees of height, the line of flight a
+  /// little above the middle, as wide as the picture is, but never more than 85 degrees.
   Camera(const Sight& sight, int width, int height);
 
   int width() const { return width_; }

@@ -47,7 +47,8 @@ Haze Air::haze(double distance_m) const {
   return {kept, light_.haze * (1.0 - kept)};
 }
 
-// Two lamps in the wings' roots: bright within some ten degrees of where they point, out to half a kilometre.
+// Two lamps in the wings' roots: bright within some ten degrees of where they point, out to half a
+// kilometre.
 Rgb Air::light_on(const Vector& from_eye_m) const {
   constexpr double reach_m = 900.0, narrowness = 25.0, bright_to_m = 110.0;
   if (!landing_lights_) return light_.land;

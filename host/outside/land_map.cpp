@@ -36,6 +36,9 @@ class Fields {
 
   std::uint16_t at(unsigned x, unsigned y) const { return marks_[(y & mask) * side + (x & mask)]; }
 
+  /// One more than the greatest mark.
+  std::uint32_t marks() const { return first_field + fields_ + 1; }
+
  private:
   double chance() { return scattered(++count_, 1, 77); }
 
@@ -58,7 +61,7 @@ class Fields {
   }
 
   void plant(unsigned x, unsigned y, unsigned width, unsigned height) {
-    const auto field = static_cast<std::uint16_t>(first_field + ++fields_ % 60000);
+    const auto field = static_cast<std::uint16_t>(first_field + ++fields_);
     for (unsigned row = y; row < y + height; ++row) std::fill_n(&marks_[row * side + x], width, field);
   }
 
@@ -78,11 +81,20 @@ std::vector<Village> villages() {
   return all;
 }
 
-std::uint32_t field_colour(std::uint16_t mark, unsigned x, unsigned y, const SoftNoise& soil) {
-  const double chance = scattered(mark, 9, 3);
-  const std::uint32_t crop = crops[static_cast<std::size_t>(chance * chance * crops.size())];
-  const double tone = 0.94 + 0.12 * scattered(mark, 4, 3) + 0.24 * (soil.at(x, y) - 0.5);
-  return shaded(crop, tone);
+// What grows on a field.
+struct Crop {
+  std::uint32_t colour = 0;
+  double tone = 1.0;
+};
+
+std::vector<Crop> crops_by_mark(std::uint32_t marks) {
+  std::vector<Crop> all;
+  for (std::uint32_t mark = 0; mark < marks; ++mark) {
+    const double chance = scattered(mark, 9, 3);
+    all.push_back({crops[static_cast<std::size_t>(chance * chance * crops.size())],
+                   0.94 + 0.12 * scattered(mark, 4, 3)});
+  }
+  return all;
 }
 
 class Land {
@@ -103,12 +115,21 @@ class Land {
   std::uint32_t at(unsigned x, unsigned y, double course, double low, double woods) const {
     const double river = std::abs(course - 0.5);
     if (river < 0.0035 || low < 0.205) return water;
-    const double trees = woods + 0.05 * (scattered(x, y, 8) - 0.5);
-    if (trees > 0.60 || river < 0.0065) return shaded(wood, 0.84 + 0.36 * scattered(x / 2, y / 2, 9));
+    if (is_wood(x, y, woods) || river < 0.0065)
+      return shaded(wood, 0.84 + 0.36 * scattered(x / 2, y / 2, 9));
     const std::uint16_t mark =
         fields_.at(x + slow_bend_[y] + fast_bend_[x], y + slow_bend_[x] + fast_bend_[y]);
     if (mark == on_road) return road;
-    return mark == on_hedge ? hedge : field_colour(mark, x, y, soil_);
+    if (mark == on_hedge) return hedge;
+    const Crop& crop = crops_[mark];
+    return shaded(crop.colour, crop.tone + 0.24 * (soil_.at(x, y) - 0.5));
+  }
+
+  // The edge of a wood frays.
+  static bool is_wood(unsigned x, unsigned y, double woods) {
+    constexpr double edge = 0.60, fringe = 0.025;
+    if (std::abs(woods - edge) > fringe) return woods > edge;
+    return woods + 2 * fringe * (scattered(x, y, 8) - 0.5) > edge;
   }
 
   // Nothing in this country is quite straight: waves of fields, roads and hedges with it.
@@ -137,17 +158,17 @@ class Land {
   }
 
   Fields fields_;
+  std::vector<Crop> crops_ = crops_by_mark(fields_.marks());
   std::vector<unsigned> slow_bend_ = bend(26.0, 3), fast_bend_ = bend(15.0, 5);
   SoftNoise trees_{9, 16, 5, 0.5, 21}, low_{9, 6, 5, 0.45, 31}, course_{9, 4, 6, 0.42, 41};
   SoftNoise soil_{9, 64, 3, 0.7, 51};
 };
 
 std::uint32_t mean_colour(std::uint32_t a, std::uint32_t b, std::uint32_t c, std::uint32_t d) {
-  std::uint32_t mean = 0;
-  for (const unsigned shift : {0u, 8u, 16u})
-    mean |= ((a >> shift & 255) + (b >> shift & 255) + (c >> shift & 255) + (d >> shift & 255) + 2) / 4
-            << shift;
-  return mean;
+  constexpr std::uint32_t outer = 0xFF00FF, middle = 0xFF00;
+  const std::uint32_t red_and_blue = (a & outer) + (b & outer) + (c & outer) + (d & outer) + 0x20002;
+  const std::uint32_t green = (a & middle) + (b & middle) + (c & middle) + (d & middle) + 0x200;
+  return (red_and_blue >> 2 & outer) | (green >> 2 & middle);
 }
 
 // Each texel of grain also holds its neighbours, so that one look finds all that lies around a point.

@@ -1,5 +1,5 @@
-/// The land that the world is covered with: one square of fields, woods, water, roads and villages, laid
-/// side by side without end, and the grain that everything on the ground has.
+/// The land that the world is covered with: one square of fields, woods, water, roads and villages,
+/// laid side by side without end, and the grain that everything on the ground has.
 #pragma once
 
 #include <cstdint>

@@ -1,5 +1,5 @@
-/// The four lights beside the runway that show the slope of an approach: each is white from above its own
-/// angle and red from below.
+/// The four lights beside the runway that show the slope of an approach: each is white seen from above
+/// its own angle and red seen from below.
 #pragma once
 
 #include <array>

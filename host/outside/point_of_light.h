@@ -16,7 +16,8 @@ struct Picture {
   int width, height;
 };
 
-/// A disc with soft edges of that radius in pixels, at least 0.8; what reaches beyond 255 is white glare.
+/// A disc with soft edges of that radius in pixels, at least 0.8; what reaches beyond 255 is white
+/// glare.
 void add_light(Picture picture, PicturePoint at, double radius_px, const Rgb& colour,
                double brightness);
 

@@ -22,8 +22,8 @@ struct Sight {
 /// The captain's sight from an aircraft that flies on for `ahead_s` as it moves now.
 Sight captains_sight(const AircraftModel& aircraft, double ahead_s = 0.0);
 
-/// Whether two sights look the same: nothing has moved by a good part of a pixel, and no lamp has flashed. An
-/// aircraft at rest is seen from by day without drawing.
+/// Whether two sights look the same: nothing has moved by a good part of a pixel, and no lamp has
+/// flashed. An aircraft at rest is seen from by day without drawing.
 bool look_alike(const Sight& one, const Sight& other);
 
 /// How far the captain's eye is above the wheels' path on a three-degree slope, and ahead of them, with

@@ -13,7 +13,8 @@ namespace {
 
 constexpr int cell = 16;  // pixels between two places where the sky's colour is worked out
 
-// Colours in 256ths. Steps between them would show on a clear sky, so that each pixel is rounded its own way.
+// Colours in 256ths. Steps between them would show on a clear sky, so that each pixel is rounded its
+// own way.
 constexpr std::array<std::array<int, 4>, 4> rounding{
     {{8, 136, 40, 168}, {200, 72, 232, 104}, {56, 184, 24, 152}, {248, 120, 216, 88}}};
 

@@ -30,34 +30,41 @@ double slope(const Ridge& ridge, const Vector& eye_m, double north, double east)
   return highest;
 }
 
+// A direction from the eye, and the slope at which the ridge is seen there.
+struct Edge {
+  double north, east, slope;
+};
+
+Edge edge_at(const Ridge& ridge, const Vector& eye_m, int direction) {
+  const double angle = 2.0 * std::numbers::pi * direction / directions;
+  const double north = std::cos(angle), east = std::sin(angle);
+  return {north, east, slope(ridge, eye_m, north, east)};
+}
+
+// The piece of a ridge between two directions, as an upright surface at that distance.
+std::array<Vector, 4> piece_between(const Edge& left, const Edge& right, const Vector& eye_m,
+                                    double away_m) {
+  // It reaches under the next one: no sky shows between them.
+  const Edge beyond{right.north + 0.1 * (right.north - left.north),
+                    right.east + 0.1 * (right.east - left.east),
+                    right.slope + 0.1 * (right.slope - left.slope)};
+  const auto corner = [&](const Edge& e, double rise) {
+    return eye_m + Vector{e.north, e.east, -rise} * away_m;
+  };
+  constexpr double below_horizon = -0.002;
+  return {corner(left, below_horizon), corner(left, std::max(left.slope, 0.0)),
+          corner(beyond, std::max(beyond.slope, 0.0)), corner(beyond, below_horizon)};
+}
+
 void paint_ridge(const Ridge& ridge, SurfacePainter& painter, const Camera& camera, const Air& air) {
   const Vector& eye = camera.eye_m();
   const double middle_m = 0.5 * (ridge.from_m + ridge.to_m);
   const std::uint32_t colour = packed(air.seen(forest, {middle_m, 0.0, 0.0}));
-  struct Edge {
-    double north, east, slope;
-  };
-  const auto edge = [&](int i) {
-    const double angle = 2.0 * std::numbers::pi * i / directions;
-    const double north = std::cos(angle), east = std::sin(angle);
-    return Edge{north, east, slope(ridge, eye, north, east)};
-  };
-  const auto place = [&](const Edge& e, double rise) {
-    return eye + Vector{e.north, e.east, -rise} * middle_m;
-  };
-  Edge left = edge(0);
+  Edge left = edge_at(ridge, eye, 0);
   for (int i = 1; i <= directions; ++i) {
-    const Edge right = edge(i);
-    if (std::max(left.slope, right.slope) > 0.0) {
-      // Each piece reaches under the next one: no sky shows between them.
-      const Edge beyond{right.north + 0.1 * (right.north - left.north),
-                        right.east + 0.1 * (right.east - left.east),
-                        right.slope + 0.1 * (right.slope - left.slope)};
-      const std::array<Vector, 4> corners{place(left, -0.002), place(left, std::max(left.slope, 0.0)),
-                                          place(beyond, std::max(beyond.slope, 0.0)),
-                                          place(beyond, -0.002)};
-      painter.paint(corners, colour);
-    }
+    const Edge right = edge_at(ridge, eye, i);
+    if (std::max(left.slope, right.slope) > 0.0)
+      painter.paint(piece_between(left, right, eye, middle_m), colour);
     left = right;
   }
 }

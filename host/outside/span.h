@@ -21,8 +21,8 @@ struct Walk {
   std::int32_t du, dv;  ///< for each pixel
 };
 
-/// What light and haze make of a colour: 0 to 255 times `times` / 65536, plus `plus` / 256, for red, green
-/// and blue, changing evenly along the span.
+/// What light and haze make of a colour: 0 to 255 times `times` / 65536, plus `plus` / 256, for red,
+/// green and blue, changing evenly along the span.
 struct Shade {
   std::array<std::int32_t, 3> times, plus;
   std::array<std::int32_t, 3> times_step, plus_step;
@@ -33,8 +33,8 @@ using SpanPixels = std::array<std::uint32_t, span_pixels>;
 /// What lies on the land: premultiplied 0xAARRGGBB, 0 where there is nothing but land.
 using Cover = const std::uint32_t*;
 
-/// Sixteen pixels of land under two grains and what lies on it; 128 in a grain leaves a colour as it is.
-/// A grain's texel holds its own value and those right of it, below it, and right below it.
+/// Sixteen pixels of land under two grains and what lies on it; 128 in a grain leaves a colour as it
+/// is. A grain's texel holds its own value and those right of it, below it, and right below it.
 void shade_land(const Walk& land, const Walk& coarse, const Walk& fine, Cover cover, const Shade& shade,
                 SpanPixels& out);
 

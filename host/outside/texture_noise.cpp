@@ -1,6 +1,7 @@
 #include "host/outside/texture_noise.h"
 
 #include <cmath>
+#include <utility>
 
 namespace host::outside {
 namespace {
@@ -30,18 +31,15 @@ std::vector<Between> places(unsigned side, unsigned cells) {
 void add_octave(std::vector<float>& values, unsigned side, unsigned cells, double weight,
                 std::uint32_t seed) {
   const std::vector<Between> along = places(side, cells);
-  std::vector<double> top(cells), bottom(cells);
+  std::vector<double> heights(cells);
   for (unsigned y = 0; y < side; ++y) {
     const Between& down = along[y];
-    for (unsigned i = 0; i < cells; ++i) {
-      top[i] = scattered(i, down.low, seed);
-      bottom[i] = scattered(i, down.high, seed);
-    }
+    for (unsigned i = 0; i < cells; ++i)
+      heights[i] = weight * mix(scattered(i, down.low, seed), scattered(i, down.high, seed), down.part);
     float* row = &values[std::size_t(y) * side];
     for (unsigned x = 0; x < side; ++x) {
       const auto& [left, right, part] = along[x];
-      row[x] += static_cast<float>(weight * mix(mix(top[left], top[right], part),
-                                                mix(bottom[left], bottom[right], part), down.part));
+      row[x] += static_cast<float>(mix(heights[left], heights[right], part));
     }
   }
 }
@@ -63,11 +61,13 @@ std::vector<double> SoftNoise::row_between(double y, unsigned count, unsigned st
   const auto top = static_cast<unsigned>(static_cast<long>(row));
   const float* above = &values_[std::size_t(top & mask_) << bits_];
   const float* below = &values_[std::size_t((top + 1) & mask_) << bits_];
+  const auto height = [&](unsigned x) { return mix(above[x & mask_], below[x & mask_], ty); };
   std::vector<double> values(count);
-  for (unsigned x = 0; x < count; ++x) {
-    const unsigned left = x / steps & mask_, right = (left + 1) & mask_;
-    const double tx = static_cast<double>(x % steps) / steps;
-    values[x] = mix(mix(above[left], above[right], tx), mix(below[left], below[right], tx), ty);
+  double right = height(0);
+  for (unsigned x = 0; x < count;) {
+    const double left = std::exchange(right, height(x / steps + 1));
+    for (unsigned step = 0; step < steps && x < count; ++step, ++x)
+      values[x] = mix(left, right, static_cast<double>(step) / steps);
   }
   return values;
 }

@@ -23,7 +23,8 @@ class SoftNoise {
 
   double at(unsigned x, unsigned y) const { return values_[(y & mask_) << bits_ | (x & mask_)]; }
 
-  /// A row between the values, at 0, 1 / steps, 2 / steps and so on, `count` of them; whole numbers are theirs.
+  /// A row between the values, at 0, 1 / steps, 2 / steps and so on, `count` of them; whole numbers are
+  /// theirs.
   std::vector<double> row_between(double y, unsigned count, unsigned steps) const;
 
  private:

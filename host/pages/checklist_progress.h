@@ -11,8 +11,8 @@ namespace host {
 /// The lists without the items for gauges that the module has and no window of this panel shows.
 std::vector<Checklist> fitted_to(const Cockpit& cockpit, std::vector<Checklist> lists);
 
-/// The first wrong name in lists that were fitted, as "line 12: there is no token 'batery'"; empty if there
-/// is none.
+/// The first wrong name in lists that were fitted, as "line 12: there is no token 'batery'"; empty if
+/// there is none.
 std::string fault_for(const std::vector<Checklist>& lists, const Cockpit& cockpit);
 
 /// How many items are done.
@@ -31,8 +31,8 @@ struct Target {
 std::optional<Target> target_of(const Cockpit& cockpit, const std::string& gauge,
                                 const std::string& control);
 
-/// The window to look at for a gauge: an open one that has it, else the first that can be opened. Null if
-/// there is none.
+/// The window to look at for a gauge: an open one that has it, else the first that can be opened. Null
+/// if there is none.
 const WindowConfig* window_for(const Cockpit& cockpit, const CockpitGauge& gauge);
 
 }  // namespace host

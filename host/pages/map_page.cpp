@@ -40,8 +40,8 @@ void draw_rings(Sheet& sheet, const MapFrame& at, double range_nm) {
   }
 }
 
-// The way down to the runway, as long as the landing system leads, and the runway over it, never too thin
-// to be seen.
+// The way down to the runway, as long as the landing system leads, and the runway over it, never too
+// thin to be seen.
 void draw_runway(Sheet& sheet, const MapFrame& at) {
   constexpr double led_m = 10.0 * metres_per_nautical_mile;
   const SketchPoint far = at(on_runway_axes(threshold_along_m - led_m, 0));

@@ -1,4 +1,5 @@
-/// The program's own pages, which stand beside the panels: what each shows, and what a click on it asks for.
+/// The program's own pages, which stand beside the panels: what each shows, and what a click on it asks
+/// for.
 #pragma once
 
 #include <cstdint>

@@ -12,9 +12,9 @@
 
 namespace host {
 
-/// One page is shown at a time. The cockpit's buttons show and hide the kneeboard, the map and the radio
-/// through the aircraft's key events, and the keys go the same way, so that a journal has it; the GPS page
-/// also comes with the panel's GPS window.
+/// One page is shown at a time. The cockpit's buttons show and hide the kneeboard, the map and the
+/// radio through the aircraft's key events, and the keys go the same way, so that a journal has it; the
+/// GPS page also comes with the panel's GPS window.
 class Pages {
  public:
   /// Throws ConfigError for lists that name what the cockpit does not have. The inputs must outlive it.
@@ -31,7 +31,8 @@ class Pages {
 
   void take(const PageClick& click);
 
-  /// Something has changed that a person chose; the page is to be drawn again at once.
+  /// Whether a person's choice has changed since the last call, so that the page is to be drawn again
+  /// at once.
   bool take_changed() { return std::exchange(changed_, false); }
 
   /// The shown page. There is one.

@@ -45,7 +45,7 @@ std::string wind_words(const AircraftModel& aircraft) {
   return written("wind %03ld degrees %ld knots", tens == 0 ? 360 : tens, knots);
 }
 
-// Rounded down, so that nobody flies lower than he reads.
+// Rounded down, so that nobody flies lower than the altimeter shows.
 std::string qnh_words(const AircraftModel& aircraft) {
   return written("QNH %.0f", std::floor(aircraft.weather().sea_level_pressure_hpa));
 }

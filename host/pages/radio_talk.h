@@ -1,8 +1,8 @@
 /// The airfield's controllers on the communication radio, in text.
 ///
-/// Ground answers on 121.700 MHz and moves aircraft to and from the runway, the tower on 118.100 owns the
-/// runway, the recorded information runs on 126.650. They hear an aircraft, and it them, within line of
-/// sight.
+/// Ground answers on 121.700 MHz and moves aircraft to and from the runway, the tower on 118.100 owns
+/// the runway, the recorded information runs on 126.650. They hear an aircraft, and it them, within
+/// line of sight.
 #pragma once
 
 #include <array>

@@ -1,4 +1,5 @@
-/// The sheet that a page is drawn on: its colours by day and by night, its title, its texts and buttons.
+/// The sheet that a page is drawn on: its colours by day and by night, its title, its texts and
+/// buttons.
 #pragma once
 
 #include <string>

@@ -1,4 +1,4 @@
-/// The cockpit without a face: a module's gauges in their windows, and the aircraft behind them.
+/// The cockpit without a screen: a module's gauges in their windows, and the aircraft behind them.
 #pragma once
 
 #include <cstdint>
@@ -71,8 +71,8 @@ class Cockpit : private ServiceTarget {
   Cockpit(const Cockpit&) = delete;
   Cockpit& operator=(const Cockpit&) = delete;
 
-  /// The aircraft as the ground crew hands it over, and the start page alone before the person. Does nothing
-  /// where the panel has no start page.
+  /// The aircraft as the ground crew hands it over, and the start page alone before the person. Does
+  /// nothing where the panel has no start page.
   void begin_with_start_page();
 
   /// Moves the aircraft on by one frame's time, then runs every gauge of the open windows once.

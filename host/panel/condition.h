@@ -1,7 +1,8 @@
-/// What text files beside the program ask of the cockpit: "Masterbat battery_lamp = 1 and on_ground = 1".
+/// What text files beside the program ask of the cockpit: "Masterbat battery_lamp = 1 and on_ground =
+/// 1".
 ///
-/// A comparison is a token by its name, or a gauge and one of its parts, then = < > <= or >=, and a number.
-/// An icon's reading is the number of the image that it shows.
+/// A comparison is a token by its name, or a gauge and one of its parts, then = < > <= or >=, and a
+/// number. An icon's reading is the number of the image that it shows.
 #pragma once
 
 #include <string>
@@ -32,9 +33,9 @@ std::vector<std::string> words_in(std::string_view text);
 /// Whether the comparison holds for a reading; nothing holds for what is not a number.
 bool holds(const Comparison& comparison, double reading);
 
-/// Whether the cockpit shows it. A part is as it was last seen: while its window is closed a gauge stands
-/// still, and one that was never seen shows nothing. A part that is hidden, or an icon without an image, is
-/// -1.
+/// Whether the cockpit shows it. A part is as it was last seen: while its window is closed a gauge
+/// stands still, and one that was never seen shows nothing. A part that is hidden, or an icon without
+/// an image, is -1.
 bool holds(const Condition& condition, const Cockpit& cockpit);
 
 }  // namespace host

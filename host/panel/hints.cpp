@@ -22,8 +22,8 @@ std::string_view words_of_control(const CockpitGauge& gauge, std::size_t index) 
   return {};
 }
 
-// "Mode selector: what it flies by" and, below it, "one position towards NAV", which is said of the area as
-// "Mode selector: one position towards NAV".
+// "Mode selector: what it flies by" and, below it, "one position towards NAV", which is said of the
+// area as "Mode selector: one position towards NAV".
 Hint hint_of(const CockpitGauge& gauge, const HotArea& area) {
   std::string words = words_of(gauge, area);
   if (words.empty()) return {};

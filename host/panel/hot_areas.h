@@ -61,8 +61,8 @@ class HotAreas {
   /// Makes these areas the parts of one control, so that it has no dead strip between them.
   void join(std::vector<std::size_t> areas) { controls_.push_back(std::move(areas)); }
 
-  /// The innermost area under the point that answers any of the `actions`; between the areas of one control
-  /// the nearest of them. Null if there is none.
+  /// The innermost area under the point that answers any of the `actions`; between the areas of one
+  /// control the nearest of them. Null if there is none.
   const HotArea* at(PanelPoint point, std::uint32_t actions) const;
 
   /// The text of the innermost tooltip under the point; empty if there is none.

@@ -25,8 +25,9 @@ struct Layout {
   std::vector<Rect> places;  ///< in the order of the sizes, without the captions
 };
 
-/// Tries every way to part the windows, in their order, into rows or into columns, of more than a dozen only
-/// those with lines of one length, and takes the one with the greatest zoom, up to `most`. A given `zoom` is kept. Sizes are panel pixels.
+/// Tries every way to divide the windows, in their order, into rows or into columns (for more than a
+/// dozen only those with lines of one length) and takes the one with the greatest zoom, up to `most`. A
+/// given `zoom` is kept. Sizes are panel pixels.
 Layout arrange(std::span<const PanelSize> sizes, const LayoutArea& area, std::optional<double> zoom,
                double most = 3.0);
 

@@ -5,9 +5,9 @@
 ///     Masterbat   battery_lamp     element 5         Battery lamp
 ///     Masterbat   battery_switch   box 36,76,22,46   Battery switch
 ///
-/// A place is an element's number in its gauge's chain, where the background is 0, or the box of a click
-/// area: x, y, width and height in pixels of the background. A part and the area that works it may share
-/// a name; the halves of a lever or selector add `_up` and `_down`.
+/// A place is an element's number in its gauge's chain, where the background is 0, or the box of a
+/// click area: x, y, width and height in pixels of the background. A part and the area that works it
+/// may share a name; the halves of a lever or selector add `_up` and `_down`.
 #pragma once
 
 #include <map>
@@ -27,8 +27,8 @@ struct Named {
   std::size_t index;  ///< a part's in the chain, an area's in HotAreas::areas()
 };
 
-/// The named things of one gauge, in the order of the file. No two parts, and no two areas, have the same
-/// name.
+/// The named things of one gauge, in the order of the file. No two parts, and no two areas, have the
+/// same name.
 struct GaugeNames {
   std::vector<Named> parts;
   std::vector<Named> areas;
@@ -55,12 +55,13 @@ struct NameBook {
 };
 
 /// Reads the text of a names file and holds each line against the records of the gauges. A line that is
-/// wrong is noted and left out; after the first screenful they are only counted. `file` is named in notes.
+/// wrong is noted and left out; after the first screenful they are only counted. `file` is named in
+/// notes.
 NameBook parse_names(std::string_view text, const std::string& file,
                      std::span<const GaugeHeader* const> gauges);
 
-/// Reads the file beside the module. Without one the book is empty and says so in `missing`; a file that
-/// cannot be used, being larger than 1 MiB or no regular file, is also noted.
+/// Reads the file beside the module. Without one the book is empty and says so in `missing`; a file
+/// that cannot be used, being larger than 1 MiB or no regular file, is also noted.
 NameBook read_names(const GaugeModule& module);
 
 }  // namespace host

@@ -183,7 +183,8 @@ class Reader {
 
 }  // namespace
 
-// A face that is drawn for the first time in mid-flight is no moment to find that its picture is missing.
+// A face that is drawn for the first time in mid-flight is no moment to find that its picture is
+// missing.
 static void check_backgrounds(const WindowConfig& window, const std::filesystem::path& config) {
   for (const auto& [picture, line] :
        {std::pair{&window.background, window.background_line},

@@ -12,10 +12,9 @@
 ///
 /// Further entries of a window: `ident_day` and `ident_night`, two numbers that show its day or its
 /// night face; `background` and `background_night`, PNG files beside the configuration;
-/// `background_color=r,g,b` for the plate without one, and `bay00=x,y,width,height` for fields let into it;
-/// `drawn=0` for a window whose gauges run all
-/// the time and are never seen; `start_page=1` for the page that a session may begin with, which gives
-/// way to the first window that is opened after it.
+/// `background_color=r,g,b` for the plate without one, and `bay00=x,y,width,height` for fields let into
+/// it; `drawn=0` for a window whose gauges run all the time and are never seen; `start_page=1` for the
+/// page that a session may begin with, which gives way to the first window that is opened after it.
 #pragma once
 
 #include <cstdint>
@@ -83,8 +82,8 @@ struct PanelConfig {
 /// Reads a configuration. `file` is named in errors and kept. Throws ConfigError.
 PanelConfig parse_panel_config(std::string_view text, const std::filesystem::path& file);
 
-/// Reads a configuration file of at most 1 MiB. Throws ConfigError, also when it or a picture that it names
-/// cannot be read.
+/// Reads a configuration file of at most 1 MiB. Throws ConfigError, also when it or a picture that it
+/// names cannot be read.
 PanelConfig read_panel_config(const std::filesystem::path& file);
 
 /// "file:line: message", the form of every configuration error.

@@ -14,7 +14,8 @@ namespace host {
 /// What stands around and between the windows, 0xFFRRGGBB.
 inline constexpr std::uint32_t surround_color = 0xFF15171Au;
 
-/// Throws std::runtime_error with the size for a picture of more pixels than a machine should be asked for.
+/// Throws std::runtime_error with the size for a picture of more pixels than a machine should be asked
+/// for.
 void check_picture_size(double width, double height);
 
 /// Copies `from` to x,y of `to`, as much as fits.
@@ -35,11 +36,11 @@ Canvas picture_of_view(const AircraftModel& aircraft, double zoom);
 
 /// Draws what the cockpit shows now: everything that is open where `what` is empty, the window with
 /// that ident where it is a number, the view out of the window where it is "outside", else the gauge of
-/// that name. `zoom` is picture pixels per panel pixel. Throws std::runtime_error when there is no such window
-/// or gauge, or the picture would be too large.
+/// that name. `zoom` is picture pixels per panel pixel. Throws std::runtime_error when there is no such
+/// window or gauge, or the picture would be too large.
 Canvas picture_of(const Cockpit& cockpit, const std::string& what, double zoom);
 
-/// Throws what that would throw for a window or a gauge that is not there, and draws nothing.
+/// Throws as picture_of() does for a window or a gauge that is not there, and draws nothing.
 void check_picture(const Cockpit& cockpit, const std::string& what);
 
 }  // namespace host

@@ -33,7 +33,8 @@ void add_stop(cairo_pattern_t* pattern, double offset, Color color, double brigh
   cairo_pattern_add_color_stop_rgb(pattern, offset, lit(color.red), lit(color.green), lit(color.blue));
 }
 
-// One light from above left, as on every gauge; at night what little falls in from above the glareshield.
+// One light from above left, as on every gauge; at night what little falls in from above the
+// glareshield.
 void paint_metal(cairo_t* cairo, Color color, Face face, double width, double height) {
   const Pattern light(face == Face::day ? cairo_pattern_create_linear(0, 0, width * 0.4, height)
                                         : cairo_pattern_create_linear(0, 0, 0, height),
@@ -81,8 +82,8 @@ void draw_seam(cairo_t* cairo, const Rect& gauge, double zoom) {
   outline(cairo, gauge, 0, unit * 1.5, 0.85, 0.02);
 }
 
-// A field that lies a little lower than the plate: in the shade of its upper and left edge, with the light on
-// the lower and right one.
+// A field that lies a little lower than the plate: in the shade of its upper and left edge, with the
+// light on the lower and right one.
 void draw_bay(cairo_t* cairo, const Rect& bay, double zoom) {
   const double unit = std::max(1.0, zoom);
   const double right = bay.x + bay.width, bottom = bay.y + bay.height;

@@ -11,10 +11,10 @@
 
 namespace host {
 
-/// Fills the whole canvas: the window's picture where the configuration names one, else painted
-/// metal in the window's colour, with its bays and a seam around every gauge. At night the flood light from above
-/// leaves the lower edge darker. `zoom` is canvas pixels per panel pixel.
-/// Throws ConfigError when the picture cannot be read.
+/// Fills the whole canvas: the window's picture where the configuration names one, else painted metal
+/// in the window's colour, with its bays and a seam around every gauge. At night the flood light from
+/// above leaves the lower edge darker. `zoom` is canvas pixels per panel pixel. Throws ConfigError when
+/// the picture cannot be read.
 void draw_plate(Canvas& canvas, const WindowConfig& window, const std::filesystem::path& folder,
                 std::span<const Rect> gauges, Face face, double zoom);
 

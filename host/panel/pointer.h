@@ -18,8 +18,8 @@ class Pointer {
   /// pointer until release(). Returns it; null where there is none. `areas` must live until then.
   const HotArea* press(const HotAreas& areas, PanelPoint point, std::uint32_t button, double now);
 
-  /// Moves with the button down; the point may lie outside the gauge. Returns whether it has moved and holds
-  /// something.
+  /// Moves with the button down; the point may lie outside the gauge. Returns whether it has moved and
+  /// holds something.
   bool move(PanelPoint point);
 
   /// Repeats a held control when its time has come, and only while the pointer is still on it.

@@ -1,5 +1,5 @@
-/// What a person is told of the cockpit, in plain words: one text file for each system in the folder `words/`
-/// beside the module, without which everything still flies.
+/// What a person is told about the cockpit, in plain words: one text file for each system in the folder
+/// `words/` beside the module, without which everything still flies.
 ///
 ///     [Cafire, Fofire]                     the rows that follow are of these gauges; [*]: of all that have them
 ///     apu_fire_light | APU fire: lit for the fire test             a part or a click area, and its text
@@ -13,9 +13,10 @@
 ///     wheel - | right thumbwheel_1                                 "-" is nothing
 ///     stops start_selector | 2 start_selector_engine_1 | 0 start_selector_off
 ///
-/// The first "if" under a control whose condition holds when it is clicked tells why nothing comes of it.
-/// "stops" names the positions of a selector in the order in which the wheel takes them: the image that its
-/// part shows there, and the click area that puts it there, which is the part's own where none is named.
+/// The first "if" under a control whose condition holds when it is clicked tells why nothing comes of
+/// it. "stops" names the positions of a selector in the order in which the wheel takes them: the image
+/// that its part shows there, and the click area that puts it there, which is the part's own where none
+/// is named.
 #pragma once
 
 #include <map>
@@ -48,8 +49,9 @@ struct WheelStop {
   std::size_t area;
 };
 
-/// How the wheel turns a control whose records do not say it. With stops it goes from one to the next and no
-/// further; where all of them are one area, a click takes it one stop on and from the last to the first.
+/// How the wheel turns a control whose records do not say it. With stops it goes from one to the next
+/// and no further; where all of them are one area, a click takes it one stop on and from the last to
+/// the first.
 struct WheelTurn {
   std::vector<std::size_t> areas;  ///< over which the wheel turns it
   std::optional<AreaClick> down, up;
@@ -84,13 +86,13 @@ struct WordFile {
   std::string text;
 };
 
-/// Holds each line against the gauges and their names. One that is wrong is noted and left out; after the
-/// first screenful they are only counted.
+/// Holds each line against the gauges and their names. One that is wrong is noted and left out; after
+/// the first screenful they are only counted.
 WordBook parse_words(const std::vector<WordFile>& files, std::span<const GaugeHeader* const> gauges,
                      const NameBook& names);
 
-/// Reads the folder beside the module. Without it, or without names, the book is empty; a file that cannot be
-/// used, being larger than 1 MiB or no regular file, is noted.
+/// Reads the folder beside the module. Without it, or without names, the book is empty; a file that
+/// cannot be used, being larger than 1 MiB or no regular file, is noted.
 WordBook read_words(const GaugeModule& module, const NameBook& names);
 
 }  // namespace host

@@ -1,4 +1,4 @@
-/// Watches the time that a flow computes without letting the host do anything.
+/// Watches how long a flow computes without calling the host.
 #pragma once
 
 #include <pthread.h>
@@ -13,8 +13,8 @@
 namespace host {
 
 /// Lua counts its own instructions, not what its library does in one of them: a pattern search can take
-/// years. So a second thread keeps the time that the flow's thread has worked since the host last heard of
-/// the flow.
+/// years. So a second thread keeps the time that the flow's thread has worked since the host last heard
+/// of the flow.
 class ComputeWatch {
  public:
   static constexpr double limit = 3;  ///< seconds of the processor's time

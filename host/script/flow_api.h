@@ -17,8 +17,8 @@
 ///     event(which [, value])  fail(which)  repair(which)
 ///     failures_per_hour(rate)      how many systems fail by chance; 0: none
 ///
-/// Flying. Each takes a table of named fields; what it does not name stays as it is. flying_api.cpp lists
-/// the fields with their ranges.
+/// Flying. Each takes a table of named fields; what it does not name stays as it is. flying_api.cpp
+/// lists the fields with their ranges.
 ///     fly{elevator = 0.1, throttle = {0.6, 0.7}, flaps = 18, gear = "up"}
 ///     weather{wind_from = 340, wind_speed = 10, gusts = 1, pressure = 1013, warmer_by = -5}
 ///     controls()           where the controls stand, in a table as fly takes it

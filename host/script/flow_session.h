@@ -36,7 +36,7 @@ struct FlowSurroundings {
   std::function<void(const std::string&)> say;
   std::function<void(const Canvas&)> after_picture = {};  ///< gets each picture that is made
   std::vector<Checklist> checklists{};                    ///< of the kneeboard
-  std::function<void()> pass_frame = {};  ///< where another one keeps the pace; empty: the flow does
+  std::function<void()> pass_frame = {};  ///< asks their owner for a frame; empty: the flow runs them
   std::function<void(const Spot&)> before_gesture = {};  ///< gets what is going to be worked
 };
 

@@ -42,21 +42,21 @@ class LuaRunner {
   /// Reads a flow file without running it. Throws FlowError when it cannot be read or is no Lua.
   void parse(const std::filesystem::path& file);
 
-  /// Runs a flow file to its end. Throws FlowError. The flow may require() files beside it and in folders
-  /// below, by names like "lib.pilot"; each runs once.
+  /// Runs a flow file to its end. Throws FlowError. The flow may require() files beside it and in
+  /// folders below, by names like "lib.pilot"; each runs once.
   void run(const std::filesystem::path& file);
 
   /// Runs a flow from memory; `name` stands for the file in messages. No files lie beside it.
   void run(const std::string& text, const std::string& name);
 
-  /// Tells that time has moved on: a flow that never lets it is stopped as an endless loop.
+  /// Says that time has moved on: a flow that never lets it is stopped as an endless loop.
   void alive() { steps_ = 0; }
 
-  /// Asked while the flow computes: whether it shall end, as after Ctrl-C.
+  /// Asked while the flow computes: whether it is to end, as after Ctrl-C.
   std::function<bool()> end_wanted;
 
-  /// Called on another thread with the message of a flow that does not return from one call of Lua's library
-  /// and cannot be stopped. Unless set the program ends.
+  /// Called on another thread with the message of a flow that does not return from one call of Lua's
+  /// library and cannot be stopped. Unless set the program ends.
   std::function<void(const std::string&)> on_stuck;
 
  private:

@@ -1,5 +1,5 @@
-/// The parts and controls of the cockpit as flows name them. A name that is not there, and a cockpit whose
-/// module has no names, is a std::runtime_error that says so.
+/// The parts and controls of the cockpit as flows name them. A name that is not there, and a cockpit
+/// whose module has no names, is a std::runtime_error that says so.
 #pragma once
 
 #include <string>

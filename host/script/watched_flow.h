@@ -1,4 +1,4 @@
-/// A flow that is flown before a person's eyes, in a cockpit whose pace another one keeps.
+/// A flow that is flown before a person's eyes, in a cockpit whose frames its owner runs.
 #pragma once
 
 #include <condition_variable>
@@ -13,9 +13,9 @@
 
 namespace host {
 
-/// A flow is written as if it had the cockpit for itself. So it runs on a thread of its own, but only while
-/// its owner waits for it in go_on(): never at the same time, and always between two frames. What it does
-/// enters the cockpit through the owner's inputs, and is in their journal.
+/// A flow is written as if it had the cockpit for itself. So it runs on a thread of its own, but only
+/// while its owner waits for it in go_on(): never at the same time, and always between two frames. What
+/// it does enters the cockpit through the owner's inputs, and is in their journal.
 class WatchedFlow {
  public:
   /// `say` gets what the flow says. The inputs must outlive it. There is one at a time.

@@ -370,9 +370,9 @@ bool Aircraft::place_in_flight(const InFlight& where) {
   return trim.found && std::abs(engines[0].thrust_n * 2.0 - thrust_n) < 1.0;
 }
 
-// Fuel burned is weight gone, and less weight needs less thrust: with the levers left alone it would climb
-// ever faster. The crew therefore sets what the aircraft will need some minutes on; it sinks a little
-// first and is back when ten minutes are over.
+// Fuel burned is weight gone, and less weight needs less thrust: with the levers left alone it would
+// climb ever faster. The crew therefore sets what the aircraft will need some minutes on; it sinks a
+// little first and is back when ten minutes are over.
 double Aircraft::thrust_for_minutes(const InFlight& where) const {
   constexpr double ahead_s = 260.0;
   AirframeInputs inputs = surroundings();

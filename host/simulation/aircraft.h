@@ -43,12 +43,12 @@ struct Aircraft {
   Airframe airframe;
   Turbulence turbulence;
   TrimDrives trim_drives;
-  /// Under the wheels until the crew first sets the parking brake or the tug comes; they hold the aircraft
-  /// altogether.
+  /// Under the wheels until the crew first sets the parking brake or the tug comes; they hold the
+  /// aircraft altogether.
   bool chocks_in = true;
   Tug tug;
-  /// By the ground crew, and its engines have not turned since: an automatic start finds them at idle, and
-  /// with the battery all power goes.
+  /// Handed over by the ground crew, and its engines have not turned since: an automatic start finds
+  /// them at idle, and with the battery all power goes.
   bool handed_over = false;
   AirData air;
   AirControls air_controls;
@@ -65,7 +65,7 @@ struct Aircraft {
   VhfTuning com{com_band, 121700, 118100};  ///< ground, then tower
   TransponderCode transponder;              ///< all noughts, as the panel's knobs stand
   AudioSelector audio;
-  int marker = 0;                       ///< as marker_overhead()
+  int marker = 0;                       ///< as marker_overhead() returns it
   bool hsi_on_area_navigation = false;  ///< instead of receiver 1
   Autopilot autopilot;
   StandbyCompass standby_compass;
@@ -103,7 +103,8 @@ struct Aircraft {
   /// What the automatic start leads to: at once where the aircraft has just been handed over.
   void start_automatically();
 
-  /// The ground crew's part: a ground unit feeds the aircraft, and the auxiliary power unit is at speed.
+  /// The ground crew's part: a ground unit feeds the aircraft, and the auxiliary power unit is at
+  /// speed.
   void connect_ground_power();
 
   /// As the start page finds it: battery, avionics and auxiliary power unit on, fuel levers open.
@@ -112,8 +113,8 @@ struct Aircraft {
   /// Lines it up on the runway as it is, at rest, without chocks, the parking brake set.
   void place_on_runway();
 
-  /// Puts it into trimmed, straight and level flight, made ready, boost pumps on. Returns false where it cannot fly so;
-  /// it is then as near to it as it comes.
+  /// Puts it into trimmed, straight and level flight, made ready, boost pumps on. Returns false where
+  /// it cannot fly like that; it is then as near to it as it comes.
   bool place_in_flight(const InFlight& where);
 
  private:
@@ -140,7 +141,7 @@ struct Aircraft {
   void update_navigation(double dt_s);
   void update_warnings(double dt_s);
   GroundProximityInputs ground_proximity_inputs() const;
-  /// What follows where it has been put somewhere else.
+  /// Brings everything that depends on the place up to date after the aircraft has been moved.
   void arrive();
 };
 

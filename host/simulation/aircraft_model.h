@@ -21,8 +21,8 @@
 
 namespace host {
 
-/// How the crew finds the aircraft. Either way it stands on its chocks, the brakes released; the chocks go
-/// when the parking brake is first set.
+/// How the crew finds the aircraft. Either way it stands on its chocks, the brakes released; the chocks
+/// go when the parking brake is first set.
 enum class StartCondition {
   cold,   ///< everything off
   ready,  ///< both engines at a warm idle, battery and avionics on
@@ -41,8 +41,8 @@ class AircraftModel {
   /// Seconds simulated so far, whole steps only.
   double seconds() const;
 
-  /// What flies the aircraft: hands and feet or a script write here between steps. The autopilot moves the
-  /// surfaces beside them, and of this record the trim wheel and the throttle levers.
+  /// What flies the aircraft: hands and feet or a script write here between steps. The autopilot moves
+  /// the surfaces beside them, and of this record the trim wheel and the throttle levers.
   simulation::FlightControls& controls();
 
   /// The day's weather: pressure, temperature, wind and gusts.
@@ -59,15 +59,15 @@ class AircraftModel {
   /// Puts both engines at a warm idle with battery and avionics on, as after a start some minutes ago.
   void make_ready();
 
-  /// As the ground crew hands it over, for the start page: battery, avionics and auxiliary power unit on,
-  /// fuel levers open, both engines standing and ready to idle at once.
+  /// As the ground crew hands it over, for the start page: battery, avionics and auxiliary power unit
+  /// on, fuel levers open, both engines standing and ready to idle at once.
   void hand_over();
 
   /// Lines it up for take-off as it is, at rest, the parking brake set.
   void place_on_runway();
 
   /// Puts it into trimmed, straight and level flight with everything running. Returns false where it
-  /// cannot fly so; it is then as near to it as it comes.
+  /// cannot fly like that; it is then as near to it as it comes.
   bool place_in_flight(const simulation::InFlight& where);
 
   /// Applies a host key event at once. Returns false for a number that the aircraft does not know.

@@ -15,8 +15,8 @@ struct StartPlace {
 
 std::span<const StartPlace> start_places();
 
-/// Puts the aircraft there, everything running but on the stand. Returns false for a name that is none of
-/// those.
+/// Puts the aircraft there, with everything running except on the stand. Returns false for any other
+/// name.
 bool start_at(AircraftModel& aircraft, std::string_view name);
 
 }  // namespace host

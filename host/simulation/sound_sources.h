@@ -1,4 +1,4 @@
-/// What of the aircraft can be heard in its cockpit, at one moment.
+/// What can be heard of the aircraft in its cockpit at one moment.
 #pragma once
 
 #include <array>

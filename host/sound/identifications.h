@@ -16,7 +16,8 @@ namespace host {
 class Identifications {
  public:
   /// Call after every frame with what each receiver hears, empty for nothing, and the simulated time in
-  /// seconds. A station keys on all the time: who tunes it in hears it from where it is.
+  /// seconds. A station sends all the time: tuned in, it is heard from where it is in its
+  /// identification.
   void update(std::span<const std::string_view> heard, double seconds);
 
   /// Nothing is heard until the next update.

@@ -12,8 +12,8 @@ namespace host {
 /// letter one, between letters three. Letters of either case and figures; others are left out.
 std::string morse_keying(std::string_view text);
 
-/// How a station sends (after ICAO Annex 10, volume I, 3.1.3.9): dots of 0.1 to 0.16 seconds, six times a
-/// minute. Quiet, so that voices stand well above it.
+/// How a station sends (after ICAO Annex 10, volume I, 3.1.3.9): dots of 0.1 to 0.16 seconds, six times
+/// a minute. Quiet, so that voices stand well above it.
 struct MorseTone {
   double hertz = 1020.0;
   double dot_seconds = 0.125;

@@ -16,8 +16,8 @@ class SoundBook {
   /// Reads them all. A folder that is not there has none.
   explicit SoundBook(const std::filesystem::path& folder);
 
-  /// The file's name without its ending and the aircraft's prefix: "v1" for `Tarv_v1.wav`; "?" for samples
-  /// of none of them.
+  /// The file's name without its ending and the aircraft's prefix: "v1" for `Tarv_v1.wav`; "?" for
+  /// samples of none of them.
   std::string name_of(std::span<const std::byte> samples) const;
 
  private:

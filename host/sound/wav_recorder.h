@@ -32,8 +32,8 @@ class WavRecorder {
   /// Mixes more into the next samples, interleaved stereo, before they are written. May be empty.
   std::function<void(std::span<std::int16_t>)> mix_in;
 
-  /// Root mean square of the last `seconds` (up to `memory`), 1 being a full-scale square wave; without what is
-  /// mixed in.
+  /// Root mean square of the last `seconds` (up to `memory`), 1 being a full-scale square wave; without
+  /// what is mixed in.
   double level(double seconds) const;
 
   /// Completes the file; nothing more is recorded. Throws as above. Destruction does the same, but

@@ -39,12 +39,9 @@ FlightDeck::FlightDeck(CockpitInputs& inputs, const DeckOptions& options)
       hand_(inputs_, views_, scale_),
       lists_(options.checklists.empty() ? std::vector<Checklist>{}
                                         : read_checklists(options.checklists)),
-      pages_(inputs_, lists_, options.checklists) {
-  if (!options.controls.empty()) {
-    controls_ = read_control_map(options.controls);
-    sticks_.emplace(controls_, hands_);
-  }
-  if (!options.flows.empty()) find_flows();
+      pages_(inputs_, lists_, options.checklists),
+      flying_(options.controls),
+      flows_(flows_in(options.flows)) {
   apply_volume();
   platform_on_message(take_message, this);
 }
@@ -154,7 +151,7 @@ void FlightDeck::refresh() {
   if (moving && time < picture_due_) return;
   const double blend =
       moving ? std::clamp((time - last_frame_) * cockpit_.rate() * speed_, 0.0, 1.0) : 1.0;
-  turn_head(time - std::exchange(looked_, time));
+  flying_.turn_head(time - std::exchange(looked_, time));
   const auto sight = paused_ ? std::nullopt : std::optional(sight_at(time));
   views_.each([&](View& view) { view.refresh(blend, sight); });
   picture_due_ = std::max(picture_due_ + picture_time, time);
@@ -163,7 +160,7 @@ void FlightDeck::refresh() {
 outside::Sight FlightDeck::sight_at(double time) const {
   outside::Sight sight = outside::captains_sight(
       cockpit_.aircraft(), std::clamp((time - last_frame_) * speed_, 0.0, 1.0 / cockpit_.rate()));
-  sight.look = look_;
+  sight.look = flying_.look();
   return sight;
 }
 
@@ -185,7 +182,7 @@ void FlightDeck::wait_for_event() {
 }
 
 void FlightDeck::take(const SDL_Event& event) {
-  if (sticks_) sticks_->take(event);
+  flying_.take_stick(event);
   if (take_menu_mouse(event) || take_yoke(event)) return;
   if (event.type == SDL_MOUSEBUTTONDOWN &&
       (take_menu_ask(event.button) || take_strip_press(event.button)))
@@ -214,7 +211,7 @@ void FlightDeck::take(const SDL_Event& event) {
 void FlightDeck::take_window(const SDL_WindowEvent& event) {
   View* view = views_.find(event.windowID);
   if (!view) return;
-  if (event.event == SDL_WINDOWEVENT_FOCUS_LOST) let_go_of_keys();
+  if (event.event == SDL_WINDOWEVENT_FOCUS_LOST) flying_.let_go_of_keys();
   if (event.event == SDL_WINDOWEVENT_SIZE_CHANGED) {
     view->take_size();
   } else if (event.event == SDL_WINDOWEVENT_EXPOSED) {

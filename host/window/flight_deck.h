@@ -4,17 +4,16 @@
 #include <chrono>
 #include <filesystem>
 #include <functional>
-#include <map>
 #include <memory>
 #include <optional>
 #include <string>
-#include <utility>
 #include <vector>
 
-#include "host/hands/sticks.h"
 #include "host/pages/pages.h"
 #include "host/script/watched_flow.h"
 #include "host/window/deck_options.h"
+#include "host/window/flow_list.h"
+#include "host/window/flying_hands.h"
 #include "host/window/menu.h"
 #include "host/window/mouse_hand.h"
 #include "host/window/next_flight.h"
@@ -39,9 +38,9 @@ class FlightDeck {
   std::function<void()> after_frame;
   /// Called when frames stop for a while.
   std::function<void()> on_pause;
-  /// Whether leaving loses the flight: then it takes two asks.
+  /// Whether leaving loses the flight: then it has to be asked for twice.
   bool ask_to_leave = false;
-  /// Called when the flight begins to run as fast as life, or faster.
+  /// Called when the flight goes over to real time, or to something faster.
   std::function<void(bool as_life)> on_speed;
 
   /// Lets a flow fly, before the person's eyes, until it ends or is taken over.
@@ -79,9 +78,7 @@ class FlightDeck {
   bool take_flying_key(const SDL_KeyboardEvent& key);
   bool take_yoke(const SDL_Event& event);
   void toggle_yoke();
-  void let_go_of_keys();
   void take_window_actions();
-  void turn_head(double seconds);
   void show_controls_page();
   void show_badge();
 
@@ -94,20 +91,22 @@ class FlightDeck {
   bool over_page(Uint32 window, int x, int y) const;
   const PageSpot* page_spot(int x, int y) const;
 
-  // ---- The menu (menu_hand.cpp) -----------------------------------------------------------------
+  // ---- The cards of the menu (menu_rows.cpp) ----------------------------------------------------
   MenuSheet menu_sheet(MenuPage page);
   std::vector<MenuRow> top_rows();
+  MenuRow sound_row();
   std::vector<MenuRow> panel_rows();
   std::vector<MenuRow> page_rows();
   std::vector<MenuRow> flight_rows();
   std::vector<MenuRow> flow_rows();
   std::vector<MenuRow> setting_rows();
-  void find_flows();
   void set_volume(double volume);
   void apply_volume() const;
   void step_scale(int by);
   void set_scale(double scale);
   void begin_another(NextFlight next);
+
+  // ---- The menu in its window (menu_hand.cpp) ---------------------------------------------------
   View& menu_view();
   void open_menu(View& view, PanelPoint at, bool for_keyboard);
   void open_menu_for_keyboard(View& view);
@@ -116,9 +115,7 @@ class FlightDeck {
   bool take_menu_key(const SDL_KeyboardEvent& event);
   bool take_menu_mouse(const SDL_Event& event);
   bool take_menu_ask(const SDL_MouseButtonEvent& event);
-  static bool is_modifier(SDL_Keycode key);
-  /// A place that an event tells, in pixels of the view; what lies there; whether that is a control.
-  static PanelPoint pixel_of(const View& view, int x, int y);
+  /// What lies at a place that an event tells; whether that is a control.
   std::optional<ViewHit> hit_at(Uint32 window, int x, int y);
   static bool takes_click(const ViewHit& hit);
 
@@ -140,6 +137,7 @@ class FlightDeck {
   bool take_strip_press(const SDL_MouseButtonEvent& event);
   bool take_strip_motion(const SDL_Event& event);
 
+  // ---- Keys (flight_keys.cpp) -------------------------------------------------------------------
   void toggle_help();
   void toggle_window(std::uint32_t ident, bool beside);
   void toggle_torn();
@@ -167,15 +165,10 @@ class FlightDeck {
   MouseHand hand_;
   std::vector<Checklist> lists_;
   Pages pages_;
-  DrawnPage page_;  ///< as it stands in the main window
+  DrawnPage page_;  ///< as it was last drawn
   double page_due_ = 0;
-  ControlMap controls_;
-  Hands hands_;
-  std::optional<Sticks> sticks_;
-  std::map<SDL_Keycode, std::size_t> held_keys_;  ///< and what each one does
-  outside::Look look_;
+  FlyingHands flying_;
   double looked_ = 0;  ///< when the head was last turned
-  bool yoke_ = false;
   bool controls_shown_ = false;
   Menu menu_{[this](MenuPage page) { return menu_sheet(page); }};
   Uint32 menu_view_ = 0;
@@ -183,8 +176,7 @@ class FlightDeck {
   std::optional<std::size_t> menu_window_;  ///< the panel that it was asked for on
   bool menu_old_ = false;
   bool menu_shown_ = false;
-  std::vector<std::pair<std::filesystem::path, std::string>>
-      flows_;  ///< that the menu offers; in words
+  std::vector<OfferedFlow> flows_;
   std::unique_ptr<WatchedFlow> flow_;
   std::string flow_name_, stage_;
   std::optional<Target> flow_target_;  ///< what the flow works

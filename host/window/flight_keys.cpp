@@ -7,7 +7,6 @@
 namespace host {
 namespace {
 
-constexpr double zoom_step = 1.125;
 constexpr double zoom_shown_s = 1.5;
 constexpr double scroll_share = 0.75;  // of the window, for a key
 
@@ -40,9 +39,9 @@ void FlightDeck::take_repeating_key(const SDL_Keysym& key, View& view) {
   switch (key.sym) {
     case SDLK_PLUS:
     case SDLK_EQUALS:
-    case SDLK_KP_PLUS: change_zoom(zoom_step, view); break;
+    case SDLK_KP_PLUS: change_zoom(zoom_notch, view); break;
     case SDLK_MINUS:
-    case SDLK_KP_MINUS: change_zoom(1 / zoom_step, view); break;
+    case SDLK_KP_MINUS: change_zoom(1 / zoom_notch, view); break;
     case SDLK_0:
     case SDLK_KP_0:
       view.set_zoom(std::nullopt);
@@ -117,7 +116,7 @@ void FlightDeck::toggle_outside() {
 
 void FlightDeck::toggle_pause() {
   paused_ = !paused_;
-  if (paused_) let_go_of_keys();
+  if (paused_) flying_.let_go_of_keys();
   look_or_work();
   frame_due_ = now();
   strip_old_ = true;
@@ -158,7 +157,7 @@ void FlightDeck::go_back(View& view) {
     take_over();
   else if (pages_.shown())
     pages_.close();
-  else if (yoke_)
+  else if (flying_.has_yoke())
     toggle_yoke();
   else if (view.screen().is_full_screen())
     view.screen().set_full_screen(false);
@@ -173,7 +172,8 @@ void FlightDeck::toggle_help() {
   keep_desk();
 }
 
-// The journal keeps a flight, and --resume takes it up: leaving loses nothing then, and needs no question.
+// The journal keeps a flight, and --resume takes it up: leaving loses nothing then, and needs no
+// question.
 void FlightDeck::leave() {
   if (ask_to_leave && !std::exchange(asked_, true))
     return notices_.add("Nothing keeps this flight: once more to leave it", now());

@@ -20,7 +20,7 @@ std::string in_words(std::string name) {
 }  // namespace
 
 void FlightDeck::watch(const std::filesystem::path& flow) {
-  let_go_of_keys();
+  flying_.let_go_of_keys();
   stage_.clear();
   const auto say = [this](const std::string& text) {
     stage_ = text;
@@ -32,7 +32,8 @@ void FlightDeck::watch(const std::filesystem::path& flow) {
   look_or_work();
 }
 
-// One turn of the flow. False when no frame passes now: it is over, or the eye is being led to what comes.
+// One turn of the flow. False when no frame passes now: it is over, or the eye is being led to what
+// comes.
 bool FlightDeck::let_flow_work() {
   switch (flow_->go_on()) {
     case WatchedFlow::Wish::frame: return true;
@@ -106,7 +107,7 @@ void FlightDeck::set_speed(int speed) {
   strip_old_ = true;
 }
 
-// Whoever wants to work something while a flow does is told how.
+// Tells a person who wants to work something while a flow does how to take over.
 bool FlightDeck::flow_has_control() {
   if (!flow_) return false;
   notices_.add(flow_name_ + " has control: Esc takes over", now());
@@ -149,7 +150,7 @@ void FlightDeck::show_strip() {
 std::optional<StripAct> FlightDeck::strip_act(Uint32 window, int x, int y) const {
   const View& view = views_.main();
   if (window != view.screen().id()) return std::nullopt;
-  const PanelPoint pixel = pixel_of(view, x, y);
+  const PanelPoint pixel = view.screen().pixel_at(x, y);
   if (view.is_covered(pixel.x, pixel.y)) return std::nullopt;
   const auto point = view.on_strip_end(pixel.x, pixel.y);
   return point ? strip_.at(point->x, point->y) : std::nullopt;
@@ -170,7 +171,7 @@ bool FlightDeck::take_strip_press(const SDL_MouseButtonEvent& event) {
   View& view = views_.main();
   switch (*act) {
     case StripAct::help: toggle_help(); break;
-    case StripAct::menu: open_menu(view, pixel_of(view, event.x, event.y), false); break;
+    case StripAct::menu: open_menu(view, view.screen().pixel_at(event.x, event.y), false); break;
     case StripAct::slower: set_speed(speed_ / 2); break;
     case StripAct::faster: set_speed(speed_ * 2); break;
     case StripAct::pause: toggle_pause(); break;

@@ -78,8 +78,8 @@ class Menu {
   /// Arrows, Enter and Escape. False for any other key.
   bool take_key(SDL_Keycode key);
 
-  /// The pointer, in pixels of the window. press() is false outside of the menu; on a level it takes hold of it
-  /// until release().
+  /// The pointer, in pixels of the window. press() is false outside of the menu; on a level it takes
+  /// hold of it until release().
   void point(int x, int y);
   bool press(int x, int y);
   void release() { held_.reset(); }

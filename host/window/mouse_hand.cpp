@@ -8,8 +8,7 @@ namespace {
 
 constexpr double tooltip_delay = 0.6;  // seconds of rest
 constexpr int scroll_step = 60;        // pixels a notch, at scale 1
-constexpr double zoom_notch = 1.125;
-constexpr int most_notches = 20;  // of one event; a device may claim any number
+constexpr int most_notches = 20;       // of one event; a device may claim any number
 
 int limited_notches(int notches) { return std::clamp(notches, -most_notches, most_notches); }
 
@@ -49,9 +48,9 @@ View* MouseHand::view_of(Uint32 id, int x, int y) {
   View* view = views_.find(id);
   if (!view) return nullptr;
   view_id_ = id;
-  const double density = view->screen().density();
-  x_ = static_cast<int>(std::floor(x * density));
-  y_ = static_cast<int>(std::floor(y * density));
+  const PanelPoint pixel = view->screen().pixel_at(x, y);
+  x_ = pixel.x;
+  y_ = pixel.y;
   return view;
 }
 

@@ -40,12 +40,12 @@ void FlightDeck::show_page() {
 bool FlightDeck::over_page(Uint32 window, int x, int y) const {
   const ScreenWindow& screen = views_.main().screen();
   if (!pages_.shown() || window != screen.id() || y < 0) return false;
-  return x * screen.density() >= page_.picture.x;
+  return screen.pixel_at(x, y).x >= page_.picture.x;
 }
 
 const PageSpot* FlightDeck::page_spot(int x, int y) const {
-  const double density = views_.main().screen().density();
-  return page_.at(static_cast<int>(x * density) - page_.picture.x, static_cast<int>(y * density));
+  const PanelPoint pixel = views_.main().screen().pixel_at(x, y);
+  return page_.at(pixel.x - page_.picture.x, pixel.y);
 }
 
 bool FlightDeck::take_page_event(const SDL_Event& event) {

@@ -16,7 +16,8 @@ namespace host {
 
 class PictureWriter {
  public:
-  /// `on_done` is called on the writer's thread after each picture: take_notes() then has something to say.
+  /// `on_done` is called on the writer's thread after each picture: take_notes() then has something to
+  /// say.
   PictureWriter(std::filesystem::path folder, std::function<void()> on_done);
 
   /// Writes what is still to be written.

@@ -20,7 +20,7 @@ bool is_set(const char* variable) {
   return value && *value;
 }
 
-// Who names a driver gets it, even one that shows nothing.
+// A driver that is asked for by name is used, even one that shows nothing.
 bool shows_something() {
   const std::string_view driver = SDL_GetCurrentVideoDriver();
   return is_set("SDL_VIDEODRIVER") || (driver != "offscreen" && driver != "dummy" && driver != "evdev");
@@ -95,7 +95,7 @@ Desktop::Desktop() {
   if (!is_set("DISPLAY") && !is_set("WAYLAND_DISPLAY") && !is_set("SDL_VIDEODRIVER"))
     no_display("neither DISPLAY nor WAYLAND_DISPLAY is set");
   SDL_SetMainReady();
-  // No other driver is tried where an X display is all there is: each would complain on standard error.
+  // Where there is only an X display no other driver is tried: each would complain on standard error.
   if (!is_set("WAYLAND_DISPLAY")) SDL_SetHint(SDL_HINT_VIDEODRIVER, "x11");
   SDL_SetHint(SDL_HINT_VIDEO_HIGHDPI_DISABLED, "0");
   SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
@@ -163,6 +163,11 @@ double ScreenWindow::density() const {
   return width > 0 && pixels > 0 ? static_cast<double>(pixels) / width : 1.0;
 }
 
+PanelPoint ScreenWindow::pixel_at(int x, int y) const {
+  const double pixels = density();
+  return {static_cast<int>(std::floor(x * pixels)), static_cast<int>(std::floor(y * pixels))};
+}
+
 bool ScreenWindow::take_size() {
   int width = 0, height = 0;
   SDL_GetWindowSizeInPixels(window_.get(), &width, &height);
@@ -205,7 +210,7 @@ WindowPlace ScreenWindow::place() const {
 
 void ScreenWindow::raise() {
   SDL_RaiseWindow(window_.get());
-  SDL_SetWindowInputFocus(window_.get());  // where no window manager passes the keyboard on
+  SDL_SetWindowInputFocus(window_.get());  // for desktops without a window manager
 }
 
 void ScreenWindow::present(const std::vector<Rect>& changed) {

@@ -21,8 +21,8 @@ class Desktop {
   Desktop(const Desktop&) = delete;
   Desktop& operator=(const Desktop&) = delete;
 
-  /// Windows that close from now on stay in sight until others of the same titles take their place: between
-  /// two flights nothing flickers. clear() closes those that none has taken.
+  /// Windows that close from now on stay in sight until others of the same titles take their place:
+  /// between two flights nothing flickers. clear() closes those that none has taken.
   void keep_windows() { keeping_ = true; }
   void clear();
 
@@ -41,8 +41,8 @@ class Desktop {
 /// One window. All sizes and places are pixels.
 class ScreenWindow {
  public:
-  /// Opens it there, moved and made smaller where no screen has room for it; or takes a kept one of that title
-  /// as it stands. Only while the desktop is open.
+  /// Opens it there, moved and made smaller where no screen has room for it; or takes a kept one of
+  /// that title as it stands. Only while the desktop is open.
   ScreenWindow(const std::string& title, const WindowPlace& place);
 
   Uint32 id() const { return SDL_GetWindowID(window_.get()); }
@@ -50,6 +50,9 @@ class ScreenWindow {
 
   /// Pixels per unit of the desktop: above 1 on dense displays of systems that count in points.
   double density() const;
+
+  /// The pixel at a place that an event tells in the desktop's units; outside of the window, too.
+  PanelPoint pixel_at(int x, int y) const;
 
   /// Takes the window's present size. Returns whether it has changed.
   bool take_size();

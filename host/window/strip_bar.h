@@ -24,7 +24,7 @@ struct StripBar {
   std::optional<StripAct> at(int x, int y) const;
 };
 
-/// For those who have never pressed H.
+/// The hint for a person who has never pressed H.
 StripBar draw_help_hint(double scale);
 
 struct FlowState {

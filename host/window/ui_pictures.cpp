@@ -60,6 +60,21 @@ Overlay draw_card(const std::vector<Line>& lines, double padding, double scale) 
   return sketch.finish();
 }
 
+// A window with an arrow out of it, and a cross, at the right end of a caption.
+void draw_caption_buttons(Sketch& sketch, int width, int height, double scale, const Color& face) {
+  const double middle = height / 2.0, arm = 4 * scale, line = 1.5 * scale;
+  const double close = width - button_width(scale) / 2, tear = close - button_width(scale);
+  sketch.rounded_box(width - 2 * button_width(scale), scale, 2 * button_width(scale) - scale,
+                     height - 3 * scale, 0.5, face);  // over the end of a long title
+  sketch.line(close - arm, middle - arm, close + arm, middle + arm, line, soft_ink);
+  sketch.line(close - arm, middle + arm, close + arm, middle - arm, line, soft_ink);
+  sketch.box_outline(tear - arm - scale, middle - scale, arm * 1.6, arm * 1.4, 0.5, line, soft_ink);
+  const double tip_x = tear + arm + scale, tip_y = middle - arm - scale;
+  sketch.line(tear, middle, tip_x, tip_y, line, soft_ink);
+  sketch.line(tear + scale, tip_y, tip_x, tip_y, line, soft_ink);
+  sketch.line(tip_x, tip_y, tip_x, middle - scale, line, soft_ink);
+}
+
 }  // namespace
 
 int caption_height(double scale) { return pixels(22 * scale); }
@@ -81,19 +96,7 @@ Overlay draw_caption(const std::string& title, const std::string& key, int width
   if (!key.empty())
     sketch.text(key, 14 * scale + Sketch::text_width(title, 0.75 * height, true), 0, 0.75 * height,
                 false, soft_ink);
-  const double middle = height / 2.0, arm = 4 * scale, line = 1.5 * scale;
-  const double close = width - button_width(scale) / 2, tear = close - button_width(scale);
-  sketch.rounded_box(width - 2 * button_width(scale), scale, 2 * button_width(scale) - scale,
-                     height - 3 * scale, 0.5, face);  // over the end of a long title
-  sketch.line(close - arm, middle - arm, close + arm, middle + arm, line, soft_ink);
-  sketch.line(close - arm, middle + arm, close + arm, middle - arm, line, soft_ink);
-  sketch.box_outline(tear - arm - 1 * scale, middle - 1 * scale, arm * 1.6, arm * 1.4, 0.5, line,
-                     soft_ink);
-  sketch.line(tear, middle, tear + arm + scale, middle - arm - scale, line, soft_ink);
-  sketch.line(tear + scale, middle - arm - scale, tear + arm + scale, middle - arm - scale, line,
-              soft_ink);
-  sketch.line(tear + arm + scale, middle - arm - scale, tear + arm + scale, middle - scale, line,
-              soft_ink);
+  draw_caption_buttons(sketch, width, height, scale, face);
   return sketch.finish();
 }
 

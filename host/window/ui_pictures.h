@@ -17,8 +17,8 @@ int caption_height(double scale);
 /// What a point of a caption does.
 enum class CaptionPart { none, tear, close };
 
-/// A panel's tab: its title, the key that opens it, and two buttons at the right end. `in_work`: it is one of
-/// those that are shown.
+/// A panel's tab: its title, the key that opens it, and two buttons at the right end. `in_work`: it is
+/// one of those that are shown.
 Overlay draw_caption(const std::string& title, const std::string& key, int width, double scale,
                      bool in_work);
 

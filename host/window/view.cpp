@@ -186,7 +186,8 @@ void View::relayout() {
   all_changed_ = true;
 }
 
-// The tabs stand below the view out of the window, each as wide as it likes, or narrower where there are many.
+// The tabs stand below the view out of the window, each as wide as it likes, or narrower where there
+// are many.
 void View::place_tabs() {
   tabs_.clear();
   double wanted = 0;

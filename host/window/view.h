@@ -18,6 +18,9 @@ namespace host {
 /// What the program lays over the panels, from the lowest to the topmost.
 enum class Layer { mark, page, badge, zoom, note, tooltip, controls, help, menu, count };
 
+/// What a notch of the wheel, or a key, multiplies the zoom by.
+inline constexpr double zoom_notch = 1.125;
+
 /// The key that shows a panel; empty for none.
 std::string panel_key(const WindowConfig& window);
 
@@ -29,11 +32,11 @@ struct ViewHit {
   std::optional<PanelHit> gauge;
 };
 
-/// Shows some of a cockpit's windows: the main view those in work, side by side below a strip with a tab for
-/// every one that is open; a torn-off view one, without a strip and as large as its window.
+/// Shows some of a cockpit's windows: the main view those in work, side by side below a strip with a
+/// tab for every one that is open; a torn-off view one, without a strip and as large as its window.
 ///
-/// Whatever happens to it, what it shows changes in settle() alone: until then a pixel still hits what is
-/// seen there.
+/// Whatever happens to it, what it shows changes in settle() alone: until then a pixel still hits what
+/// is seen there.
 class View {
  public:
   enum class Kind { main, torn };
@@ -57,7 +60,8 @@ class View {
   double zoom() const { return zoom_.value_or(layout_.zoom); }
   std::optional<double> chosen_zoom() const { return zoom_; }
 
-  /// Changes the zoom and leaves what lies under a pixel where it is, as far as the window's edges let it.
+  /// Changes the zoom and leaves what lies under a pixel where it is, as far as the window's edges let
+  /// it.
   void zoom_by(double factor, std::optional<PanelPoint> at);
 
   /// Moves the panels under the window where they do not all fit.
@@ -66,7 +70,8 @@ class View {
   /// Takes a new size of the desktop's window at the next settle().
   void take_size() { layout_old_ = true; }
 
-  /// Takes on everything that was asked of it since the last call. Returns whether its size has changed.
+  /// Takes on everything that was asked of it since the last call. Returns whether its size has
+  /// changed.
   bool settle();
 
   /// Everything is drawn and presented again with the next refresh.
@@ -93,16 +98,16 @@ class View {
   /// Whether a gauge in it has moved in the last frame.
   bool moving() const;
 
-  /// Whether the view out of the window is wanted above the captain's panel, and whether it stands there:
-  /// it does where that panel is shown and there is room.
+  /// Whether the view out of the window is wanted above the captain's panel, and whether it stands
+  /// there: it does where that panel is shown and there is room.
   void want_outside(bool wanted);
   bool wants_outside() const { return outside_wanted_; }
   bool shows_outside() const { return outside_.height > 0; }
-  /// Whether it was another picture the last time that it was looked at.
+  /// Whether the last refresh() found it changed.
   bool outside_moves() const { return outside_moves_; }
 
-  /// Draws and presents what has changed. `sight` is what the captain sees now; empty: as before. Returns
-  /// whether anything had changed.
+  /// Draws and presents what has changed. `sight` is what the captain sees now; empty: as before.
+  /// Returns whether anything had changed.
   bool refresh(double blend, const std::optional<outside::Sight>& sight);
 
   /// What it shows, without what the program lays over it.

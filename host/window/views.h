@@ -1,8 +1,8 @@
 /// The desktop windows of a cockpit: the main view, and one for every panel that is torn off.
 ///
-/// In the main view the panel in work keeps its size: another one that opens stands beside it where that costs
-/// it nothing, as the small ones mostly do, and else takes its place, while the one before waits as a tab.
-/// A switch is then as large as the window allows, and every panel is one key away.
+/// In the main view the panel in work keeps its size: another one that opens stands beside it where
+/// that costs it nothing, as the small ones mostly do, and else takes its place, while the one before
+/// waits as a tab. A switch is then as large as the window allows, and every panel is one key away.
 #pragma once
 
 #include <map>
@@ -18,8 +18,8 @@ namespace host {
 
 class Views {
  public:
-  /// `scale` is the desktop's. Everything stands as it does on the desk; where that says nothing, the main
-  /// view opens as large as the panels fit the screen, or at `zoom` screen pixels per panel pixel;
+  /// `scale` is the desktop's. Everything stands as it does on the desk; where that says nothing, the
+  /// main view opens as large as the panels fit the screen, or at `zoom` screen pixels per panel pixel;
   /// over all of the screen where the captain's panel can have the view out of the window above it.
   Views(Cockpit& cockpit, double scale, std::optional<double> zoom, const Desk& desk);
 

@@ -18,7 +18,7 @@ namespace {
 
 XErrorHandler next_handler = nullptr;
 
-// A window that another program has destroyed does not come back: the flight is left as on a signal.
+// A window that another program has destroyed does not come back: the flight ends as on a signal.
 void leave_once() {
   static bool told = false;
   if (std::exchange(told, true)) return;
@@ -33,7 +33,8 @@ int take_error(Display* display, XErrorEvent* error) {
   return next_handler ? next_handler(display, error) : 0;
 }
 
-// Nothing that is drawn from here on has a place, and Xlib lets nobody go on. The journal is on the disk.
+// From here on nothing can be drawn, and Xlib does not let a program continue. The journal is on the
+// disk.
 int end_without_display(Display*) {
   std::fprintf(stderr, "tarnvale: the display is gone\n");
   _exit(1);

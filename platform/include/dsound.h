@@ -1,6 +1,6 @@
 /// The sound calls of the operating system that the module makes, for systems that lack them: real
-/// names, types and constants; buffers are secondary ones of PCM, 8 or 16 bit, mono or stereo, by a plain
-/// or an extensible format.
+/// names, types and constants; buffers are secondary ones of PCM, 8 or 16 bit, mono or stereo, by a
+/// plain or an extensible format.
 #pragma once
 
 #include <windows.h>
@@ -109,8 +109,8 @@ struct IDirectSoundBuffer : IUnknown {
 typedef IDirectSoundBuffer* LPDIRECTSOUNDBUFFER;
 
 struct IDirectSound : IUnknown {
-  /// Needs a cooperative level. DSERR_BADFORMAT for samples that cannot be played, DSERR_INVALIDPARAM for
-  /// a format or size that makes no sense.
+  /// Needs a cooperative level. DSERR_BADFORMAT for samples that cannot be played, DSERR_INVALIDPARAM
+  /// for a format or size that makes no sense.
   virtual HRESULT CreateSoundBuffer(LPCDSBUFFERDESC description, LPDIRECTSOUNDBUFFER* buffer,
                                     LPUNKNOWN outer) = 0;
   /// A second buffer over the same samples, with its own position and status.

@@ -57,8 +57,8 @@ struct Tape {
   double round = 0;  ///< printed figures start again at this one: 360 on a heading tape
 };
 
-/// The card of a floating compass, unrolled: marks every five degrees under figures and letters. It is read
-/// from the side, so that its figures run backwards; the record's range is one turn.
+/// The card of a floating compass, unrolled: marks every five degrees under figures and letters. It is
+/// read from the side, so that its figures run backwards; the record's range is one turn.
 struct CompassStrip {
   double figure_size;
 };

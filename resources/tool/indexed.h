@@ -33,11 +33,12 @@ struct Indexed {
 /// A background's palette says nothing about opacity; for showing, all that is drawn of it is opaque.
 void make_opaque(Indexed& picture);
 
-/// The picture in its best 256 colours, or fewer. Where black is not drawn, no drawn pixel is pure black.
+/// The picture in its best 256 colours, or fewer. Where black is not drawn, no drawn pixel is pure
+/// black.
 Indexed indexed(const Canvas& canvas, Ground ground, std::size_t most_colours = 256);
 
-/// The picture in its own colours, for a bitmap without a palette: each pixel is opaque, or pure black where
-/// that is not drawn.
+/// The picture in its own colours, for a bitmap without a palette: each pixel is opaque, or pure black
+/// where that is not drawn.
 Canvas full_colour(const Canvas& canvas, Ground ground);
 
 }  // namespace artwork

@@ -1,4 +1,5 @@
-/// Drawing many bitmaps at once, those that have changed, and what an artist looks at: single pictures and whole gauges.
+/// Drawing many bitmaps at once, those that have changed, and what an artist looks at: single pictures
+/// and whole gauges.
 #pragma once
 
 #include <atomic>

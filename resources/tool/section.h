@@ -11,8 +11,8 @@ namespace artwork {
 
 using Bytes = std::vector<std::uint8_t>;
 
-/// A packed bitmap of eight bits a pixel, or of four where it has at most sixteen colours: header, palette,
-/// rows from the bottom up.
+/// A packed bitmap of eight bits a pixel, or of four where it has at most sixteen colours: header,
+/// palette, rows from the bottom up.
 Bytes packed(const Indexed& picture, int bits = 8);
 
 /// One of 24 bits a pixel, of a picture whose pixels are opaque or pure black.

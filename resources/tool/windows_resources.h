@@ -5,8 +5,8 @@
 
 namespace artwork {
 
-/// A compiled resource file (.res) with the bitmaps of a section: numbered ones by number, named ones by
-/// name, all of them for any language. Ends the program for a number that a resource cannot have.
+/// A compiled resource file (.res) with the bitmaps of a section: numbered ones by number, named ones
+/// by name, all of them for any language. Ends the program for a number that a resource cannot have.
 Bytes windows_resources(const Bytes& section);
 
 }  // namespace artwork

@@ -7,6 +7,7 @@
 
 #include "resources/tool/keys.h"
 #include "tests/resources/picture.h"
+#include "tests/rig/temp_folder.h"
 
 namespace artwork_test {
 namespace {
@@ -16,11 +17,11 @@ namespace fs = std::filesystem;
 /// Stands for the compiled code: a file for the kit and one for each unit.
 class DrawnAgain : public ::testing::Test {
  protected:
-  const fs::path folder = fs::temp_directory_path() / "artwork-keys-test";
+  const TempFolder temp;
+  const fs::path folder = temp.path();
   const DrawingCode code{folder / "kit", folder / "objects"};
 
   void SetUp() override {
-    fs::create_directories(folder);
     write("kit", "one");
     std::ofstream list(code.objects);
     for (const NamedUnit& each : units()) {
@@ -29,7 +30,6 @@ class DrawnAgain : public ::testing::Test {
       list << (folder / object).string() << '\n';
     }
   }
-  void TearDown() override { fs::remove_all(folder); }
 
   void write(const fs::path& file, std::string_view content) const {
     std::ofstream(folder / file) << content;

@@ -1,9 +1,10 @@
 /// The autopilot: flies by its servos what the flight director asks for, and holds the speed.
 ///
-/// It engages in the air with power, an attitude within 35 degrees of bank and 20 of pitch, no
-/// buffet, and the stick free. It lets go when the master is switched off, when the pilot moves the stick
-/// by a quarter of its travel, when the wing buffets before a stall, beyond 50 degrees of bank or 30 of pitch,
-/// without power or gyros, and on the ground. It does not flare: the pilot takes over above 50 ft.
+/// It engages in the air with power, an attitude within 35 degrees of bank and 20 of pitch, no buffet,
+/// and the stick free. It lets go when the master is switched off, when the pilot moves the stick by a
+/// quarter of its travel, when the wing buffets before a stall, beyond 50 degrees of bank or 30 of
+/// pitch, without power or gyros, and on the ground. It does not flare: the pilot takes over above 50
+/// ft.
 #pragma once
 
 #include "host/simulation/autopilot/autothrottle.h"

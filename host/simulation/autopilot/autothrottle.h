@@ -2,10 +2,11 @@
 ///
 ///   wanted acceleration = (selected - airspeed) / 10 s, at most 0.07 g
 ///   lever               = 0.10 a second for each m/s2 that is missing, at most 0.08 a second
-/// Full travel of the levers is worth some 2.5 m/s2, and the engines follow in a second or two: a loop of
-/// 0.25 radians a second around one of 0.1. So that gusts do not shake the levers, the acceleration is that
-/// over the ground, and the airspeed is that acceleration summed, drawn to the indicated one in 5 s (a
-/// complementary filter: Brown and Hwang, Introduction to Random Signals and Applied Kalman Filtering, ch. 4).
+/// Full travel of the levers is worth some 2.5 m/s2, and the engines follow in a second or two: a loop
+/// of 0.25 radians a second around one of 0.1. So that gusts do not shake the levers, the acceleration
+/// is that over the ground, and the airspeed is that acceleration summed, drawn to the indicated one in
+/// 5 s (a complementary filter: Brown and Hwang, Introduction to Random Signals and Applied Kalman
+/// Filtering, ch. 4).
 #pragma once
 
 #include "host/simulation/autopilot/sensed.h"
@@ -13,7 +14,7 @@
 namespace host::simulation {
 
 struct Autothrottle {
-  /// As from this moment.
+  /// Starts afresh from the aircraft's own speed.
   void start(const Sensed& sensed);
 
   /// `on`: it holds the levers; off it only watches the speed.

@@ -1,9 +1,9 @@
-/// The flight director: the attitude that flies what the crew has asked for. Whoever keeps the bars centred
-/// flies it, by hand or by autopilot; both see the same commands.
+/// The flight director: the attitude that flies what the crew has asked for. Whoever keeps the bars
+/// centred flies it, by hand or by autopilot; both see the same commands.
 ///
-/// While nothing has been chosen and the autopilot is off it makes the usual choice: sideways the localizer
-/// once that is alive, else the heading bug; up and down the glide slope once on the localizer, else
-/// the selected altitude at 1,500 ft/min.
+/// While nothing has been chosen and the autopilot is off it makes the usual choice: sideways the
+/// localizer once that is alive, else the heading bug; up and down the glide slope once on the
+/// localizer, else the selected altitude at 1,500 ft/min.
 #pragma once
 
 #include "host/simulation/autopilot/lateral_guidance.h"
@@ -18,7 +18,7 @@ struct FlightDirector {
   LateralGuidance lateral;
   VerticalGuidance vertical;
 
-  /// As from this moment, from the aircraft's own attitude.
+  /// Starts afresh from the aircraft's own attitude.
   void start(const Sensed& sensed);
 
   /// May turn modes off that have ended, and the vertical speed's wheel.

@@ -4,10 +4,11 @@
 ///   bank = atan(V / g * turn / T), at most 25 degrees, changing by at most 5 degrees a second.
 /// Beside a course it aims at a point on it some seconds L ahead:
 ///   track = course + aside / (V L), at most 45 degrees (localizer 40) to the side.
-/// With T = 8 s and L = 24 s (localizer 5 and 15) distance and direction come together without overshoot:
-/// the two lags stand one to three, where a second-order system is damped to 0.87 (Blakelock, Automatic
-/// Control of Aircraft and Missiles, 2nd ed., ch. 5). To this comes the bank at which a dead engine's
-/// drag turns the aircraft no more; bank and turn rate tell it, smoothed over 15 s.
+/// With T = 8 s and L = 24 s (localizer 5 and 15) distance and direction come together without
+/// overshoot: the two lags stand one to three, where a second-order system is damped to 0.87
+/// (Blakelock, Automatic Control of Aircraft and Missiles, 2nd ed., ch. 5). To this comes the bank at
+/// which a dead engine's drag turns the aircraft no more; bank and turn rate tell it, smoothed over 15
+/// s.
 ///
 /// Check values: 10 degrees of turn at 150 kt ask for 9.7 degrees of bank; 500 m beside a VOR's course
 /// at 77 m/s for 15.5 degrees of track.
@@ -22,7 +23,7 @@ struct LateralGuidance {
   double bank_rad = 0.0;   ///< asked for, right positive
   bool on_course = false;  ///< navigation has captured its course; until then it flies the heading bug
 
-  /// As from this moment: the aircraft's own bank and no course captured.
+  /// Starts afresh from the aircraft's own bank, with no course captured.
   void start(const Sensed& sensed);
 
   void update(double dt_s, LateralMode mode, const Sensed& sensed, double heading_bug_deg);

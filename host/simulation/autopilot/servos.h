@@ -2,10 +2,10 @@
 ///
 ///   elevator = 1.9 (wanted pitch - pitch) - 1.6 (pitch rate - that of a level turn)
 ///   aileron  = 1.5 (wanted bank - bank) + 0.2 of that summed - 0.8 roll rate
-/// in radians (rates per second) at 150 kt; the sum goes on within 3 degrees. At other speeds all of it falls
-/// as the speed's square rises, with which the surfaces' power grows: so the loops keep their pace of about
-/// 1.7 and 1.4 radians a second (the roots of 1.9 and 1.5 times the power: see aerodynamics.h).
-/// The elevator's servo moves at most 10 degrees, the aileron's 15.
+/// in radians (rates per second) at 150 kt; the sum goes on within 3 degrees. At other speeds all of it
+/// falls as the speed's square rises, with which the surfaces' power grows: so the loops keep their
+/// pace of about 1.7 and 1.4 radians a second (the roots of 1.9 and 1.5 times the power: see
+/// aerodynamics.h). The elevator's servo moves at most 10 degrees, the aileron's 15.
 ///
 /// The stabiliser follows until the elevator stands in its middle: by 0.12 of its deflection a
 /// second, at most 0.3 degrees a second. What the servo lets go of has no force on it then.

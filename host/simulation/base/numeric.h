@@ -1,4 +1,4 @@
-/// Small sums that several models share.
+/// Small calculations that several models share.
 #pragma once
 
 #include <span>

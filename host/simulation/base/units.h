@@ -1,4 +1,4 @@
-/// Factors between the units of the cockpit and those of the sums. Inside, everything is SI.
+/// Factors between the units of the cockpit and those of the calculations. Inside, everything is SI.
 #pragma once
 
 #include <numbers>

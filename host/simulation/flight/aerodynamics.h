@@ -1,8 +1,9 @@
 /// Forces and moments of the air on the airframe.
 ///
-/// A wing of 79 m2 and 25 m, mean chord 3.4 m. Coefficients build up from the state, each derivative per
-/// radian (rates per radian of p b/2V, q c/2V, r b/2V), in the classic small-angle form of Etkin and Reid,
-/// Dynamics of Flight, 3rd ed., ch. 4 and 5; the figures are this aircraft's own, in the range of its class:
+/// A wing of 79 m2 and 25 m, mean chord 3.4 m. Coefficients build up from the state, each derivative
+/// per radian (rates per radian of p b/2V, q c/2V, r b/2V), in the classic small-angle form of Etkin
+/// and Reid, Dynamics of Flight, 3rd ed., ch. 4 and 5; the figures are this aircraft's own, in the
+/// range of its class:
 ///
 ///   CL = CLwing(alpha, flaps, M) + 6 q^ - 0.35 de - 0.9 ih - 0.8 dumpers, and 6 % more on the ground
 ///   CD = 0.0175 + k CL^2 G(h) + flaps + 0.020 gear + 0.035 speed brake + 0.06 dumpers + wave + stall
@@ -13,7 +14,8 @@
 ///   Cl = -0.13 beta - 0.45 p^ + (0.10 + 0.15 CL) r^ + 0.068 da + 0.015 dr
 ///   Cn =  0.14 beta - (0.03 + 0.05 CL) p^ - 0.22 r^ - 0.004 da + 0.09 dr
 ///
-/// Controls have the sign of the pilot's hand: de and ih pull the nose up, da rolls right, dr yaws right.
+/// Controls have the sign of the pilot's hand: de and ih pull the nose up, da rolls right, dr yaws
+/// right.
 #pragma once
 
 #include "host/simulation/base/vector.h"

@@ -1,8 +1,8 @@
 /// The air around the aircraft and what the pitot-static instruments make of it.
 ///
 /// Calibrated airspeed and Mach number from the compressible pitot equation (Anderson, Introduction to
-/// Flight, ch. 4): qc = p ((1 + M^2/5)^3.5 - 1), CAS = a0 sqrt(5 ((qc/p0 + 1)^(2/7) - 1)). Check values:
-/// 250 kt at sea level is Mach 0.378; Mach 0.75 at 33,000 ft is 265 kt CAS.
+/// Flight, ch. 4): qc = p ((1 + M^2/5)^3.5 - 1), CAS = a0 sqrt(5 ((qc/p0 + 1)^(2/7) - 1)). Check
+/// values: 250 kt at sea level is Mach 0.378; Mach 0.75 at 33,000 ft is 265 kt CAS.
 #pragma once
 
 #include "host/simulation/flight/atmosphere.h"

@@ -3,8 +3,8 @@
 ///   v' = F/m + g  (earth axes)      w' = (M - w x I w)/I  (aircraft axes, principal)      q' = q w / 2
 ///
 /// Rates first, then what they move (semi-implicit Euler), in at least 240 slices a second whatever the
-/// step, so that springs and short period are the same at any pace of the simulation. Gravity is 9.80665
-/// m/s2; the principal axes are taken along the aircraft's.
+/// step, so that springs and short period are the same at any pace of the simulation. Gravity is
+/// 9.80665 m/s2; the principal axes are taken along the aircraft's.
 #pragma once
 
 #include <array>
@@ -57,8 +57,8 @@ struct Airframe {
   /// Puts it at rest on its wheels at that place of the field.
   void stand_at(const Vector& place_m, double heading_rad, const MassProperties& mass);
 
-  /// Rolls it on its wheels as a tug moves it, without slip: ahead (back if negative) at the main wheels,
-  /// about which it turns.
+  /// Rolls it on its wheels as a tug moves it, without slip: ahead (back if negative) at the main
+  /// wheels, about which it turns.
   void roll(double dt_s, double speed_mps, double yaw_rad_per_s, const MassProperties& mass);
 
   /// Moves it to an altitude above that place.

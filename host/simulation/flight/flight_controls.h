@@ -1,5 +1,6 @@
-/// What hands and feet or a script do to the aircraft. Whoever flies writes here; the aircraft follows from its
-/// next step on. The autopilot turns the trim wheel and moves the throttles, and has servos for the rest.
+/// What hands and feet or a script do to the aircraft. Whoever flies writes here; the aircraft follows
+/// from its next step on. The autopilot turns the trim wheel and moves the throttles, and has servos
+/// for the rest.
 #pragma once
 
 #include <array>

@@ -1,19 +1,21 @@
 /// Wheels on the ground, and what else may touch it.
 ///
-/// Each leg is one spring and damper, oleo and tyre together: 650 kN/m and 100 kN s/m a main leg, 155 and
-/// 25 at the nose, so that the aircraft heaves about once a second, well damped. Past the stroke it bottoms.
+/// Each leg is one spring and damper, oleo and tyre together: 650 kN/m and 100 kN s/m a main leg, 155
+/// and 25 at the nose, so that the aircraft heaves about once a second, well damped. Past the stroke it
+/// bottoms.
 ///
-/// A tyre holds by its carcass, modelled as bristles (Canudas de Wit et al., "A new model for control of
-/// systems with friction", 1995; lateral relaxation as in Pacejka, Tyre and Vehicle Dynamics, ch. 1):
+/// A tyre holds by its carcass, modelled as bristles (Canudas de Wit et al., "A new model for control
+/// of systems with friction", 1995; lateral relaxation as in Pacejka, Tyre and Vehicle Dynamics, ch.
+/// 1):
 ///
 ///   along:  deflection grows with the slip of a held wheel up to what brake and rolling resistance hold
 ///   across: s' = v - |u| s / 0.7 m, force k s, at most 0.7 of the load; k is 6 of the load a metre for the
 ///           main wheels and 3 for the nose wheel, which makes the aircraft run straight by itself
 ///
 /// so that a standing aircraft is held by springs and does not creep, and a rolling one corners by its
-/// slip angle. A braked wheel holds 0.5 of its load at most: the antiskid keeps it
-/// there, without it the wheel locks and slides on 0.3. Without gear the fuselage, tail and wing tips slide on
-/// friction alone.
+/// slip angle. A braked wheel holds 0.5 of its load at most: the antiskid keeps it there, without it
+/// the wheel locks and slides on 0.3. Without gear the fuselage, tail and wing tips slide on friction
+/// alone.
 #pragma once
 
 #include <array>

@@ -1,9 +1,9 @@
 /// Weight and balance.
 ///
-/// 30,000 kg without fuel, balanced at 25 % of the mean chord, up to 10,300 kg of fuel. The wing tanks lie
-/// 4.2 m out and 0.8 m behind that point (the wing is swept), the centre tank on it. Radii of gyration are
-/// 3.1, 5.7 and 6.4 m about the three axes (Roskam, Airplane Design, volume V, table B: jet transports); fuel
-/// in the wings adds to roll and yaw what it weighs there.
+/// 30,000 kg without fuel, balanced at 25 % of the mean chord, up to 10,300 kg of fuel. The wing tanks
+/// lie 4.2 m out and 0.8 m behind that point (the wing is swept), the centre tank on it. Radii of
+/// gyration are 3.1, 5.7 and 6.4 m about the three axes (Roskam, Airplane Design, volume V, table B:
+/// jet transports); fuel in the wings adds to roll and yaw what it weighs there.
 #pragma once
 
 #include "host/simulation/base/vector.h"

@@ -58,9 +58,8 @@ void Surfaces::update(double dt_s, const FlightControls& controls, const ServoDe
                             1.0 * radians_per_degree, dt_s);
   flap_deg = approach(flap_deg, flap_detents_deg[controls.flap_detent], 2.5, dt_s);
   for (std::size_t leg = 0; leg < gear.size(); ++leg) {
-    const bool held_down = weight_on_wheels && gear[leg] >= 1.0;
-    if (!held_down)
-      gear[leg] = approach(gear[leg], controls.gear_down ? 1.0 : 0.0, gear_rate_per_s[leg], dt_s);
+    if (weight_on_wheels && gear[leg] >= 1.0) continue;
+    gear[leg] = approach(gear[leg], controls.gear_down ? 1.0 : 0.0, gear_rate_per_s[leg], dt_s);
   }
   speed_brake = approach(speed_brake, controls.speed_brake, 1.0 / 3.0, dt_s);
   lift_dumpers = approach(lift_dumpers, controls.lift_dumpers_out ? 1.0 : 0.0, 1.0 / 0.8, dt_s);

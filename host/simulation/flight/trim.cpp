@@ -15,7 +15,8 @@ constexpr double longest_rad = 0.01;
 /// The unknowns: angle of attack, stabiliser (radians), thrust of both engines (100 kN).
 using Unknowns = Vector;
 
-/// What is left over: forces forward and down as parts of the weight, moment as a part of weight times chord.
+/// What is left over: forces forward and down as parts of the weight, moment as a part of weight times
+/// chord.
 Vector imbalance(Airframe& airframe, AirframeInputs inputs, double heading_rad,
                  const Unknowns& unknowns) {
   airframe.attitude = Quaternion::from({0.0, unknowns.x, heading_rad});

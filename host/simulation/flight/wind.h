@@ -1,8 +1,9 @@
 /// Wind and turbulence.
 ///
-/// Gusts follow Dryden's spectra at medium intensity's scale lengths (MIL-F-8785C, section 3.7): along the
-/// path and across it 530 m, vertical 265 m, taken as first-order noise whose steps keep the spectrum at
-/// any step size: g' = a g + s sqrt(1 - a^2) n, a = exp(-V dt / L). Off unless an intensity is set.
+/// Gusts follow Dryden's spectra at medium intensity's scale lengths (MIL-F-8785C, section 3.7): along
+/// the path and across it 530 m, vertical 265 m, taken as first-order noise whose steps keep the
+/// spectrum at any step size: g' = a g + s sqrt(1 - a^2) n, a = exp(-V dt / L). Off unless an intensity
+/// is set.
 #pragma once
 
 #include "host/simulation/base/noise.h"

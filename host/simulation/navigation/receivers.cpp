@@ -86,7 +86,8 @@ void NavReceiver::update_vor(const FlightState& flight, const VorStation& statio
   const double off_deg = turn_degrees(bearing_deg - course_deg);
   const bool inbound = std::abs(off_deg) <= 90.0;
   to_from = inbound ? ToFrom::to : ToFrom::from;
-  // Behind the station the course still lies where it lay: to the right of one who is left of it.
+  // Behind the station the course still lies on the same side: to the right of an aircraft that is left
+  // of it.
   const double to_course_deg = inbound ? off_deg : turn_degrees(180.0 - off_deg);
   course_deviation = std::clamp(to_course_deg / vor_full_scale_deg, -1.0, 1.0);
 }

@@ -1,10 +1,10 @@
 /// What the navigation receivers make of the stations around.
 ///
-/// Radio waves go straight: a station is heard to 1.23 (sqrt(h1) + sqrt(h2)) miles, h in feet, with its mast
-/// at 50 ft, at most 100 miles; the beacon's long waves follow the ground for 130. The localizer is heard 25
-/// miles out within 35 degrees of its course, the glide slope 12 miles out within 8 degrees either side and
-/// between 0.45 and 1.75 of its angle (after ICAO Annex 10, volume I, 3.1). Full scale is 2.5 degrees of
-/// localizer, 0.7 of glide slope, 10 of a VOR's course.
+/// Radio waves go straight: a station is heard to 1.23 (sqrt(h1) + sqrt(h2)) miles, h in feet, with its
+/// mast at 50 ft, at most 100 miles; the beacon's long waves follow the ground for 130. The localizer
+/// is heard 25 miles out within 35 degrees of its course, the glide slope 12 miles out within 8 degrees
+/// either side and between 0.45 and 1.75 of its angle (after ICAO Annex 10, volume I, 3.1). Full scale
+/// is 2.5 degrees of localizer, 0.7 of glide slope, 10 of a VOR's course.
 #pragma once
 
 #include <string_view>
@@ -55,8 +55,8 @@ struct AdfReceiver {
   void update(const FlightState& flight, bool powered);
 };
 
-/// The marker whose beam the aircraft is in: 1 outer, 2 middle, 3 inner, 0 none. The beams are fans that
-/// widen with the height (half a metre each way per metre) across 2 km of the approach.
+/// The marker whose beam the aircraft is in: 1 outer, 2 middle, 3 inner, 0 none. The beams are fans
+/// that widen with the height (half a metre each way per metre) across 2 km of the approach.
 int marker_overhead(const FlightState& flight);
 
 /// The bearing as a needle shows it on an instrument whose card turns behind it: 0 straight ahead.

@@ -7,10 +7,10 @@
 ///        rests, at the reading r0 = angle from bp to xp
 ///   r' = yaw - w,  w' = w0^2 |bp|/cos I sin(r - r0) - 2 z w0 w      w the card's own turning in space
 ///
-/// with w0 = 2 pi/5 s and z = 0.5. All errors come out of the tilt (Kayton and Fried, Avionics Navigation
-/// Systems, 2nd ed., ch. 9): banked, the field's downward part draws the north end to the low side, so it
-/// lags behind a turn from north and runs ahead of one from south; speeding up on east or west it turns
-/// toward north, slowing down toward south.
+/// with w0 = 2 pi/5 s and z = 0.5. All errors come out of the tilt (Kayton and Fried, Avionics
+/// Navigation Systems, 2nd ed., ch. 9): banked, the field's downward part draws the north end to the
+/// low side, so it lags behind a turn from north and runs ahead of one from south; speeding up on east
+/// or west it turns toward north, slowing down toward south.
 ///
 /// Check values, at rest in a balanced turn: heading 360, bank right 15 degrees: 332; heading 180: 208.
 /// Wings level on 090, speeding up with 0.1 g: 78.5.

@@ -33,8 +33,8 @@ struct VhfTuning {
 /// Digits of the direction finder's knobs.
 enum class AdfFigure { tenths, units, tens, hundreds };
 
-/// A direction finder, 190.0 to 1799.9 kHz. The knob of the hundreds takes the thousands along. What would
-/// lie below the band, as 100 below 190, lies a hundred higher.
+/// A direction finder, 190.0 to 1799.9 kHz. The knob of the hundreds takes the thousands along. What
+/// would lie below the band, as 100 below 190, lies a hundred higher.
 struct AdfTuning {
   int tenths_khz;
 

@@ -4,8 +4,9 @@
 namespace host::simulation {
 namespace {
 
-// The bars show wanted less present attitude, so the wanted one has the attitude's own signs: with a wish
-// to climb the pitch bar stands above the aircraft symbol, with one to turn right the bank bar to its right.
+// The bars show wanted less present attitude, so the wanted one has the attitude's own signs: with a
+// wish to climb the pitch bar stands above the aircraft symbol, with one to turn right the bank bar to
+// its right.
 constexpr TokenRow tokens[] = {
     {{792, "flight_director", "0/1"},
      [](const Aircraft& a) { return on_off(a.autopilot.director.on); }},

@@ -5,9 +5,9 @@
 namespace host::simulation {
 namespace {
 
-// Deviations say where the beam lies as seen from the aircraft, and so where to fly: localizer and course
-// positive to the right. The glide slope's is positive above the slope, because its pointer's scale runs
-// downward: the pointer stands low for one who must descend.
+// Deviations say where the beam lies as seen from the aircraft, and so where to fly: localizer and
+// course positive to the right. The glide slope's is positive above the slope, because its pointer's
+// scale runs downward: the pointer stands low for one who must descend.
 constexpr double localizer_full_scale = 127.0;
 constexpr double slope_full_scale = 119.0;
 

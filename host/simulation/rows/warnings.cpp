@@ -12,8 +12,8 @@ constexpr TokenRow tokens[] = {
      [](const Aircraft& a) { return on_off(a.ground_proximity.warning != ProximityMode::none); }},
 };
 
-// The panel alone holds back the warning of a system that is off. Here each switching makes the computer
-// start anew, with nothing in its memory.
+// The panel alone holds back the warning of a system that is off. Here each switching makes the
+// computer start anew, with nothing in its memory.
 constexpr EventRow events[] = {
     {{0x104A1, "ground_proximity_switched", ""},
      [](Aircraft& a, std::uint32_t) { a.ground_proximity = {}; }},

@@ -3,14 +3,15 @@
 /// The figures are those of a twin-jet of 36 tonnes with 48 kN a side: ground idle at 52 % N2 with
 /// 410 °C and 330 kg/h, take-off at 96 % N2 with 700 °C and 2,500 kg/h, 48 kN at rest at sea level.
 ///
-/// Thrust goes with the air's pressure d, the Mach number and the fan's speed corrected for the intake's
-/// temperature, n = N1/96 % / sqrt(theta): F = 48 kN d (n^2 - 0.55 n M + 0.45 n^2 M^2). The first term is the
-/// jet, the second the ram drag, the third the gain of ram pressure (fitted to the shape of the
-/// low-bypass curves in Mattingly, Elements of Propulsion, ch. 8). Fuel flow goes with the intake's
-/// total pressure. Check values at take-off speed: 12.6 kN at Mach 0.75 and 33,000 ft, where 940 kg/h burn.
+/// Thrust goes with the air's pressure d, the Mach number and the fan's speed corrected for the
+/// intake's temperature, n = N1/96 % / sqrt(theta): F = 48 kN d (n^2 - 0.55 n M + 0.45 n^2 M^2). The
+/// first term is the jet, the second the ram drag, the third the gain of ram pressure (fitted to the
+/// shape of the low-bypass curves in Mattingly, Elements of Propulsion, ch. 8). Fuel flow goes with the
+/// intake's total pressure. Check values at take-off speed: 12.6 kN at Mach 0.75 and 33,000 ft, where
+/// 940 kg/h burn.
 ///
-/// In flight the ram turns a dead engine: a windmill of 7 % N2 per 100 kt, from some 220 kt on enough for
-/// fuel and sparks to light it again. Flight idle is kept at 58 % so that the generators stay on.
+/// In flight the ram turns a dead engine: a windmill of 7 % N2 per 100 kt, from some 220 kt on enough
+/// for fuel and sparks to light it again. Flight idle is kept at 58 % so that the generators stay on.
 #pragma once
 
 namespace host::simulation {

@@ -1,5 +1,5 @@
-/// The flight recorder's running time. It runs with current while an engine runs or the aircraft flies. Its
-/// tape takes 25 hours and goes round, recording over what is older.
+/// The flight recorder's running time. It runs with current while an engine runs or the aircraft flies.
+/// Its tape takes 25 hours and goes round, recording over what is older.
 #pragma once
 
 #include <cmath>

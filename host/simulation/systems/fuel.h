@@ -1,10 +1,11 @@
 /// Tanks, pumps, valves, and what reaches the engines.
 ///
-/// Tank 1 in the left wing feeds engine 1, tank 2 in the right wing engine 2; 1,280 US gallons each. The
-/// centre tank's 830 are moved into a wing tank by the stream of its running boost pump, as long as there is
-/// room. With the crossfeed valve open either wing tank can feed both engines: the one that the crew chose,
-/// else the only one under pump pressure. The engines' own pumps draw from a tank without its boost
-/// pump, but above 20,000 ft the fuel boils in the pipe. A gallon weighs 3.04 kg (kerosene of 0.803 kg/l).
+/// Tank 1 in the left wing feeds engine 1, tank 2 in the right wing engine 2; 1,280 US gallons each.
+/// The centre tank's 830 are moved into a wing tank by the stream of its running boost pump, as long as
+/// there is room. With the crossfeed valve open either wing tank can feed both engines: the one that
+/// the crew chose, else the only one under pump pressure. The engines' own pumps draw from a tank
+/// without its boost pump, but above 20,000 ft the fuel boils in the pipe. A gallon weighs 3.04 kg
+/// (kerosene of 0.803 kg/l).
 #pragma once
 
 #include <array>

@@ -13,9 +13,9 @@
 ///                     more for each 120 ft
 ///
 /// The modes and the shape of their envelopes are those of RTCA DO-161A (1976); the figures are this
-/// aircraft's own, in the range of its class. Take-off ends above 700 ft; below 245 ft with gear and flaps
-/// for landing a go-around would begin, so it counts as one. The closure rate is smoothed over a second, and
-/// an envelope has to stay broken for 0.8 s before it warns.
+/// aircraft's own, in the range of its class. Take-off ends above 700 ft; below 245 ft with gear and
+/// flaps for landing a go-around would begin, so it counts as one. The closure rate is smoothed over a
+/// second, and an envelope has to stay broken for 0.8 s before it warns.
 ///
 /// Check values: sinking at 1,500 ft/min warns below 333 ft, closing at 3,000 ft/min below 789 ft; at
 /// 500 ft a loss of 51 ft; at 220 kt gear up below 750 ft.

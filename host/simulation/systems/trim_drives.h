@@ -1,8 +1,8 @@
 /// What moves the trims: the pitch trim wheel, and a motor each for rudder and ailerons.
 ///
-/// A notch of the wheel trims the stabiliser by 0.05 degrees, so that a held wheel makes half a degree a
-/// second. A motor runs for two seconds at half a degree a second for each press of its switch; presses add
-/// up, opposite ones take back.
+/// A notch of the wheel trims the stabiliser by 0.05 degrees, so that a held wheel makes half a degree
+/// a second. A motor runs for two seconds at half a degree a second for each press of its switch;
+/// presses add up, opposite ones take back.
 #pragma once
 
 #include "host/simulation/flight/flight_controls.h"

@@ -1,13 +1,14 @@
 /// The pushback tug.
 ///
-/// Its driver is called over the interphone. One call starts a straight push, the next one ends it; a call
-/// with a side turns the tail there, the same again ends that. A call that is repeated without a pause is
-/// one long call: straight back for as long as it lasts. Two calls in one breath are a stop, as are brakes.
+/// Its driver is called over the interphone. One call starts a straight push, the next one ends it; a
+/// call with a side turns the tail there, the same again ends that. A call that is repeated without a
+/// pause is one long call: straight back for as long as it lasts. Two calls in one breath are a stop,
+/// as are brakes.
 ///
-/// The driver takes the chocks away, pushes at 1.3 m/s, and turns at 0.8 m/s with the nose wheel 20 degrees
-/// aside, which on this wheelbase is 1.4 degrees a second; 90 degrees take a minute. The nose wheel is
-/// straightened within 0.7 s, so that a turn ends half a degree after its call. Standing, the tug holds the
-/// aircraft until the parking brake is set or a throttle is moved up; then it drives off.
+/// The driver takes the chocks away, pushes at 1.3 m/s, and turns at 0.8 m/s with the nose wheel 20
+/// degrees aside, which on this wheelbase is 1.4 degrees a second; 90 degrees take a minute. The nose
+/// wheel is straightened within 0.7 s, so that a turn ends half a degree after its call. Standing, the
+/// tug holds the aircraft until the parking brake is set or a throttle is moved up; then it drives off.
 #pragma once
 
 namespace host::simulation {

@@ -25,7 +25,7 @@ inline constexpr double runway_true_deg = 70.0 + magnetic_variation_deg;
 /// A place on the ground: along the runway's direction from its middle, and to its right.
 Vector on_runway_axes(double along_m, double right_m);
 
-/// The other way round.
+/// A place on the ground as metres along the runway's direction from its middle, and to its right.
 struct RunwayAxes {
   double along_m;
   double right_m;
