@@ -124,7 +124,7 @@ void draw_windows(const Board& board) {
 }
 
 constexpr Item items[] = {
-    CornerScrews{7.5, 3.4},
+    CornerScrews{6, 3},
     Legend{{51, 27}, "PUSHBACK", 10.5},
     Face{{19, 45, 64, 128}, 6, print_heading},
     Face{{85, 20, 157, 153}, 6, print_push},
