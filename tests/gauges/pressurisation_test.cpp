@@ -125,6 +125,15 @@ TEST_F(Pressurisation, LabelSaysHowHighTheSelectionBears) {
     controller.frame();
     EXPECT_EQ(label(), row.label) << row.pressure << " at " << row.altitude << ", " << row.selected;
   }
+  select(9100);
+  clear_texts();
+  aircraft.cabin_diff_pressure = 84;
+  controller.frame();
+  EXPECT_EQ(label(), " ");
+  select(9000);
+  aircraft.cabin_diff_pressure = 79;
+  controller.frame();
+  EXPECT_EQ(label(), " ") << "so high up nothing new is said near the ground";
 }
 
 TEST_F(Pressurisation, PressWarnsOfASelectionTooLowForTheAltitude) {

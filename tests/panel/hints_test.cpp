@@ -8,7 +8,7 @@
 
 #include "host/panel/text.h"
 #include "host/panel/wheel.h"
-#include "tests/rig/loaded_module.h"
+#include "platform/platform_host.h"
 
 namespace {
 
@@ -17,23 +17,30 @@ using namespace host;
 class WholeCockpit : public testing::Test {
  protected:
   static void SetUpTestSuite() {
-    cockpit = new Cockpit(loaded_module(), read_panel_config(SOURCE_DIR "/aircraft/panel/panel.cfg"));
+    platform_choose_audio(PLATFORM_AUDIO_NONE);
+    module = new GaugeModule(COCKPIT_DIR "/Tarnvale.GAU");
+    cockpit = new Cockpit(*module, read_panel_config(SOURCE_DIR "/aircraft/panel/panel.cfg"));
     for (std::uint32_t ident = 500; ident <= 509; ++ident) cockpit->panels().open(ident);
     cockpit->frame();
     cockpit->aircraft().make_ready();  // with power no flag hides what is behind it
     cockpit->frame();
   }
 
-  static void TearDownTestSuite() { delete cockpit; }
+  static void TearDownTestSuite() {
+    delete cockpit;
+    delete module;
+  }
 
   template <typename Visit>
   static void each_gauge(Visit visit) {
-    for (const GaugeHeader* header : loaded_module().gauges()) visit(*cockpit->find(header->name));
+    for (const GaugeHeader* header : module->gauges()) visit(*cockpit->find(header->name));
   }
 
+  static GaugeModule* module;
   static Cockpit* cockpit;
 };
 
+GaugeModule* WholeCockpit::module = nullptr;
 Cockpit* WholeCockpit::cockpit = nullptr;
 
 // "What it is: what it does", the name being no name of the code's.
@@ -85,7 +92,7 @@ TEST_F(WholeCockpit, ThePointerFindsEveryText) {
   const std::set<std::string> now_and_then{"Transponder ident_light", "Hsi to_and_from",
                                            "Hsi test_flag", "Altimeter below_sea_level_flag"};
   each_gauge([&](const CockpitGauge& gauge) {
-    const std::set<std::string> told = told_by(gauge, loaded_module().bitmaps());
+    const std::set<std::string> told = told_by(gauge, module->bitmaps());
     for (const Named& area : gauge.names.areas)
       EXPECT_TRUE(told.contains(std::string(gauge.words.area(area.index))))
           << gauge.header().name << " " << area.name;

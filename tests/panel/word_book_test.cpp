@@ -87,6 +87,10 @@ TEST_F(WordFiles, AWrongRowIsToldWithFileAndLineAndLeftOut) {
   }
   EXPECT_EQ(book("lamp_1 | Lamp: fine\n").notes[0],
             "a.txt:1: expected a gauge such as [Masterbat] first");
+  std::string nonsense;
+  for (int i = 0; i < 1000; ++i) nonsense += "\xFF\n";
+  EXPECT_EQ(book(nonsense).notes.size(), 21u) << "no more than a screen of it";
+  EXPECT_EQ(book(nonsense).notes.back(), "words: and 980 more lines");
 }
 
 }  // namespace
