@@ -9,6 +9,9 @@
 extern "C" {
 #endif
 
+/// The class under which the module looks for the host's main window.
+#define PLATFORM_MAIN_WINDOW "FS98MAIN"
+
 /// Makes a window known to FindWindowA under `window_class`. A null `window` takes the class away.
 void platform_register_window(const char* window_class, void* window);
 

@@ -1,6 +1,6 @@
 # A library of drawing, and the tool that draws every bitmap with it.
 find_package(PkgConfig REQUIRED)
-pkg_check_modules(PANGOCAIRO REQUIRED IMPORTED_TARGET pangocairo)
+pkg_check_modules(CAIRO_AND_FONTS REQUIRED IMPORTED_TARGET cairo fontconfig freetype2)
 find_package(Threads REQUIRED)
 
 # The rows of every gauge: a file in panels/ is found by itself.
@@ -10,7 +10,7 @@ list(JOIN panel_units "\n" panel_units)
 file(CONFIGURE OUTPUT ${CMAKE_CURRENT_BINARY_DIR}/units/units.inc CONTENT "${panel_units}\n" @ONLY)
 
 add_library(artwork_panels OBJECT ${panel_sources})
-target_link_libraries(artwork_panels PUBLIC project_options PkgConfig::PANGOCAIRO)
+target_link_libraries(artwork_panels PUBLIC project_options PkgConfig::CAIRO_AND_FONTS)
 # What every unit reads, read once.
 target_precompile_headers(artwork_panels PRIVATE
   <algorithm> <cmath> <functional> <span> <string> <string_view> <variant> <vector> <cairo.h>
@@ -31,6 +31,7 @@ add_library(artwork_kit STATIC
   kit/paint.cpp
   kit/quadrant.cpp
   kit/records.cpp
+  kit/type.cpp
   kit/window.cpp
   rows/board.cpp
   rows/controls.cpp
@@ -45,7 +46,7 @@ add_library(artwork_kit STATIC
   tool/section.cpp
 )
 target_link_libraries(artwork_kit PUBLIC
-  project_options needle_geometry PkgConfig::PANGOCAIRO Threads::Threads gauge_names_lib)
+  project_options needle_geometry PkgConfig::CAIRO_AND_FONTS Threads::Threads gauge_names_lib)
 # What nearly every unit reads, read once.
 target_precompile_headers(artwork_kit PRIVATE
   <algorithm> <cmath> <functional> <initializer_list> <string> <string_view> <vector> <cairo.h>)
@@ -57,7 +58,7 @@ endif()
 # All of it, for the tool and its tests.
 add_library(artwork_units OBJECT tool/windows_resources.cpp units.cpp)
 target_include_directories(artwork_units PRIVATE ${CMAKE_CURRENT_BINARY_DIR}/units)
-target_link_libraries(artwork_units PUBLIC project_options PkgConfig::PANGOCAIRO)
+target_link_libraries(artwork_units PUBLIC project_options PkgConfig::CAIRO_AND_FONTS)
 add_library(artwork_library INTERFACE)
 target_sources(artwork_library INTERFACE
   $<TARGET_OBJECTS:artwork_units> $<TARGET_OBJECTS:artwork_panels> $<TARGET_OBJECTS:gauge_module>)

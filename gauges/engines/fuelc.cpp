@@ -14,7 +14,8 @@ constinit HoldClock test_clock;
 constinit u32 testing;
 
 f64 quantity(Element* needle) {
-  return testing != 0 ? full_tank / 2 : shows_within<0, full_tank>(needle);
+  constexpr f64 mid_scale = full_tank / 2.0;
+  return testing != 0 ? mid_scale : shows_within<0, full_tank>(needle);
 }
 
 void press_test() { start_hold(test_clock, testing, dial_test); }

@@ -2,9 +2,11 @@
 
 #include <sys/resource.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "host/app/commands.h"
 #include "host/app/standard_streams.h"
@@ -34,7 +36,7 @@ class CommandLine {
 
   int run(int argc, char** argv) {
     if (argc > 1 && argv[1][0] != '-' && !is_command(argv[1])) {
-      std::fprintf(stderr, "there is no command '%s'; tarnvale --help lists them\n",
+      std::fprintf(stderr, "tarnvale: there is no command '%s'; tarnvale --help lists them\n",
                    shortened(argv[1]).c_str());
       return exit_usage;
     }
@@ -42,16 +44,30 @@ class CommandLine {
     if (begins_with_an_option_of_fly(words)) words.insert(words.begin() + 1, fly_word_.data());
     try {
       app_.parse(static_cast<int>(words.size()), words.data());
+    } catch (const CLI::RequiredError& error) {
+      return refuse(missing(error.what()));
     } catch (const CLI::ParseError& error) {
       if (error.get_exit_code() == 0) return app_.exit(error);  // asked for help
-      std::fprintf(stderr, "tarnvale: %s; see: %s --help\n", shortened(error.what(), 300).c_str(),
-                   command_typed().c_str());
-      return exit_usage;
+      return refuse(shortened(error.what(), 300));
     }
     return command_();
   }
 
  private:
+  int refuse(const std::string& text) const {
+    std::fprintf(stderr, "tarnvale: %s; see: %s --help\n", text.c_str(), command_typed().c_str());
+    return exit_usage;
+  }
+
+  // The library says "journal is required"; a person wants to know of what.
+  std::string missing(const std::string& said) const {
+    const auto commands = app_.get_subcommands();
+    const std::string name = said.substr(0, said.find(' '));
+    const CLI::Option* option =
+        commands.empty() ? nullptr : commands.front()->get_option_no_throw(name);
+    return option ? commands.front()->get_name() + " needs more: " + option->get_description() : said;
+  }
+
   bool is_command(const std::string& name) const {
     const auto commands =
         app_.get_subcommands([&](const CLI::App* app) { return app->check_name(name); });
@@ -79,9 +95,20 @@ class CommandLine {
     const auto check = [low, high, words = std::string(range)](std::string& text) {
       double value = 0;
       const bool fine = CLI::detail::lexical_cast(text, value) && value >= low && value <= high;
-      return fine ? std::string() : "'" + shortened(text) + "' is not " + words;
+      return fine ? std::string() : in_quotes(text) + " is not " + words;
     };
     return CLI::Validator(check, "");
+  }
+
+  // One of some words.
+  static CLI::Validator one_of(const std::vector<std::string>& words) {
+    std::string list;
+    for (const std::string& word : words) list += (list.empty() ? "" : ", ") + word;
+    const auto check = [words, list](std::string& text) {
+      const bool known = std::ranges::find(words, text) != words.end();
+      return known ? std::string() : "there is no '" + shortened(text) + "', only " + list;
+    };
+    return CLI::Validator(check, list);
   }
 
   template <typename Options>
@@ -93,9 +120,10 @@ class CommandLine {
   }
 
   static void add_files(CLI::App* sub, CockpitOptions& options) {
-    sub->add_option("--module", options.module, "The gauge module; else the one beside this program");
+    sub->add_option("--module", options.module,
+                    "The gauge module; by default the one beside this program");
     sub->add_option("--panel", options.panel,
-                    "The panel configuration; else the one beside this program");
+                    "The panel configuration; by default the one beside this program");
   }
 
   static void add_cockpit(CLI::App* sub, CockpitOptions& options) {
@@ -109,7 +137,7 @@ class CommandLine {
     std::vector<std::string> names;
     for (const StartPlace& place : start_places()) names.emplace_back(place.name);
     sub->add_option("--at", options.at, "Where the flight begins")
-        ->check(CLI::IsMember(names))
+        ->check(one_of(names))
         ->capture_default_str();
     sub->add_option("--time", options.hours,
                     "Local time in hours, 19.5 is half past seven in the evening")
@@ -128,10 +156,10 @@ class CommandLine {
     CLI::App* sub = add("fly", "Sit in the cockpit: opens a window", fly_, fly);
     add_cockpit(sub, fly_.cockpit);
     sub->add_option("--scale", fly_.deck.scale,
-                    "Scale of the desktop, 1 is 96 dots an inch; else its own setting")
+                    "Scale of the desktop, 1 is 96 dots an inch; by default its own setting")
         ->check(number(0.5, 8.0));
     sub->add_option("--zoom", fly_.deck.zoom,
-                    "Size of the panels, 1 is their own; else what fits the screen")
+                    "Size of the panels, 1 is their own; by default what fits the screen")
         ->check(number(0.1, 8.0));
     add_start(sub, fly_.start);
     add_what_is_flown(sub);
@@ -139,11 +167,11 @@ class CommandLine {
     sub->add_flag("--no-view", fly_.no_view, "Without the view out of the window (key V)");
     add_windows(sub);
     sub->add_option("--controls", fly_.deck.controls,
-                    "What keys and joysticks do; else controls.cfg beside this program");
+                    "What keys and joysticks do; by default controls.cfg beside this program");
     sub->add_option("--checklists", fly_.deck.checklists,
-                    "The kneeboard's checklists; else checklists.txt beside this program");
+                    "The kneeboard's checklists; by default checklists.txt beside this program");
     sub->add_option("--pictures", fly_.deck.pictures,
-                    "Folder for pictures of the window; else the desktop's folder for pictures");
+                    "Folder for pictures of the window; by default the desktop's folder for pictures");
     sub->add_option("--record", fly_.record,
                     "Write your inputs to this file, as a flow that can be run again");
     sub->add_option("--exit-after", fly_.deck.exit_after, "Leave after so many seconds")
@@ -156,7 +184,7 @@ class CommandLine {
   void add_what_is_flown(CLI::App* sub) {
     CLI::Option* at = sub->get_option("--at");
     CLI::Option* state = sub->add_option("--state", fly_.state, "Press this on the start page")
-                             ->check(CLI::IsMember({"cold_and_dark", "ready_to_start", "running"}))
+                             ->check(one_of({"cold_and_dark", "ready_to_start", "running"}))
                              ->excludes(at);
     sub->add_option("--watch", fly_.watch, "Let this flow fly before your eyes; Esc takes over")
         ->excludes(at)
@@ -164,12 +192,13 @@ class CommandLine {
   }
 
   static void add_display(CLI::App* sub, std::string& display) {
-    sub->add_option("--display", display, "The X display to open windows on; else that of DISPLAY");
+    sub->add_option("--display", display,
+                    "The X display to open windows on; by default that of DISPLAY");
   }
 
   void add_windows(CLI::App* sub) {
     sub->add_option("--open", fly_.open,
-                    "Windows to open, by title or ident; else those that were open last");
+                    "Windows to open, by title or ident; by default those that were open last");
     sub->add_option("--torn", fly_.torn, "Windows to open, each in a window of its own");
     sub->add_option("--place", fly_.places,
                     "WINDOW=x,y,width,height on the desktop; main=... for the main one");
@@ -187,7 +216,7 @@ class CommandLine {
     CLI::Option* none =
         sub->add_flag("!--no-journal", fly_.keep_journal, "Keep no journal of the session");
     sub->add_option("--journal", fly_.journal,
-                    "The session's journal; else a new one among the last sessions")
+                    "The session's journal; by default a new one among the last sessions")
         ->excludes(none);
     none->excludes(resume);
   }
@@ -247,18 +276,17 @@ class CommandLine {
   void add_list() {
     CLI::App* sub = add("list", "List what the cockpit has", list_, list);
     add_cockpit(sub, list_.cockpit);
-    sub->add_option("what", list_.what, "gauges, names, windows, tokens, events or sounds")
+    sub->add_option("what", list_.what, "gauges, names, windows, tokens, events, failures or sounds")
         ->required()
-        ->check(
-            CLI::IsMember({"gauges", "names", "windows", "tokens", "events", "failures", "sounds"}));
-    sub->add_option("gauge", list_.gauge, "The gauge whose names to list; else all");
+        ->check(one_of({"gauges", "names", "windows", "tokens", "events", "failures", "sounds"}));
+    sub->add_option("gauge", list_.gauge, "The gauge whose names to list; by default all");
   }
 
   void add_check() {
     CLI::App* sub = add("check", "Check every record of a module", check_, check);
     sub->add_option("module", check_.cockpit.module,
-                    "The gauge module; else the one beside this program");
-    sub->add_flag("--details", check_.details, "Also what a file is that is no module");
+                    "The gauge module; by default the one beside this program");
+    sub->add_flag("--details", check_.details, "Also list the exports of a file that is not a module");
   }
 
   void add_bench() {

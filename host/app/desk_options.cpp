@@ -21,7 +21,7 @@ void open_only(Desk& desk, const FlyOptions& options, const PanelConfig& panel) 
 // In the air one looks out of the window, not up.
 void open_captains_panel(Desk& desk) {
   PanelSettings& captain = desk.panels[captains_panel];
-  if (captain.open) return;
+  if (captain.open && (captain.in_work || captain.torn)) return;
   for (auto& [ident, settings] : desk.panels) settings.in_work = false;
   captain.open = captain.in_work = true;
 }

@@ -47,7 +47,7 @@ void prepare_folder(const fs::path& folder) {
 
 void prepare_platform(const CockpitOptions& options, PlatformAudio audio) {
   static int main_window;  // headless or not, the module wants to find some window
-  platform_register_window("FS98MAIN", &main_window);
+  platform_register_window(PLATFORM_MAIN_WINDOW, &main_window);
   platform_choose_audio(audio);
   SetCurrentDirectoryA(options.module.parent_path().c_str());
 }

@@ -73,7 +73,7 @@ struct ShowOptions {
   std::string display;              ///< as for FlyOptions
   std::vector<std::string> gauges;  ///< or the ident of one window, or "outside"
   DeckOptions deck;                 ///< its zoom also for the file
-  StartOptions start;               ///< for the view
+  StartOptions start;
   bool areas = false;
   bool labels = false;  ///< only in a picture
   bool night = false;

@@ -68,8 +68,7 @@ class FlownAgain {
   void report() const {
     std::printf("%s: %.1f s flown at %.0f times real time\n", record_.file.c_str(), cockpit_.seconds(),
                 progress_.speed(cockpit_.seconds()));
-    if (options_.digest)
-      std::printf("digest %016llx\n", static_cast<unsigned long long>(digest_.value()));
+    if (options_.digest) std::printf("digest %s\n", hexadecimal(digest_.value()).c_str());
   }
 
  private:

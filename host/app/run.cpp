@@ -106,6 +106,8 @@ class FlowRun {
     if (!sheet_.empty()) write_png(sheet_.page(), (options_.pictures / "contact-sheet.png").string());
   }
 
+  void tell(const std::string& text) { progress_.note(text); }
+
   void report() const {
     std::printf("%s: fine, %.1f s flown at %.0f times real time\n", flow_.c_str(), session_.seconds(),
                 progress_.speed(session_.seconds()));
@@ -199,7 +201,7 @@ int run_flow(const RunOptions& options) {
   try {
     whole = run.fly();
   } catch (const FlowError& error) {
-    std::fprintf(stderr, "\n%s\n", shortened(error.what(), 1000).c_str());
+    run.tell(shortened(error.what(), 1000));
     run.finish_pictures();
     return exit_failed;
   }

@@ -76,12 +76,27 @@ PanelConfig panel_of(const GaugeModule& module, const ShowOptions& options,
   return shelf(module, options.gauges);
 }
 
+// The rest of the cockpit, unseen: in flight a panel shows what others are set to.
+void add_the_rest(PanelConfig& config, const PanelConfig& whole) {
+  const auto is_shown = [&](const Placement& gauge) {
+    return std::ranges::any_of(config.windows.front().gauges, [&](const Placement& shown) {
+      return same_name(shown.gauge, gauge.gauge);
+    });
+  };
+  for (WindowConfig window : whole.windows) {
+    if (window.ident == config.windows.front().ident) continue;
+    window.drawn = false;
+    std::erase_if(window.gauges, is_shown);
+    config.windows.push_back(std::move(window));
+  }
+}
+
 std::uint32_t token_number(const std::string& name) {
   const auto tokens = AircraftModel::tokens();
   const auto number = as_number(name);
   if (const TableRow* row = number ? find_row(tokens, *number) : find_row(tokens, name))
     return row->number;
-  throw std::runtime_error("there is no token '" + shortened(name) + "'; see: tarnvale list tokens");
+  throw std::runtime_error("there is no token " + in_quotes(name) + "; see: tarnvale list tokens");
 }
 
 void hold_reading(AircraftModel& aircraft, const std::string& reading) {
@@ -95,10 +110,16 @@ void hold_reading(AircraftModel& aircraft, const std::string& reading) {
   aircraft.hold_token(token_number(reading.substr(0, equals)), value);
 }
 
+bool begins_elsewhere(const ShowOptions& options) {
+  return options.start.at != StartOptions{}.at || options.start.hours;
+}
+
 void set_up(Cockpit& cockpit, const ShowOptions& options) {
   for (const std::string& reading : options.readings) hold_reading(cockpit.aircraft(), reading);
   if (options.night) cockpit.aircraft().hold_token(token::panel_lights, 1);
-  for (int frame = 0; frame < 3; ++frame) cockpit.frame();  // needles have left their stops
+  const int frames =
+      begins_elsewhere(options) ? 36 : 3;  // needles have come to their marks, or left their stops
+  for (int frame = 0; frame < frames; ++frame) cockpit.frame();
 }
 
 void write_picture(Cockpit& cockpit, const ShowOptions& options) {
@@ -163,10 +184,13 @@ int show(const ShowOptions& options) {
   GaugeModule module(located_options.module);
   say_start_notes(module);
   const bool window = options.picture.empty();
-  prepare_platform(located_options, window ? PLATFORM_AUDIO_DEVICE : PLATFORM_AUDIO_NONE);
-  Cockpit cockpit(module, panel_of(module, options, located_options.panel), located_options.rate);
+  prepare_platform(located_options, window ? PLATFORM_AUDIO_DEVICE : PLATFORM_AUDIO_RENDERED);
+  PanelConfig panel = panel_of(module, options, located_options.panel);
+  if (begins_elsewhere(options)) add_the_rest(panel, read_panel_config(located_options.panel));
+  Cockpit cockpit(module, panel, located_options.rate);
   say_notes(cockpit.names());
   say_notes(cockpit.words());
+  if (begins_elsewhere(options)) begin(cockpit, options.start);
   set_up(cockpit, options);
   window ? show_in_window(cockpit, options) : write_picture(cockpit, options);
   return exit_fine;

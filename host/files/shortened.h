@@ -10,4 +10,7 @@ namespace host {
 /// `most` bytes the beginning and the end stand there.
 std::string shortened(std::string_view text, std::size_t most = 60);
 
+/// The same between quotation marks.
+inline std::string in_quotes(std::string_view text) { return "'" + shortened(text) + "'"; }
+
 }  // namespace host

@@ -20,8 +20,6 @@ std::optional<std::size_t> place_of(std::span<const Row> table, std::string_view
   return static_cast<std::size_t>(found - table.begin());
 }
 
-std::string quoted(std::string_view text) { return "'" + shortened(text) + "'"; }
-
 // The parts of "this or that".
 std::vector<std::string_view> alternatives(std::string_view text) {
   std::vector<std::string_view> all;
@@ -53,7 +51,7 @@ KeyBinding read_key(std::string_view text, std::size_t action) {
       }
   }
   binding.key = SDL_GetKeyFromName(std::string(name).c_str());
-  if (binding.key == SDLK_UNKNOWN) throw LineError("there is no key " + quoted(name));
+  if (binding.key == SDLK_UNKNOWN) throw LineError("there is no key " + in_quotes(name));
   return binding;
 }
 
@@ -62,7 +60,7 @@ Uint8 direction_of(std::string_view word) {
   if (word == "down") return SDL_HAT_DOWN;
   if (word == "left") return SDL_HAT_LEFT;
   if (word == "right") return SDL_HAT_RIGHT;
-  throw LineError("a hat goes up, down, left or right, not " + quoted(word));
+  throw LineError("a hat goes up, down, left or right, not " + in_quotes(word));
 }
 
 int part_number(std::string_view text) { return whole_number(text, 0, 255); }
@@ -72,12 +70,12 @@ Button read_button(std::string_view text, bool controller) {
   if (controller) {
     const int number = SDL_GameControllerGetButtonFromString(std::string(text).c_str());
     if (number == SDL_CONTROLLER_BUTTON_INVALID)
-      throw LineError("a controller has no button " + quoted(text));
+      throw LineError("a controller has no button " + in_quotes(text));
     return {number, 0};
   }
   if (words.size() == 2 && words[0] == "button") return {part_number(words[1]), 0};
   if (words.size() == 3 && words[0] == "hat") return {part_number(words[1]), direction_of(words[2])};
-  throw LineError(quoted(text) + " is neither 'button 0' nor 'hat 0 up'");
+  throw LineError(in_quotes(text) + " is neither 'button 0' nor 'hat 0 up'");
 }
 
 AxisBinding read_axis(std::string_view text, std::size_t row, bool controller) {
@@ -85,11 +83,11 @@ AxisBinding read_axis(std::string_view text, std::size_t row, bool controller) {
   AxisBinding binding{0, row};
   std::size_t next = controller ? 1 : 2;
   if (words.size() < next || (!controller && words[0] != "axis"))
-    throw LineError(quoted(text) + " is no axis");
+    throw LineError(in_quotes(text) + " is no axis");
   binding.axis = controller ? SDL_GameControllerGetAxisFromString(std::string(words[0]).c_str())
                             : part_number(words[1]);
   if (binding.axis == SDL_CONTROLLER_AXIS_INVALID)
-    throw LineError("a controller has no axis " + quoted(words[0]));
+    throw LineError("a controller has no axis " + in_quotes(words[0]));
   for (; next < words.size(); ++next) {
     if (words[next] == "inverted") {
       binding.inverted = true;
@@ -97,7 +95,7 @@ AxisBinding read_axis(std::string_view text, std::size_t row, bool controller) {
       binding.dead = whole_number(words[++next], 0, 90) / 100.0;
     } else {
       throw LineError("behind an axis stand 'inverted' and 'dead' with per cent, not " +
-                      quoted(words[next]));
+                      in_quotes(words[next]));
     }
   }
   return binding;
@@ -134,9 +132,9 @@ class Reader {
     if (!in_keys_ && !in_device_) throw LineError("expected a section such as [keys] first");
     const auto action = place_of(action_table(), name);
     const auto axis = place_of(axis_table(), name);
-    if (!action && !axis) throw LineError("there is no control " + quoted(name));
+    if (!action && !axis) throw LineError("there is no control " + in_quotes(name));
     for (const std::string_view part : alternatives(value)) {
-      if (part.empty()) throw LineError("nothing stands behind " + quoted(name));
+      if (part.empty()) throw LineError("nothing stands behind " + in_quotes(name));
       take_part(action, axis, part);
     }
   }
@@ -163,7 +161,7 @@ class Reader {
     for (const KeyBinding& other : map_.keys)
       if (other.key == binding.key && other.ctrl == binding.ctrl && other.shift == binding.shift)
         throw LineError(words_of(binding) + " already does " +
-                        quoted(action_table()[other.action].name));
+                        in_quotes(action_table()[other.action].name));
     map_.keys.push_back(binding);
   }
 

@@ -73,7 +73,8 @@ bool start_at(Cockpit& cockpit, std::string_view place) {
 }
 
 void align_gear_lever(Cockpit& cockpit) {
-  click_control(cockpit, "Gear", cockpit.aircraft().controls().gear_down ? "set_gear_down" : "set_gear_up");
+  click_control(cockpit, "Gear",
+                cockpit.aircraft().controls().gear_down ? "set_gear_down" : "set_gear_up");
 }
 
 }  // namespace host

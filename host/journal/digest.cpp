@@ -2,6 +2,7 @@
 
 #include <array>
 #include <bit>
+#include <cstdio>
 
 #include "host/files/read_file.h"
 
@@ -31,6 +32,12 @@ void Digest::add(std::uint64_t bits) {
 }
 
 void Digest::add(double value) { add(std::bit_cast<std::uint64_t>(value)); }
+
+std::string hexadecimal(std::uint64_t number, int digits) {
+  std::array<char, 24> text;
+  std::snprintf(text.data(), text.size(), "%0*llx", digits, static_cast<unsigned long long>(number));
+  return text.data();
+}
 
 std::uint64_t digest_of(Cockpit& cockpit) {
   Digest digest;

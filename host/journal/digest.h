@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <string>
 #include <string_view>
 
 #include "host/panel/cockpit.h"
@@ -21,6 +22,9 @@ class Digest {
  private:
   std::uint64_t value_ = 0xCBF29CE484222325u;
 };
+
+/// A number in hexadecimal, with zeros in front to make it that many digits.
+std::string hexadecimal(std::uint64_t number, int digits = 16);
 
 /// Of every token of the aircraft and of everything that the gauges show, to the bit.
 std::uint64_t digest_of(Cockpit& cockpit);

@@ -1,12 +1,12 @@
 #include "host/journal/flow_writer.h"
 
-#include <array>
 #include <cerrno>
-#include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <cstring>
 #include <stdexcept>
+
+#include "host/panel/text.h"
 
 namespace host {
 namespace {
@@ -26,20 +26,14 @@ std::string spot(const std::string& gauge, PanelPoint point) {
   return "\"" + gauge + "\", " + pair(point);
 }
 
-// With as many digits as it takes to read the same one again.
-std::string number(double value) {
-  std::array<char, 40> text;
-  return {text.data(), std::to_chars(text.data(), text.data() + text.size(), value).ptr};
-}
-
 struct LuaValue {
   std::string operator()(std::monostate) const { return "nil"; }
   std::string operator()(bool value) const { return value ? "true" : "false"; }
-  std::string operator()(double value) const { return number(value); }
+  std::string operator()(double value) const { return exact_number(value); }
   std::string operator()(const std::string& value) const { return "\"" + value + "\""; }
   std::string operator()(const std::vector<double>& values) const {
     std::string text;
-    for (double value : values) text += (text.empty() ? "{" : ", ") + number(value);
+    for (double value : values) text += (text.empty() ? "{" : ", ") + exact_number(value);
     return text + "}";
   }
 };
@@ -47,10 +41,10 @@ struct LuaValue {
 // What stands between a call's name and the next line.
 std::string arguments() { return "()"; }
 std::string arguments(std::uint32_t key) { return "(" + std::to_string(key) + ")"; }
-std::string arguments(double value) { return "(" + number(value) + ")"; }
+std::string arguments(double value) { return "(" + exact_number(value) + ")"; }
 std::string arguments(const std::string& name) { return "(\"" + name + "\")"; }
 std::string arguments(std::uint32_t token, double value) {
-  return "(" + std::to_string(token) + ", " + number(value) + ")";
+  return "(" + std::to_string(token) + ", " + exact_number(value) + ")";
 }
 std::string arguments(const NamedValues& values) {
   std::string text;

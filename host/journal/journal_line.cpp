@@ -4,8 +4,9 @@
 #include <array>
 #include <charconv>
 #include <cmath>
-#include <cstdio>
 #include <utility>
+
+#include "host/panel/text.h"
 
 namespace host {
 namespace {
@@ -13,25 +14,12 @@ namespace {
 constexpr std::string_view mark_word = "mark";
 constexpr std::string_view magic = "tarnvale-journal";
 
-std::string hexadecimal(std::uint64_t number, int digits) {
-  char text[24];
-  std::snprintf(text, sizeof text, "%0*llx", digits, static_cast<unsigned long long>(number));
-  return text;
-}
-
 // ---- Writing: each part behind a space
 
-// Doubles get as many digits as it takes to read the same one again.
-template <typename Number>
-std::string plain(Number number) {
-  std::array<char, 40> text;
-  return {text.data(), std::to_chars(text.data(), text.data() + text.size(), number).ptr};
-}
-
 void put(std::string& line, std::string_view word) { (line += ' ') += word; }
-void put(std::string& line, std::uint32_t number) { put(line, plain(number)); }
-void put(std::string& line, std::int32_t number) { put(line, plain(number)); }
-void put(std::string& line, double number) { put(line, plain(number)); }
+void put(std::string& line, std::uint32_t number) { put(line, exact_number(number)); }
+void put(std::string& line, std::int32_t number) { put(line, exact_number(number)); }
+void put(std::string& line, double number) { put(line, exact_number(number)); }
 void put(std::string& line, PanelPoint point) {
   put(line, point.x);
   put(line, point.y);
@@ -43,11 +31,11 @@ void put(std::string& line, input::Button button) {
 struct PlainValue {
   std::string operator()(std::monostate) const { return {}; }
   std::string operator()(bool value) const { return value ? "true" : "false"; }
-  std::string operator()(double value) const { return plain(value); }
+  std::string operator()(double value) const { return exact_number(value); }
   std::string operator()(const std::string& value) const { return value; }
   std::string operator()(const std::vector<double>& values) const {
     std::string text;
-    for (double value : values) text += plain(value) + ",";
+    for (double value : values) text += exact_number(value) + ",";
     return text;
   }
 };
@@ -177,16 +165,16 @@ std::string first_line(double rate) {
 
 std::string file_line(std::string_view what, const FileIdentity& file) {
   std::string line(what);
-  put(line, hexadecimal(file.digest, 16));
+  put(line, hexadecimal(file.digest));
   put(line, file.name);
   return line;
 }
 
 std::string line_of(const JournalEntry& entry) {
-  std::string line = plain(entry.frames);
+  std::string line = exact_number(entry.frames);
   if (!entry.input) {
     put(line, mark_word);
-    put(line, hexadecimal(entry.digest, 16));
+    put(line, hexadecimal(entry.digest));
     return line;
   }
   std::visit(

@@ -77,9 +77,7 @@ void read_entries(CheckedLines& lines, FlightRecord& record) {
 }
 
 std::string as_text(const FileIdentity& file) {
-  char digest[20];
-  std::snprintf(digest, sizeof digest, "%016llx", static_cast<unsigned long long>(file.digest));
-  return file.name + " (" + digest + ")";
+  return file.name + " (" + hexadecimal(file.digest) + ")";
 }
 
 void check_file(const FlightRecord& record, int line, const char* what, const FileIdentity& flown,

@@ -13,9 +13,9 @@ namespace {
 using namespace simulation;
 
 constexpr std::array<RadioStationRow, 3> stations{{
-    {RadioStation::ground, "Tarnvale Ground", 121700},
-    {RadioStation::tower, "Tarnvale Tower", 118100},
-    {RadioStation::information, "Tarnvale Information", 126650},
+    {RadioStation::ground, "Tarnvale Ground", simulation::ground_khz},
+    {RadioStation::tower, "Tarnvale Tower", simulation::tower_khz},
+    {RadioStation::information, "Tarnvale Information", simulation::information_khz},
 }};
 
 constexpr std::array<RequestRow, 4> requests{{

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "host/panel/dusk.h"
 #include "host/panel/text.h"
 
 namespace host {
@@ -24,7 +25,7 @@ double fitting_unit(const PageView& view) {
 const SheetColors& sheet_colors(bool at_night) { return at_night ? night : day; }
 
 Sheet::Sheet(PageKind kind, const PageView& view)
-    : colors_(sheet_colors(view.cockpit.panel_lights_on())),
+    : colors_(sheet_colors(is_dark(view.cockpit))),
       unit_(fitting_unit(view)),
       height_(view.size.height / unit_),
       sketch_(std::max(1, static_cast<int>(std::lround(width * unit_))), view.size.height) {

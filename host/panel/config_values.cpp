@@ -13,7 +13,7 @@ int whole_number(std::string_view text, int low, int high) {
   int value = 0;
   const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
   if (error != std::errc{} || end != digits.data() + digits.size())
-    throw LineError("'" + shortened(digits) + "' is not a whole number");
+    throw LineError(in_quotes(digits) + " is not a whole number");
   if (value < low || value > high)
     throw LineError(shortened(digits) + " is outside " + std::to_string(low) + " to " +
                     std::to_string(high));

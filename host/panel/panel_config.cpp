@@ -103,11 +103,11 @@ class Reader {
     if (line.front() == '[') return open_section(line);
     const std::size_t equals = line.find('=');
     if (equals == std::string_view::npos)
-      throw LineError("expected [section] or entry=value, not '" + shortened(line) + "'");
+      throw LineError("expected [section] or entry=value, not " + in_quotes(line));
     const std::string key = lower(trimmed(line.substr(0, equals)));
     if (section_ == Section::none) throw LineError("an entry before the first [section]");
     if (!keys_.insert(plain_number(key)).second)
-      throw LineError("a second '" + shortened(key) + "' in this section");
+      throw LineError("a second " + in_quotes(key) + " in this section");
     const std::string_view value = trimmed(line.substr(equals + 1));
     section_ == Section::titles ? read_title(key, value) : read_entry(key, value);
   }
@@ -131,8 +131,7 @@ class Reader {
   }
 
   void read_title(const std::string& key, std::string_view value) {
-    if (!is_numbered(key, "window"))
-      throw LineError("expected Window00=title, not '" + shortened(key) + "'");
+    if (!is_numbered(key, "window")) throw LineError("expected Window00=title, not " + in_quotes(key));
     titles_[whole_number(std::string_view(key).substr(6), 0, 99)] = {std::string(value), line_};
   }
 
@@ -147,7 +146,7 @@ class Reader {
       return;
     }
     const auto entry = window_entries.find(key);
-    if (entry == window_entries.end()) throw LineError("unknown entry '" + shortened(key) + "'");
+    if (entry == window_entries.end()) throw LineError("unknown entry " + in_quotes(key));
     try {
       entry->second(window, value, line_);
     } catch (const LineError& error) {

@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "host/drawing/pictures.h"
+#include "host/drawing/pixels.h"
 #include "host/panel/area_marks.h"
 #include "host/panel/plate.h"
 
@@ -46,13 +48,49 @@ PanelPicture::PanelPicture(const Cockpit& cockpit, std::size_t window, double zo
     items_.push_back({placed.gauge,
                       place,
                       GaugePainter(placed.gauge->header(), cockpit.module().bitmaps(), place),
+                      {},
                       {}});
   }
 }
 
 void PanelPicture::draw(double blend, std::vector<Rect>& changed) {
+  const std::size_t before = changed.size();
   if (look_ != look()) draw_background(changed);
   for (std::size_t i = 0; i < items_.size(); ++i) draw_item(i, blend, changed);
+  follow_the_day(changed);
+  if (day_ == full_day) return;
+  for (std::size_t i = before; i < changed.size(); ++i) darken_part(changed[i]);
+}
+
+void PanelPicture::follow_the_day(std::vector<Rect>& changed) {
+  const int day = daylight_on_panels(cockpit_);
+  if (std::exchange(day_, day) == day) return;
+  if (day == full_day)
+    dark_ = {};
+  else if (dark_.width != canvas_.width)
+    dark_ = Canvas(canvas_.width, canvas_.height);
+  changed.push_back(whole_of(canvas_));
+}
+
+void PanelPicture::darken_part(const Rect& part) {
+  darken(dark_, canvas_, part, day_);
+  for (Item& item : items_)
+    if (overlap(item.place, part)) light(item, intersection(item.place, part));
+}
+
+void PanelPicture::light(Item& item, const Rect& part) {
+  if (!item.lit) item.lit.emplace(*item.gauge, cockpit_.module().bitmaps());
+  constexpr double beside_a_lamp = 0.0, under_a_flood = 0.35;
+  const int face = static_cast<int>(std::lround(full_day * item.lit->face(*item.gauge)));
+  if (face > day_) darken_lit(dark_, canvas_, part, day_, face, under_a_flood);
+  const Scale scale{1.0 * item.place.width / item.gauge->size.width,
+                    1.0 * item.place.height / item.gauge->size.height};
+  for (const Rect& box : item.lit->shining(*item.gauge)) {
+    Rect place = scaled_place({box.x, box.y}, {box.width, box.height}, scale);
+    place.x += item.place.x;
+    place.y += item.place.y;
+    darken_lit(dark_, canvas_, intersection(place, part), day_, full_day, beside_a_lamp);
+  }
 }
 
 // With the panel lights on the whole cockpit is seen by night, not only the windows that have a face

@@ -6,6 +6,7 @@
 
 #include "host/drawing/painter.h"
 #include "host/panel/cockpit.h"
+#include "host/panel/dusk.h"
 
 namespace host {
 
@@ -23,7 +24,7 @@ class PanelPicture {
 
   std::size_t window() const { return window_; }
   double zoom() const { return zoom_; }
-  const Canvas& canvas() const { return canvas_; }
+  const Canvas& canvas() const { return day_ == full_day ? canvas_ : dark_; }
 
   /// Draws what the gauges show, `blend` 0 to 1 between their last two frames, and adds the places
   /// that changed to `changed`. Throws ConfigError when the window's background cannot be read.
@@ -53,6 +54,7 @@ class PanelPicture {
     Rect place;
     GaugePainter painter;
     std::optional<std::uint64_t> changes;  // of the gauge when it was last drawn at rest
+    std::optional<SelfLit> lit;            // known from the first dusk on
   };
   struct Look {
     Face face;
@@ -65,11 +67,16 @@ class PanelPicture {
   void draw_background(std::vector<Rect>& changed);
   static void invalidate(Item& item);
   void draw_item(std::size_t index, double blend, std::vector<Rect>& changed);
+  void follow_the_day(std::vector<Rect>& changed);
+  void darken_part(const Rect& part);
+  void light(Item& item, const Rect& part);
 
   const Cockpit& cockpit_;
   std::size_t window_;
   double zoom_;
-  Canvas canvas_;
+  Canvas canvas_;  ///< as it is seen by day, or with the panel lights on
+  Canvas dark_;    ///< as it is seen in less of the day
+  int day_ = full_day;
   std::optional<Look> look_;  ///< of the last drawing
   std::vector<Item> items_;
   bool areas_marked_ = false;

@@ -83,7 +83,7 @@ Subject subject_of(const Cockpit& cockpit, const std::string& what) {
   const auto [end, error] = std::from_chars(what.data(), what.data() + what.size(), ident);
   if (error != std::errc{} || end != what.data() + what.size()) {
     if (const CockpitGauge* gauge = cockpit.find(what)) return {std::nullopt, gauge};
-    throw std::runtime_error("no window has a gauge '" + shortened(what) + "'");
+    throw std::runtime_error("no window has a gauge " + in_quotes(what));
   }
   const auto window = cockpit.panels().find(ident);
   if (!window || !cockpit.config().windows[*window].drawn)

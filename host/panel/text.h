@@ -2,6 +2,8 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -38,6 +40,13 @@ inline std::vector<std::string_view> split(std::string_view text, char separator
     if (at == std::string_view::npos) return parts;
     text.remove_prefix(at + 1);
   }
+}
+
+/// A number with as many digits as it takes to read the same one again.
+template <typename Number>
+std::string exact_number(Number number) {
+  std::array<char, 40> text;
+  return {text.data(), std::to_chars(text.data(), text.data() + text.size(), number).ptr};
 }
 
 }  // namespace host

@@ -18,8 +18,6 @@ namespace fs = std::filesystem;
 constexpr std::size_t most_notes = 20;
 constexpr int most_images = 1000;
 
-std::string in_quotes(std::string_view text) { return "'" + shortened(text) + "'"; }
-
 std::string read_text(std::string_view text) {
   if (text == "-") return {};
   const auto is_printable = [](char c) { return c >= ' ' && c <= '~'; };

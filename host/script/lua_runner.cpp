@@ -221,7 +221,7 @@ void LuaRunner::require(LuaCall& call) {
 void LuaRunner::require_file(const std::string& module) {
   const auto file = module_file(module);
   if (!file || folder_.empty() || !std::filesystem::is_regular_file(folder_ / *file))
-    throw std::runtime_error("there is no file for '" + shortened(module) + "' beside the flow");
+    throw std::runtime_error("there is no file for " + in_quotes(module) + " beside the flow");
   const std::string text = text_of(folder_ / *file);
   lua_pushboolean(state_, false);
   lua_setfield(state_, -2, module.c_str());

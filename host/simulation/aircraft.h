@@ -62,8 +62,8 @@ struct Aircraft {
   Electrics electrics;
   std::array<NavReceiver, 2> nav;
   AdfReceiver adf;
-  VhfTuning com{com_band, 121700, 118100};  ///< ground, then tower
-  TransponderCode transponder;              ///< all noughts, as the panel's knobs stand
+  VhfTuning com{com_band, ground_khz, tower_khz};
+  TransponderCode transponder;  ///< all noughts, as the panel's knobs stand
   AudioSelector audio;
   int marker = 0;                       ///< as marker_overhead() returns it
   bool hsi_on_area_navigation = false;  ///< instead of receiver 1

@@ -17,7 +17,7 @@ constexpr DWORD sample_bytes = sizeof(std::int16_t);
 IDirectSound* open_device() {
   IDirectSound* sound = nullptr;
   if (FAILED(DirectSoundCreate(nullptr, &sound, nullptr))) return nullptr;
-  if (SUCCEEDED(sound->SetCooperativeLevel(FindWindowA("FS98MAIN", nullptr), DSSCL_NORMAL)))
+  if (SUCCEEDED(sound->SetCooperativeLevel(FindWindowA(PLATFORM_MAIN_WINDOW, nullptr), DSSCL_NORMAL)))
     return sound;
   sound->Release();
   return nullptr;

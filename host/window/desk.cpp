@@ -89,9 +89,7 @@ class Reader {
 
 std::string factor_line(const char* name, const std::optional<double>& factor) {
   if (!factor) return {};
-  char digits[32];
-  const auto end = std::to_chars(digits, digits + sizeof digits, *factor).ptr;
-  return name + (" = " + std::string(digits, end) + "\n");
+  return name + (" = " + exact_number(*factor) + "\n");
 }
 
 std::string text_of(const Settings& settings) {

@@ -1,5 +1,6 @@
 #include <utility>
 
+#include "host/panel/dusk.h"
 #include "host/window/flight_deck.h"
 
 namespace host {
@@ -46,7 +47,7 @@ void FlightDeck::show_menu() {
     if (!menu_.looks_old() && !std::exchange(menu_old_, false)) return;
     View& view = menu_view();
     view.set_layer(Layer::menu, menu_.draw(menu_at_, view.screen().size(), view.scale(),
-                                           sheet_colors(cockpit_.panel_lights_on())));
+                                           sheet_colors(is_dark(cockpit_))));
     menu_shown_ = true;
   } else if (std::exchange(menu_shown_, false)) {
     views_.each([](View& view) { view.set_layer(Layer::menu, std::nullopt); });

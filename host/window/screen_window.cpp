@@ -12,7 +12,8 @@
 namespace host {
 namespace {
 
-constexpr const char* fills_screen = "fills the screen";  // a note on a window that does by its own hand
+constexpr const char* fills_screen =
+    "fills the screen";  // a note on a window that does by its own hand
 
 bool is_set(const char* variable) {
   const char* value = std::getenv(variable);

@@ -15,6 +15,10 @@ namespace {
 
 constexpr double most_zoom = 3.0;  // of a small panel that has the window for itself, at scale 1
 
+Rect overlay_place(const Overlay& overlay) {
+  return {overlay.x, overlay.y, overlay.width, overlay.height};
+}
+
 }  // namespace
 
 // They stand on the keys in their idents' order.
@@ -101,9 +105,7 @@ void View::set_strip_end(std::optional<Overlay> picture) {
 }
 
 std::optional<PanelPoint> View::on_strip_end(int x, int y) const {
-  if (!strip_end_ ||
-      !overlap({strip_end_->x, strip_end_->y, strip_end_->width, strip_end_->height}, {x, y, 1, 1}))
-    return std::nullopt;
+  if (!strip_end_ || !overlap(overlay_place(*strip_end_), {x, y, 1, 1})) return std::nullopt;
   return PanelPoint{x - strip_end_->x, y - strip_end_->y};
 }
 
@@ -238,9 +240,9 @@ Rect View::on_screen(const Rect& rect) const {
 
 void View::set_layer(Layer layer, std::optional<Overlay> overlay) {
   auto& slot = layers_[static_cast<std::size_t>(layer)];
-  if (slot) change({slot->x, slot->y, slot->width, slot->height});
+  if (slot) change(overlay_place(*slot));
   slot = std::move(overlay);
-  if (slot) change({slot->x, slot->y, slot->width, slot->height});
+  if (slot) change(overlay_place(*slot));
 }
 
 bool View::moving() const {
@@ -314,7 +316,7 @@ Canvas View::picture() const {
 bool View::is_covered(int x, int y) const {
   for (const Layer layer : {Layer::badge, Layer::note, Layer::controls, Layer::help, Layer::menu})
     if (const auto& over = layers_[static_cast<std::size_t>(layer)])
-      if (overlap({over->x, over->y, over->width, over->height}, {x, y, 1, 1})) return true;
+      if (overlap(overlay_place(*over), {x, y, 1, 1})) return true;
   return false;
 }
 
@@ -324,7 +326,7 @@ std::optional<ViewHit> View::hit(int x, int y) const {
   if (is_covered(x, y) || overlap(outside_, pixel)) return std::nullopt;
   if (on_strip_end(x, y)) return std::nullopt;
   for (const auto& [window, tab] : tabs_)
-    if (overlap({tab.x, tab.y, tab.width, tab.height}, pixel))
+    if (overlap(overlay_place(tab), pixel))
       return ViewHit{window, caption_part(x - tab.x, tab.width, scale()), true, {}};
   if (overlap(strip(), pixel)) return {};
   for (const Panel& panel : panels_) {

@@ -115,7 +115,7 @@ class View {
 
   std::optional<ViewHit> hit(int x, int y) const;
 
-  /// Whether a page, a note or a badge lies over the pixel.
+  /// Whether a note, a badge, the menu, or the page of help or of controls lies over the pixel.
   bool is_covered(int x, int y) const;
 
   /// A pixel of the view as a point of a gauge of one of its windows.

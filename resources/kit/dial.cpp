@@ -58,21 +58,19 @@ void case_face(const Canvas& canvas, Box box, double corner, Lighting lighting) 
   const Box face = box.grown(-3.2);
   soft(canvas, rounded({box.x + 0.6, box.y + 1, box.width, box.height}, corner),
        faded(palette::black, 0.5), 1.1);
-  set_linear(canvas, {box.x, box.y}, {box.right(), box.bottom()},
-             {{0, palette::mould_light}, {0.5, palette::mould}, {1, palette::mould_dark}});
+  set_slope(canvas, box, {{0, palette::mould_light}, {0.5, palette::mould}, {1, palette::mould_dark}});
   fill(canvas, rounded(box, corner));
-  set_linear(canvas, {box.x, box.y}, {box.right(), box.bottom()},
-             {{0, faded(palette::white, 0.5)},
-              {0.4, faded(palette::white, 0.08)},
-              {1, faded(palette::black, 0.6)}});
+  set_slope(canvas, box,
+            {{0, faded(palette::white, 0.5)},
+             {0.4, faded(palette::white, 0.08)},
+             {1, faded(palette::black, 0.6)}});
   stroke(canvas, rounded(box.grown(-0.4), corner - 0.4), 0.8);
-  set_linear(canvas, {face.x, face.y}, {face.right(), face.bottom()},
-             {{0, palette::well}, {0.6, palette::mould_dark}, {1, palette::steel}});
+  set_slope(canvas, face, {{0, palette::well}, {0.6, palette::mould_dark}, {1, palette::steel}});
   fill(canvas, rounded(face.grown(0.9), corner - 2.3));
-  set_linear(canvas, {face.x, face.y}, {face.right(), face.bottom()},
-             {{0, palette::face_light},
-              {0.5, mixed(palette::face_light, palette::face_dark, 0.5)},
-              {1, palette::face_dark}});
+  set_slope(canvas, face,
+            {{0, palette::face_light},
+             {0.5, mixed(palette::face_light, palette::face_dark, 0.5)},
+             {1, palette::face_dark}});
   fill(canvas, rounded(face, corner - 3.2));
   const double p = power(lighting);
   if (p == 0) return;

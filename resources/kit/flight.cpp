@@ -1,5 +1,6 @@
 #include "resources/kit/flight.h"
 
+#include "resources/kit/dial.h"
 #include "resources/kit/window.h"
 
 namespace artwork {
@@ -18,7 +19,11 @@ void bank_scale(const Canvas& canvas, Point centre, double radius, double length
   fill(canvas, polygon(top), ink);
 }
 
-void aircraft_symbol(const Canvas& canvas, Point centre, const AircraftSymbol& s) {
+Colour symbol_paint(Lighting lighting) {
+  return mixed(palette::symbol, palette::filament, 0.4 * power(lighting));
+}
+
+void aircraft_symbol(const Canvas& canvas, Point centre, const AircraftSymbol& s, Colour paint) {
   const double half = s.thick / 2;
   const auto draw = [&](double grow, Colour colour) {
     for (const int side : {-1, 1}) {
@@ -33,7 +38,7 @@ void aircraft_symbol(const Canvas& canvas, Point centre, const AircraftSymbol& s
               colour);
   };
   draw(1, palette::well);
-  draw(0, palette::symbol);
+  draw(0, paint);
 }
 
 void deviation_dots(const Canvas& canvas, Point middle, double pitch, Colour ink) {

@@ -4,6 +4,7 @@
 #include <initializer_list>
 
 #include "resources/kit/paint.h"
+#include "resources/kit/styles.h"
 
 namespace artwork {
 
@@ -16,8 +17,11 @@ struct AircraftSymbol {
   double thick, drop;
 };
 
+/// The paint of what stands fixed before a ball or a card, as the lamps behind the bezel light it.
+Colour symbol_paint(Lighting lighting);
+
 /// It stands on the plate over an opening, so that its edges are hard.
-void aircraft_symbol(const Canvas& canvas, Point centre, const AircraftSymbol& symbol);
+void aircraft_symbol(const Canvas& canvas, Point centre, const AircraftSymbol& symbol, Colour paint);
 
 /// The dots of a deviation scale, `pitch` apart and two to each side, with a line in the middle.
 void deviation_dots(const Canvas& canvas, Point middle, double pitch, Colour ink);

@@ -12,13 +12,12 @@ constexpr double hinge_share = 0.34;  // of the frame's height, from its top to 
 void well(const Canvas& canvas, Box frame) {
   const Box box = guarded_well(frame);
   fill(canvas, rounded(box, 3), palette::steel_deep);
-  set_linear(canvas, {box.x, box.y}, {box.right(), box.bottom()},
-             {{0, palette::well}, {0.6, palette::mould_dark}, {1, palette::mould}});
+  set_slope(canvas, box, {{0, palette::well}, {0.6, palette::mould_dark}, {1, palette::mould}});
   fill(canvas, rounded(box.grown(-0.8), 2.4));
-  set_linear(canvas, {box.x, box.y}, {box.right(), box.bottom()},
-             {{0, faded(palette::black, 0.8)},
-              {0.5, faded(palette::black, 0.2)},
-              {1, faded(palette::white, 0.35)}});
+  set_slope(canvas, box,
+            {{0, faded(palette::black, 0.8)},
+             {0.5, faded(palette::black, 0.2)},
+             {1, faded(palette::white, 0.35)}});
   stroke(canvas, rounded(box.grown(-0.4), 2.8), 0.8);
 }
 
@@ -44,16 +43,15 @@ void hinge(const Canvas& canvas, Box frame) {
 }
 
 void cover_shading(const Canvas& canvas, Box box) {
-  set_linear(canvas, {box.x, box.y}, {box.right(), box.bottom()},
-             {{0, palette::guard_light}, {0.4, palette::guard}, {1, palette::guard_dark}});
+  set_slope(canvas, box, {{0, palette::guard_light}, {0.4, palette::guard}, {1, palette::guard_dark}});
 }
 
 void cover_edges(const Canvas& canvas, Box box, double corner) {
-  set_linear(canvas, {box.x, box.y}, {box.right(), box.bottom()},
-             {{0, faded(palette::white, 0.55)},
-              {0.45, faded(palette::white, 0.12)},
-              {0.6, faded(palette::black, 0.15)},
-              {1, faded(palette::black, 0.5)}});
+  set_slope(canvas, box,
+            {{0, faded(palette::white, 0.55)},
+             {0.45, faded(palette::white, 0.12)},
+             {0.6, faded(palette::black, 0.15)},
+             {1, faded(palette::black, 0.5)}});
   stroke(canvas, rounded(box.grown(-0.5), corner - 0.5), 1);
 }
 
@@ -71,10 +69,10 @@ void ribs(const Canvas& canvas, Box cover) {
 void dome(const Canvas& canvas, Box cover) {
   const Box box{cover.x + 4.5, cover.y + 19, cover.width - 9, cover.height - 24};
   soft(canvas, rounded(box.grown(0.6), 3), faded(palette::black, 0.35), 0.9);
-  set_linear(canvas, {box.x, box.y}, {box.right(), box.bottom()},
-             {{0, mixed(palette::guard_light, palette::white, 0.12)},
-              {0.35, mixed(palette::guard, palette::guard_light, 0.4)},
-              {1, mixed(palette::guard, palette::guard_dark, 0.45)}});
+  set_slope(canvas, box,
+            {{0, mixed(palette::guard_light, palette::white, 0.12)},
+             {0.35, mixed(palette::guard, palette::guard_light, 0.4)},
+             {1, mixed(palette::guard, palette::guard_dark, 0.45)}});
   fill(canvas, rounded(box, 3));
   line(canvas, {box.x + 2.4, box.y + 1.2}, {box.right() - 3, box.y + 1.2}, 0.8,
        faded(palette::white, 0.5));
@@ -98,7 +96,8 @@ void guarded_switch_on(const Canvas& canvas, Box frame) { switch_in_well(canvas,
 void guarded_rotary(const Canvas& canvas, Box frame, int position) {
   well(canvas, frame);
   const double radius = guarded_well(frame).width / 2 - 2;
-  pointer_knob(canvas, guarded_hub(frame), radius, 180 - 60.0 * position);
+  // Each position looks at its name on the right of the well.
+  pointer_knob(canvas, guarded_hub(frame), radius, 127 - 24.5 * position);
 }
 
 void guard_closed(const Canvas& canvas, Box frame) {

@@ -110,8 +110,7 @@ void plain_knob(const Canvas& canvas, Point c, double radius) {
 
 void thumb_wheel(const Canvas& canvas, Box slot) {
   const Box frame = slot.grown(2);
-  set_linear(canvas, {frame.x, frame.y}, {frame.right(), frame.bottom()},
-             {{0, palette::mould_dark}, {0.5, palette::mould}, {1, palette::steel}});
+  set_slope(canvas, frame, {{0, palette::mould_dark}, {0.5, palette::mould}, {1, palette::steel}});
   fill(canvas, rounded(frame, 3));
   fill(canvas, rounded(slot, 1.6), palette::black);
   const Saved saved(canvas);

@@ -9,9 +9,6 @@
 
 namespace artwork {
 
-/// Whether a font family is installed; without it, words would take another one's shapes.
-bool has_font(const char* family);
-
 /// Width and height (of the capitals) of one line, in gauge pixels.
 struct TextExtent {
   double width;

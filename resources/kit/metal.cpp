@@ -83,11 +83,11 @@ void bevel(const Canvas& canvas, const Box& box) {
   rounded(box, corner)(cr);
   cairo_clip(cr);
   const double width = 1.1;
-  set_linear(canvas, {box.x, box.y}, {box.right(), box.bottom()},
-             {{0, faded(palette::white, 0.42)},
-              {0.42, faded(palette::white, 0.20)},
-              {0.5, faded(palette::black, 0.12)},
-              {1, faded(palette::black, 0.5)}});
+  set_slope(canvas, box,
+            {{0, faded(palette::white, 0.42)},
+             {0.42, faded(palette::white, 0.20)},
+             {0.5, faded(palette::black, 0.12)},
+             {1, faded(palette::black, 0.5)}});
   stroke(canvas, rounded(box.grown(-width / 2), corner), width);
 }
 
@@ -134,10 +134,10 @@ void sunk_field(const Canvas& canvas, Box box, double corner_radius, Colour floo
   set_linear(canvas, {box.x, box.y}, {box.x, box.bottom()},
              {{0, mixed(floor, palette::black, 0.35)}, {0.3, floor}, {1, floor}});
   fill(canvas, rounded(box, corner_radius));
-  set_linear(canvas, {box.x, box.y}, {box.right(), box.bottom()},
-             {{0, faded(palette::black, 0.65)},
-              {0.5, faded(palette::black, 0.1)},
-              {1, faded(palette::white, 0.3)}});
+  set_slope(canvas, box,
+            {{0, faded(palette::black, 0.65)},
+             {0.5, faded(palette::black, 0.1)},
+             {1, faded(palette::white, 0.3)}});
   stroke(canvas, rounded(box.grown(0.4), corner_radius), 0.8);
 }
 

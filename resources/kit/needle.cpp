@@ -10,6 +10,8 @@ void blade(const Canvas& canvas, const Blade& b) {
       Point{p.x - b.tail, p.y - b.half_width}, Point{p.x + b.length * 0.82, p.y - b.half_width * 0.62},
       Point{p.x + b.length, p.y}, Point{p.x + b.length * 0.82, p.y + b.half_width * 0.62},
       Point{p.x - b.tail, p.y + b.half_width}};
+  // A shadow all round, as it turns with the needle, where the picture has the room.
+  if (p.y - b.half_width >= 2.4) soft(canvas, polygon(outline), faded(palette::black, 0.6), 1);
   fill(canvas, polygon(outline), b.colour);
   const std::array<Point, 4> shade{Point{p.x - b.tail, p.y}, Point{p.x + b.length, p.y},
                                    Point{p.x + b.length * 0.82, p.y + b.half_width * 0.62},

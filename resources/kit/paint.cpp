@@ -100,6 +100,12 @@ void set_linear(const Canvas& canvas, Point from, Point to, Stops stops) {
   set_pattern(canvas, cairo_pattern_create_linear(from.x, from.y, to.x, to.y), stops);
 }
 
+void set_slope(const Canvas& canvas, Box box, Stops stops) {
+  const double share = box.width * box.height / (box.width * box.width + box.height * box.height);
+  const Point by{box.height * share, box.width * share}, middle = box.centre();
+  set_linear(canvas, middle - by, middle + by, stops);
+}
+
 void set_radial(const Canvas& canvas, Point focus, Point centre, double radius, Stops stops) {
   set_pattern(canvas, cairo_pattern_create_radial(focus.x, focus.y, 0, centre.x, centre.y, radius),
               stops);
@@ -174,6 +180,13 @@ void line(const Canvas& canvas, Point from, Point to, double width, Colour colou
         cairo_line_to(cr, to.x, to.y);
       },
       width, colour);
+}
+
+void level_mark(const Canvas& canvas, double from, double to, double y, double width, Colour colour) {
+  const double height = std::max(canvas.hairline(), canvas.snapped(width));
+  const double left = canvas.snapped(from);
+  fill(canvas, rounded({left, canvas.snapped(y - height / 2), canvas.snapped(to) - left, height}, 0),
+       colour);
 }
 
 void soft(const Canvas& canvas, const Path& path, Colour colour, double blur) {

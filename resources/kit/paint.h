@@ -29,6 +29,9 @@ using Stops = std::initializer_list<Stop>;
 void set_colour(const Canvas& canvas, Colour colour);
 /// Along the line from `from` to `to`.
 void set_linear(const Canvas& canvas, Point from, Point to, Stops stops);
+/// As light from above left falls on the box's bevel: from its upper left corner to its lower right one, the
+/// middle at both others, so that an edge is lit or in shade over its whole length.
+void set_slope(const Canvas& canvas, Box box, Stops stops);
 /// From `focus`, the brightest spot, out to the circle of `radius` about `centre`.
 void set_radial(const Canvas& canvas, Point focus, Point centre, double radius, Stops stops);
 
@@ -46,6 +49,8 @@ void fill(const Canvas& canvas, const Path& path);
 void stroke(const Canvas& canvas, const Path& path, double width, Colour colour);
 void stroke(const Canvas& canvas, const Path& path, double width);
 void line(const Canvas& canvas, Point from, Point to, double width, Colour colour);
+/// A level mark about `y`, on whole device pixels so that it is as bright as its paint.
+void level_mark(const Canvas& canvas, double from, double to, double y, double width, Colour colour);
 
 /// The shape filled with `colour` and softened by `blur` gauge pixels.
 void soft(const Canvas& canvas, const Path& path, Colour colour, double blur);

@@ -51,10 +51,9 @@ void throttle_scale(const Canvas& canvas, const LeverTravel& travel) {
   for (int tenth = 0; tenth <= 10; ++tenth) {
     const bool long_mark = tenth % 5 == 0;
     const Point foot = travel.foot(tenth / 10.0);
-    for (const double side : {-1.0, 1.0}) {
-      const Point by{side * 13, 0}, to{side * (long_mark ? 20 : 17), 0};
-      line(canvas, foot + by, foot + to, long_mark ? 1.4 : 0.8, palette::legend);
-    }
+    const double length = long_mark ? 7 : 4, width = long_mark ? 1.4 : 0.8;
+    level_mark(canvas, foot.x - 13 - length, foot.x - 13, foot.y, width, palette::legend);
+    level_mark(canvas, foot.x + 13, foot.x + 13 + length, foot.y, width, palette::legend);
   }
 }
 
@@ -64,8 +63,8 @@ void lever_slot(const Canvas& canvas, const LeverTravel& travel, double width) {
   const double top = travel.foot_pushed - width, bottom = travel.foot_pulled + width;
   const Box slot{travel.x - width / 2, top, width, bottom - top};
   const Box frame = slot.grown(2.5);
-  set_linear(canvas, {frame.x, frame.y}, {frame.right(), frame.bottom()},
-             {{0, palette::steel_light}, {0.5, palette::steel}, {1, palette::steel_dark}});
+  set_slope(canvas, frame,
+            {{0, palette::steel_light}, {0.5, palette::steel}, {1, palette::steel_dark}});
   fill(canvas, rounded(frame, width / 2 + 2.5));
   stroke(canvas, rounded(frame.grown(-0.2), width / 2 + 2.3), 0.6, faded(palette::black, 0.5));
   fill(canvas, rounded(slot, width / 2), palette::black);
@@ -115,10 +114,9 @@ void placard(const Canvas& canvas, Box box, std::string_view heading, std::strin
   stroke(canvas, rounded(box.grown(-0.5), 1.6), 0.6, faded(palette::white, 0.25));
   const Point top{box.centre().x, box.y + heading_height / 2 + 1};
   print(canvas, top, heading, {.size = 6.5, .colour = palette::legend});
-  line(canvas, {box.x + 4, box.y + heading_height}, {box.right() - 4, box.y + heading_height}, 0.7,
-       faded(palette::legend, 0.7));
+  level_mark(canvas, box.x + 4, box.right() - 4, box.y + heading_height, 0.7, palette::legend);
   const Point rest{top.x, box.y + (heading_height + box.height) / 2};
-  print(canvas, rest, lines, {.size = 6, .colour = faded(palette::legend, 0.9)});
+  print(canvas, rest, lines, {.size = 6, .colour = palette::legend});
 }
 
 void throttle_quadrant(const Canvas& canvas, const LeverTravel& travel) {

@@ -1,13 +1,14 @@
 #include "resources/kit/window.h"
 
+#include <algorithm>
+
 #include "resources/kit/dial.h"
 
 namespace artwork {
 
 void display_window(const Canvas& canvas, Box box) {
   const Box frame = box.grown(2);
-  set_linear(canvas, {frame.x, frame.y}, {frame.right(), frame.bottom()},
-             {{0, palette::mould_dark}, {0.5, palette::mould}, {1, palette::steel}});
+  set_slope(canvas, frame, {{0, palette::mould_dark}, {0.5, palette::mould}, {1, palette::steel}});
   fill(canvas, rounded(frame, 2));
   fill(canvas, rounded(box.grown(0.8), 1.2), palette::well);
   set_linear(canvas, {box.x, box.y}, {box.x, box.bottom()},
@@ -24,8 +25,7 @@ void opening(const Canvas& canvas, Point centre, Size size, double corner, Light
   const Box hole{centre.x - size.width / 2.0, centre.y - size.height / 2.0,
                  static_cast<double>(size.width), static_cast<double>(size.height)};
   const Box frame = hole.grown(1.6);
-  set_linear(canvas, {frame.x, frame.y}, {frame.right(), frame.bottom()},
-             {{0, palette::mould_dark}, {0.5, palette::mould}, {1, palette::steel}});
+  set_slope(canvas, frame, {{0, palette::mould_dark}, {0.5, palette::mould}, {1, palette::steel}});
   fill(canvas, rounded(frame, corner + 1.6));
   stroke(canvas, rounded(hole.grown(1), corner + 1), 0.9,
          faded(palette::filament_wash, 0.5 * power(lighting)));
@@ -36,8 +36,7 @@ void opening(const Canvas& canvas, Point centre, Size size, double corner, Light
 
 void drum_frame(const Canvas& canvas, Box box, Lighting lighting) {
   const Box frame = box.grown(1.8);
-  set_linear(canvas, {frame.x, frame.y}, {frame.right(), frame.bottom()},
-             {{0, palette::well}, {0.5, palette::mould}, {1, palette::steel}});
+  set_slope(canvas, frame, {{0, palette::well}, {0.5, palette::mould}, {1, palette::steel}});
   fill(canvas, rounded(frame, 1.6));
   stroke(canvas, rounded(frame.grown(-0.4), 1.4), 0.8,
          faded(palette::filament_wash, 0.5 * power(lighting)));
@@ -79,6 +78,31 @@ void fixed_button(const Canvas& canvas, Point c, double radius, Colour cap) {
   set_radial(canvas, {c.x - radius * 0.25, c.y - radius * 0.35}, c, radius - 2,
              {{0, mixed(cap, palette::white, 0.35)}, {0.6, cap}, {1, mixed(cap, palette::black, 0.5)}});
   fill(canvas, circle(c, radius - 2));
+}
+
+void opening_shade(const Canvas& canvas, Point centre, Size size, double corner) {
+  const double width = size.width, height = size.height, depth = std::min(width * 0.11, height * 0.3);
+  const Box hole{centre.x - width / 2, centre.y - height / 2, width, height};
+  const Saved saved(canvas);
+  rounded(hole, corner)(canvas.cr());
+  cairo_clip(canvas.cr());
+  if (width != height) {
+    set_linear(canvas, {0, hole.y}, {0, hole.y + depth},
+               {{0, faded(palette::well, 0.7)}, {1, faded(palette::well, 0)}});
+    return fill(canvas, rounded(hole, corner));
+  }
+  // The circle in the light lies toward the lower right: the shade is widest at the upper left.
+  const Point lit = centre + Point{depth * 0.16, depth * 0.24};
+  const double far = width / 2 + depth * 0.3, near = width / 2 - depth;
+  set_radial(canvas, lit, lit, far,
+             {{0, faded(palette::well, 0)},
+              {near / far, faded(palette::well, 0)},
+              {(near + far) / 2 / far, faded(palette::well, 0.24)},
+              {1, faded(palette::well, 0.86)}});
+  fill(canvas, circle(centre, width / 2));
+  set_linear(canvas, {hole.x, hole.y}, {hole.right(), hole.bottom()},
+             {{0.55, faded(palette::white, 0)}, {0.9, faded(palette::white, 0.3)}});
+  stroke(canvas, circle(centre, width / 2 - 0.5), 0.8);
 }
 
 }  // namespace artwork

@@ -13,6 +13,9 @@ void display_window(const Canvas& canvas, Box box);
 void opening(const Canvas& canvas, Point centre, Size size, double corner,
              Lighting lighting = Lighting::off);
 
+/// The shade that the edge of such an opening casts on what lies behind it, and the light on its far side.
+void opening_shade(const Canvas& canvas, Point centre, Size size, double corner);
+
 /// A dark frame let into a face, in which drums stand edge to edge. `box` is the drums' room.
 void drum_frame(const Canvas& canvas, Box box, Lighting lighting);
 

@@ -24,6 +24,7 @@ void draw_plate(Canvas& canvas, const Bitmap& bitmap, const Plate& plate) {
     lit_overlay(canvas, bitmap.image, [&](const Canvas& face, Lighting lighting) {
       draw_plate({face, gauge, lighting}, plate.items);
     });
+    shade_openings({canvas, gauge}, plate.items);
   } else {
     draw_plate({canvas, gauge}, plate.items);
   }

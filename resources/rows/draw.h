@@ -31,6 +31,8 @@ void draw_ball(const Canvas& canvas, const Ball& ball, Point centre);
 
 /// A whole plate: paint, what its parts need of it, and its items.
 void draw_plate(const Board& board, std::span<const Item> items);
+/// The shade of a plate's openings, which lies on the overlay: no pixel of a plate is half clear.
+void shade_openings(const Board& board, std::span<const Item> items);
 /// The middle of a dial on its plate.
 Point middle_of(const GaugeHeader& gauge, const Dial& dial);
 void draw_dial(const Board& board, const Dial& dial);

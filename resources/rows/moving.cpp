@@ -237,6 +237,16 @@ void draw_ball(const Canvas& canvas, const Ball& ball, Point centre) {
     pitch_line(canvas, ball, centre + Point{0, degrees * ball.per_degree}, degrees);
   }
   line(canvas, {0, centre.y}, {box.width, centre.y}, 1.8, palette::white);
+  // It rounds away to both sides, and stays even along the way on which it rolls.
+  const Colour dark = palette::well;
+  set_linear(canvas, centre - Point{ball.seen, 0}, centre + Point{ball.seen, 0},
+             {{0, faded(dark, 0.42)},
+              {0.16, faded(dark, 0.15)},
+              {0.38, faded(dark, 0)},
+              {0.62, faded(dark, 0)},
+              {0.84, faded(dark, 0.15)},
+              {1, faded(dark, 0.42)}});
+  fill(canvas, rounded(box, 0));
 }
 
 }  // namespace artwork

@@ -83,6 +83,7 @@ struct Ball {
   double ladder;      ///< length of the lines at tens of degrees
   double figure_size;
   double mark_step;  ///< degrees between the shortest lines
+  double seen;       ///< radius of the part that shows; toward it the ball rounds away
 };
 
 }  // namespace artwork

@@ -106,4 +106,12 @@ void draw_plate(const Board& board, std::span<const Item> items) {
   for (const Item& item : items) std::visit(fitter, item);
 }
 
+void shade_openings(const Board& board, std::span<const Item> items) {
+  for (const Item& item : items) {
+    const auto* row = std::get_if<Opening>(&item);
+    if (row == nullptr) continue;
+    opening_shade(board.canvas, where(board, row->spot), row->size, row->corner);
+  }
+}
+
 }  // namespace artwork

@@ -3,6 +3,8 @@
 
 #include <sys/stat.h>
 
+#include <set>
+
 #include "tests/app/program.h"
 #include "tests/rig/rows.h"
 
@@ -182,6 +184,18 @@ TEST(Program, ShowsGaugesInAFile) {
   EXPECT_EQ(file_text(day).substr(1, 3), "PNG");
   EXPECT_NE(file_text(day), file_text(night));
   EXPECT_GT(file_text(areas).size(), file_text(day).size());
+}
+
+TEST(Program, ShowsAPanelAsItIsInFlight) {
+  const TempFolder folder;
+  std::set<std::string> pictures;
+  for (const char* when : {"", "--at final", "--at final --time 23"}) {
+    const Outcome outcome = tarnvale("show 500 " + std::string(when) + " --png " + (folder / "x.png"));
+    EXPECT_EQ(outcome.exit_code, 0);
+    EXPECT_EQ(outcome.output, "");
+    pictures.insert(file_text(folder / "x.png"));
+  }
+  EXPECT_EQ(pictures.size(), 3u);
 }
 
 TEST(Program, MeasuresItself) {

@@ -23,7 +23,8 @@ TEST(Pictures, DrawSomethingUnlessTheyRestOnThePlate) {
     const bool guarded = std::holds_alternative<GuardedLever>(each.art->picture) ||
                          std::holds_alternative<GuardedKnob>(each.art->picture);
     const bool nothing = same(drawn(each, 1), Canvas(each.size, 1, 0));
-    EXPECT_EQ(nothing, each.image == 0 && (guarded || each.overlay)) << subject(each);
+    const bool unlit = each.overlay && !has_openings(each);
+    EXPECT_EQ(nothing, each.image == 0 && (guarded || unlit)) << subject(each);
   }
 }
 
@@ -41,9 +42,9 @@ TEST(Pictures, DensitiesAgree) {
         sum += std::abs(mean - luminance(one.at(x, y)));
       }
     }
-    // Where figures fill a small picture or a drum they keep to its own pixels.
+    // Where figures fill a small picture or a drum their stems keep to its own pixels.
     const bool drum = std::holds_alternative<Drum>(each.art->picture);
-    const double most = drum || one.width * one.height < 1500 ? 20 : 14;
+    const double most = drum || one.width * one.height < 1500 ? 28 : 16;
     EXPECT_LT(sum / (one.width * one.height), most) << subject(each);
   }
 }
@@ -157,7 +158,7 @@ TEST(Overlays, LightTheFaceAndLeaveThePlateAlone) {
     for_each_pixel(bright, face, [&](std::uint32_t pixel, int, int) {
       half_clear += pixel >> 24 != 0 && pixel >> 24 != 255;
     });
-    EXPECT_EQ(half_clear, 0) << subject(each);
+    EXPECT_TRUE(half_clear == 0 || has_openings(each)) << subject(each);
   }
 }
 

@@ -67,7 +67,8 @@ TEST_P(EngineStart, Nothing_turns_without_air_and_over_a_shut_duct_a_twitch_is_a
   PoweredAircraft aircraft;
   crank(aircraft, own("starter_#_engage"));
   aircraft.advance(5.0);
-  EXPECT_EQ(reading(aircraft, own("engine_#_core_speed")), 0.0) << "on the stand, with nothing that gives air";
+  EXPECT_EQ(reading(aircraft, own("engine_#_core_speed")), 0.0)
+      << "on the stand, with nothing that gives air";
   SuppliedAircraft supplied;
   for (int turned = 0; turned < 12; ++turned) {
     send(supplied, own("starter_#_engage"));
@@ -124,7 +125,8 @@ TEST_P(EngineStart, Repeated_events_change_nothing) {
   }
 }
 
-TEST_P(EngineStart, The_apu_or_the_other_engine_gives_the_air_anywhere_and_the_ground_crew_on_the_stand) {
+TEST_P(EngineStart,
+       The_apu_or_the_other_engine_gives_the_air_anywhere_and_the_ground_crew_on_the_stand) {
   using simulation::EngineStartInputs;
   const auto side = static_cast<std::size_t>(GetParam() - 1);
   const auto cranks = [side](const EngineStartInputs& inputs, bool by_ground_crew = false) {

@@ -1,5 +1,6 @@
 // On the wheels: standing, braking, steering, leaving and meeting the ground.
 
+#include "tests/simulation/aircraft_rig.h"
 #include "tests/simulation/flown.h"
 
 namespace host::simulation {
@@ -104,6 +105,18 @@ TakeOff take_off(Aircraft& aircraft, double rotation_kt) {
   });
   result.climb_fpm = aircraft.flight.vertical_speed_fpm;
   return result;
+}
+
+// At a fast pace two frames' calls fall into one step of the aircraft.
+TEST(Ground, The_tug_hears_one_call_a_breath_at_any_pace) {
+  for (const int calls : {1, 2}) {
+    AircraftModel model;
+    for (int frame = 0; frame < 120 * 8; ++frame) {
+      for (int call = 0; call < calls; ++call) send(model, "pushback_call");
+      model.advance(1.0 / 120);
+    }
+    EXPECT_EQ(length(model.flight().velocity_mps) > 1.0, calls == 1) << calls;
+  }
 }
 
 TEST(Ground, Takes_off_in_the_length_that_its_weight_needs_straight_ahead) {

@@ -12,6 +12,7 @@ inline constexpr double feet_per_minute_per_mps = 60.0 / metres_per_foot;
 inline constexpr double radians_per_degree = std::numbers::pi / 180.0;
 inline constexpr double degrees_per_radian = 180.0 / std::numbers::pi;
 inline constexpr double gravity_mps2 = 9.80665;
+inline constexpr double air_gas_constant = 287.05287;  ///< J/(kg K), dry
 inline constexpr double kelvin_at_0_celsius = 273.15;
 inline constexpr double pascals_per_hpa = 100.0;
 

@@ -6,7 +6,6 @@
 namespace host::simulation {
 namespace {
 
-constexpr double gas_constant = 287.05287;  // J/(kg K), dry air
 constexpr double heat_ratio = 1.4;
 constexpr double sea_level_sound_mps = 340.294;
 
@@ -30,7 +29,7 @@ double mach_at(double calibrated_kt, double pressure_hpa) {
 }
 
 double speed_of_sound_mps(double temperature_celsius) {
-  return std::sqrt(heat_ratio * gas_constant * (temperature_celsius + kelvin_at_0_celsius));
+  return std::sqrt(heat_ratio * air_gas_constant * (temperature_celsius + kelvin_at_0_celsius));
 }
 
 void AirData::update(const FlightState& flight, Blockages blockages) {
@@ -42,7 +41,7 @@ void AirData::update(const FlightState& flight, Blockages blockages) {
   if (!blockages.static_blocked) static_altitude_ft = pressure_altitude;
   indicated_altitude_ft = static_altitude_ft - pressure_altitude_ft(pressure_setting_hpa);
   density_kg_per_m3 =
-      pressure_hpa * pascals_per_hpa / (gas_constant * (temperature_celsius + kelvin_at_0_celsius));
+      pressure_hpa * pascals_per_hpa / (air_gas_constant * (temperature_celsius + kelvin_at_0_celsius));
   sound_mps = speed_of_sound_mps(temperature_celsius);
   mach = flight.true_airspeed_mps / sound_mps;
   if (!blockages.pitot_blocked) indicated_airspeed_kt = calibrated_airspeed_kt(mach, pressure_hpa);

@@ -3,15 +3,16 @@
 #include <algorithm>
 #include <cmath>
 
+#include "host/simulation/base/units.h"
+
 namespace host::simulation {
 namespace {
 
-constexpr double metres_per_foot = 0.3048;
 constexpr double sea_level_kelvin = 288.15;
 constexpr double lapse_kelvin_per_m = 0.0065;
 constexpr double tropopause_m = 11000.0;
 constexpr double tropopause_kelvin = sea_level_kelvin - lapse_kelvin_per_m * tropopause_m;
-constexpr double gravity_over_gas_constant = 9.80665 / 287.05287;  // kelvin per metre
+constexpr double gravity_over_gas_constant = gravity_mps2 / air_gas_constant;  // kelvin per metre
 constexpr double pressure_exponent = gravity_over_gas_constant / lapse_kelvin_per_m;
 constexpr double stratosphere_scale_m = tropopause_kelvin / gravity_over_gas_constant;
 

@@ -8,6 +8,9 @@
 
 namespace host::simulation {
 
+/// The frequencies of the airfield's voices: ground, tower and the recorded information.
+inline constexpr int ground_khz = 121700, tower_khz = 118100, information_khz = 126650;
+
 /// The instrument landing system of runway 07.
 struct LandingSystem {
   std::string_view ident;

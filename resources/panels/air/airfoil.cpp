@@ -11,7 +11,7 @@ constexpr Print psi[] = {
 constexpr Dial pressure(std::string_view needle, std::string_view wing) {
   return {.radius = 34,
           .scales = {{.needle = needle, .print = psi, .per = 10}},
-          .words = {{wing, {2.5, 21}}, {"PSI", {3, 12.5}}}};
+          .words = {{wing, {3, 21}, 6.5}, {"PSI", {3, 12.5}}}};
 }
 
 constexpr Item items[] = {
@@ -19,7 +19,10 @@ constexpr Item items[] = {
     Screw{{-8, -8}, 70},
     pressure("left_wing_anti_ice_pressure", "WING 1"),
     pressure("right_wing_anti_ice_pressure", "WING 2"),
-    beginning(at("high_pressure_switch", 24), "HI SUPPLY"),
+    ending(at("high_pressure_switch", -22), "OFF"),
+    beginning(at("high_pressure_switch", 22), "ON"),
+    Line{at("high_pressure_switch", 40), at("high_pressure_switch", 53)},
+    beginning(at("high_pressure_switch", 57), "HI SUPPLY"),
 };
 
 constexpr Art art[] = {

@@ -20,7 +20,7 @@ constexpr Item items[] = {
 
 constexpr Art art[] = {
     plate(112, items),
-    round_light_art("start_button", {18, 18}, {.colour = lens::green, .radius = 8.4, .centre = 9}),
+    round_light_art("start_button", {18, 18}, {.colour = lens::green, .radius = 7.6, .centre = 9}),
 };
 
 constinit Unit unit{"Apu", art};

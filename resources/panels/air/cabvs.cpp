@@ -14,8 +14,8 @@ constexpr Item items[] = {
          .scales = {{.needle = "cabin_rate_of_climb", .print = thousands, .per = 1000}},
          .words = {{"UP", {-3, -9.5}, 7.5},
                    {"DN", {-3, 9.5}, 7.5},
-                   {"CAB", {13.5, -4}},
-                   {"V/S", {13.5, 4.6}}}},
+                   {"CAB", {20, -4.2}, 6.5},
+                   {"V/S", {20, 4.2}, 6.5}}},
 };
 
 constexpr Art art[] = {

@@ -14,7 +14,7 @@ constexpr Print psi[] = {
 constexpr Dial pressure(std::string_view needle, std::string_view engine) {
   return {.radius = 31.5,
           .scales = {{.needle = needle, .print = psi, .per = 10}},
-          .words = {{engine, {-0.5, 20.3}, 6.5}, {"PSI", {2, 12}}}};
+          .words = {{engine, {1.3, 20}, 6}, {"PSI", {2, 12}}}};
 }
 
 constexpr Item items[] = {

@@ -10,8 +10,8 @@ constexpr Item items[] = {
 
 constexpr Art art[] = {
     plate(66, items),
-    button_art("manual_control_button", {30, 32}, {lens::amber, lens::white}, "MAN", heading_size),
-    button_art(spare(1450, 2), {30, 32}, lens::green, "AUTO", 7),
+    button_art("manual_control_button", {30, 32}, {lens::amber, lens::white}, "MAN", 7.5),
+    button_art(spare(1450, 2), {30, 32}, lens::green, "AUTO", 6.5),
 };
 
 constinit Unit unit{"Mancon", art};

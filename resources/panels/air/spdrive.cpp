@@ -12,8 +12,13 @@ constexpr Item items[] = {
     below("drive_b_lamp", "B"),
     above(a, "DRIVE A", {4, -2}),
     Legend{at(b, -4, -41).level_with(a), "DRIVE B"},
+    // Each position's name stands in a line from guard to guard.
     Legend{between(a, b, 0, -3).level_with(a), "ON"},
+    Line{at(a, 18, -3), between(a, b, -11).level_with(a)},
+    Line{between(a, b, 11, -3).level_with(a), at(b, -18)},
     Legend{between(a, b, 0, 21).level_with(a), "OFF"},
+    Line{at(a, 18, 21), between(a, b, -13).level_with(a)},
+    Line{between(a, b, 13, 21).level_with(a), at(b, -18)},
     heading(between(a, b, 0, -60).level_with(a), "OUTFLOW VALVES"),
 };
 

@@ -4,10 +4,11 @@
 
 namespace artwork::panels::liftdump {
 
-constexpr Lens out{palette::lamp_amber, "OUT", 7};
+constexpr Lens out{palette::lamp_amber, "OUT", 6.5};
 
 /// Dark, off, armed, out. "Off" is printed on the lens and not lit: a dead cockpit has no lights.
-constexpr Lens lenses[] = {out, {palette::lamp_white, "OFF", 7}, {palette::lamp_green, "ARM", 7}, out};
+constexpr Lens lenses[] = {
+    out, {palette::lamp_white, "OFF", 6.5}, {palette::lamp_green, "ARM", 6.5}, out};
 
 /// The records begin the right picture a pixel higher than the left one; their lamps stand level.
 void draw_light(const Canvas& canvas, int image) {

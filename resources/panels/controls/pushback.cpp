@@ -36,13 +36,12 @@ void draw_arrow(const Canvas& canvas, Point c, double size, Way way, Colour ink)
 void draw_cap(const Canvas& canvas, Box box, double corner) {
   const Box cap = box.grown(-1);
   cast_shadow(canvas, rounded(cap, corner), 1.4, 0.7);
-  set_linear(canvas, {cap.x, cap.y}, {cap.right(), cap.bottom()},
-             {{0, palette::steel_dark}, {0.5, palette::mould}, {1, palette::mould_dark}});
+  set_slope(canvas, cap, {{0, palette::steel_dark}, {0.5, palette::mould}, {1, palette::mould_dark}});
   fill(canvas, rounded(cap, corner));
-  set_linear(canvas, {cap.x, cap.y}, {cap.right(), cap.bottom()},
-             {{0, faded(palette::white, 0.45)},
-              {0.5, faded(palette::white, 0.06)},
-              {1, faded(palette::black, 0.6)}});
+  set_slope(canvas, cap,
+            {{0, faded(palette::white, 0.45)},
+             {0.5, faded(palette::white, 0.06)},
+             {1, faded(palette::black, 0.6)}});
   stroke(canvas, rounded(cap.grown(-0.5), corner - 0.4), 0.8);
 }
 
@@ -127,8 +126,8 @@ void draw_windows(const Board& board) {
 constexpr Item items[] = {
     CornerScrews{7.5, 3.4},
     Legend{{51, 27}, "PUSHBACK", 10.5},
-    Face{{20, 45, 62, 126}, 6, print_heading},
-    Face{{85, 20, 157, 151}, 6, print_push},
+    Face{{19, 45, 64, 128}, 6, print_heading},
+    Face{{85, 20, 157, 153}, 6, print_push},
     Ornament{draw_windows},
     Ornament{draw_buttons},
 };
@@ -141,7 +140,7 @@ void draw_arrow_light(const Canvas& canvas, Way way, int image) {
   lamp_housing(canvas, frame);
   lamp_lens(canvas, frame.grown(-1.6), {palette::lamp_green, ""}, lit);
   draw_arrow(canvas, frame.centre(), 4.2, way,
-             lit ? rgb(0x14120C) : mixed(palette::well, palette::lamp_green, 0.62));
+             lit ? rgb(0x14120C) : mixed(palette::well, palette::lamp_green, 0.7));
 }
 
 void draw_left(const Canvas& canvas, int image) { draw_arrow_light(canvas, Way::left, image); }
@@ -191,7 +190,7 @@ constexpr Art art[] = {
               .setting = Setting::flush,
               .lit_first = true}),
     drawn_art("status_light", {63, 22}, draw_status),
-    flush_lamp_art("manual_light", {31, 13}, lens::white, "MANUAL", 6),
+    flush_lamp_art("manual_light", {31, 13}, lens::white, "MANUAL", 5.5),
     flush_lamp_art("automatic_light", {31, 13}, lens::green, "AUTO", 6.5),
     named_art("IDB_PB_PBRAKE_OFF", {46, 30}, draw_brake_off),
     named_art("IDB_PB_PBRAKE_ON", {46, 30}, draw_brake_on),

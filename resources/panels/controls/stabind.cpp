@@ -76,7 +76,7 @@ void draw_sheen(const Canvas& canvas) {
 void draw_face(const Board& board) {
   sunk_field(board.canvas, glass, 4, palette::face_dark);
   draw_sheen(board.canvas);
-  line(board.canvas, {61.5, 6}, {61.5, 59}, 0.8, faded(palette::white, 0.16));
+  line(board.canvas, {57.5, 6}, {57.5, 59}, 0.8, faded(palette::white, 0.16));
   print_bank(board);
   print_stabiliser(board);
   print_aileron_trim(board);
@@ -109,7 +109,7 @@ constexpr Art art[] = {
     drawn_art("bank_wings", {17, 3}, draw_wings),
     drawn_art("stabiliser_pointer", stabiliser, draw_stabiliser),
     drawn_art("aileron_trim_pointer", aileron, draw_aileron),
-    round_light_art("bank_button", {14, 14}, {.colour = lens::green, .radius = 6, .centre = 7}),
+    round_light_art("bank_button", {14, 14}, {.colour = lens::green, .radius = 5.6, .centre = 7}),
 };
 
 constinit Unit unit{"Stabind", art};

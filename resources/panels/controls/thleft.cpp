@@ -65,7 +65,7 @@ void draw_parking_brake(const Canvas& canvas, int image) {
     fill(canvas, rounded(shank, 2));
   }
   const Path bar = capsule({x - 10, grip}, {x + 10, grip}, 6, 6);
-  cast_shadow(canvas, bar, image == 1 ? 3 : 1.6, 0.7);
+  cast_shadow(canvas, bar, image == 1 ? 1.8 : 1.2, 0.7);
   set_linear(canvas, {0, grip - 6}, {0, grip + 6},
              {{0, mixed(palette::mould_light, palette::steel_light, 0.5)},
               {0.4, palette::mould},

@@ -34,10 +34,8 @@ void draw_gate(const Board& board) {
   lever_slot(board.canvas, flaps, 6);
   for (int detent = 0; detent <= last_detent; ++detent) {
     const Point foot = flaps.foot(flap_way(detent));
-    for (const double side : {-1.0, 1.0}) {
-      line(board.canvas, foot + Point{side * 7, 0}, foot + Point{side * (side < 0 ? 14 : 26), 0}, 1.1,
-           palette::legend);
-    }
+    level_mark(board.canvas, foot.x - 14, foot.x - 7, foot.y, 1.1, palette::legend);
+    level_mark(board.canvas, foot.x + 7, foot.x + 26, foot.y, 1.1, palette::legend);
   }
 }
 
@@ -67,7 +65,7 @@ constexpr Legend detent(int number, std::string_view degrees) {
 constexpr Item items[] = {
     Ornament{draw_quadrant},
     Ornament{draw_gate},
-    heading({40, 20}, "FLAPS"),
+    heading({40, 14}, "FLAPS"),
     heading({150, 14}, "THROTTLES"),
     detent(0, "UP"),
     detent(1, "6"),

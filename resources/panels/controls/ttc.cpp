@@ -14,7 +14,7 @@ constexpr Item items[] = {
 
 constexpr Art art[] = {
     plate(70, items),
-    lamp_art("parking_brake_light", {52, 32}, lens::amber, "PARKING\nBRAKE", 8),
+    lamp_art("parking_brake_light", {52, 32}, lens::amber, "PARKING\nBRAKE", 7.5),
 };
 
 constinit Unit unit{"Ttc", art};

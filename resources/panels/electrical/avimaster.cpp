@@ -5,8 +5,8 @@ namespace artwork::panels::avimaster {
 
 constexpr Item items[] = {
     CornerScrews{},
-    ending(at("avionics_master_switch", -17.32, -17.32), "OFF"),
-    beginning(at("avionics_master_switch", 17.32, -17.32), "ON"),
+    ending(at("avionics_master_switch", -18.5, -17.32), "OFF"),
+    beginning(at("avionics_master_switch", 18.5, -17.32), "ON"),
     heading(middle(9), "AVIONICS"),
     heading(at("avionics_master_switch", 0, 28), "MASTER"),
 };

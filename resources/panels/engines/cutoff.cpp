@@ -111,7 +111,7 @@ constexpr Art art[] = {
               .text_size = 7,
               .setting = Setting::flush,
               .lit_first = true}),
-    round_light_art("right_feed_light", {14, 14}, {.colour = lens::green, .radius = 6, .centre = 7}),
+    round_light_art("right_feed_light", {14, 14}, {.colour = lens::green, .radius = 5.6, .centre = 7}),
 };
 
 constinit Unit unit{"Cutoff", art};

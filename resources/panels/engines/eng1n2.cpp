@@ -4,11 +4,9 @@
 namespace artwork::panels::eng1n2 {
 
 constexpr Item items[] = {
-    engine_speed_dial("core_speed"),
-    pressure_ratio_dial("pressure_ratio"),
-    Legend{{10.5, 8}, "N2"},
-    Legend{{-10.5, 8}, "%"},
-    Legend{at("core_speed", 0, 36), "ENG 1", 7},
+    engine_speed_dial("core_speed"), pressure_ratio_dial("pressure_ratio"),
+    Legend{{10.5, 8}, "N2"},         Legend{{-10.5, 8}, "%"},
+    Legend{{10.5, -8}, "ENG"},       Legend{{-10.5, -8}, "1"},
 };
 
 constexpr Art art[] = {

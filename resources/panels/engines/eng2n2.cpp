@@ -4,11 +4,9 @@
 namespace artwork::panels::eng2n2 {
 
 constexpr Item items[] = {
-    engine_speed_dial("core_speed"),
-    pressure_ratio_dial("pressure_ratio"),
-    Legend{{10.5, 8}, "N2"},
-    Legend{{-10.5, 8}, "%"},
-    Legend{at("core_speed", 0, 36), "ENG 2", 7},
+    engine_speed_dial("core_speed"), pressure_ratio_dial("pressure_ratio"),
+    Legend{{10.5, 8}, "N2"},         Legend{{-10.5, 8}, "%"},
+    Legend{{10.5, -8}, "ENG"},       Legend{{-10.5, -8}, "2"},
 };
 
 constexpr Art art[] = {

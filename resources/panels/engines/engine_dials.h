@@ -20,7 +20,7 @@ inline constexpr Print engine_speed[] = {
 inline constexpr Print pressure_ratio[] = {
     Marks{1, 1.4, 0.1, 2.6, 0.9},
     Marks{1, 1.4, 0.05, 1.6, 0.5},
-    Figures{{{1, 40}, 1.2, {1.4, -35}}, 2.8, 5},
+    Figures{{{1, 40}, {1.2, 0, ".2"}, {1.4, -35, ".4"}}, 2.8, 6.2},
 };
 
 constexpr Dial engine_speed_dial(std::string_view needle) {

@@ -10,9 +10,9 @@ constexpr Item items[] = {
     pressure_ratio_dial("engine_1_pressure_ratio"),
     engine_speed_dial("engine_2_fan_speed"),
     pressure_ratio_dial("engine_2_pressure_ratio"),
-    Legend{at("engine_1_fan_speed", 0, 38), "ENG 1", 7},
-    Legend{between("engine_1_fan_speed", "engine_2_fan_speed", 0, 38), "N1 %"},
-    Legend{at("engine_2_fan_speed", 0, 38), "ENG 2", 7},
+    Legend{at("engine_1_fan_speed", 0, 37.6), "ENG 1", 7},
+    Legend{between("engine_1_fan_speed", "engine_2_fan_speed", 0, 37.6), "N1 %"},
+    Legend{at("engine_2_fan_speed", 0, 37.6), "ENG 2", 7},
 };
 
 constexpr Art art[] = {

@@ -61,7 +61,7 @@ constexpr Item items[] = {
     button(used, 6.8),
     button(weight_mode, 6.8),
     Legend{at(power, 0, 13), "PWR", 7},
-    ending({-3.5, 6}, "RESET", 6.5),
+    ending({-2.5, 5}, "RESET", 6),
     Legend{at(used, 0, 12), "USED", 7},
     Legend{at(weight_mode, 0, 12), "WT", 7},
     Ornament{draw_displays},

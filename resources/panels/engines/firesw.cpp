@@ -38,10 +38,10 @@ void draw_grip(const Canvas& canvas, Point c, std::string_view text, bool lit) {
               {0.55, colour},
               {1, mixed(colour, palette::black, 0.45)}});
   fill(canvas, rounded(grip, 4));
-  set_linear(canvas, {grip.x, grip.y}, {grip.right(), grip.bottom()},
-             {{0, faded(palette::white, 0.6)},
-              {0.4, faded(palette::white, 0.1)},
-              {1, faded(palette::black, 0.6)}});
+  set_slope(canvas, grip,
+            {{0, faded(palette::white, 0.6)},
+             {0.4, faded(palette::white, 0.1)},
+             {1, faded(palette::black, 0.6)}});
   stroke(canvas, rounded(grip.grown(-0.5), 3.5), 1);
   const Colour ink = lit ? rgb(0x260400) : mixed(palette::legend, palette::guard, 0.25);
   print(canvas, c, text, {.size = 8, .colour = ink});

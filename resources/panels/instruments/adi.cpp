@@ -16,7 +16,7 @@ void print_face(const Board& board, Colour ink) {
   const Canvas& canvas = board.canvas;
   const Point ball = hub_of(board.gauge, "bank_pointer");
   bank_scale(canvas, ball, open + 3, 6.5, ink);
-  deviation_dots(canvas, {155.5, ball.y + 0.5}, slope_dots, ink);
+  deviation_dots(canvas, {156.7, ball.y + 0.5}, slope_dots, ink);
   for (const double mark : {-2.0, -1.0, 0.0, 1.0, 2.0}) {
     const double half = mark == 0 ? 3 : 1.9, y = ball.y + mark * speed_marks;
     line(canvas, {13.5 - half, y}, {13.5 + half, y}, mark == 0 ? 1.6 : 0.9, ink);
@@ -39,7 +39,7 @@ void draw_slip_bed(const Canvas& canvas, Box tube) {
 
 void draw_fixed(const Board& board) {
   aircraft_symbol(board.canvas, hub_of(board.gauge, "horizon"),
-                  {.from = 13.5, .to = 33.5, .thick = 3, .drop = 7});
+                  {.from = 13.5, .to = 33.5, .thick = 3, .drop = 7}, symbol_paint(board.lighting));
   round_light(board.canvas, hub_of(board.gauge, "decision_height_light"), 7, palette::lamp_amber,
               false);
   draw_slip_bed(board.canvas, part_box(board.gauge, "slip_ball_tube"));
@@ -121,8 +121,8 @@ void draw_slip_lighting(const Canvas& canvas, int image) {
   const double strength = image == 1 ? 0.55 : 0.12;
   set_linear(canvas, {bed.x, 0}, {bed.right(), 0},
              {{0, faded(palette::filament_wash, strength)},
-              {0.4, faded(palette::filament, strength * 0.3)},
-              {0.6, faded(palette::filament, strength * 0.3)},
+              {0.38, faded(palette::filament, strength * 0.1)},
+              {0.62, faded(palette::filament, strength * 0.1)},
               {1, faded(palette::filament_wash, strength)}});
   fill(canvas, rounded(bed, 6));
 }
@@ -131,7 +131,7 @@ constexpr Art art[] = {
     plate(222, items).in_full_colour(),
     flag_art("attitude_flag", {50, 16}, {"ATT", InView::second, 9}),
     ball_art("horizon", {187, 272},
-             {.per_degree = 2, .ladder = 42, .figure_size = 7.5, .mark_step = 2.5})
+             {.per_degree = 2, .ladder = 42, .figure_size = 7.5, .mark_step = 2.5, .seen = open})
         .in_full_colour(),
     drawn_art("flight_director_pitch_bar", {55, 3}, draw_command_bar),
     drawn_art("flight_director_bank_bar", {3, 75}, draw_command_bar),

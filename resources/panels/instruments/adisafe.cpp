@@ -15,7 +15,7 @@ void print_face(const Board& board, Colour ink) {
 
 void draw_symbol(const Board& board) {
   aircraft_symbol(board.canvas, hub_of(board.gauge, "horizon"),
-                  {.from = 8.5, .to = 20.5, .thick = 2, .drop = 5});
+                  {.from = 8.5, .to = 20.5, .thick = 2, .drop = 5}, symbol_paint(Lighting::off));
 }
 
 constexpr Item items[] = {
@@ -32,7 +32,7 @@ void draw_bank_pointer(const Canvas& canvas, int) {
 
 constexpr Art art[] = {
     plate(106, items),
-    ball_art("horizon", {107, 140}, {.per_degree = 1, .ladder = 22, .figure_size = 5.5, .mark_step = 5})
+    ball_art("horizon", {107, 140}, {.per_degree = 1, .ladder = 22, .figure_size = 5.5, .mark_step = 5, .seen = open})
         .in_full_colour(),
     drawn_art("bank_pointer", {5, 39}, draw_bank_pointer),
 };

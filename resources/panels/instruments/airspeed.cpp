@@ -3,6 +3,7 @@
 #include <cstdio>
 
 #include "resources/art.h"
+#include "resources/kit/flight.h"
 #include "resources/kit/legend.h"
 #include "resources/kit/window.h"
 #include "resources/rows/board.h"
@@ -26,7 +27,7 @@ constexpr Point window_by{0, -30};
 void draw_mach_index(const Board& board) {
   const Point hub = hub_of(board.gauge, "mach_disc");
   const Point index[] = {{hub.x, hub.y - 35.5}, {hub.x - 2.6, hub.y - 40}, {hub.x + 2.6, hub.y - 40}};
-  fill_hard(board.canvas, polygon(index), palette::symbol);
+  fill_hard(board.canvas, polygon(index), symbol_paint(board.lighting));
 }
 
 constexpr Item items[] = {
@@ -34,7 +35,7 @@ constexpr Item items[] = {
          .scales = {{.needle = "airspeed", .print = knots, .rim = 60.5}},
          .words = {{"MACH", {0, -16.5}, 6.5}, {"KNOTS", {0, 17}, 7.5}},
          .boss = 6},
-    Opening{at("mach_disc", window_by.x, window_by.y), {32, 15}, 2},
+    Opening{at("mach_disc", window_by.x, window_by.y), {30, 15}, 2},
     Ornament{draw_mach_index},
     FixedKnob{at("set_airspeed_bug_1"), 5.6, 6.6, -40},
     FixedKnob{at("set_airspeed_bug_2"), 5.6, 6.6, 25},

@@ -6,6 +6,7 @@
 #include "resources/kit/flight.h"
 #include "resources/kit/lamp.h"
 #include "resources/kit/legend.h"
+#include "resources/kit/needle.h"
 #include "resources/kit/window.h"
 #include "resources/rows/board.h"
 
@@ -25,6 +26,8 @@ void draw_alert_lens(const Board& board) {
 }
 
 constexpr Item items[] = {
+    Screw{{10, 14}, 25, 3.2},
+    Screw{{-10, 14}, 70, 3.2},
     Dial{.radius = 55,
          .scales = {{.needle = "pointer", .print = hundreds, .rim = 49.8}},
          .words = {{"HPA", {-15, 8.8}, 6}, {"IN HG", {16, 8.8}, 6}},
@@ -64,7 +67,7 @@ void draw_alert(const Canvas& canvas, int image) {
              {{0, palette::mould_dark}, {0.5, palette::mould}, {1, palette::steel}});
   stroke(canvas, rounded(frame.grown(-0.8), 1.8), 1.6);
   print(canvas, frame.centre(), "ALT",
-        {.size = 8, .colour = mixed(palette::lamp_amber, palette::black, 0.55)});
+        {.size = 8, .colour = mixed(palette::well, palette::lamp_amber, 0.66)});
 }
 
 void draw_pointer(const Canvas& canvas, int) {
@@ -76,6 +79,7 @@ void draw_pointer(const Canvas& canvas, int) {
          {pivot.x + 30, pivot.y + 1.6},
          {pivot.x - 9, pivot.y + 2.2}},
         palette::mark);
+  needle_cap(canvas, pivot, 3.4);
 }
 
 void draw_power_flag(const Canvas& canvas, int image) {

@@ -13,6 +13,8 @@ constexpr Print hours[] = {
 };
 
 constexpr Item items[] = {
+    Screw{{7, 7}, 65, 3},
+    Screw{{-7, 7}, 15, 3},
     Screw{{7, -8}, 30, 3},
     Dial{.radius = 40,
          .scales = {{.needle = "minutes_hand", .print = minutes, .rim = 35},

@@ -4,7 +4,7 @@
 namespace artwork::panels::fdir {
 
 constexpr Item items[] = {
-    Legend{{22.5, 8}, "ON", 6.5},
+    Legend{middle(5.6), "ON", 6.5},
     Legend{middle(53), "FLT DIR", 6.5},
 };
 

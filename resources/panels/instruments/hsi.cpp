@@ -36,15 +36,15 @@ void print_face(const Board& board, Colour ink) {
 }
 
 /// From above, in the middle of the card.
-void draw_aircraft(const Canvas& canvas, Point c) {
+void draw_aircraft(const Canvas& canvas, Point c, Colour paint) {
   for (const Box part :
        {Box{c.x - 1, c.y - 6, 2, 15}, Box{c.x - 7, c.y - 1, 14, 2}, Box{c.x - 3, c.y + 6, 6, 2}}) {
-    fill_hard(canvas, rounded(part, 0), palette::symbol);
+    fill_hard(canvas, rounded(part, 0), paint);
   }
 }
 
 void draw_fixed(const Board& board) {
-  draw_aircraft(board.canvas, hub_of(board.gauge, "compass_card"));
+  draw_aircraft(board.canvas, hub_of(board.gauge, "compass_card"), symbol_paint(board.lighting));
   knob_seat(board.canvas, hub_of(board.gauge, "course_knob"), 12.6);
   lever_mount(board.canvas, hub_of(board.gauge, "test_switch"), 6.4);
 }

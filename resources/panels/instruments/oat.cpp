@@ -12,6 +12,7 @@ constexpr Print celsius[] = {
 };
 
 constexpr Item items[] = {
+    CornerScrews{5.2, 2},
     Dial{.radius = 31.5,
          .scales = {{.needle = "outside_air_temperature", .print = celsius}},
          .words = {{"OAT", {0, 20.5}, 6.5}, {"\u00b0C", {0, 12}, 7}},

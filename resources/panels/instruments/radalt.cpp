@@ -19,6 +19,7 @@ void draw_dark_light(const Board& board) {
 constexpr Spot knob = between("decision_height_knob_down", "decision_height_knob_up", 1, 2);
 
 constexpr Item items[] = {
+    Screw{{-7, 7}, 40, 3},
     Dial{.radius = 39.5,
          .scales = {{.needle = "radio_altitude", .print = hundreds, .per = 100, .rim = 34}},
          .words = {{"RAD ALT", {4, 9.5}, 5.5}, {"FT \u00d7100", {-1, 16.5}, 5.5}},

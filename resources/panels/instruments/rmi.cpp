@@ -2,6 +2,7 @@
 #include "resources/art.h"
 #include "resources/kit/flight.h"
 #include "resources/kit/legend.h"
+#include "resources/kit/needle.h"
 #include "resources/kit/paint.h"
 #include "resources/rows/board.h"
 
@@ -24,10 +25,11 @@ void print_face(const Board& board, Colour ink) {
                          polar(centre, open + 7, -85.5)};
   fill(canvas, polygon(index), ink);
   const Lettering words{.size = 7, .colour = ink}, small{.size = 6.5, .colour = ink};
+  const Lettering close{.size = 6, .colour = ink};
   print(canvas, {41, 16}, "DME 1", words);
   print(canvas, {103, 16}, "DME 2", words);
-  print(canvas, {20.5, 124.5}, "VOR 1", small);
-  print(canvas, {123.6, 124.5}, "VOR 2", small);
+  print(canvas, {21.5, 125.5}, "VOR 1", close);
+  print(canvas, {121.2, 125.5}, "VOR 2", close);
   print(canvas, {44.5, 149.5}, "ADF", small);
   print(canvas, {98.5, 149.5}, "ADF", small);
 }
@@ -46,6 +48,7 @@ void draw_single_needle(const Canvas& canvas, int) {
   const double y = pivot.y, tip = pivot.x + 37, tail = pivot.x - 37;
   command_bar(canvas, {tail, y - 1.5, 74 - 8, 3}, palette::lamp_green);
   edged(canvas, {{tip, y}, {tip - 11, y - 4.6}, {tip - 11, y + 4.6}}, palette::lamp_green);
+  needle_cap(canvas, pivot, 4.6);
 }
 
 /// Two bars with a broad head.

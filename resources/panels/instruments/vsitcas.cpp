@@ -21,14 +21,14 @@ constexpr Item items[] = {
          .scales = {{.needle = "vertical_speed", .print = thousands, .per = 1000, .rim = 41.5}},
          .words = {{"UP", {-13, -8.5}, 6},
                    {"DN", {-13, 9.5}, 6},
-                   {"FPM", {5, 12}, 6.5},
-                   {"\u00d71000", {3, 20}, 6}},
+                   {"FPM", {5, 11}, 6.5},
+                   {"\u00d71000", {3, 18.2}, 6}},
          .boss = 5},
 };
 
 constexpr Art art[] = {
     plate(104, items),
-    needle_art("vertical_speed", {.length = 36, .tail = 2, .half_width = 2}),
+    needle_art("vertical_speed", {.length = 36, .tail = -4.2, .half_width = 2}),
     flag_art("power_flag", {18, 9}, {"OFF", InView::first, 5.8}),
     flush_lamp_art(spare(14480, 2), {24, 14}, lens::red, "TFC", 6.5),
 };

@@ -15,7 +15,7 @@ constexpr Item items[] = {
     name("final_approach_announcement_button", "FINAL"),
     name("roll_out_announcement_button", "ROLL"),
     Bracket{at("taxi_announcement_button", -12, 18), at("roll_out_announcement_button", 12, 18)},
-    heading(between("taxi_announcement_button", "roll_out_announcement_button", -28, 26),
+    heading(between("taxi_announcement_button", "roll_out_announcement_button", 0, 26),
             "CABIN ANNOUNCEMENTS", 8),
     name("welcome_announcement_button", "WELCOME"),
     name("first_officer_s_calls_button", "F/O"),

@@ -14,7 +14,7 @@ constexpr Item items[] = {
 
 constexpr Art art[] = {
     plate(122, items),
-    lamp_art("crew_call_light", {24, 18}, lens::blue, "CALL", 6.2),
+    cap_art("crew_call_light", {24, 18}, lens::blue, "CALL", 6),
 };
 
 constinit Unit unit{"Stewcall", art};

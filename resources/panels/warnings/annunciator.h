@@ -22,11 +22,10 @@ inline void draw_annunciator(const Canvas& canvas, const Lens& lens, bool lit) {
 /// The same unlit, but for its lens, which the plate has: it lies over others that may be lit.
 inline void draw_annunciator_rim(const Canvas& canvas, const Lens& lens) {
   const Box picture = whole(canvas.size()), frame = picture.grown(-annunciator_margin);
-  set_linear(canvas, {frame.x, frame.y}, {frame.right(), frame.bottom()},
-             {{0, palette::mould_dark}, {0.5, palette::mould}, {1, palette::steel}});
+  set_slope(canvas, frame, {{0, palette::mould_dark}, {0.5, palette::mould}, {1, palette::steel}});
   stroke(canvas, rounded(frame.grown(-annunciator_frame / 2), 1.8), annunciator_frame);
   print(canvas, picture.centre(), lens.text,
-        {.size = lens.text_size, .colour = mixed(lens.colour, palette::black, 0.45)});
+        {.size = lens.text_size, .colour = mixed(lens.colour, palette::black, 0.22)});
 }
 
 }  // namespace artwork::panels

@@ -18,8 +18,7 @@ void draw_test_button(const Board& board) {
   const Canvas& canvas = board.canvas;
   const Box face = part_box(board.gauge, test).grown(-1.5);
   lamp_housing(canvas, face);
-  set_linear(canvas, {face.x, face.y}, {face.right(), face.bottom()},
-             {{0, palette::mould_light}, {0.5, palette::mould}, {1, palette::mould_dark}});
+  set_slope(canvas, face, {{0, palette::mould_light}, {0.5, palette::mould}, {1, palette::mould_dark}});
   fill(canvas, rounded(face.grown(-1.2), 1.4));
 }
 

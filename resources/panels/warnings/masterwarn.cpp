@@ -6,11 +6,11 @@ namespace artwork::panels::masterwarn {
 constexpr Size picture{24, 26};
 
 void draw_warning(const Canvas& canvas, int image) {
-  draw_annunciator(canvas, {lens::red, "MSTR\nWARN", 5.6}, image == 1);
+  draw_annunciator(canvas, {lens::red, "MSTR\nWARN", 5.8}, image == 1);
 }
 
 void draw_caution(const Canvas& canvas, int image) {
-  draw_annunciator(canvas, {lens::amber, "MSTR\nCAUT", 5.6}, image == 1);
+  draw_annunciator(canvas, {lens::amber, "MSTR\nCAUT", 5.8}, image == 1);
 }
 
 constexpr Art art[] = {

@@ -18,13 +18,13 @@ void draw_bracket(const Canvas& canvas, Box plate) {
 
 void draw_case(const Canvas& canvas, Box body) {
   cast_shadow(canvas, rounded(body, 6), 1.6, 0.7);
-  set_linear(canvas, {body.x, body.y}, {body.right(), body.bottom()},
-             {{0, palette::mould_light}, {0.35, palette::mould}, {1, palette::mould_dark}});
+  set_slope(canvas, body,
+            {{0, palette::mould_light}, {0.35, palette::mould}, {1, palette::mould_dark}});
   fill(canvas, rounded(body, 6));
-  set_linear(canvas, {body.x, body.y}, {body.right(), body.bottom()},
-             {{0, faded(palette::white, 0.45)},
-              {0.4, faded(palette::white, 0.06)},
-              {1, faded(palette::black, 0.6)}});
+  set_slope(canvas, body,
+            {{0, faded(palette::white, 0.45)},
+             {0.4, faded(palette::white, 0.06)},
+             {1, faded(palette::black, 0.6)}});
   stroke(canvas, rounded(body.grown(-0.4), 5.6), 0.8);
 }
 

@@ -6,8 +6,7 @@ namespace artwork::panels::checktg {
 /// A sheet with ticked lines.
 void draw_sheet(const Canvas& canvas, Box sheet) {
   cast_shadow(canvas, rounded(sheet, 1.5), 1.2);
-  set_linear(canvas, {sheet.x, sheet.y}, {sheet.right(), sheet.bottom()},
-             {{0, rgb(0xF4F1E4)}, {1, rgb(0xCFC9B4)}});
+  set_slope(canvas, sheet, {{0, rgb(0xF4F1E4)}, {1, rgb(0xCFC9B4)}});
   fill(canvas, rounded(sheet, 1.5));
   for (int row = 0; row < 4; ++row) {
     const double y = sheet.y + 5.5 + 4.3 * row;
