@@ -161,9 +161,11 @@ class Session {
 
   void begin(const Desk& desk) {
     audio_now_ = audio_;
-    if (!options_.watch.empty()) return;  // a flow finds the cockpit as the panel has it
-    beginning_ = options_.state.empty() ? beginning(cockpit_, options_.start, desk)
-                                        : std::vector<Input>{input::BeginWithStartPage{}};
+    // A flow finds the cockpit as the panel has it, and a state is pressed on the start page alone.
+    if (options_.watch.empty())
+      beginning_ = beginning(cockpit_, options_.start, options_.state.empty() ? desk : Desk{});
+    else if (options_.start.hours)
+      beginning_ = {input::SetTimeOfDay{*options_.start.hours}};
     for (const Input& input : beginning_) inputs_.take(input);
   }
 

@@ -5,7 +5,11 @@
 
 #include <algorithm>
 #include <cctype>
+#include <cmath>
+#include <map>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace host {
 namespace {
@@ -93,17 +97,31 @@ Extent extent(PangoLayout* layout, bool segments) {
 
 }  // namespace
 
+// A figure of a segment display at one of its places, as wide as the display's figures are.
+struct Cell {
+  int first;  // column of the box
+  int width;
+  std::vector<std::uint32_t> pixels;
+};
+
 struct TextSetter::Setting {
   bool segments;
   SurfacePtr surface;
   ContextPtr cr;
   LayoutPtr layout;
   double top = 0;
+  double figure_width = 0;
   PanelSize box;
+  std::map<std::pair<char, std::size_t>, Cell> cells;  // by figure and place
 
   Setting(const StringPart& part, PanelSize size);
   void choose_size(FontPtr font, u32 longest);
-  void draw();
+  void clear();
+  void draw(const std::string& text, double x = 0);
+  bool is_row_of_cells(const std::string& text) const;
+  const Cell& cell(char figure, std::size_t place);
+  void draw_cells(const std::string& text);
+  PixelView pixels() const;
 };
 
 TextSetter::Setting::Setting(const StringPart& part, PanelSize size)
@@ -130,6 +148,7 @@ void TextSetter::Setting::choose_size(FontPtr font, u32 longest) {
   const double wide = box.width / std::max(1.0, trial.width * std::max(1u, longest));
   const Extent fitted = use(trial_size * std::clamp(wide, high * narrowest, high));
   top = (box.height - fitted.height) / 2 - fitted.top;
+  figure_width = fitted.width;
 }
 
 TextSetter::TextSetter(const StringPart& part, PanelSize box)
@@ -139,32 +158,78 @@ TextSetter::~TextSetter() = default;
 
 bool TextSetter::set(std::string_view text) {
   const std::string shown = display_text(text, setting_->segments);
-  pango_layout_set_text(setting_->layout.get(), shown.c_str(), static_cast<int>(shown.size()));
-  setting_->draw();
+  if (setting_->is_row_of_cells(shown))
+    setting_->draw_cells(shown);
+  else
+    setting_->draw(shown);
   return text.find_first_not_of(' ') != std::string_view::npos;
 }
 
-void TextSetter::Setting::draw() {
+void TextSetter::Setting::clear() {
   cairo_save(cr.get());
   cairo_set_operator(cr.get(), CAIRO_OPERATOR_CLEAR);
   cairo_paint(cr.get());
   cairo_restore(cr.get());
+}
+
+void TextSetter::Setting::draw(const std::string& text, double x) {
+  clear();
+  pango_layout_set_text(layout.get(), text.c_str(), static_cast<int>(text.size()));
   cairo_save(cr.get());
   int width = 0;
   pango_layout_get_size(layout.get(), &width, nullptr);
   const double room = static_cast<double>(box.width) * PANGO_SCALE / std::max(1, width);
   cairo_scale(cr.get(), std::clamp(room, narrowest, 1.0), 1);
-  cairo_move_to(cr.get(), 0, top);
+  cairo_move_to(cr.get(), x, top);
   pango_cairo_show_layout(cr.get(), layout.get());
   cairo_restore(cr.get());
   cairo_surface_flush(surface.get());
 }
 
-PixelView TextSetter::pixels() const {
-  cairo_surface_t* surface = setting_->surface.get();
-  const auto* data = reinterpret_cast<const std::uint32_t*>(cairo_image_surface_get_data(surface));
-  return {data, setting_->box.width, setting_->box.height,
-          cairo_image_surface_get_stride(surface) / static_cast<int>(sizeof *data)};
+// Figures and letters of segments are all as wide, so that a display which counts need not be set anew each
+// time, only put together.
+bool TextSetter::Setting::is_row_of_cells(const std::string& text) const {
+  const auto fills_a_cell = [](char c) {
+    return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || c == '!';
+  };
+  return segments && std::ranges::all_of(text, fills_a_cell) &&
+         figure_width * static_cast<double>(text.size()) <= box.width;
 }
+
+const Cell& TextSetter::Setting::cell(char figure, std::size_t place) {
+  const auto known = cells.find({figure, place});
+  if (known != cells.end()) return known->second;
+  const double left = figure_width * static_cast<double>(place);
+  draw(std::string(1, figure), left);
+  const int first = static_cast<int>(left);
+  const int end = std::min(box.width, static_cast<int>(std::ceil(left + figure_width)));
+  Cell cell{first, end - first, {}};
+  const PixelView drawn = pixels();
+  for (int y = 0; y < box.height; ++y)
+    cell.pixels.insert(cell.pixels.end(), drawn.at(first, y), drawn.at(first, y) + cell.width);
+  return cells.emplace(std::pair{figure, place}, std::move(cell)).first->second;
+}
+
+void TextSetter::Setting::draw_cells(const std::string& text) {
+  std::vector<const Cell*> row;
+  for (std::size_t place = 0; place < text.size(); ++place) row.push_back(&cell(text[place], place));
+  clear();
+  cairo_surface_flush(surface.get());
+  auto* data = reinterpret_cast<std::uint32_t*>(cairo_image_surface_get_data(surface.get()));
+  const Surface target{data, pixels().stride, 0, 0};
+  for (const Cell* each : row)
+    blend_pixels(target, {0, 0, box.width, box.height},
+                 {each->pixels.data(), each->width, box.height, each->width}, each->first, 0);
+  cairo_surface_mark_dirty(surface.get());
+}
+
+PixelView TextSetter::Setting::pixels() const {
+  const auto* data =
+      reinterpret_cast<const std::uint32_t*>(cairo_image_surface_get_data(surface.get()));
+  return {data, box.width, box.height,
+          cairo_image_surface_get_stride(surface.get()) / static_cast<int>(sizeof *data)};
+}
+
+PixelView TextSetter::pixels() const { return setting_->pixels(); }
 
 }  // namespace host

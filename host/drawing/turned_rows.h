@@ -73,6 +73,10 @@ class TurnedRows {
 
   const PixelView& picture() const { return picture_; }
 
+  /// How far each column goes in the picture.
+  std::int32_t du() const { return du_; }
+  std::int32_t dv() const { return dv_; }
+
   /// Calls draw(first pixel of the target, count of pixels, way) for each part of a row that shows something.
   template <typename Draw>
   __attribute__((always_inline)) void each(Draw draw) const {

@@ -26,16 +26,16 @@ INLINE_WIDE __m256i fractions(__m128i places) {
   return _mm256_shuffle_epi8(two_and_two, low_halves);
 }
 
-INLINE_WIDE __m128i four_from(std::uint32_t start, std::int32_t step) {
-  return _mm_add_epi32(_mm_set1_epi32(static_cast<int>(start)),
-                       _mm_mullo_epi32(_mm_set1_epi32(step), _mm_setr_epi32(0, 1, 2, 3)));
+INLINE_WIDE __m128i four_steps(std::int32_t step) {
+  return _mm_mullo_epi32(_mm_set1_epi32(step), _mm_setr_epi32(0, 1, 2, 3));
 }
 
-INLINE_WIDE FourPlaces places_from(const PictureWay& way, int pixels) {
-  const auto count = static_cast<std::uint32_t>(pixels);
-  const __m128i u = four_from(way.u + static_cast<std::uint32_t>(way.du) * count, way.du);
-  const __m128i v = four_from(way.v + static_cast<std::uint32_t>(way.dv) * count, way.dv);
-  return {u, v, fractions(u), fractions(v)};
+// The four that begin at a place, where `steps` are those that begin at 0.
+INLINE_WIDE FourPlaces places_from(std::uint32_t u, std::uint32_t v, const FourPlaces& steps) {
+  return {_mm_add_epi32(_mm_set1_epi32(static_cast<int>(u)), steps.u),
+          _mm_add_epi32(_mm_set1_epi32(static_cast<int>(v)), steps.v),
+          _mm256_add_epi16(_mm256_set1_epi16(static_cast<short>(u)), steps.u_fractions),
+          _mm256_add_epi16(_mm256_set1_epi16(static_cast<short>(v)), steps.v_fractions)};
 }
 
 // Four pixels and their right neighbours, channel beside channel.
@@ -97,46 +97,59 @@ INLINE_WIDE void lay(std::uint32_t* target, __m128i source) {
   _mm_storeu_si128(at, source);
 }
 
+// Draws rows whose ways go by the same steps.
+struct Rows {
+  PixelView picture;
+  std::int32_t du, dv;
+  FourPlaces steps;
+};
+
+INLINE_WIDE Rows rows_by(const PixelView& picture, std::int32_t du, std::int32_t dv) {
+  const __m128i u = four_steps(du), v = four_steps(dv);
+  return {picture, du, dv, {u, v, fractions(u), fractions(v)}};
+}
+
 // Fewer than four: all four at the same place, as the next may lie outside.
-INLINE_WIDE void blend_few(std::uint32_t* target, int count, const PixelView& picture, PictureWay way) {
+INLINE_WIDE void blend_few(const Rows& rows, std::uint32_t* target, int count, PictureWay way) {
+  const __m128i no_step = _mm_setzero_si128();
+  const FourPlaces no_steps{no_step, no_step, _mm256_setzero_si256(), _mm256_setzero_si256()};
   for (int i = 0; i < count; ++i, way.u += way.du, way.v += way.dv) {
-    const __m128i pixel = sampled(picture.pixels, picture.stride, places_from({way.u, way.v, 0, 0}, 0));
+    const __m128i pixel =
+        sampled(rows.picture.pixels, rows.picture.stride, places_from(way.u, way.v, no_steps));
     target[i] = over(target[i], static_cast<std::uint32_t>(_mm_cvtsi128_si32(pixel)));
   }
 }
 
-INLINE_WIDE void blend_row(std::uint32_t* target, int count, const PixelView& picture,
-                           const PictureWay& way) {
-  if (count < at_once) return blend_few(target, count, picture, way);
+INLINE_WIDE void blend_row(const Rows& rows, std::uint32_t* target, int count, const PictureWay& way) {
+  if (count < at_once) return blend_few(rows, target, count, way);
+  const std::uint32_t* const pixels = rows.picture.pixels;
+  const std::ptrdiff_t stride = rows.picture.stride;
   // Those that make no four come first, in the last four, whose others are left clear.
   if (const int rest = count % at_once; rest != 0) {
-    count -= rest;
+    const int at = count - at_once;
     const __m128i last =
-        sampled(picture.pixels, picture.stride, places_from(way, count + rest - at_once));
+        sampled(pixels, stride, places_from(way.u + rows.du * at, way.v + rows.dv * at, rows.steps));
     const __m128i wanted =
         _mm_cmpgt_epi32(_mm_setr_epi32(0, 1, 2, 3), _mm_set1_epi32(at_once - 1 - rest));
-    lay(target + count + rest - at_once, _mm_and_si128(last, wanted));
+    lay(target + at, _mm_and_si128(last, wanted));
+    count -= rest;
   }
-  const std::int32_t du = way.du * at_once, dv = way.dv * at_once;
-  const __m128i next_u = _mm_set1_epi32(du), next_v = _mm_set1_epi32(dv);
-  const __m256i next_u_fractions = _mm256_set1_epi16(static_cast<short>(du));
-  const __m256i next_v_fractions = _mm256_set1_epi16(static_cast<short>(dv));
-  FourPlaces places = places_from(way, 0);
+  const std::int32_t du = rows.du * at_once, dv = rows.dv * at_once;
+  FourPlaces places = places_from(way.u, way.v, rows.steps);
   for (int i = 0; i < count; i += at_once) {
-    lay(target + i, sampled(picture.pixels, picture.stride, places));
-    places.u = _mm_add_epi32(places.u, next_u);
-    places.v = _mm_add_epi32(places.v, next_v);
-    places.u_fractions = _mm256_add_epi16(places.u_fractions, next_u_fractions);
-    places.v_fractions = _mm256_add_epi16(places.v_fractions, next_v_fractions);
+    lay(target + i, sampled(pixels, stride, places));
+    places = {_mm_add_epi32(places.u, _mm_set1_epi32(du)), _mm_add_epi32(places.v, _mm_set1_epi32(dv)),
+              _mm256_add_epi16(places.u_fractions, _mm256_set1_epi16(static_cast<short>(du))),
+              _mm256_add_epi16(places.v_fractions, _mm256_set1_epi16(static_cast<short>(dv)))};
   }
 }
 
 }  // namespace
 
-WIDE void blend_four_at_once(const TurnedRows& rows) {
-  const PixelView picture = rows.picture();
-  rows.each([&](std::uint32_t* target, int count, const PictureWay& way)
-                WIDE { blend_row(target, count, picture, way); });
+WIDE void blend_four_at_once(const TurnedRows& turned) {
+  const Rows rows = rows_by(turned.picture(), turned.du(), turned.dv());
+  turned.each([&](std::uint32_t* target, int count, const PictureWay& way)
+                  WIDE { blend_row(rows, target, count, way); });
 }
 
 }  // namespace host

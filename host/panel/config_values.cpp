@@ -53,8 +53,24 @@ std::string read_picture(std::string_view text) {
 
 Bay read_bay(std::string_view text) {
   const std::vector<int> numbers = exactly(4, text, -greatest_size, greatest_size);
-  if (numbers[2] < 1 || numbers[3] < 1) throw LineError("a bay's width and height are 1 or more");
+  if (numbers[2] < 1 || numbers[3] < 1) throw LineError("width and height are 1 or more");
   return {numbers[0], numbers[1], numbers[2], numbers[3]};
+}
+
+Placard read_placard(std::string_view text) {
+  std::size_t words = 0;
+  for (int comma = 0; comma < 4; ++comma) {
+    words = text.find(',', words) + 1;
+    if (words == 0) throw LineError("a placard is written x,y,width,height,words");
+  }
+  const Bay place = read_bay(text.substr(0, words - 1));
+  Placard placard{place.x, place.y, place.width, place.height, {}};
+  for (std::string_view line : split(text.substr(words), '|')) {
+    if (line.size() > 40) throw LineError("a placard's line has at most 40 characters");
+    placard.lines.emplace_back(trimmed(line));
+  }
+  if (placard.lines.size() > 12) throw LineError("a placard has at most 12 lines");
+  return placard;
 }
 
 Placement read_placement(std::string_view text, int line) {

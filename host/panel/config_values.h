@@ -38,6 +38,9 @@ std::string read_picture(std::string_view text);
 /// x,y,width,height.
 Bay read_bay(std::string_view text);
 
+/// x,y,width,height,words, whose lines are parted by |.
+Placard read_placard(std::string_view text);
+
 /// Module!Gauge, x,y[,width,height].
 Placement read_placement(std::string_view text, int line);
 

@@ -20,8 +20,8 @@ constexpr std::array<CurvePoint, 4> day_by_sun{{{-12.0, 0.0}, {-6.0, 0.3}, {0.0,
 // What the night leaves of red, green and blue, of 256.
 constexpr std::array<int, 3> night{62, 68, 82};
 
-constexpr int dim_bright = 90,
-              full_bright = 170;  // of a lamp's pixels: what shines not at all, and altogether
+// Of what shines: pixels up to the first are as dark as the metal beside them, from the second on as bright as by day.
+constexpr int dim_bright = 90, full_bright = 170;
 
 constexpr int channel(std::uint32_t pixel, int shift) {
   return static_cast<int>(pixel >> shift & 0xFF);

@@ -1,5 +1,5 @@
-/// A cockpit whose panel lights are off goes dark with the day. What shines by itself goes on shining: lamps that
-/// are lit, read-outs, and the dials whose instrument lights are on.
+/// A cockpit whose panel lights are off goes dark with the day. What shines by itself goes on shining:
+/// lamps that are lit, read-outs, and the dials whose instrument lights are on.
 #pragma once
 
 #include <cstdint>
@@ -9,8 +9,8 @@
 
 namespace host {
 
-/// How much of the day falls on the panels: full_day, or less after sunset down to 0 by night. With the panel lights
-/// on it is always full_day: by night the lit panels have a look of their own.
+/// How much of the day falls on the panels: full_day, or less after sunset down to 0 by night. With the
+/// panel lights on it is always full_day: by night the lit panels have a look of their own.
 inline constexpr int full_day = 24;
 int daylight_on_panels(const Cockpit& cockpit);
 
@@ -41,8 +41,8 @@ class SelfLit {
 /// Copies a part of a panel's picture as it looks in so much of the day, 0 to full_day.
 void darken(Canvas& to, const Canvas& from, const Rect& part, int day);
 
-/// The same for what shines: what is bright in it keeps so much of the day, what is dark has the `floor` of that
-/// light, 0 to 1, as metal beside a lamp has.
+/// The same for what shines: what is bright in it keeps so much of the day, what is dark has the
+/// `floor` of that light, 0 to 1, as metal beside a lamp has.
 void darken_lit(Canvas& to, const Canvas& from, const Rect& part, int day, int bright_day,
                 double floor);
 

@@ -4,7 +4,6 @@
 #include <set>
 
 #include "host/files/read_file.h"
-#include "host/files/shortened.h"
 #include "host/loader/element_chain.h"
 #include "host/panel/config_values.h"
 #include "host/panel/hot_areas.h"
@@ -28,6 +27,9 @@ const Named* find(const std::vector<Named>& all, std::string_view name) {
 
 bool is_printable(char c) { return c >= ' ' && c <= '~'; }
 
+// Its messages are shortened as a whole.
+std::string whole_in_quotes(std::string_view text) { return "'" + std::string(text) + "'"; }
+
 // A message of one line, whatever a file holds.
 std::string one_line(std::string message) {
   if (message.size() > longest_message) message = message.substr(0, longest_message) + "...";
@@ -39,13 +41,14 @@ std::string one_line(std::string message) {
 std::string read_name(std::string_view text) {
   const auto fits = [](char c) { return (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '_'; };
   if (text.empty() || text.size() > longest_name || !std::ranges::all_of(text, fits))
-    throw LineError(in_quotes(text) + " is no name: small letters, digits and underscores, at most 64");
+    throw LineError(whole_in_quotes(text) +
+                    " is no name: small letters, digits and underscores, at most 64");
   return std::string(text);
 }
 
 std::string read_words(std::string_view text) {
   if (text.empty() || text.size() > longest_words || !std::ranges::all_of(text, is_printable))
-    throw LineError(in_quotes(text) + " are no words: 1 to 80 characters that can be printed");
+    throw LineError(whole_in_quotes(text) + " are no words: 1 to 80 characters that can be printed");
   return std::string(text);
 }
 
@@ -94,13 +97,13 @@ class Reader {
     else if (place.starts_with("box "))
       name_area(gauge, std::move(named), place.substr(4));
     else
-      throw LineError(in_quotes(place) + " is no place: element N or box X,Y,WIDTH,HEIGHT");
+      throw LineError(whole_in_quotes(place) + " is no place: element N or box X,Y,WIDTH,HEIGHT");
   }
 
   Places& places_of(std::string_view name) {
     const auto gauge = std::ranges::find_if(
         gauges_, [&](const GaugeHeader* each) { return same_name(each->name, name); });
-    if (gauge == gauges_.end()) throw LineError("the module has no gauge " + in_quotes(name));
+    if (gauge == gauges_.end()) throw LineError("the module has no gauge " + whole_in_quotes(name));
     const auto known = places_.find(*gauge);
     if (known != places_.end()) return known->second;
     Places places{element_chain(**gauge).size(), HotAreas((*gauge)->mouse_areas), {}};
@@ -123,7 +126,7 @@ class Reader {
       if (same && gauge.names.area_words(area.index).empty())
         return add(gauge.names.areas, std::move(area), "click area");
     }
-    throw LineError("the gauge has no other click area with the box " + in_quotes(numbers));
+    throw LineError("the gauge has no other click area with the box " + whole_in_quotes(numbers));
   }
 
   static void add(std::vector<Named>& all, Named named, const char* what) {

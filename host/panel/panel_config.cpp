@@ -145,6 +145,10 @@ class Reader {
       window.bays.push_back(read_bay(value));
       return;
     }
+    if (is_numbered(key, "placard")) {
+      window.placards.push_back(read_placard(value));
+      return;
+    }
     const auto entry = window_entries.find(key);
     if (entry == window_entries.end()) throw LineError("unknown entry " + in_quotes(key));
     try {

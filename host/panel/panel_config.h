@@ -12,8 +12,8 @@
 ///
 /// Further entries of a window: `ident_day` and `ident_night`, two numbers that show its day or its
 /// night face; `background` and `background_night`, PNG files beside the configuration;
-/// `background_color=r,g,b` for the plate without one, and `bay00=x,y,width,height` for fields let into
-/// it; `drawn=0` for a window whose gauges run all the time and are never seen; `start_page=1` for the
+/// `background_color=r,g,b` for the plate without one, `bay00=x,y,width,height` for fields let into it,
+/// and `placard00=x,y,width,height,words|in lines` for small plates with words; `drawn=0` for a window whose gauges run all the time and are never seen; `start_page=1` for the
 /// page that a session may begin with, which gives way to the first window that is opened after it.
 #pragma once
 
@@ -50,6 +50,15 @@ struct Bay {
   int height = 0;
 };
 
+/// A small black plate with words: limits, or what stands beside it.
+struct Placard {
+  int x = 0;  ///< panel pixels from the window's upper left corner
+  int y = 0;
+  int width = 0;
+  int height = 0;
+  std::vector<std::string> lines;  ///< of several, the first is the heading
+};
+
 /// One window of the panel.
 struct WindowConfig {
   int number = 0;
@@ -70,6 +79,7 @@ struct WindowConfig {
   int night_background_line = 0;
   std::uint32_t color = 0xFF2B2E33u;
   std::vector<Bay> bays;
+  std::vector<Placard> placards;
   std::vector<Placement> gauges;
 };
 

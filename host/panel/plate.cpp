@@ -3,12 +3,14 @@
 #include <cairo.h>
 
 #include <algorithm>
+#include <cmath>
 #include <cstring>
 #include <memory>
 
 #include "host/drawing/pictures.h"
 #include "host/files/read_file.h"
 #include "host/panel/config_values.h"
+#include "host/sketch/sketch.h"
 
 namespace host {
 namespace {
@@ -19,10 +21,6 @@ using Pattern = std::unique_ptr<cairo_pattern_t, decltype(&cairo_pattern_destroy
 
 constexpr std::uintmax_t largest_picture = 64 * mebibyte;
 constexpr const char* no_picture = "is no PNG picture of at most 8192 x 8192 pixels, or damaged";
-
-struct Color {
-  double red, green, blue;
-};
 
 Color unpacked(std::uint32_t color) {
   return {(color >> 16 & 255) / 255.0, (color >> 8 & 255) / 255.0, (color & 255) / 255.0};
@@ -99,6 +97,46 @@ void draw_bay(cairo_t* cairo, const Rect& bay, double zoom) {
   }
   box(bay.x, bottom, bay.width + unit, unit, 1, 0.2);
   box(right, bay.y, unit, bay.height, 1, 0.14);
+}
+
+// A black plate with its words. By night they shine like the legends about them.
+Overlay drawn_placard(const Placard& placard, int width, int height, Face face, double zoom) {
+  const bool night = face == Face::night;
+  const Color ink = night ? Color{0.91, 0.85, 0.70} : Color{0.91, 0.90, 0.85};
+  const Color ground = night ? Color{0.03, 0.035, 0.04} : Color{0.075, 0.085, 0.09};
+  const double unit = std::max(1.0, std::round(zoom)), corner = 2 * zoom;
+  Sketch sketch(width, height);
+  sketch.rounded_box(0, 0, width, height, corner, ground);
+  sketch.box_outline(0, 0, width, height, corner, unit, {1, 1, 1, night ? 0.1 : 0.24});
+  const bool headed = placard.lines.size() > 1;
+  const double head = headed ? std::round(14 * zoom) : 0;
+  const std::size_t first = headed ? 1 : 0;
+  const double room = (height - head) / static_cast<double>(placard.lines.size() - first);
+  const auto set_line = [&](const std::string& line, double middle) {
+    const double size = 9.8 * zoom, left = (width - Sketch::text_width(line, size, true)) / 2;
+    sketch.text(line, std::round(left), middle - size / 2, size, true, ink);
+  };
+  if (headed) {
+    set_line(placard.lines[0], head / 2);
+    sketch.rounded_box(4 * zoom, head, width - 8 * zoom, unit, 0, ink);
+  }
+  const double pitch = std::min(room, 12.5 * zoom);
+  double y = (head + height) / 2 - pitch * static_cast<double>(placard.lines.size() - first - 1) / 2;
+  for (std::size_t i = first; i < placard.lines.size(); ++i, y += pitch) set_line(placard.lines[i], y);
+  return sketch.finish();
+}
+
+void draw_placard(cairo_t* cairo, const Placard& placard, Face face, double zoom) {
+  const Rect place =
+      scaled_place({placard.x, placard.y}, {placard.width, placard.height}, {zoom, zoom});
+  if (place.width < 1 || place.height < 1) return;
+  Overlay drawn = drawn_placard(placard, place.width, place.height, face, zoom);
+  const CairoSurface surface(cairo_image_surface_create_for_data(
+                                 reinterpret_cast<unsigned char*>(drawn.pixels.data()),
+                                 CAIRO_FORMAT_ARGB32, drawn.width, drawn.height, drawn.width * 4),
+                             cairo_surface_destroy);
+  cairo_set_source_surface(cairo, surface.get(), place.x, place.y);
+  cairo_paint(cairo);
 }
 
 void draw_edges(cairo_t* cairo, double width, double height, double zoom) {
@@ -182,6 +220,7 @@ void draw_plate(Canvas& canvas, const WindowConfig& window, const std::filesyste
   draw_edges(cairo.get(), canvas.width, canvas.height, zoom);
   for (const Bay& bay : window.bays)
     draw_bay(cairo.get(), scaled_place({bay.x, bay.y}, {bay.width, bay.height}, {zoom, zoom}), zoom);
+  for (const Placard& placard : window.placards) draw_placard(cairo.get(), placard, face, zoom);
   for (const Rect& gauge : gauges) draw_seam(cairo.get(), gauge, zoom);
 }
 

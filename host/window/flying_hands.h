@@ -34,8 +34,8 @@ class FlyingHands {
   /// Whether the mouse is the stick. Letting go of it centres the stick.
   bool has_yoke() const { return yoke_; }
   void toggle_yoke();
-  /// The pointer's place in the window is the stick's, and the wheel moves the throttles from where they
-  /// stand `now`. False for an event that is not the yoke's.
+  /// The pointer's place in the window is the stick's, and the wheel moves the throttles from where
+  /// they stand `now`. False for an event that is not the yoke's.
   bool take_yoke(const SDL_Event& event, const ScreenWindow& window,
                  const simulation::FlightControls& now);
 

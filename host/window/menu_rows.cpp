@@ -49,6 +49,22 @@ MenuRow steps(std::string words, std::string value, std::function<void(int)> ste
   return made;
 }
 
+std::string clock_text(double seconds) {
+  const int minutes = static_cast<int>(seconds / 60);
+  char text[16];
+  std::snprintf(text, sizeof text, "%02d:%02d", minutes / 60, minutes % 60);
+  return text;
+}
+
+// The next half hour, or the one before, around the clock. What has just been set is left by another step, though
+// some minutes have passed.
+double half_hour_from(double seconds, int by) {
+  constexpr double half = 1800, day = 86400, just_set = 300.0 / half;
+  const double now = seconds / half;
+  const double next = by > 0 ? std::floor(now) + 1 : std::ceil(now - just_set) - 1;
+  return std::fmod(next * half + day, day);
+}
+
 // Volume as the ear has it: half way sounds half as loud.
 float gain_of(int per_cent) { return static_cast<float>(per_cent * per_cent) / 10000; }
 
@@ -164,6 +180,12 @@ std::vector<MenuRow> FlightDeck::setting_rows() {
       tick("View out of the window", "V", views_.main().wants_outside(), [this] { toggle_outside(); }));
   rows.push_back(
       tick("Panel lights", "D", cockpit_.panel_lights_on(), [this] { toggle_panel_lights(); }));
+  const double time = cockpit_.aircraft().time_of_day_s();
+  rows.push_back(steps("Time of day", clock_text(time), [this, time](int by) {
+    if (!paused_ && !flow_has_control())
+      inputs_.take(input::SetTimeOfDay{half_hour_from(time, by) / 3600});
+    menu_old_ = true;
+  }));
   rows.push_back(tick("Full screen", "F11", view.screen().is_full_screen(),
                       [&view] { view.screen().set_full_screen(!view.screen().is_full_screen()); }));
   rows.push_back(

@@ -118,7 +118,7 @@ void fit_stems(FT_Face face, FT_ULong letter) {
 template <class Draw>
 double set_letters(FT_Face face, std::string_view line, bool level, Draw draw) {
   double pen = 0, own_end = 0, end = 0;  // where the last letter ends: by the font, and as it is set
-  bool first = true;
+  bool first = true, new_word = false;
   for (const FT_ULong letter : letters_of(line)) {
     FT_Load_Char(face, letter, FT_LOAD_NO_BITMAP | (level ? FT_LOAD_TARGET_LIGHT : FT_LOAD_NO_HINTING));
     const double advance = static_cast<double>(face->glyph->linearHoriAdvance) / 65536;
@@ -127,14 +127,16 @@ double set_letters(FT_Face face, std::string_view line, bool level, Draw draw) {
       if (level) fit_stems(face, letter);
       const Reach fitted = reach_of(face->glyph->outline);
       const double own_gap = first ? 0 : pen + own.left - own_end;
-      // Letters that touch would be read as another one.
-      const double gap = !level || first ? own_gap : std::max(1.0, std::round(own_gap));
+      // Letters that touch would be read as another one, and words as one.
+      const double least = new_word ? 3 : 1;
+      const double gap = !level || first ? own_gap : std::max(least, std::round(own_gap));
       const double place = end + gap - fitted.left;
       draw(face->glyph->outline, place);
       end = place + fitted.right;
       own_end = pen + own.right;
       first = false;
     }
+    new_word = face->glyph->outline.n_points == 0;
     pen += advance;
   }
   return end;

@@ -29,7 +29,7 @@ enum class Setting { frame, button, cap, flush };
 
 struct Lamp {
   Colours colours;
-  std::string_view text = "";
+  std::string_view text = {};
   double text_size = legend_size;
   Setting setting = Setting::frame;
   bool lit_first = false;  ///< of one colour: lit, dark

@@ -42,7 +42,7 @@ struct Drum {
   double figure_size;
   double step = 0;  ///< of the value from one figure to the next; 0: a tenth of the range or nearly so
   std::string_view figures = "0123456789";  ///< they go round
-  std::string_view tail = "";               ///< behind each figure: "0" on a drum of tens
+  std::string_view tail = {};               ///< behind each figure: "0" on a drum of tens
   int ticks = 0;                            ///< parts of a step, marked along the right edge
   Colour ink = palette::mark;
   Colour ground = palette::face_dark;

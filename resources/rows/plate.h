@@ -46,7 +46,7 @@ constexpr Legend heading(Spot spot, std::string_view text, double size = heading
 struct Positions {
   Spot spot = {0, 0};
   std::string_view up = "ON";
-  std::string_view centre = "";
+  std::string_view centre = {};
   std::string_view down = "OFF";
   Anchor anchor = Anchor::left;
   double reach = 13;  ///< from the spot up and down to the words

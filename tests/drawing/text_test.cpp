@@ -61,6 +61,22 @@ TEST_F(Text, BlanksKeepTheirPlaceOnSegmentDisplays) {
   EXPECT_LT(last.width, figures.width / 2);
 }
 
+// Whether a display is set anew, as with a point in it, or put together from figures that it had before.
+TEST_F(Text, LooksTheSameWhateverItShowedBefore) {
+  part().font = "QUARTZ";
+  for (const double zoom : {1.0, 1.37, 2.0}) {
+    Scene counting(gauge_, bitmaps_, zoom);
+    for (const char* text : {"888", "1.3", "1 3", "31", "", "31", "8888888", "-1", "31"}) {
+      counting.now[1].text = text;
+      counting.draw();
+      Scene fresh(gauge_, bitmaps_, zoom);
+      fresh.now[1].text = text;
+      fresh.draw();
+      EXPECT_EQ(counting.canvas.pixels, fresh.canvas.pixels) << text;
+    }
+  }
+}
+
 TEST_F(Text, NothingToShowDrawsNothing) {
   EXPECT_EQ(box("   "), Rect{});
   EXPECT_NE(box("\x01\xFF<b>&"), Rect{});  // neither bytes nor markup trip it

@@ -84,7 +84,7 @@ TEST(Crew, OneClickMovesTheGearLeverHoweverTheGearCameToStand) {
 TEST(Crew, ABeginningOnTheStandAndOneThatIsNoPlaceTouchNothing) {
   Begun begun(input::StartAt{"stand"});
   EXPECT_EQ(begun.inputs.take(input::StartAt{"moon"}), Answer::nothing);
-  EXPECT_TRUE(begun.shows("battery = 0 and Cutoff pump_1_switch = 0"));
+  EXPECT_TRUE(begun.shows("battery = 0 and engine_1_core_speed = 0 and beacon_lights = 0"));
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
 // What parts and controls are called: the file beside a module, and the hints made of it.
 #include "host/panel/name_book.h"
-#include "host/files/shortened.h"
 
 #include <gtest/gtest.h>
 
@@ -88,7 +87,7 @@ TEST_F(NamesFile, AWrongLineIsToldWithItsNumberAndLeftOut) {
       {"Panel\tBig one\telement 1\tX",
        "'Big one' is no name: small letters, digits and underscores, at most 64"},
       {"Panel\t" + many + "\telement 1\tX",
-       in_quotes(many) + " is no name: small letters, digits and underscores, at most 64"},
+       "'" + many + "' is no name: small letters, digits and underscores, at most 64"},
       {"Panel\tx\telement 1\t\x01\x80",
        "'?"
        "?' are no words: 1 to 80 characters that can be printed"},
@@ -98,9 +97,7 @@ TEST_F(NamesFile, AWrongLineIsToldWithItsNumberAndLeftOut) {
       {"Panel\tx\tbox 10,10,20\tX", "needs 4 numbers separated by commas"},
       {"Panel\tx\tbox 10,10,20,21\tX", "the gauge has no other click area with the box '10,10,20,21'"},
       {"Panel\tlamp\telement 2\tX", "a second part lamp"},
-      {"Panel\t" + std::string(5000, 'y') + "\telement 1\tX",
-       in_quotes(std::string(5000, 'y')) +
-           " is no name: small letters, digits and underscores, at most 64"},
+      {"Panel\t" + std::string(5000, 'y') + "\telement 1\tX", "'" + std::string(159, 'y') + "..."},
   };
   for (const auto& [line, note] : cases) {
     const NameBook read = book(fine + line + "\nPanel\tneedle\telement 2\tNeedle\n");

@@ -23,6 +23,7 @@ constexpr const char* whole_panel =
     "gauge00=Tarnvale!Masterbat, 19,473\r\n"
     "gauge01 = tarnvale!ACPWR,-4,6 , 90,100\r\n"
     "bay00=10, 20,200,400\r\n"
+    "placard00=5,6, 70,40, LIMITS | OIL 40, 85 | \r\n"
     "[Window00]\n"
     "ident=500\nident_day=20\nident_night=27\nsize_mm=8,9\nposition=7\n"
     "background=main.png\nbackground_night=main_night.png\nbackground_color=255,0,16";
@@ -47,6 +48,9 @@ TEST(PanelConfig, ReadsTheFieldsUsualForm) {
   EXPECT_EQ(std::tuple(second.x, second.height, second.line), std::tuple(-4, 100, 11));
   ASSERT_EQ(overhead.bays.size(), 1u);
   EXPECT_EQ(std::tuple(overhead.bays[0].y, overhead.bays[0].height), std::tuple(20, 400));
+  ASSERT_EQ(overhead.placards.size(), 1u);
+  EXPECT_EQ(overhead.placards[0].width, 70);
+  EXPECT_EQ(overhead.placards[0].lines, (std::vector<std::string>{"LIMITS", "OIL 40, 85", ""}));
 }
 
 TEST(PanelConfig, IsRefusedWithFileAndLine) {

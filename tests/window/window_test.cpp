@@ -96,6 +96,12 @@ TEST_F(InAWindow, ARightClickOnBareMetalOpensTheMenuAndOneOnAControlDoesNot) {
   EXPECT_EQ(leave(), 0);
 }
 
+TEST_F(InAWindow, TheMenuMovesTheClockByHalfHours) {
+  screen->hands("key F10 Down Down Down Down Down Down Right Down Down Left Left Escape Escape");
+  EXPECT_TRUE(recorded("set_time_of_day(9.5)") && recorded("set_time_of_day(9)")) << file_text(record);
+  EXPECT_EQ(leave(), 0);
+}
+
 TEST_F(InAWindow, PanelsOpenWithKeysAndTearOff) {
   screen->hands("key 6");
   EXPECT_TRUE(recorded("open_window(505)"));

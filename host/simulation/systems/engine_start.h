@@ -8,11 +8,11 @@ namespace host::simulation {
 
 /// An air turbine on the core's gearbox.
 ///
-/// The start panel asks for its valve. Where there is pressure in its duct it sees the core turn and goes on
-/// asking, and with the tenth ask the valve latches; one ask alone is a selector turned over a shut duct, and the
-/// valve closes again before the core has reached 2 %. The ground crew's automatic start latches it
-/// at once. Latched it cranks by itself, until the engine runs, the valve loses its current or the air, or its
-/// duty time is over.
+/// The start panel asks for its valve. Where there is pressure in its duct it sees the core turn and
+/// goes on asking, and with the tenth ask the valve latches; one ask alone is a selector turned over a
+/// shut duct, and the valve closes again before the core has reached 2 %. The ground crew's automatic
+/// start latches it at once. Latched it cranks by itself, until the engine runs, the valve loses its
+/// current or the air, or its duty time is over.
 struct Starter {
   bool engaged = false;
   double cranking_s = 0.0;
@@ -49,8 +49,8 @@ struct EngineStart {
   bool ignition(std::size_t engine) const { return starters[engine].engaged || ignition_armed; }
 };
 
-/// Air pressure in the duct of an engine's starter: from the APU or across from the other engine; 0 where neither
-/// gives any.
+/// Air pressure in the duct of an engine's starter: from the APU or across from the other engine; 0
+/// where neither gives any.
 double starter_air_psi(const EngineStartInputs& inputs, std::size_t engine);
 
 }  // namespace host::simulation

@@ -4,6 +4,8 @@
 namespace artwork::panels::antiice {
 
 constexpr Item items[] = {
+    Screw{{-5.5, 5.5}, 31, 2.3},
+    Screw{{5.5, -5.5}, 76, 2.3},
     left_of("pressure_lever", {.up = "HI 1", .down = "HI 2"}, 12),
     beginning(at("pressure_lever", 11), "NRM"),
     Legend{at("left_engine_anti_ice_knob", 1, -14.5), "ENG 1"},

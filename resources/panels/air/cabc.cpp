@@ -11,6 +11,7 @@ constexpr Print celsius[] = {
 };
 
 constexpr Item items[] = {
+    CornerScrews{6, 2.4},
     Dial{.radius = 32.5,
          .scales = {{.needle = "cabin_temperature", .print = celsius}},
          .words = {{"CABIN", {0, 14}, 8}, {"\u00b0C", {0, 22.5}}},

@@ -10,6 +10,7 @@ constexpr Print thousands[] = {
 };
 
 constexpr Item items[] = {
+    CornerScrews{6, 2.4},
     Dial{.radius = 36,
          .scales = {{.needle = "cabin_rate_of_climb", .print = thousands, .per = 1000}},
          .words = {{"UP", {-3, -9.5}, 7.5},

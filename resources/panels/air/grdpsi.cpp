@@ -13,6 +13,7 @@ constexpr Print psi[] = {
 };
 
 constexpr Item items[] = {
+    CornerScrews{6, 2.4},
     Dial{.radius = 33,
          .scales = {{.needle = "duct_pressure", .print = psi, .per = 10}},
          .words = {{"DUCT", {1, 15.5}, 8}, {"PSI", {1, 24}}},

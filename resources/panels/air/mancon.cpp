@@ -4,6 +4,8 @@
 namespace artwork::panels::mancon {
 
 constexpr Item items[] = {
+    Screw{{5.5, 5.5}, 12, 2.2},
+    Screw{{-5.5, 5.5}, 57, 2.2},
     Legend{middle(7.5), "PRESS"},
     Legend{at("manual_control_button", 0, 23), "CONTROL"},
 };

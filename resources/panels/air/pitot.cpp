@@ -4,6 +4,8 @@
 namespace artwork::panels::pitot {
 
 constexpr Item items[] = {
+    Screw{{5.5, -5.5}, 20, 2.3},
+    Screw{{-5.5, -5.5}, 65, 2.3},
     words_between("left_pitot_heat_switch", "right_pitot_heat_switch"),
     Legend{middle(-11), "PITOT HEAT"},
 };

@@ -4,6 +4,7 @@
 namespace artwork::panels::windshield {
 
 constexpr Item items[] = {
+    CornerScrews{5, 2.2},
     Legend{at("windshield_heat_knob", -12, 13), "OFF"},
     Legend{at("windshield_heat_knob", 12, 13), "ON"},
     below("left_windshield_switch", "CAPT", {0, -0.5}),

@@ -4,6 +4,7 @@
 namespace artwork::panels::ldmain {
 
 constexpr Item items[] = {
+    CornerScrews{5, 2.2},
     heading({34, 6.5}, "LIFT DUMP", 8),
     Legend{at("lift_dump_arm_switch", 0, 23.5), "ARM", 7.5},
     Legend{at("lift_dump_deployment_switch", 0, 23.5), "OUT", 7.5},

@@ -8,7 +8,7 @@ constexpr Lens out{palette::lamp_amber, "OUT", 6.5};
 
 /// Dark, off, armed, out. "Off" is printed on the lens and not lit: a dead cockpit has no lights.
 constexpr Lens lenses[] = {
-    out, {palette::lamp_white, "OFF", 6.5}, {palette::lamp_green, "ARM", 6.5}, out};
+    out, {palette::lamp_white, "OFF", 6.5}, {palette::lamp_green, "ARM", 6}, out};
 
 /// The records begin the right picture a pixel higher than the left one; their lamps stand level.
 void draw_light(const Canvas& canvas, int image) {
@@ -17,6 +17,7 @@ void draw_light(const Canvas& canvas, int image) {
 }
 
 constexpr Item items[] = {
+    CornerScrews{5, 2.2},
     Legend{at("left_lift_dumper_light", 0, -13.5), "L", 6.5},
     Legend{at("right_lift_dumper_light", 0, -13.5), "R", 6.5},
     Legend{middle(-7), "LIFT DUMP", 7},

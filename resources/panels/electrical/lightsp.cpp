@@ -4,6 +4,9 @@
 namespace artwork::panels::lightsp {
 
 constexpr Item items[] = {
+    Screw{{-5, 5}, 31, 2.2},
+    Screw{{-5, -5}, 76, 2.2},
+    Screw{{5, -5}, 12, 2.2},
     Legend{at("fire_test_button", 0, -19.5), "FIRE\nTEST"},
     // The fire test has no picture of its own.
     FixedButton{at("fire_test_button"), 9, palette::guard},

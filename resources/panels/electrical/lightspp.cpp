@@ -4,6 +4,7 @@
 namespace artwork::panels::lightspp {
 
 constexpr Item items[] = {
+    CornerScrews{5, 2.2},
     below("panel_lights_switch", "PANEL", {0, -2}),
     below("strobe_lights_switch", "STRB", {0, -2}),
     below("taxi_lights_switch", "TAXI", {0, -2}),

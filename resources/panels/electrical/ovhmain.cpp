@@ -33,7 +33,7 @@ void draw_rocker(const Canvas& canvas, Box box, std::string_view name, bool on) 
   line(canvas, {cap.x + 2, cap.centre().y}, {cap.right() - 2, cap.centre().y}, 0.8,
        faded(palette::black, 0.5));
   lamp_lens(canvas, {cap.x + 4, cap.y + 4, cap.width - 8, 9}, {palette::lamp_green, "ON", 6.5}, on);
-  print(canvas, {cap.centre().x, cap.bottom() - 6.5}, name, {.size = 5.8});
+  print(canvas, {cap.centre().x, cap.bottom() - 6.5}, name, {.size = 6, .colour = palette::white});
 }
 
 /// Four rockers under one bar: they move together.

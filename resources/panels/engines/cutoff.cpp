@@ -73,6 +73,8 @@ constexpr Positions lever_words(Spot spot, Anchor anchor) {
 }
 
 constexpr Item items[] = {
+    Screw{{6, 6.5}, 14, 2.6},
+    Screw{{-6, 6.5}, 59, 2.6},
     Ornament{draw_crossfeed_knob},
     Legend{at(lever_1, -28), "1", 12},
     Legend{at(lever_2, 28), "2", 12},

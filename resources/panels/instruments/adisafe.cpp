@@ -32,7 +32,8 @@ void draw_bank_pointer(const Canvas& canvas, int) {
 
 constexpr Art art[] = {
     plate(106, items),
-    ball_art("horizon", {107, 140}, {.per_degree = 1, .ladder = 22, .figure_size = 5.5, .mark_step = 5, .seen = open})
+    ball_art("horizon", {107, 140},
+             {.per_degree = 1, .ladder = 22, .figure_size = 5.5, .mark_step = 5, .seen = open})
         .in_full_colour(),
     drawn_art("bank_pointer", {5, 39}, draw_bank_pointer),
 };

@@ -22,7 +22,7 @@ constexpr Item items[] = {
     Screw{{-7, 7}, 40, 3},
     Dial{.radius = 39.5,
          .scales = {{.needle = "radio_altitude", .print = hundreds, .per = 100, .rim = 34}},
-         .words = {{"RAD ALT", {4, 9.5}, 5.5}, {"FT \u00d7100", {-1, 16.5}, 5.5}},
+         .words = {{"RAD ALT", {4.5, -12}, 5.5}, {"FT \u00d7100", {0, 12}, 5.5}},
          .boss = 5},
     Ornament{draw_dark_light},
     Legend{{22, 5.5}, "DH", 6.5},

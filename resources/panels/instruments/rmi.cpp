@@ -25,11 +25,10 @@ void print_face(const Board& board, Colour ink) {
                          polar(centre, open + 7, -85.5)};
   fill(canvas, polygon(index), ink);
   const Lettering words{.size = 7, .colour = ink}, small{.size = 6.5, .colour = ink};
-  const Lettering close{.size = 6, .colour = ink};
   print(canvas, {41, 16}, "DME 1", words);
   print(canvas, {103, 16}, "DME 2", words);
-  print(canvas, {21.5, 125.5}, "VOR 1", close);
-  print(canvas, {121.2, 125.5}, "VOR 2", close);
+  print(canvas, {21.5, 124.5}, "VOR", small);
+  print(canvas, {120.5, 124.5}, "VOR", small);
   print(canvas, {44.5, 149.5}, "ADF", small);
   print(canvas, {98.5, 149.5}, "ADF", small);
 }

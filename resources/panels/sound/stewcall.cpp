@@ -4,6 +4,7 @@
 namespace artwork::panels::stewcall {
 
 constexpr Item items[] = {
+    CornerScrews{6.5, 2.6},
     words_between("left_sign_switch", "right_sign_switch", {.reach = 11}),
     Legend{at("left_sign_switch", 0, 26), "NO\nSMKG", 7.5},
     Legend{at("right_sign_switch", 0, 26), "SEAT\nBELT", 7.5},

@@ -6,15 +6,15 @@ namespace artwork::panels::fowarn {
 constexpr Size picture{20, 26};
 
 void draw_pump(const Canvas& canvas, int image) {
-  draw_annunciator(canvas, {lens::amber, "HYD\nOFF", 6.3}, image == 1);
+  draw_annunciator(canvas, {lens::amber, "HYD\nOFF", 5.9}, image == 1);
 }
 
 void draw_pressure(const Canvas& canvas, int image) {
-  draw_annunciator(canvas, {lens::amber, "HYD\nLOW", 6.3}, image == 1);
+  draw_annunciator(canvas, {lens::amber, "HYD\nLOW", 5.9}, image == 1);
 }
 
 void draw_engine(const Canvas& canvas, int image) {
-  draw_annunciator(canvas, {lens::red, "ENG\nHYD", 6.3}, image == 1);
+  draw_annunciator(canvas, {lens::red, "ENG\nHYD", 5.9}, image == 1);
 }
 
 constexpr Item items[] = {

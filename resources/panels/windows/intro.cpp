@@ -130,6 +130,33 @@ void draw_aircraft(const Canvas& canvas) {
   }
 }
 
+/// The last light lies along what looks up.
+void draw_rim_light(const Canvas& canvas) {
+  const Point c{640, 352};
+  const Colour warm = faded(sun, 0.5);
+  for (const double side : {-1.0, 1.0}) {
+    line(canvas, c + Point{side * 62, 8}, c + Point{side * 204, -6.5}, 0.9, warm);
+    line(canvas, c + Point{side * 4, -95.6}, c + Point{side * 74, -100.6}, 0.9, warm);
+    const Point engine = c + Point{side * 44, -2};
+    stroke(
+        canvas,
+        [&](cairo_t* cr) { cairo_arc(cr, engine.x, engine.y, 16.6, radians(205), radians(335)); }, 0.9,
+        faded(sun, 0.45));
+  }
+}
+
+/// What the landing lights throw on the apron before the nose.
+void draw_light_on_apron(const Canvas& canvas) {
+  for (const double side : {-1.0, 1.0}) {
+    const Saved saved(canvas);
+    cairo_translate(canvas.cr(), 640 + side * 46, 446);
+    cairo_scale(canvas.cr(), 1, 0.2);
+    set_radial(canvas, {0, 0}, {0, 0}, 170,
+               {{0, rgb(0xFFF2D8, 0.30)}, {0.5, rgb(0xFFE8C0, 0.10)}, {1, rgb(0xFFE8C0, 0)}});
+    fill(canvas, circle({0, 0}, 170));
+  }
+}
+
 void draw_lights(const Canvas& canvas) {
   const Point c{640, 352};
   draw_lamp(canvas, c + Point{-206, -7}, 1.6, rgb(0x38E070));  // its right wing
@@ -199,10 +226,14 @@ void draw_key(const Board& board, const Choice& choice) {
         {.size = 9.5, .colour = rgb(0xB9C4D4), .bold = false}, Anchor::left);
 }
 
+/// Its ground reaches out to the page's nearer side.
 void draw_column(const Board& board, std::string_view who, std::span<const Choice, 3> choices) {
   const Box top = part_box(board.gauge, choices.front().area);
-  const Box panel{top.x - 4, top.y - 42, top.width + 8, 166};
-  fill(board.canvas, rounded(panel, 8), faded(rgb(0x060A12), 0.5));
+  const double page = board.canvas.size().width, corner = 8;
+  const bool left = top.centre().x < page / 2;
+  const double from = left ? -corner : top.x - 14, to = left ? top.right() + 14 : page + corner;
+  const Box panel{from, top.y - 46, to - from, 174};
+  fill(board.canvas, rounded(panel, corner), faded(rgb(0x060A12), 0.5));
   print(board.canvas, {top.centre().x, top.y - 21}, who, {.size = 17, .colour = rgb(0xF6EFE0)});
   for (const Choice& choice : choices) draw_key(board, choice);
 }
@@ -213,7 +244,9 @@ void draw_page(const Board& board) {
   draw_hills(canvas, 46, 150, 3, rgb(0x3A3048));
   draw_hills(canvas, 24, 60, 9, rgb(0x1A1C28));
   draw_field(canvas);
+  draw_light_on_apron(canvas);
   draw_aircraft(canvas);
+  draw_rim_light(canvas);
   draw_lights(canvas);
   add_grain(canvas);
   draw_title(canvas);

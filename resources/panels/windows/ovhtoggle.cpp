@@ -26,7 +26,7 @@ void draw_engines(const Canvas& canvas, Point c) {
   for (const double side : {-1.0, 1.0}) {
     const Path pod = rounded({c.x + side * 14 - 4, c.y + 26, 8, 24}, 4);
     fill(canvas, pod, palette::mould_dark);
-    stroke(canvas, pod, 1, ink);
+    stroke(canvas, pod, 1.6, ink);
   }
 }
 
@@ -36,7 +36,7 @@ void draw_key(const Board& board) {
   const Point c = box.centre() + Point{0, -14};
   draw_engines(board.canvas, c);
   fill(board.canvas, outline(c), palette::mould_dark);
-  stroke(board.canvas, outline(c), 1.2, ink);
+  stroke(board.canvas, outline(c), 1.8, ink);
   fill(board.canvas, rounded({c.x - 5, c.y - 60, 10, 7}, 2), palette::lamp_amber);
   print(board.canvas, {c.x, box.bottom() - 17}, "OVERHEAD", {.size = 13});
   chevron(board.canvas, {box.x + 24, box.bottom() - 17}, 8, true);
