@@ -86,7 +86,8 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(WarningPanel, ASecondTestProlongsTheFirst) {
   rig::Host host;
   rig::Gauge panel("Dhgpws");
-  panel.click("test_switch");
+  panel.frame();
+  if (panel.value("test_lamp") == 0) panel.click("test_switch");
   panel.right_click("ground_proximity_button");
   f64& clock = host.tokens[token::clock_seconds] = 101;
   panel.right_click("stall_warning_button");
@@ -95,7 +96,6 @@ TEST(WarningPanel, ASecondTestProlongsTheFirst) {
     panel.frame();
     EXPECT_EQ(aircraft.gpws_test_active + aircraft.stall_test_active, tested) << now;
   }
-  panel.click("test_switch");
 }
 
 TEST(WarningPanel, ShowsTheDecisionHeightThatItsKnobSets) {

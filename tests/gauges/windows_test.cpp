@@ -147,6 +147,7 @@ class Announcements : public Windows {
   Announcements() {
     aircraft.cabin_announcements_on = 1;
     rig::Gauge("Hvsnd").frame();  // nothing holds, and what restarts a counter does
+    for (u32& request : aircraft.sound_requests) request = 0;
   }
   /// The frame after which the announcement is first asked for; 0 when not within `most`.
   int frames_to(SoundRequest sound, int most = 1000) {

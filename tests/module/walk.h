@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "tests/rig/rig.h"
+#include "tests/module/seen.h"
 
 namespace walk {
 
@@ -24,7 +24,7 @@ struct Stimulus {
   std::size_t gauge;                     ///< in `gauges`
   std::optional<rig::NamedArea> area{};  ///< or a token
   u32 token = 0;
-  const rig::NamedPart* part = nullptr;     ///< that the area is named after; see part_of()
+  const rig::NamedPart* part = nullptr;     ///< that the area is named after; see seen.h
   std::string name;                         ///< of area or token
   std::set<Place> changed = {};             ///< parts that showed something else right after it
   Moves moves = {};                         ///< of its part
@@ -56,9 +56,5 @@ const Moves& moves(const Stimulus& stimulus, const Moves& wanted);
 /// The values of an icon, by its gauge's and its own place in `gauges` and `parts()`. Looks for more while
 /// there are fewer than `images`.
 const std::set<f64>& shown(std::size_t gauge, std::size_t part, std::size_t images);
-
-/// The part that a control works, which it is named after: "start_selector" for "start_selector_off".
-/// Null for a button that is printed on its plate.
-const rig::NamedPart* part_of(const rig::Gauge& gauge, std::string_view control);
 
 }  // namespace walk
