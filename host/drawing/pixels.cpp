@@ -25,23 +25,6 @@ void each_row(Surface target, const Rect& clip, const PixelView& source, int x, 
 
 }  // namespace
 
-Rect intersection(const Rect& a, const Rect& b) {
-  const int left = std::max(a.x, b.x), top = std::max(a.y, b.y);
-  const int right = std::min(a.x + a.width, b.x + b.width);
-  const int bottom = std::min(a.y + a.height, b.y + b.height);
-  if (right <= left || bottom <= top) return {};
-  return {left, top, right - left, bottom - top};
-}
-
-Rect around(const Rect& a, const Rect& b) {
-  if (is_empty(a)) return b;
-  if (is_empty(b)) return a;
-  const int left = std::min(a.x, b.x), top = std::min(a.y, b.y);
-  const int right = std::max(a.x + a.width, b.x + b.width);
-  const int bottom = std::max(a.y + a.height, b.y + b.height);
-  return {left, top, right - left, bottom - top};
-}
-
 // Most pictures are mostly clear or mostly solid, so sixteen alike are the usual case. Where the
 // machine has wider registers than every machine of its kind, the compiler makes use of them.
 #if defined(__x86_64__)

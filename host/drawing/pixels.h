@@ -1,6 +1,7 @@
 /// Copying and blending rows of pixels: premultiplied ARGB32, top row first.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 
@@ -8,13 +9,26 @@
 
 namespace host {
 
+inline bool is_empty(const Rect& rect) { return rect.width <= 0 || rect.height <= 0; }
+
 /// The part that two rectangles share; {0, 0, 0, 0} if none.
-Rect intersection(const Rect& a, const Rect& b);
+inline Rect intersection(const Rect& a, const Rect& b) {
+  const int left = std::max(a.x, b.x), top = std::max(a.y, b.y);
+  const int right = std::min(a.x + a.width, b.x + b.width);
+  const int bottom = std::min(a.y + a.height, b.y + b.height);
+  if (right <= left || bottom <= top) return {};
+  return {left, top, right - left, bottom - top};
+}
 
 /// The smallest rectangle around both; an empty one adds nothing.
-Rect around(const Rect& a, const Rect& b);
-
-inline bool is_empty(const Rect& rect) { return rect.width <= 0 || rect.height <= 0; }
+inline Rect around(const Rect& a, const Rect& b) {
+  if (is_empty(a)) return b;
+  if (is_empty(b)) return a;
+  const int left = std::min(a.x, b.x), top = std::min(a.y, b.y);
+  const int right = std::max(a.x + a.width, b.x + b.width);
+  const int bottom = std::max(a.y + a.height, b.y + b.height);
+  return {left, top, right - left, bottom - top};
+}
 
 /// Pixels of somebody else's, to draw on, in coordinates of a gauge whose corner stands at (left,
 /// top) and may lie outside.

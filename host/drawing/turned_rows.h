@@ -18,39 +18,35 @@ struct PictureWay {
   std::int32_t du, dv;
 };
 
-/// One axis of the ways: narrows columns to those where a way stays between two pixels.
+/// One axis of the ways: the columns in which a way stays between two pixels.
 class WayLimits {
  public:
   WayLimits(std::int32_t step, int side)
       : step_(step),
-        end_(std::int64_t{side - 1} << place_bits),
+        end_(std::uint64_t(std::max(side - 1, 0)) << place_bits),
         per_step_(step == 0 ? 0 : 1.0 / step) {}
 
+  struct Columns {
+    double first, last;
+  };
+
+  /// The columns, cut off to whole ones; beside them may be one too many, as far as a double cannot tell.
   /// `start` is the place at column 0.
-  void narrow(std::int64_t start, std::int64_t& first, std::int64_t& last) const {
-    if (step_ == 0) {
-      if (!inside(start, first)) last = first - 1;
-      return;
-    }
-    // So far that only what a double cannot tell is left to the loops.
-    constexpr double hair = 1e-4;
+  Columns columns(std::int64_t start) const {
+    constexpr double hair = 1e-4, all = 1e9;
+    if (step_ == 0) return inside(start, 0) ? Columns{-all, all} : Columns{all, -all};
     const double a = static_cast<double>(-start) * per_step_;
-    const double b = static_cast<double>(end_ - start) * per_step_;
-    const double low = std::min(a, b) + (1 - hair), high = std::max(a, b) + hair;
-    first = static_cast<std::int64_t>(std::max(static_cast<double>(first), low));
-    last = static_cast<std::int64_t>(std::min(static_cast<double>(last), high));
-    while (first <= last && !inside(start, first)) ++first;
-    while (first <= last && !inside(start, last)) --last;
+    const double b = static_cast<double>(static_cast<std::int64_t>(end_) - start) * per_step_;
+    return {std::min(a, b) + (1 - hair), std::max(a, b) + hair};
+  }
+
+  bool inside(std::int64_t start, std::int64_t column) const {
+    return static_cast<std::uint64_t>(start + step_ * column) < end_;
   }
 
  private:
-  bool inside(std::int64_t start, std::int64_t column) const {
-    const std::int64_t at = start + step_ * column;
-    return at >= 0 && at < end_;
-  }
-
   std::int64_t step_;
-  std::int64_t end_;
+  std::uint64_t end_;
   double per_step_;
 };
 
@@ -85,9 +81,17 @@ class TurnedRows {
     for (RowPart row{part_.y - 1, part_.x, part_.x + part_.width}; next(row, open);) {
       const std::int64_t u = (u0_ + u_by_row_ * row.y) >> (row_bits - place_bits);
       const std::int64_t v = (v0_ + v_by_row_ * row.y) >> (row_bits - place_bits);
-      std::int64_t first = row.first, last = row.end - 1;
-      across.narrow(u, first, last);
-      down.narrow(v, first, last);
+      const auto [first_u, last_u] = across.columns(u);
+      const auto [first_v, last_v] = down.columns(v);
+      auto first =
+          static_cast<std::int64_t>(std::max({first_u, first_v, static_cast<double>(row.first)}));
+      auto last =
+          static_cast<std::int64_t>(std::min({last_u, last_v, static_cast<double>(row.end - 1)}));
+      const auto outside = [&](std::int64_t column) {
+        return !across.inside(u, column) || !down.inside(v, column);
+      };
+      while (first <= last && outside(first)) ++first;
+      while (first <= last && outside(last)) --last;
       if (first > last) continue;
       draw(target_.at(static_cast<int>(first), row.y), static_cast<int>(last - first + 1),
            PictureWay{static_cast<std::uint32_t>(u + du_ * first),
@@ -113,9 +117,11 @@ class TurnedRows {
     return true;
   }
 
+  // Rounded; the library's rounding is a call that shows.
   static std::int64_t counted(double pixels, int bits) {
     constexpr double farthest = 1e9;
-    return std::llround(std::clamp(pixels, -farthest, farthest) * static_cast<double>(1ll << bits));
+    const double places = std::clamp(pixels, -farthest, farthest) * static_cast<double>(1ll << bits);
+    return static_cast<std::int64_t>(places + (places < 0 ? -0.5 : 0.5));
   }
 
   Surface target_;

@@ -12,11 +12,11 @@ class TurningPainter : public ElementPainter {
       : picture_(picture), seen_(seen) {}
 
   Rect bounds(const Look& look) const final {
-    return bounds_of(map(look), picture_.pixels.width, picture_.pixels.height);
+    return bounds_of(map_of(look), picture_.pixels.width, picture_.pixels.height);
   }
 
   void paint(Surface target, const Rect& clip, const Look& look) const final {
-    blend_turned(target, clip, picture_.view(), map(look), seen_);
+    blend_turned(target, clip, picture_.view(), map_of(look), seen_);
   }
 
   bool moves() const final { return true; }
@@ -28,6 +28,14 @@ class TurningPainter : public ElementPainter {
   const TurningPicture& picture() const { return picture_; }
 
  private:
+  // A new look is first asked for its bounds and then drawn.
+  const Affine& map_of(const Look& look) const {
+    if (look != mapped_) map_ = map(mapped_ = look);
+    return map_;
+  }
+
+  mutable Look mapped_;
+  mutable Affine map_;
   const TurningPicture& picture_;
   const std::vector<RowPart>* seen_;
 };
