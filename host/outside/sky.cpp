@@ -98,7 +98,7 @@ void paint_sky(Picture picture, const Camera& camera, const Daylight& light) {
   const std::vector<Fine> grid = corners(camera, light, columns, rows);
   for (int y = 0; y < camera.height(); ++y) {
     const Columns sky = camera.sky(y);
-    const Fine* above = &grid[static_cast<std::size_t>(y / cell * columns)];
+    const Fine* above = &grid[static_cast<std::size_t>(y / cell) * static_cast<std::size_t>(columns)];
     const Fine* below = above + columns;
     const auto at = [&](int column) {
       const auto between = [&](int a, int b) { return a + (b - a) * (y % cell) / cell; };
