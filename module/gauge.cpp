@@ -35,6 +35,10 @@ void serve(const GaugeHeader* header, u32 service_id, uintptr_t extra_data) {
   }
 }
 
+void serve_light(const GaugeHeader* header, u32 service_id, uintptr_t) {
+  if (service_id == SERVICE_TICK) switch_day_and_night(gauge_of(*header));
+}
+
 f64 lighting_image(Element*) {
   const u32 level = aircraft.instrument_light_level;
   return level <= 2 ? level : 0;

@@ -48,8 +48,11 @@ void generate_elements(uintptr_t argument);
 void draw_elements();
 void kill_elements();
 
-/// The service routine of every gauge that has one: day and night, then the gauge's own logic.
+/// The service routine of a gauge with logic of its own: day and night, then that.
 void serve(const GaugeHeader* gauge, u32 service_id, uintptr_t extra_data);
+
+/// The service routine of a gauge that only has a lit copy.
+void serve_light(const GaugeHeader* gauge, u32 service_id, uintptr_t extra_data);
 
 /// The mouse table of a gauge that answers nothing.
 inline constexpr MouseArea no_areas[] = {detail::entry(MOUSE_GROUP), detail::entry(MOUSE_GROUP_END),
@@ -62,8 +65,8 @@ struct Gauge {
   // What every frame asks for lies together: a frame of the whole cockpit is mostly a walk through
   // memory.
   Element* lit = nullptr;  ///< first element of the lit copy, or null
+  u32 light_token;         ///< hides the lit copy while it reads 0
   Services services;
-  u32 light_token;                          ///< hides the lit copy while it reads 0
   Element root;                             ///< the background
   Element* next[2]{};                       ///< of the root
   std::span<const char* const> part_words;  ///< by element of the first set
@@ -71,7 +74,7 @@ struct Gauge {
 
   /// A plate alone.
   constexpr explicit Gauge(const Face& face)
-      : header{}, services(face.services), light_token(face.light_token), root{} {
+      : header{}, light_token(face.light_token), services(face.services), root{} {
     header.header_version = GAUGE_HEADER_VERSION;
     header.name = face.name;
     header.element_list[0] = &root;
@@ -95,7 +98,7 @@ struct Gauge {
     if (parts > 0) next[0] = &body.chain[0];
     if (parts > 0) root.next = next;
     if (copies == 2) lit = &body.chain[parts];
-    if (copies == 2) header.service = serve;
+    if (copies == 2 && !services.any()) header.service = serve_light;
     header.mouse_areas = body.areas;
     part_words = {body.part_words, parts};
     area_words = {body.area_words, clicks};
