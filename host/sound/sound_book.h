@@ -25,7 +25,8 @@ class SoundBook {
     std::string name, bytes;
   };
   std::vector<Page> pages_;
-  mutable std::unordered_map<std::string, std::string> known_;  ///< names by samples: a search is slow
+  mutable std::unordered_map<std::string, std::string>
+      known_;  ///< names of parts of files: a search is slow
 };
 
 }  // namespace host
