@@ -19,7 +19,7 @@ class DirtyArea {
   const std::vector<Rect>& parts() const { return parts_; }
 
  private:
-  static constexpr std::size_t most_parts = 8;
+  static constexpr std::size_t most_parts = 16;
 
   Rect limits_;
   std::vector<Rect> parts_;
