@@ -106,7 +106,7 @@ class CommandLine {
     for (const std::string& word : words) list += (list.empty() ? "" : ", ") + word;
     const auto check = [words, list](std::string& text) {
       const bool known = std::ranges::find(words, text) != words.end();
-      return known ? std::string() : "there is no '" + shortened(text) + "', only " + list;
+      return known ? std::string() : "there is no " + in_quotes(text) + ", only " + list;
     };
     return CLI::Validator(check, list);
   }

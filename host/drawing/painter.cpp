@@ -54,7 +54,7 @@ struct GaugePainter::Layers {
   Rect place;
   Rect whole;  // the place, as seen from its own corner
   Pictures pictures;
-  std::vector<Item> items;  // in the order of drawing: sprites, the face, everything else
+  std::vector<Item> items;  // in the order of drawing: sprites and the face, then everything else
   bool open_face = false;
   std::optional<Openings> openings;
   std::vector<std::uint32_t> base;
@@ -91,8 +91,8 @@ void GaugePainter::Layers::add_items(const GaugeHeader& gauge) {
          {},
          {}});
   }
-  // Through sharp openings sprites can as well be drawn after the face, which then need not be drawn each time
-  // that they move.
+  // Sprites lie behind the face. Where its openings are sharp, they can be drawn after it, cut off at the
+  // openings: the same pixels, and the face need not be drawn each time that they move.
   const bool face_first = openings && openings->sharp;
   std::stable_partition(items.begin() + face_first, items.end(),
                         [](const Item& item) { return is_sprite(*item.element); });

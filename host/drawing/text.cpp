@@ -186,8 +186,8 @@ void TextSetter::Setting::draw(const std::string& text, double x) {
   cairo_surface_flush(surface.get());
 }
 
-// Figures and letters of segments are all as wide, so that a display which counts need not be set anew each
-// time, only put together.
+// Figures and letters of segments are all equally wide, so that a display which counts is put together
+// from cells that it has shown before; to set a text anew takes many times as long.
 bool TextSetter::Setting::is_row_of_cells(const std::string& text) const {
   const auto fills_a_cell = [](char c) {
     return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || c == '!';

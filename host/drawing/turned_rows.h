@@ -11,8 +11,8 @@ namespace host {
 /// Places in a picture are counted in 1/65536 of a pixel.
 inline constexpr int place_bits = 16;
 
-/// A straight way through a picture: the place of its first pixel, and how far each further one is. All its
-/// places lie between four pixels of the picture.
+/// A straight way through a picture: the place of its first pixel, and how far each further one is. All
+/// its places lie between four pixels of the picture.
 struct PictureWay {
   std::uint32_t u, v;
   std::int32_t du, dv;
@@ -30,8 +30,8 @@ class WayLimits {
     double first, last;
   };
 
-  /// The columns, cut off to whole ones; beside them may be one too many, as far as a double cannot tell.
-  /// `start` is the place at column 0.
+  /// The first and the last of them, once their fractions are cut off; either may be one too far out,
+  /// where a double cannot tell. `start` is the place at column 0.
   Columns columns(std::int64_t start) const {
     constexpr double hair = 1e-4, all = 1e9;
     if (step_ == 0) return inside(start, 0) ? Columns{-all, all} : Columns{all, -all};
@@ -50,14 +50,16 @@ class WayLimits {
   double per_step_;
 };
 
+/// The rows, and for each the way that lies under it.
 class TurnedRows {
  public:
-  /// `part` of the target, from which `back` leads to the picture; of it only what is `seen`, null means all.
+  /// `part` of the target, from which `back` leads to the picture; of it only what is `seen`, null means
+  /// all.
   TurnedRows(Surface target, const Rect& part, const PixelView& picture, const Affine& back,
              const std::vector<RowPart>* seen)
       : target_(target), part_(part), seen_(seen), picture_(picture) {
-    // From the middle of a target pixel to the middle of a picture pixel. Ways start at the gauge's corner and not
-    // at the clip, so that a pixel does not depend on what else is drawn with it.
+    // From the middle of a target pixel to the middle of a picture pixel. Ways start at the gauge's corner
+    // and not at the clip, so that a pixel does not depend on what else is drawn with it.
     const Affine middle = shifted_by(-0.5, -0.5) * back * shifted_by(0.5, 0.5);
     u0_ = counted(middle.dx, row_bits);
     v0_ = counted(middle.dy, row_bits);
@@ -73,7 +75,8 @@ class TurnedRows {
   std::int32_t du() const { return du_; }
   std::int32_t dv() const { return dv_; }
 
-  /// Calls draw(first pixel of the target, count of pixels, way) for each part of a row that shows something.
+  /// Calls draw(first pixel of the target, count of pixels, way) for each part of a row that shows
+  /// something.
   template <typename Draw>
   __attribute__((always_inline)) void each(Draw draw) const {
     const WayLimits across(du_, picture_.width), down(dv_, picture_.height);

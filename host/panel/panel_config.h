@@ -13,8 +13,9 @@
 /// Further entries of a window: `ident_day` and `ident_night`, two numbers that show its day or its
 /// night face; `background` and `background_night`, PNG files beside the configuration;
 /// `background_color=r,g,b` for the plate without one, `bay00=x,y,width,height` for fields let into it,
-/// and `placard00=x,y,width,height,words|in lines` for small plates with words; `drawn=0` for a window whose gauges run all the time and are never seen; `start_page=1` for the
-/// page that a session may begin with, which gives way to the first window that is opened after it.
+/// and `placard00=x,y,width,height,words|in lines` for small plates with words; `drawn=0` for a window
+/// whose gauges run all the time and are never seen; `start_page=1` for the page that a session may begin
+/// with, which gives way to the first window that is opened after it.
 #pragma once
 
 #include <cstdint>
